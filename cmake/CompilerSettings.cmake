@@ -1,0 +1,37 @@
+# One INTERFACE target for every compiler setting of this tree. It is never installed: clients choose their own.
+add_library(corvelgui_settings INTERFACE)
+target_compile_features(corvelgui_settings INTERFACE cxx_std_20)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+target_compile_definitions(corvelgui_settings INTERFACE
+    QT_NO_KEYWORDS
+    QT_NO_FOREACH
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(CORVELGUI_BUILD_TESTS OR CORVELGUI_BUILD_BENCHMARKS)
+    # Tests and benchmarks reach the internal classes of the shared library.
+    target_compile_definitions(corvelgui_settings INTERFACE CORVELGUI_EXPORT_INTERNALS)
+endif()
+
+if(MSVC)
+    target_compile_options(corvelgui_settings INTERFACE
+        /W4 /permissive- /utf-8 /Zc:__cplusplus $<$<BOOL:${CORVELGUI_WERROR}>:/WX>)
+    target_compile_definitions(corvelgui_settings INTERFACE NOMINMAX _USE_MATH_DEFINES)
+else()
+    target_compile_options(corvelgui_settings INTERFACE
+        -Wall -Wextra -Wshadow -Woverloaded-virtual -Wpedantic $<$<BOOL:${CORVELGUI_WERROR}>:-Werror>)
+endif()
+
+if(CORVELGUI_SANITIZERS)
+    set(sanitize "-fsanitize=${CORVELGUI_SANITIZERS}")
+    target_compile_options(corvelgui_settings INTERFACE
+        ${sanitize} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(corvelgui_settings INTERFACE ${sanitize})
+endif()

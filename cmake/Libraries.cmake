@@ -1,0 +1,67 @@
+include(CMakePackageConfigHelpers)
+include(GenerateExportHeader)
+
+# corvelgui_add_library(<Package> HEADERS <[folder/]Name>...)
+#
+# Makes the shared library <Package> with the alias <Package>::<Package>, its export header, a forwarding header
+# <Package/Name> for every listed name, and everything that an installed package needs. The caller adds sources and
+# links libraries.
+function(corvelgui_add_library package)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS")
+    string(TOLOWER "${package}" lower)
+
+    add_library(${package} SHARED)
+    add_library(${package}::${package} ALIAS ${package})
+    set_target_properties(${package} PROPERTIES
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        EXPORT_NAME ${package})
+    target_link_libraries(${package} PRIVATE $<BUILD_INTERFACE:corvelgui_settings>)
+    target_compile_features(${package} PUBLIC cxx_std_20)
+
+    set(include_dir "${PROJECT_BINARY_DIR}/include")
+    target_include_directories(${package}
+        PUBLIC "$<BUILD_INTERFACE:${include_dir}>" "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>"
+        PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    generate_export_header(${package} BASE_NAME ${lower}
+        EXPORT_FILE_NAME "${include_dir}/${package}/${lower}_export.h")
+    install(FILES "${include_dir}/${package}/${lower}_export.h"
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}")
+
+    foreach(entry IN LISTS arg_HEADERS)
+        corvelgui_forward_header(${package} "${entry}")
+    endforeach()
+
+    install(TARGETS ${package} EXPORT ${package}Targets
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    set(config_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${package}")
+    install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION "${config_dir}")
+    configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in"
+        "${PROJECT_BINARY_DIR}/${package}Config.cmake" INSTALL_DESTINATION "${config_dir}")
+    write_basic_package_version_file("${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
+        COMPATIBILITY SameMajorVersion)
+    install(FILES "${PROJECT_BINARY_DIR}/${package}Config.cmake" "${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
+        DESTINATION "${config_dir}")
+endfunction()
+
+# One forwarding header for the build tree and one to install, both for [folder/]Name.
+function(corvelgui_forward_header package entry)
+    get_filename_component(name "${entry}" NAME)
+    get_filename_component(folder "${entry}" DIRECTORY)
+    string(TOLOWER "${entry}.h" header)
+    set(source "${CMAKE_CURRENT_SOURCE_DIR}/${header}")
+    if(NOT EXISTS "${source}")
+        message(FATAL_ERROR "<${package}/${name}> is listed as a public header, but ${source} does not exist")
+    endif()
+
+    set(target "${source}")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/ForwardingHeader.in" "${PROJECT_BINARY_DIR}/include/${package}/${name}")
+    set(target "${header}")
+    set(installed "${PROJECT_BINARY_DIR}/installed-include/${package}/${name}")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/ForwardingHeader.in" "${installed}")
+
+    install(FILES "${source}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}/${folder}")
+    install(FILES "${installed}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}")
+endfunction()

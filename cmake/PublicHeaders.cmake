@@ -1,0 +1,21 @@
+# The one list of what clients may include, as <Package/Name>. The header of Name is its lower-case file.
+set(CORVEL_PUBLIC_HEADERS
+    TimeZoneHelper)
+
+set(HUELOFT_PUBLIC_HEADERS
+    PIconHelper
+    PIconHelper16x16
+    PIconHelperBase
+    PMessageBox
+    POrvGuiTheme
+    PPlayerIconHelper
+    PTarvoPlayerIconHelper)
+
+set(CORVELGUI_PUBLIC_HEADERS
+    frame/PBaseDialog
+    frame/PMainWindow
+    frame/PWidget
+    frame/ToolBarWithLabel
+    timeline/Indicator
+    timeline/Ruler
+    timeline/TrackDescription)
