@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class QAbstractButton;
+class QWidget;
+
+namespace CorvelGui {
+
+/// The two buttons at the ends of the ruler: one step on a press, and another every 200 ms while a button is held.
+class RulerArrows : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p canStep says whether there is still something in a direction (-1 earlier, +1 later).
+    RulerArrows(QWidget* ruler, std::function<bool(int direction)> canStep);
+
+    void setEnabled(bool enabled);
+    /// Puts the buttons to the ends of the ruler, below @p top.
+    void layOut(int top);
+
+Q_SIGNALS:
+    void step(int direction);
+    void released();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void press(int direction);
+    void repeat();
+
+    QWidget* const m_ruler;
+    const std::function<bool(int)> m_canStep;
+    QAbstractButton* const m_left;
+    QAbstractButton* const m_right;
+    QTimer m_timer;
+    int m_direction = 0;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,187 @@
+#include "rulerpainter.h"
+
+#include "devicegrid.h"
+#include "ticklayout.h"
+#include "timescale.h"
+#include "tracksegments.h"
+
+#include <Hueloft/POrvGuiTheme>
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPen>
+
+#include <algorithm>
+#include <cmath>
+
+using Hueloft::POrvGuiTheme;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr double halfMargin = TimeScale::margin() / 2;
+constexpr double penWidth = 1.0;
+
+QRectF headerBand(const RulerScene& scene)
+{
+    return {0.0, 0.0, double(scene.rect.width()), double(scene.headerHeight)};
+}
+
+QRectF bodyBand(const RulerScene& scene, double left, double right)
+{
+    return {QPointF(left, scene.headerHeight), QPointF(right, scene.rect.height())};
+}
+
+} // namespace
+
+RulerColors RulerColors::ofTheme()
+{
+    return {.body = POrvGuiTheme::colorShark,
+            .header = POrvGuiTheme::colorShark,
+            .shade = POrvGuiTheme::colorBlack,
+            .track = POrvGuiTheme::colorTuna,
+            .trackEdge = POrvGuiTheme::colorYellow.darker(200),
+            .search = POrvGuiTheme::colorDarkBlue,
+            .preview = POrvGuiTheme::colorYellow,
+            .previewClamped = POrvGuiTheme::colorPurple};
+}
+
+void RulerPainter::createGradients(const QRect& rect, int headerHeight)
+{
+    const auto headerGradient = [&](const QColor& top) {
+        QLinearGradient gradient(0, 0, 0, headerHeight);
+        gradient.setColorAt(0.0, top);
+        gradient.setColorAt(0.2, colors.header);
+        return gradient;
+    };
+    m_headerGradient = headerGradient(colors.shade);
+    m_searchGradient = headerGradient(colors.search);
+
+    const double bodyHeight = rect.bottom() - rect.top() - headerHeight;
+    // The last half header fades into the edge colour.
+    const double fade =
+        bodyHeight > 0 ? std::clamp((bodyHeight - headerHeight / 2) / bodyHeight, 0.75, 0.95)
+                       : 0.75;
+    QLinearGradient track(0, headerHeight + rect.top(), 0, rect.bottom());
+    track.setColorAt(0.0, colors.header);
+    track.setColorAt(0.7, colors.track);
+    track.setColorAt(fade, colors.track);
+    track.setColorAt(1.0, colors.trackEdge);
+    m_trackGradient = track;
+}
+
+void RulerPainter::paint(QPainter& painter, const RulerScene& scene) const
+{
+    fillBands(painter, scene);
+    if (!scene.scale.hasView())
+        return;
+    fillSearchRange(painter, scene);
+    fillTracks(painter, scene);
+
+    const qint64 toMidnight = msecsToMidnight(scene.scale);
+    const QRectF rect = QRectF(scene.rect).adjusted(halfMargin, 0, -halfMargin, 0);
+    if (scene.scale.totalDuration() == 0)
+        return;
+    shadeOutsideLimits(painter, scene, rect);
+    drawPreviewLine(painter, scene, rect);
+    drawScaleRuler(painter, scene, rect, toMidnight);
+}
+
+void RulerPainter::fillBands(QPainter& painter, const RulerScene& scene) const
+{
+    const DeviceGrid grid(painter);
+    painter.fillRect(grid.aligned(headerBand(scene)), m_headerGradient);
+    painter.fillRect(grid.aligned(bodyBand(scene, 0.0, scene.rect.width())), colors.body);
+}
+
+void RulerPainter::fillSearchRange(QPainter& painter, const RulerScene& scene) const
+{
+    if (scene.scale.totalDuration() == 0 || !scene.searchRange)
+        return;
+    const double x1 = std::max(scene.scale.xAt(scene.searchRange->begin), halfMargin);
+    const double x2 =
+        std::min(scene.scale.xAt(scene.searchRange->end), scene.scale.width() - halfMargin);
+    if (x2 <= x1)
+        return;
+    QRectF band = headerBand(scene);
+    band.setLeft(x1);
+    band.setRight(x2);
+    painter.fillRect(DeviceGrid(painter).aligned(band), m_searchGradient);
+}
+
+void RulerPainter::fillTracks(QPainter& painter, const RulerScene& scene) const
+{
+    const DeviceGrid grid(painter);
+    const double left = std::round(halfMargin);
+    const double right = std::max(std::round(scene.scale.width() - halfMargin), left + 1);
+    const auto fill = [&](const TrackSegmentList& segments, const QBrush& brush) {
+        for (const TrackSegment& segment : segments) {
+            const double x1 = std::max(std::trunc(segment.start), left);
+            const double x2 = std::max(std::min(std::trunc(segment.end), right), x1 + 1);
+            painter.fillRect(grid.aligned(bodyBand(scene, x1, x2)), brush);
+        }
+    };
+    fill(scene.segments.gaps(), colors.shade);
+    fill(scene.segments.recorded(), m_trackGradient);
+}
+
+void RulerPainter::shadeOutsideLimits(QPainter& painter, const RulerScene& scene,
+                                      const QRectF& rect) const
+{
+    const DeviceGrid grid(painter);
+    const TimeScale& scale = scene.scale;
+    const auto shadeWidth = [&](qint64 msecs) {
+        return std::trunc(scale.lengthPerMillisecond() * msecs) + halfMargin;
+    };
+    if (scale.beginLimitMs() >= scale.viewStartMs()) {
+        const double width = shadeWidth(scale.beginLimitMs() - scale.viewStartMs());
+        painter.fillRect(grid.aligned(bodyBand(scene, rect.left(), rect.left() + width)),
+                         colors.shade);
+    }
+    if (scale.viewEndMs() >= scale.endLimitMs()) {
+        const double width = std::trunc(shadeWidth(scale.viewEndMs() - scale.endLimitMs()));
+        painter.fillRect(grid.aligned(bodyBand(scene, rect.right() - width, rect.right())),
+                         colors.shade);
+    }
+}
+
+void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
+                                   const QRectF& rect) const
+{
+    if (!scene.previewTime)
+        return;
+    const double x = scene.scale.xAt(*scene.previewTime);
+    const double inView = std::min(std::max(x, halfMargin), scene.scale.width() - halfMargin);
+    const QRectF line(inView, rect.top(), penWidth, rect.height());
+    painter.fillRect(DeviceGrid(painter).aligned(line),
+                     inView == x ? colors.preview : colors.previewClamped);
+}
+
+void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
+                                  qint64 toMidnight) const
+{
+    const DeviceGrid grid(painter);
+    const double lineWidth = grid.lineWidth(penWidth);
+    const auto pen = [lineWidth](int grey) {
+        return QPen(QColor(grey, grey, grey), lineWidth, Qt::SolidLine, Qt::SquareCap,
+                    Qt::BevelJoin);
+    };
+    const QPen majorPen = pen(160);
+    const QPen minorPen = pen(90);
+    const QPen textPen = pen(200);
+
+    const TickLayout layout = layoutTicks(
+        scene.scale, rect, {painter.fontMetrics(), scene.headerHeight, scene.dateFormat},
+        toMidnight);
+    for (const Tick& tick : layout.ticks) {
+        const double x = grid.lineCenter(tick.x, lineWidth);
+        painter.setPen(tick.major ? majorPen : minorPen);
+        painter.drawLine(QPointF(x, tick.top), QPointF(x, tick.bottom));
+    }
+    painter.setPen(textPen);
+    for (const TickLabel& label : layout.labels)
+        painter.drawText(QPointF(label.x, label.baseline), label.text);
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "frame/internalexport.h"
+#include "timespans.h"
+
+#include <QBrush>
+#include <QColor>
+#include <QRect>
+#include <QString>
+
+#include <optional>
+
+class QPainter;
+
+namespace CorvelGui {
+
+class TimeScale;
+class TrackSegments;
+
+/// The ruler's colours. A default-constructed set is the one without the theme.
+struct CORVELGUI_INTERNAL_EXPORT RulerColors
+{
+    QColor body{60, 60, 60};
+    QColor header{40, 40, 40};
+    QColor shade{0, 0, 0};
+    QColor track{60, 60, 60};
+    QColor trackEdge{255, 255, 0};
+    QColor search{28, 187, 255};
+    QColor preview{37, 124, 191};
+    QColor previewClamped{207, 0, 249};
+
+    static RulerColors ofTheme();
+};
+
+/// What there is to paint.
+struct RulerScene
+{
+    const TimeScale& scale;
+    const TrackSegments& segments;
+    QRect rect;
+    int headerHeight;
+    QString dateFormat;
+    std::optional<TimeSpan> searchRange; ///< only while it is displayed
+    std::optional<qint64> previewTime;   ///< only while it is visible
+};
+
+/// Draws the ruler's bands, highlights and scale. It decides about colours and pixels, never about times.
+class CORVELGUI_INTERNAL_EXPORT RulerPainter
+{
+public:
+    RulerColors colors;
+
+    /// Makes the gradients for a ruler that fills @p rect. Colours changed later show with the next call.
+    void createGradients(const QRect& rect, int headerHeight);
+
+    void paint(QPainter& painter, const RulerScene& scene) const;
+
+private:
+    void fillBands(QPainter& painter, const RulerScene& scene) const;
+    void fillSearchRange(QPainter& painter, const RulerScene& scene) const;
+    void fillTracks(QPainter& painter, const RulerScene& scene) const;
+    void shadeOutsideLimits(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
+    void drawPreviewLine(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
+    void drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
+                        qint64 toMidnight) const;
+
+    QBrush m_headerGradient;
+    QBrush m_searchGradient;
+    QBrush m_trackGradient;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "frame/internalexport.h"
+
+#include <QFontMetrics>
+#include <QRectF>
+#include <QString>
+
+#include <vector>
+
+namespace CorvelGui {
+
+class TimeScale;
+
+/// A vertical line of the scale.
+struct Tick
+{
+    double x;
+    double top;
+    double bottom;
+    bool major;
+};
+
+/// A text of the scale; the position is where its baseline starts.
+struct TickLabel
+{
+    double x;
+    double baseline;
+    QString text;
+};
+
+/// Everything that the scale draws, in the coordinates of the widget.
+struct TickLayout
+{
+    std::vector<Tick> ticks;
+    std::vector<TickLabel> labels;
+};
+
+struct TickStyle
+{
+    QFontMetrics metrics;
+    int headerHeight; ///< pixels; minor ticks start below the header
+    QString dateFormat;
+};
+
+/// Milliseconds from the view start to the midnight after it, on the clock of the view.
+CORVELGUI_INTERNAL_EXPORT qint64 msecsToMidnight(const TimeScale& scale);
+
+/// Lays out the scale within @p rect. Major ticks fall on whole intervals counted from the midnight that comes
+/// @p toMidnight milliseconds after the view start.
+CORVELGUI_INTERNAL_EXPORT TickLayout layoutTicks(const TimeScale& scale, const QRectF& rect,
+                                                 const TickStyle& style, qint64 toMidnight);
+
+} // namespace CorvelGui

@@ -1,0 +1,253 @@
+#include "timescale.h"
+
+#include <Corvel/TimeZoneHelper>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+using Corvel::TimeZoneHelper;
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr qint64 second = 1000;
+constexpr qint64 minute = 60 * second;
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+
+// Labels show seconds where the whole period is shorter than this.
+constexpr quint64 secondsLabelLimit = 30 * minute;
+
+// Instants beyond the year 275760 are cut off here, so that sums of an instant and a span never overflow.
+constexpr quint64 latestInstant = 8'640'000'000'000'000;
+
+constexpr ZoomLevel zoomLevel(qint64 span, qint32 intervals, qint32 subIntervals)
+{
+    return {quint64(span), intervals, subIntervals, quint32(span / intervals)};
+}
+
+} // namespace
+
+const std::array<ZoomLevel, TimeScale::levelCount>& TimeScale::zoomLevels()
+{
+    static constexpr std::array levels{
+        zoomLevel(20 * minute, 10, 8), zoomLevel(hour, 12, 5),    zoomLevel(3 * hour, 18, 5),
+        zoomLevel(12 * hour, 24, 3),   zoomLevel(day, 24, 5),     zoomLevel(3 * day, 24, 3),
+        zoomLevel(7 * day, 21, 2),     zoomLevel(14 * day, 14, 2)};
+    return levels;
+}
+
+void TimeScale::setTimeLimits(quint64 beginMs, quint64 endMs)
+{
+    const quint64 begin = std::min(beginMs, latestInstant);
+    const quint64 end = std::min(endMs, latestInstant);
+    m_totalDuration = end > begin ? end - begin : 0;
+    m_wholeRangeInterval = getTotalDurationIntervals();
+    m_begin = Instant(inZone(qint64(begin)));
+    m_end = Instant(inZone(qint64(end)));
+
+    if (m_totalDuration == 0 || m_wholeRangeInterval == 0) {
+        m_level = 1;
+        m_totalDuration = zoomLevels()[1].millisecondsPerLevel;
+        m_wholeRangeInterval = zoomLevels()[1].millisecondsPerInterval;
+        m_viewStart = Instant();
+    } else if (!hasView()) {
+        m_viewStart = m_begin;
+    }
+}
+
+bool TimeScale::isWithinLimits(qint64 msecs) const
+{
+    return m_begin.msecs <= msecs && msecs <= m_end.msecs;
+}
+
+QDateTime TimeScale::inZone(qint64 msecs) const
+{
+    return TimeZoneHelper::fromMSecsSinceEpoch(msecs, m_zone);
+}
+
+void TimeScale::changeLevel(int level, double anchor)
+{
+    const int newLevel = level < 0 || level > wholeRangeLevel ? wholeRangeLevel : level;
+    getNewStartDateTime(newLevel, anchor);
+    m_level = newLevel;
+}
+
+bool TimeScale::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
+{
+    if (m_totalDuration == 0 || !from.isValid() || !to.isValid() || !(from < to))
+        return false;
+
+    const quint64 range = std::min(quint64(from.msecsTo(to)), m_totalDuration);
+    const auto& levels = zoomLevels();
+    const auto row = std::find_if(levels.begin(), levels.end(), [range](const ZoomLevel& level) {
+        return level.millisecondsPerLevel >= range;
+    });
+    m_level = int(row - levels.begin());
+    m_viewStart = Instant(
+        row == levels.end() ? from
+                            : from.addMSecs((qint64(range) - qint64(row->millisecondsPerLevel)) / 2));
+    // No limit at the end: a range close to it may leave the view running past it.
+    if (m_viewStart.msecs < m_begin.msecs)
+        m_viewStart = m_begin;
+    return true;
+}
+
+bool TimeScale::pageTo(const QDateTime& time)
+{
+    if (!hasView())
+        return false;
+    const qint64 oldStart = m_viewStart.msecs;
+    const qint64 span = qint64(millisecondsPerLevel());
+    const qint64 msecs = time.toMSecsSinceEpoch();
+    if (viewEndMs() < msecs)
+        setViewStart(time.addMSecs(-span));
+    if (msecs < m_viewStart.msecs)
+        setViewStart(time);
+    if (m_viewStart.msecs >= m_begin.msecs && m_viewStart.msecs >= m_end.msecs)
+        setViewStart(m_end.time.addMSecs(-span));
+    return m_viewStart.msecs != oldStart;
+}
+
+void TimeScale::centerOn(double position)
+{
+    constexpr double farthest = latestInstant;
+    const double offset = std::clamp(m_totalDuration * position, -farthest, farthest);
+    if (!std::isnan(offset))
+        setViewStart(m_begin.time.addMSecs(qint64(offset) - qint64(millisecondsPerLevel() / 2)));
+}
+
+bool TimeScale::canZoomOut() const
+{
+    // Strictly shorter, while a row exactly as long as the period is effective: it shows everything already.
+    return m_level < levelCount && zoomLevels()[m_level].millisecondsPerLevel < m_totalDuration;
+}
+
+bool TimeScale::isEffective(int level) const
+{
+    return level >= 0 && level < levelCount
+           && zoomLevels()[level].millisecondsPerLevel <= m_totalDuration;
+}
+
+quint64 TimeScale::spanOfLevel(int level) const
+{
+    return isEffective(level) ? zoomLevels()[level].millisecondsPerLevel : m_totalDuration;
+}
+
+qint64 TimeScale::millisecondsPerInterval() const
+{
+    return isEffective(m_level) ? zoomLevels()[m_level].millisecondsPerInterval
+                                : m_wholeRangeInterval;
+}
+
+double TimeScale::getIntervalLength(int level) const
+{
+    const double pixels = wholeScaleWidth();
+    if (isEffective(level)) {
+        const ZoomLevel& row = zoomLevels()[level];
+        return std::floor(row.millisecondsPerInterval * (pixels / row.millisecondsPerLevel));
+    }
+    return m_totalDuration == 0 ? 0.0
+                                : std::floor(pixels / m_totalDuration * m_wholeRangeInterval);
+}
+
+int TimeScale::getSubIntervalNumber(int level) const
+{
+    return isEffective(level) ? zoomLevels()[level].subIntervalCount : 2;
+}
+
+qint64 TimeScale::getTotalDurationIntervals() const
+{
+    const qint64 days = qint64(m_totalDuration) / day;
+    if (days > 20)
+        return std::lround(float(days) / 15.0F) * day;
+    if (days >= 13)
+        return day;
+    if (days >= 8)
+        return 12 * hour;
+    if (days >= 4)
+        return 8 * hour;
+    if (days >= 2)
+        return 3 * hour;
+    if (days == 1)
+        return hour;
+
+    const qint64 interval = qint64(m_totalDuration) / 20;
+    if (interval > minute)
+        return interval / minute * minute;
+    return interval > second ? interval / second * second : interval;
+}
+
+quint32 TimeScale::wholeScaleWidth() const
+{
+    return quint32(std::max(scaleWidth(), 0.0));
+}
+
+double TimeScale::lengthPerMillisecond() const
+{
+    const quint64 span = millisecondsPerLevel();
+    return span == 0 ? std::numeric_limits<double>::infinity() : double(wholeScaleWidth()) / span;
+}
+
+qint64 TimeScale::offsetAt(double x) const
+{
+    const double width = scaleWidth();
+    return width > 0 ? qint64(millisecondsPerLevel() * (x - margin()) / width) : 0;
+}
+
+QDateTime TimeScale::getDateTime(double x) const
+{
+    return viewStart().addMSecs(offsetAt(x));
+}
+
+double TimeScale::xAt(qint64 msecs) const
+{
+    return margin() + lengthPerMillisecond() * double(msecs - m_viewStart.msecs);
+}
+
+double TimeScale::getPosition(qint64 msecs) const
+{
+    return m_totalDuration == 0 ? 0.0 : double(msecs - m_begin.msecs) / m_totalDuration;
+}
+
+double TimeScale::getCurrentCenterPosition() const
+{
+    if (m_totalDuration == 0)
+        return 0.0;
+    const qint64 center = m_viewStart.msecs + qint64(millisecondsPerLevel() / 2);
+    // Unsigned on purpose: a centre before the begin limit is far beyond the end, never negative.
+    return double(quint64(center - m_begin.msecs)) / m_totalDuration;
+}
+
+QString TimeScale::getTickerString(qint64 offsetMs) const
+{
+    const QString format = m_totalDuration < secondsLabelLimit ? u"hh:mm:ss"_s : u"hh:mm"_s;
+    return viewStart().addMSecs(offsetMs).toString(format);
+}
+
+void TimeScale::getNewStartDateTime(int level, double anchor)
+{
+    if (level == m_level)
+        return;
+    if (!isEffective(level)) {
+        m_viewStart = m_begin;
+        return;
+    }
+
+    // The anchor counts the scale's last pixel, one less than the scale is wide: kept from the product line.
+    const double lastPixel = std::max(scaleWidth() - 1, 1.0);
+    const double inScale = anchor > 0.0 ? std::min(anchor, 1.0) : 0.0;
+    const int anchorX = int(margin() + lastPixel * inScale);
+    const double fraction = (anchorX - margin()) / lastPixel;
+    const quint64 span = zoomLevels()[level].millisecondsPerLevel;
+    m_viewStart = Instant(getDateTime(anchorX).addMSecs(-qint64(span * fraction)));
+    if (m_viewStart.msecs < m_begin.msecs)
+        m_viewStart = m_begin;
+    else if (m_viewStart.msecs + qint64(span) > m_end.msecs)
+        m_viewStart = Instant(m_end.time.addMSecs(-qint64(span)));
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "frame/internalexport.h"
+
+#include <QDateTime>
+#include <QTimeZone>
+
+#include <array>
+
+namespace CorvelGui {
+
+/// One row of the zoom table.
+struct ZoomLevel
+{
+    quint64 millisecondsPerLevel;    ///< visible span of the whole scale width
+    qint32 intervalCount;            ///< major intervals across the visible span
+    qint32 subIntervalCount;         ///< minor divisions of one major interval
+    quint32 millisecondsPerInterval; ///< one major interval
+};
+
+/// The time model of the ruler: which period it covers, which part of it is in view, and every conversion between
+/// an instant, a pixel column and a relative position.
+///
+/// A relative position is 0.0 at the begin limit and 1.0 at the end limit. A pixel position is an x coordinate in the
+/// widget; the scale runs from the margin to the width less the margin. Instants keep the time zone in which they
+/// were made: a new zone counts for limits that are set afterwards.
+///
+/// Plain value without events or signals: the ruler decides what a change means for its surroundings.
+class CORVELGUI_INTERNAL_EXPORT TimeScale
+{
+public:
+    static constexpr int levelCount = 8;
+    /// The level index that means: show the whole period.
+    static constexpr int wholeRangeLevel = levelCount;
+
+    static const std::array<ZoomLevel, levelCount>& zoomLevels();
+
+    // The period
+    /// An empty period (and one that ends before it begins) leaves a scale of one hour without a view.
+    void setTimeLimits(quint64 beginMs, quint64 endMs);
+    const QDateTime& beginLimit() const { return m_begin.time; }
+    const QDateTime& endLimit() const { return m_end.time; }
+    qint64 beginLimitMs() const { return m_begin.msecs; }
+    qint64 endLimitMs() const { return m_end.msecs; }
+    bool isWithinLimits(qint64 msecs) const;
+    quint64 totalDuration() const { return m_totalDuration; }
+
+    void setTimeZone(const QTimeZone& zone) { m_zone = zone; }
+    /// The instant in the zone that counts now.
+    QDateTime inZone(qint64 msecs) const;
+
+    // The geometry
+    void setWidth(double pixels) { m_width = pixels; }
+    double width() const { return m_width; }
+    static constexpr double margin() { return 10.0; }
+
+    // The view
+    bool hasView() const { return m_viewStart.time.isValid(); }
+    const QDateTime& viewStart() const { return m_viewStart.time; }
+    qint64 viewStartMs() const { return m_viewStart.msecs; }
+    /// Not limited to the end limit.
+    qint64 viewEndMs() const { return m_viewStart.msecs + qint64(millisecondsPerLevel()); }
+    void setViewStart(const QDateTime& time) { m_viewStart = Instant(time); }
+    /// Moves the view just as far as it takes to show @p time. Returns whether the view moved.
+    bool pageTo(const QDateTime& time);
+    /// Puts the relative position @p position into the middle of the view, whatever the limits say.
+    void centerOn(double position);
+
+    // The level
+    int level() const { return m_level; }
+    /// Makes @p level current, with the view around an anchor: the instant at the fraction @p anchor (0.0 to 1.0) of
+    /// the scale stays where it is as far as the limits allow. Any index outside the table shows the whole period.
+    void changeLevel(int level, double anchor);
+    /// Makes the closest level current that shows the whole range, with the range in the middle of the view. Returns
+    /// false and changes nothing unless there is a period and both times are valid and in order.
+    bool setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
+    /// True while the view can grow: the current level is a row of the table shorter than the period.
+    bool canZoomOut() const;
+
+    /// Visible span in milliseconds.
+    quint64 millisecondsPerLevel() const { return spanOfLevel(m_level); }
+    /// Distance between two major ticks in milliseconds.
+    qint64 millisecondsPerInterval() const;
+    /// Distance between two major ticks in whole pixels.
+    double getIntervalLength(int level) const;
+    int getSubIntervalNumber(int level) const;
+    /// Major tick distance in milliseconds where the whole period is shown.
+    qint64 getTotalDurationIntervals() const;
+
+    // Conversions
+    /// Infinite while there is no period: any distance then counts as more than a pixel.
+    double lengthPerMillisecond() const;
+    qint64 msecsAt(double x) const { return m_viewStart.msecs + offsetAt(x); }
+    QDateTime getDateTime(double x) const;
+    double xAt(qint64 msecs) const;
+    double getPosition(qint64 msecs) const;
+    double getCurrentCenterPosition() const;
+
+    /// Clock time of the tick @p offsetMs after the view start.
+    QString getTickerString(qint64 offsetMs) const;
+
+private:
+    /// A time with its distance from the epoch at hand, because QDateTime may have to ask the zone for it.
+    struct Instant
+    {
+        Instant() = default;
+        explicit Instant(const QDateTime& t) : time(t), msecs(t.isValid() ? t.toMSecsSinceEpoch() : 0) {}
+
+        QDateTime time;
+        qint64 msecs = 0;
+    };
+
+    bool isEffective(int level) const;
+    quint64 spanOfLevel(int level) const;
+    double scaleWidth() const { return m_width - 2 * margin(); }
+    quint32 wholeScaleWidth() const;
+    qint64 offsetAt(double x) const;
+    void getNewStartDateTime(int level, double anchor);
+
+    int m_level = 1;
+    double m_width = 0.0;
+    quint64 m_totalDuration = 0;
+    qint64 m_wholeRangeInterval = 0;
+    Instant m_viewStart;
+    Instant m_begin;
+    Instant m_end;
+    QTimeZone m_zone;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QtGlobal>
+
+namespace CorvelGui {
+
+/// A stretch of time, in milliseconds since the Unix epoch: begin belongs to it, end does not.
+struct TimeSpan
+{
+    qint64 begin = 0;
+    qint64 end = 0;
+
+    bool isEmpty() const { return end <= begin; }
+    bool operator==(const TimeSpan&) const = default;
+};
+
+/// What is known of one track: the period in which it is described, and what was recorded in it.
+///
+/// Outside [begin, end) nothing is known. Inside it, what no recorded span covers is known to be without recording.
+struct TrackDescription
+{
+    QString identifier;
+    QString name;
+    qint64 begin = 0;
+    qint64 end = 0;
+    /// In any order; spans may overlap, and may reach beyond the described period, which they then extend.
+    QList<TimeSpan> recorded;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,65 @@
+#include "tracksegments.h"
+
+#include "timescale.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace CorvelGui {
+
+TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
+{
+    const double left = TimeScale::margin() / 2;
+    const double right = scale.width() - left;
+    TrackSegmentList segments;
+    if (!scale.hasView() || right <= left)
+        return segments;
+
+    const auto endsUpTo = [&scale](double x) {
+        return [&scale, x](const TimeSpan& span) { return scale.xAt(span.end) <= x; };
+    };
+    auto span = std::partition_point(spans.begin(), spans.end(), endsUpTo(left));
+    while (span != spans.end()) {
+        const double start = std::max(scale.xAt(span->begin), left);
+        if (start >= right)
+            break;
+        const double end = std::max(std::min(scale.xAt(span->end), right), std::floor(start) + 1);
+        if (!segments.empty() && std::floor(start) <= std::floor(segments.back().end))
+            segments.back().end = std::max(segments.back().end, end);
+        else
+            segments.push_back({start, end});
+        // What ends within the last column is covered already.
+        const double covered = std::floor(segments.back().end);
+        span = std::partition_point(std::next(span), spans.end(), endsUpTo(covered));
+    }
+    return segments;
+}
+
+void TrackSegments::setTracks(const QList<TrackDescription>& tracks)
+{
+    TimeSpans described;
+    TimeSpans recorded;
+    for (const TrackDescription& track : tracks) {
+        described.push_back({track.begin, track.end});
+        recorded.insert(recorded.end(), track.recorded.begin(), track.recorded.end());
+    }
+    m_recordedSpans = joined(std::move(recorded));
+    described.insert(described.end(), m_recordedSpans.begin(), m_recordedSpans.end());
+    m_described = joined(std::move(described));
+    m_gapSpans = difference(m_described, m_recordedSpans);
+}
+
+bool TrackSegments::isTrackLimitChanged(const TimeScale& scale) const
+{
+    return hasTracks()
+           && (scale.beginLimitMs() < m_described.front().begin
+               || m_described.back().end < scale.endLimitMs());
+}
+
+void TrackSegments::update(const TimeScale& scale)
+{
+    m_gaps = visibleSegments(m_gapSpans, scale);
+    m_recorded = visibleSegments(m_recordedSpans, scale);
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "frame/internalexport.h"
+#include "timespans.h"
+#include "trackdescription.h"
+
+#include <QList>
+
+#include <vector>
+
+namespace CorvelGui {
+
+class TimeScale;
+
+/// A stretch of the ruler's body, in pixels of the current view; at least one pixel column.
+struct TrackSegment
+{
+    double start;
+    double end;
+
+    bool operator==(const TrackSegment&) const = default;
+};
+
+using TrackSegmentList = std::vector<TrackSegment>;
+
+/// The segments under which @p spans are seen in the view of @p scale. What shares pixel columns comes as one
+/// segment, so the work follows the columns in view and the logarithm of the number of spans.
+CORVELGUI_INTERNAL_EXPORT TrackSegmentList visibleSegments(const TimeSpans& spans,
+                                                           const TimeScale& scale);
+
+/// What the described tracks together know of the period: recorded where any of them has a recording, a gap where
+/// some track is described and none has a recording, and nothing elsewhere.
+class CORVELGUI_INTERNAL_EXPORT TrackSegments
+{
+public:
+    void setTracks(const QList<TrackDescription>& tracks);
+    bool hasTracks() const { return !m_described.empty(); }
+
+    /// True when the limits of @p scale reach beyond the described tracks, at the begin or at the end.
+    bool isTrackLimitChanged(const TimeScale& scale) const;
+
+    /// Makes the two lists of segments for the view of @p scale.
+    void update(const TimeScale& scale);
+    const TrackSegmentList& gaps() const { return m_gaps; }
+    const TrackSegmentList& recorded() const { return m_recorded; }
+
+private:
+    TimeSpans m_described;
+    TimeSpans m_gapSpans;
+    TimeSpans m_recordedSpans;
+    TrackSegmentList m_gaps;
+    TrackSegmentList m_recorded;
+};
+
+} // namespace CorvelGui
