@@ -10,8 +10,9 @@ namespace Hueloft {
 
 /// The named colours of the product line, and its dark and light application looks.
 ///
-/// The colours are the same in both looks: the video surfaces that use them (timeline, player) stay dark, so that
-/// pictures are not outshone. What changes with the look is the palette and the style sheet of the application.
+/// The colours are the same in both looks: the video surfaces that use them (timeline, player) stay
+/// dark, so that pictures are not outshone. What changes with the look is the palette and the style
+/// sheet of the application.
 class HUELOFT_EXPORT POrvGuiTheme
 {
 public:
@@ -44,7 +45,8 @@ public:
     /// The application style sheet of the light look.
     static QString whiteTheme();
 
-    /// Turns @p palette into the palette of the dark look. Roles that the look does not define stay as they are.
+    /// Turns @p palette into the palette of the dark look. Roles that the look does not define stay
+    /// as they are.
     static void SetDarkPalette(QPalette& palette);
 };
 
