@@ -1,0 +1,64 @@
+#include "gallerywindow.h"
+
+#include "pages.h"
+
+#include <Hueloft/PIconHelper>
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QToolBar>
+
+namespace Gallery {
+
+GalleryWindow::GalleryWindow()
+    : PMainWindow(nullptr), m_list(new QListWidget), m_stack(new QStackedWidget)
+{
+    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setWindowIcon(Hueloft::PIconHelper::GetSettingsIconOriginal_32x32(false));
+
+    for (const Page& page : pages()) {
+        m_list->addItem(page.title);
+        auto* scroll = new QScrollArea;
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidgetResizable(true);
+        scroll->setWidget(page.create(nullptr));
+        m_stack->addWidget(scroll);
+    }
+    m_list->setFixedWidth(150);
+    m_list->setAccessibleName(tr("Pages"));
+    connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
+
+    auto* center = new QWidget;
+    auto* layout = new QHBoxLayout(center);
+    layout->addWidget(m_list);
+    layout->addWidget(m_stack, 1);
+    setCentralWidget(center);
+
+    QToolBar* bar = addToolBar(tr("Look"));
+    m_darkAction = bar->addAction(tr("&Dark look"));
+    m_darkAction->setCheckable(true);
+    connect(m_darkAction, &QAction::toggled, this, [this](bool dark) {
+        createDarkFusionStyle(dark);
+        Q_EMIT lookChanged(dark);
+    });
+
+    createDarkFusionStyle(false);
+    m_list->setCurrentRow(0);
+    resize(1240, 860);
+}
+
+void GalleryWindow::showPage(int index)
+{
+    m_list->setCurrentRow(index);
+}
+
+void GalleryWindow::setDark(bool dark)
+{
+    m_darkAction->setChecked(dark);
+}
+
+} // namespace Gallery

@@ -1,0 +1,41 @@
+#include "pages.h"
+
+#include "colourspage.h"
+#include "iconspage.h"
+#include "lookspage.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Gallery {
+
+namespace {
+
+template <typename Widget>
+QWidget* create(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+} // namespace
+
+const std::vector<Page>& pages()
+{
+    static const std::vector<Page> all{
+        {u"Looks"_s, create<LooksPage>},
+        {u"Colours"_s, create<ColoursPage>},
+        {u"Icons"_s, create<IconsPage>},
+    };
+    return all;
+}
+
+int pageIndex(const QString& title)
+{
+    const auto page = std::ranges::find_if(pages(), [&title](const Page& candidate) {
+        return candidate.title.compare(title, Qt::CaseInsensitive) == 0;
+    });
+    return page == pages().end() ? -1 : int(page - pages().begin());
+}
+
+} // namespace Gallery
