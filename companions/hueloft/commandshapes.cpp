@@ -21,31 +21,25 @@ QPainterPath minus(const IconGrid& grid)
 
 namespace {
 
-// The upper left sheet of two; the lower right one lies on it.
+// The upper left one of two sheets, as far as it shows behind the other.
 QPainterPath sheetBehind(const IconGrid& grid)
 {
-    QPainterPath path = grid.hBar({2, 2}, 8);
-    path.addPath(grid.vBar({2, 2}, 9));
-    const qreal inset = grid.strokeWidth() / 2.0;
-    path.translate(inset, inset);
-    return path;
+    return grid.box({2, 2, 9, 9}).subtracted(grid.block({4.2, 4.2, 12, 12}));
 }
 
 } // namespace
 
 QPainterPath copy(const IconGrid& grid)
 {
-    QPainterPath path = sheetBehind(grid);
-    path.addPath(grid.box({5, 5, 9, 9}));
-    return path;
+    return sheetBehind(grid).united(grid.box({5, 5, 9, 9}));
 }
 
 QPainterPath copyRows(const IconGrid& grid)
 {
-    QPainterPath path = sheetBehind(grid);
-    path.addPath(grid.box({5, 5, 9, 9}));
-    path.addPath(grid.hBar({7, 8.5}, 5));
-    path.addPath(grid.hBar({7, 11}, 5));
+    QPainterPath path = copy(grid);
+    path.addPath(grid.hBar({7, 8.3}, 5));
+    path.addPath(grid.hBar({7, 10.8}, 5));
+    path.setFillRule(Qt::WindingFill);
     return path;
 }
 
@@ -60,15 +54,12 @@ QPainterPath refresh(const IconGrid& grid)
 {
     constexpr QPointF center(8, 8);
     constexpr qreal radius = 5.5;
-    QPainterPath half = grid.arc(center, radius, 20, 130);
-    half.addPath(grid.polygon({{10, 6.5}, {15, 6.5}, {15, 1.5}}));
+    const QPainterPath half =
+        grid.arc(center, radius, 20, 130).united(grid.polygon({{9, 7}, {15, 7}, {15, 1}}));
 
     const QPointF middle = grid.toPixels(center);
     const QTransform halfTurn(-1, 0, 0, -1, 2 * middle.x(), 2 * middle.y());
-    QPainterPath path = half;
-    path.addPath(halfTurn.map(half));
-    path.setFillRule(Qt::WindingFill);
-    return path;
+    return half.united(halfTurn.map(half));
 }
 
 QPainterPath settings(const IconGrid& grid)
@@ -139,16 +130,16 @@ QPainterPath invisible(const IconGrid& grid)
 
 QPainterPath dateTime(const IconGrid& grid)
 {
-    constexpr QPointF clockCenter(11, 11);
-    constexpr qreal clockRadius = 4;
+    constexpr QPointF clockCenter(11.5, 11.5);
+    constexpr qreal clockRadius = 3.5;
 
     QPainterPath sheet = grid.box({1, 2, 12, 12});
     sheet.addPath(grid.block({1, 2, 12, 4}));
     sheet.addPath(grid.block({4, 1, 1.4, 2}));
     sheet.addPath(grid.block({9, 1, 1.4, 2}));
-    QPainterPath path = sheet.simplified().subtracted(grid.disc(clockCenter, clockRadius + 1));
+    QPainterPath path = sheet.simplified().subtracted(grid.disc(clockCenter, clockRadius + 0.9));
     path.addPath(grid.ring(clockCenter, clockRadius));
-    path.addPath(grid.line({{11, 9}, {11, 11}, {12.5, 11}}));
+    path.addPath(grid.line({{11.5, 9.8}, {11.5, 11.5}, {12.8, 11.5}}));
     path.setFillRule(Qt::WindingFill);
     return path;
 }

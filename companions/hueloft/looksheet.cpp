@@ -10,8 +10,8 @@ namespace Hueloft {
 
 constinit const LookColors darkLook{
     .window = QColor(34, 37, 41),
-    .base = QColor(26, 28, 32),
-    .alternateBase = QColor(31, 34, 38),
+    .base = QColor(22, 24, 27),
+    .alternateBase = QColor(28, 31, 35),
     .raised = QColor(46, 50, 57),
     .hover = QColor(54, 68, 84),
     .line = QColor(64, 70, 79),

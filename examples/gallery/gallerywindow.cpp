@@ -29,6 +29,7 @@ GalleryWindow::GalleryWindow()
         m_stack->addWidget(scroll);
     }
     m_list->setFixedWidth(150);
+    m_list->setSpacing(3);
     m_list->setAccessibleName(tr("Pages"));
     connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
 
@@ -54,6 +55,15 @@ GalleryWindow::GalleryWindow()
 void GalleryWindow::showPage(int index)
 {
     m_list->setCurrentRow(index);
+}
+
+void GalleryWindow::showWholePage(int index)
+{
+    showPage(index);
+    const auto* scroll = static_cast<QScrollArea*>(m_stack->currentWidget());
+    const QSize page =
+        scroll->widget()->minimumSizeHint().expandedTo(scroll->widget()->minimumSize());
+    resize(size().expandedTo(page + size() - scroll->size()));
 }
 
 void GalleryWindow::setDark(bool dark)

@@ -18,6 +18,8 @@ public:
     GalleryWindow();
 
     void showPage(int index);
+    /// Shows the page and makes the window as large as the page needs to show without scroll bars.
+    void showWholePage(int index);
     void setDark(bool dark);
 
 Q_SIGNALS:

@@ -21,6 +21,7 @@ constexpr QIcon::Mode modes[] = {QIcon::Normal, QIcon::Disabled, QIcon::Active, 
 constexpr int columns = 2;
 constexpr int margin = 12;
 constexpr int gap = 6;
+constexpr int columnGap = 28;
 constexpr int captionHeight = 20;
 constexpr QSize cell(520, captionHeight + 64 + 2 * gap);
 
@@ -68,7 +69,8 @@ IconsPage::IconsPage(QWidget* parent)
       }
 {
     const int rows = (int(m_entries.size()) + columns - 1) / columns;
-    setMinimumSize(2 * margin + columns * cell.width(), 2 * margin + rows * cell.height() + 240);
+    setMinimumSize(2 * margin + columns * cell.width() + columnGap,
+                   2 * margin + rows * cell.height() + 150);
 }
 
 void IconsPage::paintEvent(QPaintEvent* /*event*/)
@@ -77,7 +79,7 @@ void IconsPage::paintEvent(QPaintEvent* /*event*/)
     int index = 0;
     for (const Entry& entry : m_entries) {
         drawEntry(painter,
-                  QPoint(margin + index % columns * cell.width(),
+                  QPoint(margin + index % columns * (cell.width() + columnGap),
                          margin + index / columns * cell.height()),
                   entry);
         ++index;

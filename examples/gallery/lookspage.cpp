@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QEvent>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -23,6 +24,8 @@
 #include <QTableWidget>
 #include <QToolButton>
 #include <QTreeWidget>
+
+#include <iterator>
 
 using Hueloft::PIconHelper;
 using Hueloft::POrvGuiTheme;
@@ -101,39 +104,6 @@ QGroupBox* choices()
     return group;
 }
 
-QGroupBox* inputs()
-{
-    auto* group = new QGroupBox(u"Inputs"_s);
-    auto* form = new QFormLayout(group);
-    auto* focused = new QLineEdit(u"Entrance north"_s);
-    focused->selectAll();
-    focused->setFocus();
-    form->addRow(u"With focus"_s, focused);
-    auto* empty = new QLineEdit;
-    empty->setPlaceholderText(u"Search devices"_s);
-    form->addRow(u"Empty"_s, empty);
-    auto* wrong = new QLineEdit(u"10.0.0.300"_s);
-    wrong->setStyleSheet(u"QLineEdit{background-color:#ff4d4d;}"_s);
-    form->addRow(u"Wrong"_s, wrong);
-    form->addRow(u"Disabled"_s, disabled(new QLineEdit(u"192.168.1.20"_s)));
-    auto* combo = new QComboBox;
-    combo->addItems({u"Ethernet 1"_s, u"Ethernet 2"_s});
-    form->addRow(u"Combo box"_s, combo);
-    auto* editable = new QComboBox;
-    editable->setEditable(true);
-    editable->addItem(u"https://example.org"_s);
-    form->addRow(u"Editable"_s, editable);
-    auto* number = new QSpinBox;
-    number->setValue(25);
-    number->setSuffix(u" fps"_s);
-    form->addRow(u"Number"_s, number);
-    form->addRow(u"Disabled"_s, disabled(new QSpinBox));
-    auto* time = new QDateTimeEdit(QDateTime(QDate(2024, 3, 31), QTime(14, 30)));
-    time->setCalendarPopup(true);
-    form->addRow(u"Date and time"_s, time);
-    return group;
-}
-
 QGroupBox* ranges()
 {
     auto* group = new QGroupBox(u"Ranges"_s);
@@ -156,30 +126,17 @@ QGroupBox* ranges()
 
 QTableWidget* devices()
 {
-    auto* table = new QTableWidget(5, 3);
+    const QString names[] = {u"Entrance north"_s, u"Entrance south"_s, u"Car park"_s,
+                             u"Loading bay"_s, u"Roof"_s};
+    auto* table = new QTableWidget(int(std::size(names)), 3);
     table->setHorizontalHeaderLabels({u"Device"_s, u"Address"_s, u"State"_s});
     table->setAlternatingRowColors(true);
-    const struct
-    {
-        QString name;
-        QString state;
-        QColor color;
-    } rows[] = {
-        {u"Entrance north"_s, u"Recording"_s, POrvGuiTheme::colorGreen},
-        {u"Entrance south"_s, u"Updating"_s, POrvGuiTheme::colorBlue},
-        {u"Car park"_s, u"Disk nearly full"_s, POrvGuiTheme::colorOrange},
-        {u"Loading bay"_s, u"No connection"_s, POrvGuiTheme::statusRed()},
-        {u"Roof"_s, u"Recording"_s, POrvGuiTheme::colorGreen},
-    };
     int row = 0;
-    for (const auto& device : rows) {
-        auto* name = new QTableWidgetItem(device.name);
-        name->setCheckState(row % 2 ? Qt::Unchecked : Qt::Checked);
-        table->setItem(row, 0, name);
+    for (const QString& name : names) {
+        auto* item = new QTableWidgetItem(name);
+        item->setCheckState(row % 2 ? Qt::Unchecked : Qt::Checked);
+        table->setItem(row, 0, item);
         table->setItem(row, 1, new QTableWidgetItem(u"192.168.1.%1"_s.arg(20 + row)));
-        auto* state = new QTableWidgetItem(device.state);
-        state->setForeground(device.color);
-        table->setItem(row, 2, state);
         ++row;
     }
     table->setColumnWidth(0, 150);
@@ -202,10 +159,10 @@ QTreeWidget* sites()
     return tree;
 }
 
-QTabWidget* views()
+QTabWidget* views(QTableWidget* table)
 {
     auto* tabs = new QTabWidget;
-    tabs->addTab(devices(), u"Table"_s);
+    tabs->addTab(table, u"Table"_s);
     tabs->addTab(sites(), u"Tree"_s);
     tabs->addTab(new QPlainTextEdit(u"Nothing to report."_s), u"Text"_s);
     tabs->addTab(new QWidget, u"Disabled"_s);
@@ -243,25 +200,13 @@ QFrame* player()
     return frame;
 }
 
-QWidget* texts()
-{
-    auto* side = new QGroupBox(u"Texts"_s);
-    auto* layout = new QVBoxLayout(side);
-    layout->addWidget(new QLabel(u"A text, and <a href=\"#\">a link</a> in it"_s));
-    auto* failure = new QLabel(u"The device does not answer."_s);
-    failure->setStyleSheet(u"color: %1"_s.arg(POrvGuiTheme::statusRed().name()));
-    layout->addWidget(failure);
-    layout->addWidget(disabled(new QLabel(u"A disabled text"_s)));
-    return side;
-}
-
 } // namespace
 
-LooksPage::LooksPage(QWidget* parent) : QWidget(parent)
+LooksPage::LooksPage(QWidget* parent) : QWidget(parent), m_devices(devices())
 {
     auto* left = new QVBoxLayout;
-    left->addWidget(inputs());
-    left->addWidget(texts());
+    left->addWidget(createInputs());
+    left->addWidget(createTexts());
     left->addStretch();
 
     auto* middle = new QVBoxLayout;
@@ -276,8 +221,93 @@ LooksPage::LooksPage(QWidget* parent) : QWidget(parent)
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
-    layout->addWidget(views(), 1);
+    layout->addWidget(views(m_devices), 1);
     layout->addWidget(player());
+    applyStatusColors();
+}
+
+QWidget* LooksPage::createInputs()
+{
+    auto* group = new QGroupBox(u"Inputs"_s);
+    auto* form = new QFormLayout(group);
+    m_focused = new QLineEdit(u"Entrance north"_s);
+    form->addRow(u"With focus"_s, m_focused);
+    auto* empty = new QLineEdit;
+    empty->setPlaceholderText(u"Search devices"_s);
+    form->addRow(u"Empty"_s, empty);
+    auto* wrong = new QLineEdit(u"10.0.0.300"_s);
+    wrong->setStyleSheet(u"QLineEdit{background-color:#ff4d4d;}"_s);
+    form->addRow(u"Wrong"_s, wrong);
+    form->addRow(u"Disabled"_s, disabled(new QLineEdit(u"192.168.1.20"_s)));
+    auto* combo = new QComboBox;
+    combo->addItems({u"Ethernet 1"_s, u"Ethernet 2"_s});
+    form->addRow(u"Combo box"_s, combo);
+    auto* editable = new QComboBox;
+    editable->setEditable(true);
+    editable->addItem(u"https://example.org"_s);
+    form->addRow(u"Editable"_s, editable);
+    auto* number = new QSpinBox;
+    number->setValue(25);
+    number->setSuffix(u" fps"_s);
+    form->addRow(u"Number"_s, number);
+    form->addRow(u"Disabled"_s, disabled(new QSpinBox));
+    auto* time = new QDateTimeEdit(QDateTime(QDate(2024, 3, 31), QTime(14, 30)));
+    time->setCalendarPopup(true);
+    form->addRow(u"Date and time"_s, time);
+    return group;
+}
+
+QWidget* LooksPage::createTexts()
+{
+    auto* group = new QGroupBox(u"Texts"_s);
+    auto* layout = new QVBoxLayout(group);
+    m_link = new QLabel;
+    layout->addWidget(m_link);
+    m_failure = new QLabel(u"The device does not answer."_s);
+    layout->addWidget(m_failure);
+    layout->addWidget(disabled(new QLabel(u"A disabled text"_s)));
+    return group;
+}
+
+// These colours are stored with the texts, so they do not change with the look by themselves.
+void LooksPage::applyStatusColors()
+{
+    m_link->setText(u"A text, and <a href=\"#\">a link</a> in it"_s);
+    QPalette failure = palette();
+    failure.setColor(QPalette::WindowText, POrvGuiTheme::statusRed());
+    m_failure->setPalette(failure);
+
+    const struct
+    {
+        QString text;
+        QColor color;
+    } states[] = {
+        {u"Recording"_s, POrvGuiTheme::colorGreen},
+        {u"Updating"_s, POrvGuiTheme::colorBlue},
+        {u"Disk nearly full"_s, POrvGuiTheme::colorOrange},
+        {u"No connection"_s, POrvGuiTheme::statusRed()},
+        {u"Recording"_s, POrvGuiTheme::colorGreen},
+    };
+    int row = 0;
+    for (const auto& state : states) {
+        auto* item = new QTableWidgetItem(state.text);
+        item->setForeground(state.color);
+        m_devices->setItem(row++, 2, item);
+    }
+}
+
+void LooksPage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        applyStatusColors();
+}
+
+void LooksPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_focused->setFocus();
+    m_focused->selectAll();
 }
 
 } // namespace Gallery

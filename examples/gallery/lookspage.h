@@ -2,6 +2,10 @@
 
 #include <QWidget>
 
+class QLabel;
+class QLineEdit;
+class QTableWidget;
+
 namespace Gallery {
 
 /// Ordinary Qt widgets in their states, as the application's look dresses them.
@@ -11,6 +15,20 @@ class LooksPage : public QWidget
 
 public:
     explicit LooksPage(QWidget* parent);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* createInputs();
+    QWidget* createTexts();
+    void applyStatusColors();
+
+    QLineEdit* m_focused;
+    QLabel* m_link;
+    QLabel* m_failure;
+    QTableWidget* m_devices;
 };
 
 } // namespace Gallery

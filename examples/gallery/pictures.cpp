@@ -56,11 +56,13 @@ bool writePictures(GalleryWindow& window, const QList<int>& pageIndexes, const Q
         complain(u"the window did not appear"_s);
         return false;
     }
+    const QSize pictureSize = window.size();
     const int scale = qRound(window.devicePixelRatioF());
     for (const bool dark : {true, false}) {
         window.setDark(dark);
         for (const int index : pageIndexes) {
-            window.showPage(index);
+            window.resize(pictureSize);
+            window.showWholePage(index);
             settle();
             const QString path = QDir(folder).filePath(
                 u"%1-%2-%3x.png"_s
