@@ -16,7 +16,8 @@ public:
     TimeZoneHelper() = delete;
 
     /// The instant @p msecs milliseconds after the Unix epoch, on the clock of @p zone.
-    /// With a zone that is not valid, such as a default-constructed one, on the clock of this machine.
+    /// With a zone that is not valid, such as a default-constructed one, on the clock of this
+    /// machine.
     static QDateTime fromMSecsSinceEpoch(qint64 msecs, const QTimeZone& zone);
 
     /// The IANA identifier for a configured zone name, in the form in which QTimeZone takes it.

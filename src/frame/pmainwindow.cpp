@@ -14,8 +14,7 @@ namespace CorvelGui {
 
 PMainWindow::PMainWindow(QWidget* parent)
     : QMainWindow(parent), m_initialPalette(QGuiApplication::palette())
-{
-}
+{}
 
 void PMainWindow::setCenterPosAndResize()
 {
@@ -31,9 +30,11 @@ void PMainWindow::createDarkFusionStyle(bool dark)
     POrvGuiTheme::bPantherTheme = dark;
 
     const QString tabRule = u"QTabBar::tab {width:150px;}"_s;
-    const auto fusion = [] { return QStyleFactory::create(u"Fusion"_s); };
-    // The order differs on purpose: the light palette is the standard one of the style that is active before the
-    // switch, the dark one starts from the palette at construction.
+    const auto fusion = [] {
+        return QStyleFactory::create(u"Fusion"_s);
+    };
+    // The order differs on purpose: the light palette is the standard one of the style that is
+    // active before the switch, the dark one starts from the palette at construction.
     if (dark) {
         QApplication::setStyle(fusion());
         QPalette palette = m_initialPalette;

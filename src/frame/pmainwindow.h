@@ -13,14 +13,15 @@ class CORVELGUI_EXPORT PMainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Remembers the application's palette, which the dark look starts from. Create the window before anything
-    /// changes that palette.
+    /// Remembers the application's palette, which the dark look starts from. Create the window
+    /// before anything changes that palette.
     explicit PMainWindow(QWidget* parent = nullptr);
 
     /// Resizes the window so that 100 pixels of the primary screen stay free on each side.
     void setCenterPosAndResize();
 
-    /// Switches the whole application (style, palette, style sheet) to the dark look, or to the light one.
+    /// Switches the whole application (style, palette, style sheet) to the dark look, or to the
+    /// light one.
     void createDarkFusionStyle(bool dark);
 
 private:

@@ -7,8 +7,7 @@ using namespace Qt::StringLiterals;
 namespace CorvelGui {
 
 ToolBarWithLabel::ToolBarWithLabel(const QString& title, QWidget* parent) : QToolBar(title, parent)
-{
-}
+{}
 
 void ToolBarWithLabel::addLabel(const QString& text, const QColor& color)
 {
@@ -20,10 +19,9 @@ void ToolBarWithLabel::addLabel(const QString& text, const QColor& color)
 
     addWidget(spacer);
     addWidget(label);
-    label->setText(
-        u"<span style=\"font-size:15pt; font-weight:600; color:%1;\"><b>%2</b></span>"_s
-            .arg(color.name())
-            .arg(text));
+    label->setText(u"<span style=\"font-size:15pt; font-weight:600; color:%1;\"><b>%2</b></span>"_s
+                       .arg(color.name())
+                       .arg(text));
 }
 
 } // namespace CorvelGui

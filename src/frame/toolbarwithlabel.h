@@ -14,8 +14,8 @@ class CORVELGUI_EXPORT ToolBarWithLabel : public QToolBar
 public:
     ToolBarWithLabel(const QString& title, QWidget* parent);
 
-    /// Appends an expanding spacer and then a label with @p text in @p color. The text is rich text: escape what
-    /// does not come from the program itself. Labels of earlier calls stay.
+    /// Appends an expanding spacer and then a label with @p text in @p color. The text is rich
+    /// text: escape what does not come from the program itself. Labels of earlier calls stay.
     void addLabel(const QString& text, const QColor& color);
 };
 

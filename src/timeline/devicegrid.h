@@ -9,8 +9,8 @@
 
 namespace CorvelGui {
 
-/// Keeps edges on whole device pixels, so that bands and lines stay crisp at any scale factor. It expects a painter
-/// whose origin lies on a device pixel, as that of a widget does.
+/// Keeps edges on whole device pixels, so that bands and lines stay crisp at any scale factor. It
+/// expects a painter whose origin lies on a device pixel, as that of a widget does.
 class DeviceGrid
 {
 public:

@@ -11,8 +11,8 @@ namespace CorvelGui {
 
 /// A time on a label, with a line below it that points at a pixel column: the hot spot.
 ///
-/// The indicator only shows what it is told; it knows nothing of a scale. Outside its label and its line it lets
-/// everything through, mouse events included.
+/// The indicator only shows what it is told; it knows nothing of a scale. Outside its label and its
+/// line it lets everything through, mouse events included.
 class CORVELGUI_EXPORT Indicator : public QWidget
 {
     Q_OBJECT

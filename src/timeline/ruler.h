@@ -11,12 +11,13 @@
 
 namespace CorvelGui {
 
-/// The time ruler: a horizontal, zoomable scale over a recording period, with a play indicator and the recorded
-/// spans of the described tracks.
+/// The time ruler: a horizontal, zoomable scale over a recording period, with a play indicator and
+/// the recorded spans of the described tracks.
 ///
-/// Absolute times are milliseconds since the Unix epoch. A relative position is 0.0 at the begin limit of the period
-/// and 1.0 at its end limit. Until setTimeLimits() is called with a period there is no view, and only the bands are
-/// drawn. Setters are silent about what their caller set; signals say what that does to the view.
+/// Absolute times are milliseconds since the Unix epoch. A relative position is 0.0 at the begin
+/// limit of the period and 1.0 at its end limit. Until setTimeLimits() is called with a period
+/// there is no view, and only the bands are drawn. Setters are silent about what their caller set;
+/// signals say what that does to the view.
 class CORVELGUI_EXPORT Ruler : public QWidget
 {
     Q_OBJECT
@@ -27,16 +28,16 @@ public:
 
     // The period
 
-    /// Sets the recording period. The zoom level stays; the first period puts the view at its begin; an indicator
-    /// outside moves to the nearer limit. An empty period (also one that ends before it begins) leaves an empty
-    /// scale of one hour.
+    /// Sets the recording period. The zoom level stays; the first period puts the view at its
+    /// begin; an indicator outside moves to the nearer limit. An empty period (also one that ends
+    /// before it begins) leaves an empty scale of one hour.
     void setTimeLimits(quint64 begin, quint64 end);
     std::pair<quint64, quint64> getTimeLimits() const;
     /// Length of the period in milliseconds.
     quint64 getTotalDuration() const;
-    /// The zone of limits, indicator and labels, by IANA or Windows name; an empty or unknown name means the zone of
-    /// this machine. It counts for times that are set or computed from the limits afterwards; what is stored keeps
-    /// its zone.
+    /// The zone of limits, indicator and labels, by IANA or Windows name; an empty or unknown name
+    /// means the zone of this machine. It counts for times that are set or computed from the limits
+    /// afterwards; what is stored keeps its zone.
     void setTimeZone(const QString& name);
     /// What is known of the recorded tracks. Replaces what was set before.
     void setTrackDescriptions(const QList<TrackDescription>& tracks);
@@ -47,41 +48,46 @@ public:
     quint64 beginTime() const;
     /// First instant behind the view; may lie behind the end limit.
     quint64 endTime() const;
-    /// Number of rows of the zoom table: levels go from 0 (closest) to this number, which shows the whole period.
+    /// Number of rows of the zoom table: levels go from 0 (closest) to this number, which shows the
+    /// whole period.
     int getNrOfZooomLevels() const;
     int level() const;
-    /// Switches the zoom level. The instant at @p anchor (a fraction of the scale width, 0.0 to 1.0) stays in place
-    /// as far as the limits allow. An index outside the table shows the whole period.
+    /// Switches the zoom level. The instant at @p anchor (a fraction of the scale width, 0.0
+    /// to 1.0) stays in place as far as the limits allow. An index outside the table shows the
+    /// whole period.
     void changeLevel(int level, double anchor);
     /// Relative position of the centre of the view.
     double getCurrentCenterPosition() const;
-    /// Relative position of @p time; negative before the begin limit, more than 1.0 after the end limit.
+    /// Relative position of @p time; negative before the begin limit, more than 1.0 after the end
+    /// limit.
     double getPosition(const QDateTime& time) const;
     /// Pixels per millisecond at the current level; infinite while there is no period.
     double lengthPerMillisecond() const;
 
     // The indicator
 
-    /// Moves the indicator; 0 takes it away. The view pages after it. Returns false when the indicator stays where
-    /// it is, because the move is shorter than a pixel.
+    /// Moves the indicator; 0 takes it away. The view pages after it. Returns false when the
+    /// indicator stays where it is, because the move is shorter than a pixel.
     bool setIndicatorPosition(quint64 msecs);
     quint64 getIndicatorMSecs() const;
     /// Relative position of the indicator.
     double getIndicatorPosition() const;
-    /// The time of the preview line; 0 clears it. It is drawn while onPreviewVisible() says so. Always returns true.
+    /// The time of the preview line; 0 clears it. It is drawn while onPreviewVisible() says so.
+    /// Always returns true.
     bool setPreviewIndicatorPosition(quint64 msecs);
 
     // The search range
 
-    /// Stores the range, and with @p adjustZoom shows it at the closest level that holds it. Invalid or reversed
-    /// times take the range away.
+    /// Stores the range, and with @p adjustZoom shows it at the closest level that holds it.
+    /// Invalid or reversed times take the range away.
     void setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom);
     void resetSearchTimeRange();
     void displaySearchTimeRange(bool display);
 
     // Appearance and state
 
-    /// True puts the theme's colours in. False leaves the colours as they are, and changes the indicator's only.
+    /// True puts the theme's colours in. False leaves the colours as they are, and changes the
+    /// indicator's only.
     void setOrvaneGuiTheme(bool on);
     /// Point size of all text on the ruler.
     void setFontSize(unsigned int points);
@@ -95,7 +101,8 @@ public:
     void setResultMode(bool on);
     /// Selects the indicator's colour; shows when the theme is applied again.
     void setPlayMode(bool on);
-    /// An inactive ruler has no indicator and keeps its children as they are. A blocked one ignores the mouse.
+    /// An inactive ruler has no indicator and keeps its children as they are. A blocked one ignores
+    /// the mouse.
     void setActive(bool active, bool blocked);
     /// Derives height and layout from the height of the indicator's label.
     void updateSize();
@@ -120,12 +127,13 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Emitted after every change of level and after every refused zoom request.
     void changeSliderZoom(int level);
-    /// Emitted when the view moved, except by onTimelineOffsetChanged() and by paging after the indicator.
+    /// Emitted when the view moved, except by onTimelineOffsetChanged() and by paging after the
+    /// indicator.
     void centerPositionChanged(double position);
-    /// Emitted when the view changed: the limits, the view without what lies before the begin limit, and whether more
-    /// changes follow at once (@p moving).
-    void timeLineViewChanged(const QDateTime& beginLimit, const QDateTime& endLimit, const QDateTime& viewBegin,
-                             const QDateTime& viewEnd, bool moving);
+    /// Emitted when the view changed: the limits, the view without what lies before the begin
+    /// limit, and whether more changes follow at once (@p moving).
+    void timeLineViewChanged(const QDateTime& beginLimit, const QDateTime& endLimit,
+                             const QDateTime& viewBegin, const QDateTime& viewEnd, bool moving);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

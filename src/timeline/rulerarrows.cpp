@@ -16,7 +16,8 @@ namespace {
 constexpr int repeatInterval = 200; // milliseconds
 constexpr double halfMargin = TimeScale::margin() / 2;
 
-/// A strip as narrow as the ruler's outer margin. The icon is wider than that: its sides, which are empty, are cut.
+/// A strip as narrow as the ruler's outer margin. The icon is wider than that: its sides, which are
+/// empty, are cut.
 class ArrowButton : public QAbstractButton
 {
 public:
@@ -44,9 +45,11 @@ protected:
 } // namespace
 
 RulerArrows::RulerArrows(QWidget* ruler, std::function<bool(int)> canStep)
-    : QObject(ruler), m_ruler(ruler), m_canStep(std::move(canStep)),
-      m_left(new ArrowButton(ruler, u":/CorvelGui/common/leftarrow.png"_s)),
-      m_right(new ArrowButton(ruler, u":/CorvelGui/common/rightarrow.png"_s))
+    : QObject(ruler)
+    , m_ruler(ruler)
+    , m_canStep(std::move(canStep))
+    , m_left(new ArrowButton(ruler, u":/CorvelGui/common/leftarrow.png"_s))
+    , m_right(new ArrowButton(ruler, u":/CorvelGui/common/rightarrow.png"_s))
 {
     m_left->installEventFilter(this);
     m_right->installEventFilter(this);

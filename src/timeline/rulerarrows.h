@@ -10,7 +10,8 @@ class QWidget;
 
 namespace CorvelGui {
 
-/// The two buttons at the ends of the ruler: one step on a press, and another every 200 ms while a button is held.
+/// The two buttons at the ends of the ruler: one step on a press, and another every 200 ms while a
+/// button is held.
 class RulerArrows : public QObject
 {
     Q_OBJECT

@@ -60,9 +60,9 @@ void RulerPainter::createGradients(const QRect& rect, int headerHeight)
 
     const double bodyHeight = rect.bottom() - rect.top() - headerHeight;
     // The last half header fades into the edge colour.
-    const double fade =
-        bodyHeight > 0 ? std::clamp((bodyHeight - headerHeight / 2) / bodyHeight, 0.75, 0.95)
-                       : 0.75;
+    const double fade = bodyHeight > 0
+                            ? std::clamp((bodyHeight - headerHeight / 2) / bodyHeight, 0.75, 0.95)
+                            : 0.75;
     QLinearGradient track(0, headerHeight + rect.top(), 0, rect.bottom());
     track.setColorAt(0.0, colors.header);
     track.setColorAt(0.7, colors.track);
@@ -171,14 +171,17 @@ void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, co
     const QPen minorPen = pen(90);
     const QPen textPen = pen(200);
 
-    const TickLayout layout = layoutTicks(
-        scene.scale, rect, {painter.fontMetrics(), scene.headerHeight, scene.dateFormat},
-        toMidnight);
+    const TickLayout layout =
+        layoutTicks(scene.scale, rect,
+                    {painter.fontMetrics(), scene.headerHeight, scene.dateFormat}, toMidnight);
+    // The lines lie on the device's grid; antialiasing would only bring rounding errors in.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     for (const Tick& tick : layout.ticks) {
         const double x = grid.lineCenter(tick.x, lineWidth);
         painter.setPen(tick.major ? majorPen : minorPen);
         painter.drawLine(QPointF(x, tick.top), QPointF(x, tick.bottom));
     }
+    painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(textPen);
     for (const TickLabel& label : layout.labels)
         painter.drawText(QPointF(label.x, label.baseline), label.text);

@@ -44,13 +44,15 @@ struct RulerScene
     std::optional<qint64> previewTime;   ///< only while it is visible
 };
 
-/// Draws the ruler's bands, highlights and scale. It decides about colours and pixels, never about times.
+/// Draws the ruler's bands, highlights and scale. It decides about colours and pixels, never about
+/// times.
 class CORVELGUI_INTERNAL_EXPORT RulerPainter
 {
 public:
     RulerColors colors;
 
-    /// Makes the gradients for a ruler that fills @p rect. Colours changed later show with the next call.
+    /// Makes the gradients for a ruler that fills @p rect. Colours changed later show with the next
+    /// call.
     void createGradients(const QRect& rect, int headerHeight);
 
     void paint(QPainter& painter, const RulerScene& scene) const;

@@ -17,14 +17,15 @@ class Layouter
 {
 public:
     Layouter(const TimeScale& scale, const QRectF& rect, const TickStyle& style)
-        : m_scale(scale), m_rect(rect), m_style(style),
-          m_lineHeight(style.metrics.boundingRect(u'0').height() + 2),
-          m_length(scale.getIntervalLength(scale.level())),
-          m_subIntervals(scale.getSubIntervalNumber(scale.level())),
-          m_subLength(std::floor(m_length / m_subIntervals)),
-          m_showsTimes(scale.millisecondsPerInterval() <= longestLabelledInterval)
-    {
-    }
+        : m_scale(scale)
+        , m_rect(rect)
+        , m_style(style)
+        , m_lineHeight(style.metrics.boundingRect(u'0').height() + 2)
+        , m_length(scale.getIntervalLength(scale.level()))
+        , m_subIntervals(scale.getSubIntervalNumber(scale.level()))
+        , m_subLength(std::floor(m_length / m_subIntervals))
+        , m_showsTimes(scale.millisecondsPerInterval() <= longestLabelledInterval)
+    {}
 
     TickLayout layOut(qint64 toMidnight)
     {
@@ -33,8 +34,8 @@ public:
         double x = TimeScale::margin() + m_scale.lengthPerMillisecond() * offset;
 
         addTicksBefore(x);
-        // Two intervals a round. Where the second tick is cut off on the right, its label may still be seen: labels
-        // reach one margin further than lines.
+        // Two intervals a round. Where the second tick is cut off on the right, its label may still
+        // be seen: labels reach one margin further than lines.
         for (; m_length > 0 && x <= m_rect.right(); offset += 2 * interval, x += 2 * m_length) {
             const Texts first = textsAt(offset);
             const Texts second = textsAt(offset + interval);
@@ -90,9 +91,8 @@ private:
             texts.date.isEmpty() ? 0.0 : m_style.metrics.horizontalAdvance(texts.date) + 2.0;
         for (int k = 1; k < m_subIntervals; ++k) {
             // Below the date, where there is one.
-            const double top = k * m_subLength < dateWidth
-                                   ? m_rect.top() + 2 * m_lineHeight + 4
-                                   : bodyTop();
+            const double top =
+                k * m_subLength < dateWidth ? m_rect.top() + 2 * m_lineHeight + 4 : bodyTop();
             m_layout.ticks.push_back({x + k * m_subLength, top, m_rect.bottom(), false});
         }
     }

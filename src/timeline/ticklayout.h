@@ -46,7 +46,8 @@ struct TickStyle
 /// Milliseconds from the view start to the midnight after it, on the clock of the view.
 CORVELGUI_INTERNAL_EXPORT qint64 msecsToMidnight(const TimeScale& scale);
 
-/// Lays out the scale within @p rect. Major ticks fall on whole intervals counted from the midnight that comes
+/// Lays out the scale within @p rect. Major ticks fall on whole intervals counted from the midnight
+/// that comes
 /// @p toMidnight milliseconds after the view start.
 CORVELGUI_INTERNAL_EXPORT TickLayout layoutTicks(const TimeScale& scale, const QRectF& rect,
                                                  const TickStyle& style, qint64 toMidnight);

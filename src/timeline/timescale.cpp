@@ -21,7 +21,8 @@ constexpr qint64 day = 24 * hour;
 // Labels show seconds where the whole period is shorter than this.
 constexpr quint64 secondsLabelLimit = 30 * minute;
 
-// Instants beyond the year 275760 are cut off here, so that sums of an instant and a span never overflow.
+// Instants beyond the year 275760 are cut off here, so that sums of an instant and a span never
+// overflow.
 constexpr quint64 latestInstant = 8'640'000'000'000'000;
 
 constexpr ZoomLevel zoomLevel(qint64 span, qint32 intervals, qint32 subIntervals)
@@ -33,10 +34,10 @@ constexpr ZoomLevel zoomLevel(qint64 span, qint32 intervals, qint32 subIntervals
 
 const std::array<ZoomLevel, TimeScale::levelCount>& TimeScale::zoomLevels()
 {
-    static constexpr std::array levels{
-        zoomLevel(20 * minute, 10, 8), zoomLevel(hour, 12, 5),    zoomLevel(3 * hour, 18, 5),
-        zoomLevel(12 * hour, 24, 3),   zoomLevel(day, 24, 5),     zoomLevel(3 * day, 24, 3),
-        zoomLevel(7 * day, 21, 2),     zoomLevel(14 * day, 14, 2)};
+    static constexpr std::array levels{zoomLevel(20 * minute, 10, 8), zoomLevel(hour, 12, 5),
+                                       zoomLevel(3 * hour, 18, 5),    zoomLevel(12 * hour, 24, 3),
+                                       zoomLevel(day, 24, 5),         zoomLevel(3 * day, 24, 3),
+                                       zoomLevel(7 * day, 21, 2),     zoomLevel(14 * day, 14, 2)};
     return levels;
 }
 
@@ -87,9 +88,10 @@ bool TimeScale::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to
         return level.millisecondsPerLevel >= range;
     });
     m_level = int(row - levels.begin());
-    m_viewStart = Instant(
-        row == levels.end() ? from
-                            : from.addMSecs((qint64(range) - qint64(row->millisecondsPerLevel)) / 2));
+    m_viewStart =
+        Instant(row == levels.end()
+                    ? from
+                    : from.addMSecs((qint64(range) - qint64(row->millisecondsPerLevel)) / 2));
     // No limit at the end: a range close to it may leave the view running past it.
     if (m_viewStart.msecs < m_begin.msecs)
         m_viewStart = m_begin;
@@ -122,14 +124,15 @@ void TimeScale::centerOn(double position)
 
 bool TimeScale::canZoomOut() const
 {
-    // Strictly shorter, while a row exactly as long as the period is effective: it shows everything already.
+    // Strictly shorter, while a row exactly as long as the period is effective: it shows everything
+    // already.
     return m_level < levelCount && zoomLevels()[m_level].millisecondsPerLevel < m_totalDuration;
 }
 
 bool TimeScale::isEffective(int level) const
 {
-    return level >= 0 && level < levelCount
-           && zoomLevels()[level].millisecondsPerLevel <= m_totalDuration;
+    return level >= 0 && level < levelCount &&
+           zoomLevels()[level].millisecondsPerLevel <= m_totalDuration;
 }
 
 quint64 TimeScale::spanOfLevel(int level) const
@@ -150,8 +153,7 @@ double TimeScale::getIntervalLength(int level) const
         const ZoomLevel& row = zoomLevels()[level];
         return std::floor(row.millisecondsPerInterval * (pixels / row.millisecondsPerLevel));
     }
-    return m_totalDuration == 0 ? 0.0
-                                : std::floor(pixels / m_totalDuration * m_wholeRangeInterval);
+    return m_totalDuration == 0 ? 0.0 : std::floor(pixels / m_totalDuration * m_wholeRangeInterval);
 }
 
 int TimeScale::getSubIntervalNumber(int level) const
@@ -237,7 +239,8 @@ void TimeScale::getNewStartDateTime(int level, double anchor)
         return;
     }
 
-    // The anchor counts the scale's last pixel, one less than the scale is wide: kept from the product line.
+    // The anchor counts the scale's last pixel, one less than the scale is wide: kept from the
+    // product line.
     const double lastPixel = std::max(scaleWidth() - 1, 1.0);
     const double inScale = anchor > 0.0 ? std::min(anchor, 1.0) : 0.0;
     const int anchorX = int(margin() + lastPixel * inScale);

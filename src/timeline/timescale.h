@@ -18,14 +18,16 @@ struct ZoomLevel
     quint32 millisecondsPerInterval; ///< one major interval
 };
 
-/// The time model of the ruler: which period it covers, which part of it is in view, and every conversion between
-/// an instant, a pixel column and a relative position.
+/// The time model of the ruler: which period it covers, which part of it is in view, and every
+/// conversion between an instant, a pixel column and a relative position.
 ///
-/// A relative position is 0.0 at the begin limit and 1.0 at the end limit. A pixel position is an x coordinate in the
-/// widget; the scale runs from the margin to the width less the margin. Instants keep the time zone in which they
-/// were made: a new zone counts for limits that are set afterwards.
+/// A relative position is 0.0 at the begin limit and 1.0 at the end limit. A pixel position is an x
+/// coordinate in the widget; the scale runs from the margin to the width less the margin. Instants
+/// keep the time zone in which they were made: a new zone counts for limits that are set
+/// afterwards.
 ///
-/// Plain value without events or signals: the ruler decides what a change means for its surroundings.
+/// Plain value without events or signals: the ruler decides what a change means for its
+/// surroundings.
 class CORVELGUI_INTERNAL_EXPORT TimeScale
 {
 public:
@@ -36,7 +38,8 @@ public:
     static const std::array<ZoomLevel, levelCount>& zoomLevels();
 
     // The period
-    /// An empty period (and one that ends before it begins) leaves a scale of one hour without a view.
+    /// An empty period (and one that ends before it begins) leaves a scale of one hour without a
+    /// view.
     void setTimeLimits(quint64 beginMs, quint64 endMs);
     const QDateTime& beginLimit() const { return m_begin.time; }
     const QDateTime& endLimit() const { return m_end.time; }
@@ -68,13 +71,16 @@ public:
 
     // The level
     int level() const { return m_level; }
-    /// Makes @p level current, with the view around an anchor: the instant at the fraction @p anchor (0.0 to 1.0) of
-    /// the scale stays where it is as far as the limits allow. Any index outside the table shows the whole period.
+    /// Makes @p level current, with the view around an anchor: the instant at the fraction @p
+    /// anchor (0.0 to 1.0) of the scale stays where it is as far as the limits allow. Any index
+    /// outside the table shows the whole period.
     void changeLevel(int level, double anchor);
-    /// Makes the closest level current that shows the whole range, with the range in the middle of the view. Returns
-    /// false and changes nothing unless there is a period and both times are valid and in order.
+    /// Makes the closest level current that shows the whole range, with the range in the middle of
+    /// the view. Returns false and changes nothing unless there is a period and both times are
+    /// valid and in order.
     bool setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
-    /// True while the view can grow: the current level is a row of the table shorter than the period.
+    /// True while the view can grow: the current level is a row of the table shorter than the
+    /// period.
     bool canZoomOut() const;
 
     /// Visible span in milliseconds.
@@ -100,11 +106,14 @@ public:
     QString getTickerString(qint64 offsetMs) const;
 
 private:
-    /// A time with its distance from the epoch at hand, because QDateTime may have to ask the zone for it.
+    /// A time with its distance from the epoch at hand, because QDateTime may have to ask the zone
+    /// for it.
     struct Instant
     {
         Instant() = default;
-        explicit Instant(const QDateTime& t) : time(t), msecs(t.isValid() ? t.toMSecsSinceEpoch() : 0) {}
+        explicit Instant(const QDateTime& t)
+            : time(t), msecs(t.isValid() ? t.toMSecsSinceEpoch() : 0)
+        {}
 
         QDateTime time;
         qint64 msecs = 0;

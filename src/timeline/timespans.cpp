@@ -7,7 +7,9 @@ namespace CorvelGui {
 TimeSpans joined(TimeSpans spans)
 {
     std::erase_if(spans, [](const TimeSpan& span) { return span.isEmpty(); });
-    const auto byBegin = [](const TimeSpan& a, const TimeSpan& b) { return a.begin < b.begin; };
+    const auto byBegin = [](const TimeSpan& a, const TimeSpan& b) {
+        return a.begin < b.begin;
+    };
     if (!std::is_sorted(spans.begin(), spans.end(), byBegin))
         std::sort(spans.begin(), spans.end(), byBegin);
 

@@ -18,14 +18,16 @@ struct TimeSpan
 
 /// What is known of one track: the period in which it is described, and what was recorded in it.
 ///
-/// Outside [begin, end) nothing is known. Inside it, what no recorded span covers is known to be without recording.
+/// Outside [begin, end) nothing is known. Inside it, what no recorded span covers is known to be
+/// without recording.
 struct TrackDescription
 {
     QString identifier;
     QString name;
     qint64 begin = 0;
     qint64 end = 0;
-    /// In any order; spans may overlap, and may reach beyond the described period, which they then extend.
+    /// In any order; spans may overlap, and may reach beyond the described period, which they then
+    /// extend.
     QList<TimeSpan> recorded;
 };
 

@@ -16,7 +16,9 @@ TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
         return segments;
 
     const auto endsUpTo = [&scale](double x) {
-        return [&scale, x](const TimeSpan& span) { return scale.xAt(span.end) <= x; };
+        return [&scale, x](const TimeSpan& span) {
+            return scale.xAt(span.end) <= x;
+        };
     };
     auto span = std::partition_point(spans.begin(), spans.end(), endsUpTo(left));
     while (span != spans.end()) {
@@ -51,9 +53,8 @@ void TrackSegments::setTracks(const QList<TrackDescription>& tracks)
 
 bool TrackSegments::isTrackLimitChanged(const TimeScale& scale) const
 {
-    return hasTracks()
-           && (scale.beginLimitMs() < m_described.front().begin
-               || m_described.back().end < scale.endLimitMs());
+    return hasTracks() && (scale.beginLimitMs() < m_described.front().begin ||
+                           m_described.back().end < scale.endLimitMs());
 }
 
 void TrackSegments::update(const TimeScale& scale)

@@ -23,20 +23,22 @@ struct TrackSegment
 
 using TrackSegmentList = std::vector<TrackSegment>;
 
-/// The segments under which @p spans are seen in the view of @p scale. What shares pixel columns comes as one
-/// segment, so the work follows the columns in view and the logarithm of the number of spans.
+/// The segments under which @p spans are seen in the view of @p scale. What shares pixel columns
+/// comes as one segment, so the work follows the columns in view and the logarithm of the number of
+/// spans.
 CORVELGUI_INTERNAL_EXPORT TrackSegmentList visibleSegments(const TimeSpans& spans,
                                                            const TimeScale& scale);
 
-/// What the described tracks together know of the period: recorded where any of them has a recording, a gap where
-/// some track is described and none has a recording, and nothing elsewhere.
+/// What the described tracks together know of the period: recorded where any of them has a
+/// recording, a gap where some track is described and none has a recording, and nothing elsewhere.
 class CORVELGUI_INTERNAL_EXPORT TrackSegments
 {
 public:
     void setTracks(const QList<TrackDescription>& tracks);
     bool hasTracks() const { return !m_described.empty(); }
 
-    /// True when the limits of @p scale reach beyond the described tracks, at the begin or at the end.
+    /// True when the limits of @p scale reach beyond the described tracks, at the begin or at the
+    /// end.
     bool isTrackLimitChanged(const TimeScale& scale) const;
 
     /// Makes the two lists of segments for the view of @p scale.

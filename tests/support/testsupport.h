@@ -2,12 +2,12 @@
 
 #include <QObject>
 
-/// Base of all test classes: a test fails on every warning that it did not announce with QTest::ignoreMessage().
-/// A class that has an init() of its own calls this one from it.
+/// Base of all test classes: a test fails on every warning that it did not announce with
+/// QTest::ignoreMessage(). A class that has an init() of its own calls this one from it.
 class WarningFreeTest : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
 };

@@ -1,0 +1,289 @@
+#include "testsupport.h"
+#include "ticklayout.h"
+#include "times.h"
+#include "timescale.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace CorvelGui;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int width = 1020;
+constexpr int headerHeight = 15;
+
+TimeScale scaleOf(const QDateTime& begin, qint64 duration)
+{
+    TimeScale scale;
+    scale.setWidth(width);
+    scale.setTimeZone(begin.timeZone());
+    scale.setTimeLimits(quint64(begin.toMSecsSinceEpoch()),
+                        quint64(begin.toMSecsSinceEpoch() + duration));
+    return scale;
+}
+
+QDateTime utc(const QString& text)
+{
+    QDateTime time = QDateTime::fromString(text, Qt::ISODate);
+    time.setTimeZone(QTimeZone::utc());
+    return time;
+}
+
+TickStyle style()
+{
+    return {QFontMetrics(QFont()), headerHeight, u"dd.MM.yy"_s};
+}
+
+int lineHeight()
+{
+    return style().metrics.boundingRect(u'0').height() + 2;
+}
+
+TickLayout layoutOf(const TimeScale& scale)
+{
+    return layoutTicks(scale, QRectF(5, 0, width - 10, 60), style(), msecsToMidnight(scale));
+}
+
+std::vector<Tick> ticks(const TickLayout& layout, bool major)
+{
+    std::vector<Tick> result;
+    std::copy_if(layout.ticks.begin(), layout.ticks.end(), std::back_inserter(result),
+                 [major](const Tick& tick) { return tick.major == major; });
+    return result;
+}
+
+QStringList texts(const TickLayout& layout)
+{
+    QStringList result;
+    for (const TickLabel& label : layout.labels)
+        result << label.text;
+    return result;
+}
+
+} // namespace
+
+class TestTickLayout : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void labelsAcrossMidnight();
+    void labelPositions();
+    void levelsWithoutTimes_data();
+    void levelsWithoutTimes();
+    void minorTicksBeforeTheFirstMajorOne_data();
+    void minorTicksBeforeTheFirstMajorOne();
+    void minorTicksPassBelowDates();
+    void lastLabelReachesFurtherThanLines();
+    void noLengthNoTicks();
+    void clockChanges_data();
+    void clockChanges();
+    void midnightThatDoesNotExist();
+};
+
+void TestTickLayout::labelsAcrossMidnight()
+{
+    TimeScale scale = scaleOf(utc(u"2026-03-02T23:50:00"_s), 10 * day);
+    const TickLayout layout = layoutOf(scale);
+
+    QCOMPARE(msecsToMidnight(scale), 10 * minute);
+    QCOMPARE(ticks(layout, true).front().x, 10.0);
+    QCOMPARE(texts(layout).mid(0, 6), (QStringList{u"23:50"_s, u"02.03.26"_s, u"23:55"_s,
+                                                   u"00:00"_s, u"03.03.26"_s, u"00:05"_s}));
+    QCOMPARE(texts(layout).count(u"03.03.26"_s), 1);
+}
+
+void TestTickLayout::labelPositions()
+{
+    // 00:03 puts the first major tick two minutes, 33.33 pixels, into the scale.
+    const TimeScale scale = scaleOf(utc(u"2026-03-02T00:03:00"_s), 10 * day);
+    const TickLayout layout = layoutOf(scale);
+    const std::vector<Tick> major = ticks(layout, true);
+
+    QVERIFY(qAbs(major[0].x - (10 + 1000.0 / 30)) < 1e-9);
+    QCOMPARE(major[1].x - major[0].x, 83.0);
+    QCOMPARE(major[0].top, 0.0);
+    QCOMPARE(major[0].bottom, 60.0);
+    QCOMPARE(layout.labels[0].x, 45.0);
+    QCOMPARE(layout.labels[0].baseline, double(lineHeight()));
+    QCOMPARE(layout.labels[1].text, u"02.03.26"_s);
+    QCOMPARE(layout.labels[1].x, 45.0);
+    QCOMPARE(layout.labels[1].baseline, 2.0 * lineHeight());
+    QCOMPARE(layout.labels[2].x, 45.0 + 83.0);
+}
+
+void TestTickLayout::levelsWithoutTimes_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<bool>("hasTimes");
+
+    QTest::newRow("3 hours apart") << 5 << true;
+    QTest::newRow("8 hours apart, the last with times") << 6 << true;
+    QTest::newRow("a day apart") << 7 << false;
+    QTest::newRow("two days apart") << 8 << false;
+}
+
+void TestTickLayout::levelsWithoutTimes()
+{
+    QFETCH(int, level);
+    QFETCH(bool, hasTimes);
+
+    TimeScale scale = scaleOf(utc(u"2026-03-02T00:00:00"_s), 30 * day);
+    scale.changeLevel(level, 0.0);
+    const TickLayout layout = layoutOf(scale);
+    const QStringList labels = texts(layout);
+    QCOMPARE(labels.contains(u"00:00"_s), hasTimes);
+    const qsizetype date = labels.indexOf(u"03.03.26"_s);
+    QVERIFY(date >= 0);
+    QCOMPARE(layout.labels[date].baseline, double(hasTimes ? 2 * lineHeight() : lineHeight()));
+}
+
+void TestTickLayout::minorTicksBeforeTheFirstMajorOne_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<qint64>("start");
+    QTest::addColumn<QList<double>>("expected");
+
+    // Level 7: days of 71 pixels in 2 divisions of 35; midnight comes at x = 10 + 1000 / 14 *
+    // fraction.
+    QTest::newRow("past the major tick before") << 7 << day / 2 << QList<double>{45.714 - 35};
+    QTest::newRow("none left of the margin") << 7 << 22 * hour << QList<double>{};
+    // Level 0: 2 minutes of 100 pixels in 8 divisions of 12; the major tick stands at x = 95.
+    QTest::newRow("four at most") << 0 << 18 * second << QList<double>{83, 71, 59, 47};
+}
+
+void TestTickLayout::minorTicksBeforeTheFirstMajorOne()
+{
+    QFETCH(int, level);
+    QFETCH(qint64, start);
+    QFETCH(QList<double>, expected);
+
+    TimeScale scale = scaleOf(utc(u"2026-03-02T00:00:00"_s).addMSecs(start), 30 * day);
+    scale.changeLevel(level, 0.0);
+    const TickLayout layout = layoutOf(scale);
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        const Tick& tick = layout.ticks.at(i);
+        QVERIFY(!tick.major);
+        QVERIFY2(qAbs(tick.x - expected[i]) < 0.01, qPrintable(QString::number(tick.x)));
+        QCOMPARE(tick.top, double(headerHeight));
+    }
+    QVERIFY(layout.ticks.at(expected.size()).major);
+}
+
+void TestTickLayout::minorTicksPassBelowDates()
+{
+    const TimeScale scale = scaleOf(utc(u"2026-03-02T00:00:00"_s), 10 * day);
+    const TickLayout layout = layoutOf(scale);
+    const double dateWidth = style().metrics.horizontalAdvance(u"02.03.26"_s) + 2;
+
+    // 5 minutes of 83 pixels in 5 divisions of 16, the date at the first tick only.
+    const std::vector<Tick> minor = ticks(layout, false);
+    for (int k = 1; k <= 4; ++k) {
+        QCOMPARE(minor[k - 1].x, 10.0 + k * 16);
+        QCOMPARE(minor[k - 1].top,
+                 k * 16 < dateWidth ? 2.0 * lineHeight() + 4 : double(headerHeight));
+        QCOMPARE(minor[3 + k].top, double(headerHeight));
+    }
+    QVERIFY(16 < dateWidth);
+}
+
+void TestTickLayout::lastLabelReachesFurtherThanLines()
+{
+    // Ticks 100 pixels apart from x = 18: the 11th would stand at 1018, 3 pixels right of the
+    // rectangle.
+    TimeScale scale = scaleOf(utc(u"2026-03-02T00:00:00"_s).addMSecs(-9600), 10 * day);
+    scale.changeLevel(0, 0.0);
+    const TickLayout layout = layoutOf(scale);
+    QCOMPARE(ticks(layout, true).back().x, 918.0);
+    QCOMPARE(layout.labels.back().x, 920.0);
+
+    // The second tick of a round stands at 918, right of a rectangle up to 910, and yet has its
+    // label at 920.
+    const TickLayout narrow =
+        layoutTicks(scale, QRectF(5, 0, 905, 60), style(), msecsToMidnight(scale));
+    QCOMPARE(ticks(narrow, true).back().x, 818.0);
+    QCOMPARE(narrow.labels.back().x, 920.0);
+    const TickLayout narrower =
+        layoutTicks(scale, QRectF(5, 0, 904, 60), style(), msecsToMidnight(scale));
+    QCOMPARE(narrower.labels.back().x, 820.0);
+}
+
+void TestTickLayout::noLengthNoTicks()
+{
+    TimeScale scale = scaleOf(utc(u"2026-03-02T00:00:00"_s), 10 * day);
+    scale.setWidth(25);
+    QVERIFY(layoutTicks(scale, QRectF(5, 0, 15, 60), style(), 0).ticks.empty());
+}
+
+void TestTickLayout::clockChanges_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QString>("change");
+
+    const auto row = [](const char* zone, const QString& change) {
+        QTest::addRow("%s %s", zone, qPrintable(change)) << QByteArray(zone) << change;
+    };
+    row("Europe/Berlin", u"2026-03-29T01:00:00"_s);
+    row("Europe/Berlin", u"2026-10-25T01:00:00"_s);
+    row("America/New_York", u"2026-03-08T07:00:00"_s);
+    row("America/New_York", u"2026-11-01T06:00:00"_s);
+    row("Australia/Lord_Howe", u"2026-04-04T15:00:00"_s);
+    row("Australia/Lord_Howe", u"2026-10-03T15:30:00"_s);
+    row("Asia/Kathmandu", u"1985-12-31T18:30:00"_s);
+}
+
+void TestTickLayout::clockChanges()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(QString, change);
+
+    const QTimeZone timeZone(zone);
+    const QDateTime changeTime = utc(change).toTimeZone(timeZone);
+    QVERIFY(changeTime.offsetFromUtc() != changeTime.addMSecs(-1).offsetFromUtc());
+
+    TimeScale scale = scaleOf(changeTime.addDays(-40), 80 * day);
+    for (int level = 0; level <= TimeScale::wholeRangeLevel; ++level) {
+        scale.changeLevel(level, 0.0);
+        for (int part = 0; part < 20; ++part) {
+            // The change wanders through the view.
+            scale.setViewStart(
+                changeTime.addMSecs(-qint64(scale.millisecondsPerLevel()) * part / 20));
+            const TickLayout layout = layoutOf(scale);
+            const std::vector<Tick> major = ticks(layout, true);
+            const double length = scale.getIntervalLength(level);
+            const qint64 interval = scale.millisecondsPerInterval();
+            QCOMPARE(double(major.size()), std::floor((width - 5 - major[0].x) / length) + 1);
+
+            // Every tick says the local time of its instant.
+            const qint64 first = msecsToMidnight(scale) % interval;
+            size_t label = 0;
+            QDate lastDate;
+            for (size_t i = 0; i < major.size(); ++i) {
+                QCOMPARE(major[i].x, major[0].x + double(i) * length);
+                const QDateTime time = QDateTime::fromMSecsSinceEpoch(
+                    scale.viewStartMs() + first + qint64(i) * interval, timeZone);
+                if (interval <= 8 * hour)
+                    QCOMPARE(layout.labels.at(label++).text, time.toString(u"hh:mm"_s));
+                if (time.date() != lastDate)
+                    QCOMPARE(layout.labels.at(label++).text, time.toString(u"dd.MM.yy"_s));
+                lastDate = time.date();
+            }
+        }
+    }
+}
+
+void TestTickLayout::midnightThatDoesNotExist()
+{
+    // On this day the clocks of Beirut went from 23:59 to 01:00.
+    const QDateTime start(QDate(2020, 3, 28), QTime(22, 0), QTimeZone("Asia/Beirut"));
+    const TimeScale scale = scaleOf(start, 10 * day);
+    QCOMPARE(msecsToMidnight(scale), 2 * hour);
+    QVERIFY(texts(layoutOf(scale)).contains(u"22:55"_s));
+}
+
+QTEST_MAIN(TestTickLayout)
+#include "tst_ticklayout.moc"
