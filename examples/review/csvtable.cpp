@@ -1,0 +1,87 @@
+#include "csvtable.h"
+
+#include "csvreader.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+namespace {
+
+constexpr qsizetype missing = -1;
+
+/// The text of @p path, or nothing and a reason in @p error.
+QByteArray contents(const QString& path, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = file.errorString();
+        return {};
+    }
+    const QByteArray text = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        error = file.errorString();
+    return text;
+}
+
+} // namespace
+
+QString CsvTable::read(const QString& path, const QStringList& neededColumns,
+                       const QStringList& optionalColumns, const LineHandler& handler,
+                       ProblemList& problems)
+{
+    const auto unreadable = [&path](const QString& reason) {
+        return tr("Cannot read %1: %2").arg(QDir::toNativeSeparators(path), reason);
+    };
+
+    QString error;
+    CsvReader reader(contents(path, error));
+    if (!error.isEmpty())
+        return unreadable(error);
+    if (!reader.next() || reader.fault() != CsvReader::Fault::None)
+        return unreadable(tr("it has no header line that names its columns"));
+
+    QStringList header;
+    for (const QByteArray& field : reader.fields())
+        header.append(QString::fromUtf8(field).trimmed());
+    QList<qsizetype> positions;
+    for (const QString& column : neededColumns + optionalColumns) {
+        positions.append(header.indexOf(column));
+        if (positions.last() == missing && neededColumns.contains(column))
+            return unreadable(tr("it has no column “%1”").arg(column));
+        if (header.count(column) > 1)
+            return unreadable(tr("it has more than one column “%1”").arg(column));
+    }
+
+    Values values(positions.size());
+    const auto handle = [&]() -> QString {
+        switch (reader.fault()) {
+        case CsvReader::Fault::NotUtf8:
+            return tr("the line is not UTF-8");
+        case CsvReader::Fault::OpenQuote:
+            return tr("a quote is not closed");
+        case CsvReader::Fault::TextBehindQuote:
+            return tr("there is text behind a closing quote");
+        case CsvReader::Fault::None:
+            break;
+        }
+        const QList<QByteArray>& fields = reader.fields();
+        if (fields.size() != header.size())
+            return tr("%1 fields instead of %2").arg(fields.size()).arg(header.size());
+        for (qsizetype i = 0; i < positions.size(); ++i)
+            values[i] = positions[i] == missing ? QByteArrayView()
+                                                : QByteArrayView(fields[positions[i]]).trimmed();
+        return handler(values);
+    };
+    while (reader.next()) {
+        const QString problem = handle();
+        if (!problem.isEmpty())
+            problems.add({path, reader.line(), problem});
+    }
+    return {};
+}
+
+} // namespace Review

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "csvtable.h"
+
+#include <CorvelGui/TrackDescription>
+
+#include <QCoreApplication>
+
+namespace Review {
+
+/// Turns the values of a line into times and spans. Each operation returns what is wrong with the
+/// values, or an empty string and the results in its last arguments.
+class LineParser
+{
+    Q_DECLARE_TR_FUNCTIONS(Review::LineParser)
+
+public:
+    static QString parseTime(QByteArrayView text, qint64& result);
+    /// Reads the columns track, begin and end.
+    static QString parseTrackSpan(const CsvTable::Values& values, QString& track,
+                                  CorvelGui::TimeSpan& span);
+};
+
+} // namespace Review

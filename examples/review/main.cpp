@@ -1,0 +1,71 @@
+#include "commandline.h"
+#include "picture.h"
+#include "reviewloader.h"
+#include "reviewwindow.h"
+#include "sampledata.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+
+namespace {
+
+enum ExitCode { Success = 0, Failure = 1, BadUsage = 2 };
+
+int fail(ExitCode code, const QString& message)
+{
+    std::fputs(qPrintable(QCoreApplication::applicationName() + u": "_s + message + u'\n'), stderr);
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(u"corvel-review"_s);
+    QApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));
+
+    CommandLine commandLine;
+    switch (commandLine.parse(QApplication::arguments())) {
+    case CommandLine::Outcome::Answered:
+        std::fputs(qPrintable(commandLine.message()), stdout);
+        return Success;
+    case CommandLine::Outcome::Refused:
+        return fail(BadUsage, commandLine.message());
+    case CommandLine::Outcome::Run:
+        break;
+    }
+    const Arguments& arguments = commandLine.arguments();
+
+    ReviewLoader loader;
+    if (const QString error = loader.load(arguments.files); !error.isEmpty())
+        return fail(BadUsage, error);
+    const ReviewData data = arguments.files.isEmpty() ? SampleData::make() : loader.data();
+
+    ReviewWindow window(data, loader.problems(), arguments.zone, arguments.dark);
+    if (!arguments.size.isEmpty())
+        window.resize(arguments.size);
+    else if (!arguments.picture.isEmpty())
+        window.resize(1200, 700);
+    else
+        window.setCenterPosAndResize();
+    window.show();
+
+    if (!arguments.picture.isEmpty()) {
+        QTimer::singleShot(0, &window, [&] {
+            const QString error = writePicture(window, arguments.picture);
+            const QString path = QDir::toNativeSeparators(arguments.picture);
+            QApplication::exit(error.isEmpty() ? Success
+                                               : fail(Failure, QApplication::translate(
+                                                                   "Review", "Cannot write %1: %2")
+                                                                   .arg(path, error)));
+        });
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,45 @@
+#include "problemdock.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QListWidget>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+ProblemDock::ProblemDock(const ProblemList& problems, QWidget* parent)
+    : QDockWidget(parent), m_problems(problems), m_list(new QListWidget(this))
+{
+    setObjectName(u"problemDock"_s);
+    setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea | Qt::RightDockWidgetArea);
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setUniformItemSizes(true);
+    setWidget(m_list);
+    retranslate();
+}
+
+QSize ProblemDock::sizeHint() const
+{
+    constexpr int rowsAtFirst = 7;
+    return {QDockWidget::sizeHint().width(), rowsAtFirst * fontMetrics().lineSpacing() * 3 / 2};
+}
+
+void ProblemDock::retranslate()
+{
+    setWindowTitle(tr("Lines left out: %1").arg(QLocale().toString(m_problems.count())));
+    m_list->setAccessibleName(tr("Lines left out"));
+    m_list->clear();
+    for (const Problem& problem : m_problems.listed()) {
+        auto* item = new QListWidgetItem(u"%1:%2: %3"_s.arg(QFileInfo(problem.file).fileName())
+                                             .arg(problem.line)
+                                             .arg(problem.text),
+                                         m_list);
+        item->setToolTip(QDir::toNativeSeparators(problem.file).toHtmlEscaped());
+    }
+    if (m_problems.unlisted() > 0)
+        m_list->addItem(tr("and %1 more").arg(QLocale().toString(m_problems.unlisted())));
+}
+
+} // namespace Review

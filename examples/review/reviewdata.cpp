@@ -1,0 +1,52 @@
+#include "reviewdata.h"
+
+#include <algorithm>
+#include <limits>
+
+using CorvelGui::TimeSpan;
+using CorvelGui::TrackDescription;
+
+namespace Review {
+
+TimeSpan ReviewData::period() const
+{
+    TimeSpan period{.begin = std::numeric_limits<qint64>::max(), .end = 0};
+    const auto include = [&period](qint64 begin, qint64 end) {
+        period.begin = std::min(period.begin, begin);
+        period.end = std::max(period.end, end);
+    };
+    for (const TrackDescription& track : tracks) {
+        include(track.begin, track.end);
+        for (const TimeSpan& span : track.recorded)
+            include(span.begin, span.end);
+    }
+    for (const Event& event : events)
+        include(event.time, event.time);
+    return period.isEmpty() ? TimeSpan{} : period;
+}
+
+qsizetype ReviewData::recordingCount() const
+{
+    qsizetype count = 0;
+    for (const TrackDescription& track : tracks)
+        count += track.recorded.size();
+    return count;
+}
+
+qint64 recordedTime(const TrackDescription& track)
+{
+    QList<TimeSpan> spans = track.recorded;
+    std::sort(spans.begin(), spans.end(),
+              [](const TimeSpan& a, const TimeSpan& b) { return a.begin < b.begin; });
+    qint64 total = 0;
+    qint64 covered = std::numeric_limits<qint64>::min();
+    for (const TimeSpan& span : std::as_const(spans)) {
+        if (span.end > covered) {
+            total += span.end - std::max(span.begin, covered);
+            covered = span.end;
+        }
+    }
+    return total;
+}
+
+} // namespace Review

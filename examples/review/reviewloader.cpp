@@ -1,0 +1,112 @@
+#include "reviewloader.h"
+
+#include "lineparser.h"
+
+#include <algorithm>
+#include <limits>
+
+using CorvelGui::TimeSpan;
+using CorvelGui::TrackDescription;
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+namespace {
+
+// An empty period that every other one extends.
+constexpr TimeSpan notDescribed{.begin = std::numeric_limits<qint64>::max(), .end = 0};
+
+void extend(TrackDescription& track, const TimeSpan& span)
+{
+    track.begin = std::min(track.begin, span.begin);
+    track.end = std::max(track.end, span.end);
+}
+
+} // namespace
+
+QString ReviewLoader::load(const ReviewFiles& files)
+{
+    using Step = QString (ReviewLoader::*)(const QString&);
+    const std::pair<QString, Step> steps[] = {
+        {files.recordings, &ReviewLoader::loadRecordings},
+        {files.deployments, &ReviewLoader::loadDeployments},
+        {files.events, &ReviewLoader::loadEvents},
+    };
+    for (const auto& [path, step] : steps) {
+        if (path.isEmpty())
+            continue;
+        if (const QString error = (this->*step)(path); !error.isEmpty())
+            return error;
+    }
+
+    for (TrackDescription& track : m_data.tracks) {
+        if (track.begin != notDescribed.begin)
+            continue;
+        for (const TimeSpan& span : std::as_const(track.recorded))
+            extend(track, span);
+    }
+    return {};
+}
+
+QString ReviewLoader::loadRecordings(const QString& path)
+{
+    const auto add = [this](const CsvTable::Values& values) {
+        QString identifier;
+        TimeSpan span;
+        const QString fault = LineParser::parseTrackSpan(values, identifier, span);
+        if (fault.isEmpty())
+            track(identifier).recorded.append(span);
+        return fault;
+    };
+    return CsvTable::read(path, {u"track"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
+}
+
+QString ReviewLoader::loadDeployments(const QString& path)
+{
+    const auto add = [this](const CsvTable::Values& values) {
+        QString identifier;
+        TimeSpan span;
+        const QString fault = LineParser::parseTrackSpan(values, identifier, span);
+        if (fault.isEmpty())
+            extend(track(identifier), span);
+        return fault;
+    };
+    return CsvTable::read(path, {u"track"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
+}
+
+QString ReviewLoader::loadEvents(const QString& path)
+{
+    const auto add = [this](const CsvTable::Values& values) {
+        Event event{.time = 0,
+                    .kind = QString::fromUtf8(values[1]),
+                    .text = QString::fromUtf8(values[2]),
+                    .track = QString::fromUtf8(values[3])};
+        QString fault = LineParser::parseTime(values[0], event.time);
+        if (fault.isEmpty() && event.kind.isEmpty())
+            fault = tr("the event has no kind");
+        if (fault.isEmpty())
+            m_data.events.append(event);
+        return fault;
+    };
+    const QString error =
+        CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"track"_s}, add, m_problems);
+    std::stable_sort(m_data.events.begin(), m_data.events.end(),
+                     [](const Event& a, const Event& b) { return a.time < b.time; });
+    return error;
+}
+
+TrackDescription& ReviewLoader::track(const QString& identifier)
+{
+    auto index = m_trackIndexes.constFind(identifier);
+    if (index == m_trackIndexes.constEnd()) {
+        index = m_trackIndexes.insert(identifier, m_data.tracks.size());
+        m_data.tracks.append({.identifier = identifier,
+                              .name = identifier,
+                              .begin = notDescribed.begin,
+                              .end = notDescribed.end,
+                              .recorded = {}});
+    }
+    return m_data.tracks[*index];
+}
+
+} // namespace Review

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "csvtable.h"
+#include "problemlist.h"
+#include "reviewdata.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+namespace Review {
+
+/// The files to show. A name that is empty stands for no file.
+struct ReviewFiles
+{
+    QString recordings;
+    QString events;
+    QString deployments;
+
+    bool isEmpty() const
+    {
+        return recordings.isEmpty() && events.isEmpty() && deployments.isEmpty();
+    }
+};
+
+/// Loads recordings, events and deployments from files. Malformed lines are left out and noted.
+class ReviewLoader
+{
+    Q_DECLARE_TR_FUNCTIONS(Review::ReviewLoader)
+
+public:
+    /// Returns why a file cannot be read, or an empty string.
+    QString load(const ReviewFiles& files);
+
+    const ReviewData& data() const { return m_data; }
+    const ProblemList& problems() const { return m_problems; }
+
+private:
+    QString loadRecordings(const QString& path);
+    QString loadDeployments(const QString& path);
+    QString loadEvents(const QString& path);
+    CorvelGui::TrackDescription& track(const QString& identifier);
+
+    ReviewData m_data;
+    ProblemList m_problems;
+    QHash<QString, qsizetype> m_trackIndexes;
+};
+
+} // namespace Review

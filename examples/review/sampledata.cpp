@@ -1,0 +1,208 @@
+#include "sampledata.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <vector>
+
+using CorvelGui::TimeSpan;
+using CorvelGui::TrackDescription;
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+namespace {
+
+using namespace std::chrono;
+
+constexpr int days = 14;
+constexpr qint64 msecsPerHour = milliseconds(hours(1)).count();
+
+constexpr qint64 marchTime(int dayOfMonth, int hour)
+{
+    const sys_days date = year(2026) / March / dayOfMonth;
+    return milliseconds(date.time_since_epoch() + hours(hour)).count();
+}
+
+constexpr qint64 sampleBegin = marchTime(2, 0);
+constexpr qint64 sampleEnd = marchTime(2 + days, 0);
+
+/// Random numbers of the SplitMix64 sequence. Those of the standard library differ between
+/// platforms.
+class Dice
+{
+public:
+    explicit Dice(quint64 seed) : m_state(seed) {}
+
+    /// A number from @p lowest to @p highest, both included.
+    qint64 roll(qint64 lowest, qint64 highest)
+    {
+        return lowest + qint64(next() % quint64(highest - lowest + 1));
+    }
+    bool percent(int chance) { return roll(1, 100) <= chance; }
+
+private:
+    quint64 next()
+    {
+        m_state += 0x9e3779b97f4a7c15U;
+        quint64 mixed = m_state;
+        mixed = (mixed ^ (mixed >> 30)) * 0xbf58476d1ce4e5b9U;
+        mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111ebU;
+        return mixed ^ (mixed >> 31);
+    }
+
+    quint64 m_state;
+};
+
+struct Camera
+{
+    QString identifier;
+    QString name;
+    /// Recordings in each hour of a day, on average.
+    std::array<int, 24> recordingsPerHour;
+    /// Percentage of them on Saturdays and Sundays.
+    int weekendShare;
+    /// Of one recording, in seconds.
+    int shortest;
+    int longest;
+    TimeSpan described;
+    /// Nothing is recorded in it.
+    TimeSpan outage;
+    /// Percentages of the recordings that show one; the rest shows nothing of note.
+    int persons;
+    int vehicles;
+    int animals;
+};
+
+bool isNight(int hour)
+{
+    return hour < 5 || hour >= 21;
+}
+
+std::vector<TimeSpan> recordingsOf(const Camera& camera, Dice& dice)
+{
+    constexpr qint64 shortestPause = 15'000;
+    std::vector<TimeSpan> recordings;
+    for (int hour = 0; hour < days * 24; ++hour) {
+        const bool weekend = hour / 24 % 7 >= 5; // the sample begins on a Monday
+        const int average =
+            camera.recordingsPerHour[hour % 24] * (weekend ? camera.weekendShare : 100);
+        // An average of 0.4 recordings is one recording in 40 of 100 hours.
+        qint64 count = average / 100 + (dice.percent(average % 100) ? 1 : 0);
+        count = std::max<qint64>(0, count + dice.roll(-count / 2, count / 2));
+
+        std::vector<qint64> begins(count);
+        for (qint64& begin : begins)
+            begin = sampleBegin + hour * msecsPerHour + dice.roll(0, 3'599) * 1'000;
+        std::sort(begins.begin(), begins.end());
+        for (const qint64 begin : begins) {
+            const qint64 end = begin + dice.roll(camera.shortest, camera.longest) * 1'000;
+            const bool described = begin >= camera.described.begin && end <= camera.described.end;
+            const bool failed = begin < camera.outage.end && end > camera.outage.begin;
+            const bool crowded =
+                !recordings.empty() && begin < recordings.back().end + shortestPause;
+            if (described && !failed && !crowded)
+                recordings.push_back({begin, end});
+        }
+    }
+    return recordings;
+}
+
+} // namespace
+
+ReviewData SampleData::make()
+{
+    constexpr TimeSpan always{sampleBegin, sampleEnd};
+    const Camera cameras[] = {
+        {.identifier = u"cam-1"_s,
+         .name = tr("Main gate"),
+         .recordingsPerHour = {1,  0, 0, 0, 1,  2,  6,  12, 14, 9, 8, 8,
+                               10, 9, 8, 8, 10, 14, 11, 7,  5,  3, 2, 1},
+         .weekendShare = 40,
+         .shortest = 12,
+         .longest = 95,
+         .described = always,
+         .outage = {},
+         .persons = 30,
+         .vehicles = 25,
+         .animals = 2},
+        {.identifier = u"cam-2"_s,
+         .name = tr("Car park"),
+         .recordingsPerHour = {0, 0, 0, 0, 0, 1,  5, 10, 9, 4, 3, 4,
+                               7, 5, 3, 4, 8, 10, 5, 3,  2, 1, 1, 0},
+         .weekendShare = 30,
+         .shortest = 20,
+         .longest = 180,
+         .described = always,
+         .outage = {marchTime(6, 19), marchTime(8, 9)},
+         .persons = 20,
+         .vehicles = 45,
+         .animals = 3},
+        {.identifier = u"cam-3"_s,
+         .name = tr("Loading dock"),
+         .recordingsPerHour = {0, 0, 0, 0, 0, 2, 4, 4, 4, 4, 4, 3,
+                               2, 4, 4, 4, 3, 1, 0, 0, 0, 0, 0, 0},
+         .weekendShare = 4,
+         .shortest = 120,
+         .longest = 1'100,
+         .described = always,
+         .outage = {},
+         .persons = 25,
+         .vehicles = 35,
+         .animals = 0},
+        {.identifier = u"cam-4"_s,
+         .name = tr("North fence"),
+         .recordingsPerHour = {2, 2, 2, 2, 3, 3, 2, 1, 1, 1, 1, 1,
+                               1, 1, 1, 1, 1, 2, 3, 3, 2, 2, 2, 2},
+         .weekendShare = 110,
+         .shortest = 10,
+         .longest = 45,
+         .described = {sampleBegin, marchTime(12, 10)},
+         .outage = {},
+         .persons = 4,
+         .vehicles = 0,
+         .animals = 45},
+    };
+
+    const QString person = u"person"_s;
+    const QString vehicle = u"vehicle"_s;
+    const QString animal = u"animal"_s;
+    const QString alarm = u"alarm"_s;
+    const QString bookmark = u"bookmark"_s;
+
+    ReviewData data;
+    Dice dice(2026);
+    for (const Camera& camera : cameras) {
+        TrackDescription track{.identifier = camera.identifier,
+                               .name = camera.name,
+                               .begin = camera.described.begin,
+                               .end = camera.described.end,
+                               .recorded = {}};
+        for (const TimeSpan& recording : recordingsOf(camera, dice)) {
+            track.recorded.append(recording);
+            const auto note = [&](const QString& kind, const QString& text) {
+                const qint64 time = dice.roll(recording.begin, recording.end - 1);
+                data.events.append(
+                    {.time = time, .kind = kind, .text = text, .track = camera.identifier});
+            };
+            const int hour = int((recording.begin - sampleBegin) / msecsPerHour % 24);
+            const qint64 seen = dice.roll(1, 100);
+            if (seen <= camera.persons && isNight(hour))
+                note(alarm, tr("Person outside working hours"));
+            else if (seen <= camera.persons)
+                note(person, tr("Person"));
+            else if (seen <= camera.persons + camera.vehicles)
+                note(vehicle, tr("Vehicle"));
+            else if (seen <= camera.persons + camera.vehicles + camera.animals)
+                note(animal, tr("Animal"));
+            if (dice.roll(1, 300) == 1)
+                note(bookmark, tr("Marked by an operator"));
+        }
+        data.tracks.append(track);
+    }
+    std::stable_sort(data.events.begin(), data.events.end(),
+                     [](const Event& a, const Event& b) { return a.time < b.time; });
+    return data;
+}
+
+} // namespace Review
