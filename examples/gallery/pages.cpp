@@ -3,6 +3,7 @@
 #include "colourspage.h"
 #include "iconspage.h"
 #include "lookspage.h"
+#include "rulerpage.h"
 
 #include <algorithm>
 
@@ -26,6 +27,7 @@ const std::vector<Page>& pages()
         {u"Looks"_s, create<LooksPage>},
         {u"Colours"_s, create<ColoursPage>},
         {u"Icons"_s, create<IconsPage>},
+        {u"Ruler"_s, create<RulerPage>},
     };
     return all;
 }

@@ -26,7 +26,7 @@ public:
         setFocusPolicy(Qt::NoFocus);
         setCursor(Qt::PointingHandCursor);
         setIcon(QIcon(iconPath));
-        setIconSize(QSize(16, 16));
+        setIconSize(QSize(12, 12));
     }
 
 protected:

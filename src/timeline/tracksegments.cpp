@@ -15,17 +15,22 @@ TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
     if (!scale.hasView() || right <= left)
         return segments;
 
-    const auto endsUpTo = [&scale](double x) {
-        return [&scale, x](const TimeSpan& span) {
-            return scale.xAt(span.end) <= x;
+    // What scale.xAt() does, with the division taken out of the search.
+    const double pixels = scale.lengthPerMillisecond();
+    const auto xAt = [pixels, from = scale.viewStartMs()](qint64 msecs) {
+        return TimeScale::margin() + pixels * double(msecs - from);
+    };
+    const auto endsUpTo = [&xAt](double x) {
+        return [&xAt, x](const TimeSpan& span) {
+            return xAt(span.end) <= x;
         };
     };
     auto span = std::partition_point(spans.begin(), spans.end(), endsUpTo(left));
     while (span != spans.end()) {
-        const double start = std::max(scale.xAt(span->begin), left);
+        const double start = std::max(xAt(span->begin), left);
         if (start >= right)
             break;
-        const double end = std::max(std::min(scale.xAt(span->end), right), std::floor(start) + 1);
+        const double end = std::max(std::min(xAt(span->end), right), std::floor(start) + 1);
         if (!segments.empty() && std::floor(start) <= std::floor(segments.back().end))
             segments.back().end = std::max(segments.back().end, end);
         else
