@@ -38,13 +38,12 @@ QPainterPath marker(const IconGrid& grid)
 
 QPainterPath mergedMarkers(const IconGrid& grid)
 {
-    const QPainterPath front = pin(grid, 8, 1.5, 9, 14.5);
-    const QPainterPath clearance =
-        front.united(grid.stroked(front, 2.0 * grid.strokeWidth() + grid.toPixels(0.4)));
-    QPainterPath behind = pin(grid, 4.4, 2.5, 7.2, 12.5);
-    behind.addPath(pin(grid, 11.6, 2.5, 7.2, 12.5));
+    const QPainterPath front = pin(grid, 8, 1.5, 7.8, 14.5);
+    const QPainterPath clearance = front.united(grid.stroked(front, 2.0 * grid.strokeWidth()));
+    QPainterPath behind = pin(grid, 5, 2.2, 7, 12.8);
+    behind.addPath(pin(grid, 11, 2.2, 7, 12.8));
 
-    const QPainterPath plus = grid.block({7, 3, 2, 6}).united(grid.block({5, 5, 6, 2}));
+    const QPainterPath plus = grid.block({7, 3, 2, 5}).united(grid.block({5.5, 4.5, 5, 2}));
     QPainterPath path = behind.simplified().subtracted(clearance);
     path.addPath(front.subtracted(plus));
     return path;

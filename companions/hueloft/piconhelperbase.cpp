@@ -63,7 +63,7 @@ void addModes(QIcon& icon, const QString& path, qreal ratio)
 
 QIcon PIconHelperBase::GetIcon(const QString& path, bool withModes)
 {
-    if (!QImageReader(path).canRead())
+    if (path.isEmpty() || !QImageReader(path).canRead())
         return QIcon();
     if (!withModes)
         return QIcon(path);

@@ -12,10 +12,10 @@ constinit QColor POrvGuiTheme::colorTuna(56, 86, 106);
 constinit QColor POrvGuiTheme::colorElephant(78, 85, 95);
 constinit QColor POrvGuiTheme::colorGreyhound(112, 119, 130);
 constinit QColor POrvGuiTheme::colorKoala(156, 163, 173);
-constinit QColor POrvGuiTheme::colorLightRed(255, 112, 97);
+constinit QColor POrvGuiTheme::colorLightRed(255, 112, 84);
 constinit QColor POrvGuiTheme::colorOrange(222, 120, 20);
 constinit QColor POrvGuiTheme::colorYellow(255, 205, 60);
-constinit QColor POrvGuiTheme::colorGreen(16, 160, 118);
+constinit QColor POrvGuiTheme::colorGreen(12, 160, 130);
 constinit QColor POrvGuiTheme::colorBlue(60, 144, 224);
 constinit QColor POrvGuiTheme::colorDarkBlue(24, 78, 132);
 constinit QColor POrvGuiTheme::colorPurple(196, 120, 220);
@@ -24,7 +24,7 @@ constinit bool POrvGuiTheme::bPantherTheme = false;
 
 QColor POrvGuiTheme::statusRed()
 {
-    return bPantherTheme ? QColor(244, 92, 82) : QColor(192, 28, 36);
+    return bPantherTheme ? QColor(252, 92, 64) : QColor(192, 28, 36);
 }
 
 QString POrvGuiTheme::darkTheme()

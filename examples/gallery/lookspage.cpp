@@ -272,10 +272,9 @@ QWidget* LooksPage::createTexts()
 // These colours are stored with the texts, so they do not change with the look by themselves.
 void LooksPage::applyStatusColors()
 {
+    m_link->clear();
     m_link->setText(u"A text, and <a href=\"#\">a link</a> in it"_s);
-    QPalette failure = palette();
-    failure.setColor(QPalette::WindowText, POrvGuiTheme::statusRed());
-    m_failure->setPalette(failure);
+    m_failure->setStyleSheet(u"color: %1"_s.arg(POrvGuiTheme::statusRed().name()));
 
     const struct
     {

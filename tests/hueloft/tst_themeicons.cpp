@@ -1,0 +1,273 @@
+#include "colormetrics.h"
+#include "testsupport.h"
+
+#include <Hueloft/PIconHelper16x16>
+#include <Hueloft/PIconHelper>
+#include <Hueloft/POrvGuiTheme>
+#include <Hueloft/PPlayerIconHelper>
+#include <Hueloft/PTarvoPlayerIconHelper>
+
+#include <QBitmap>
+#include <QPainter>
+#include <QRegion>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Hueloft;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QIcon::Mode allModes[] = {QIcon::Normal, QIcon::Disabled, QIcon::Active, QIcon::Selected};
+
+enum class Ground { Look, Any, Dark };
+
+QImage picture(const QIcon& icon, int side, QIcon::Mode mode = QIcon::Normal)
+{
+    return icon.pixmap(QSize(side, side), 1.0, mode)
+        .toImage()
+        .convertToFormat(QImage::Format_ARGB32);
+}
+
+// The colour of the most opaque pixels; the rim of outlined icons does not count.
+QColor inkOf(const QImage& image)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (qAlpha(pixel) > 100 && pixel != qRgb(16, 18, 20))
+                ++counts[pixel];
+        }
+    }
+    QRgb ink = 0;
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
+        if (count.value() > counts.value(ink))
+            ink = count.key();
+    }
+    return QColor::fromRgb(ink);
+}
+
+int halfTransparentPixels(const QImage& image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int alpha = qAlpha(image.pixel(x, y));
+            count += alpha > 0 && alpha < 255;
+        }
+    }
+    return count;
+}
+
+void allIcons()
+{
+    QTest::addColumn<QIcon>("icon");
+    QTest::addColumn<int>("nominalSize");
+    QTest::addColumn<Ground>("ground");
+    const struct
+    {
+        const char* name;
+        QIcon icon;
+        int nominalSize;
+        Ground ground;
+    } rows[] = {
+        {"marker", PIconHelper::GetMarkerOutlined_48x48(true), 48, Ground::Dark},
+        {"marker, neutral", PIconHelper::GetMarkerOutlined_48x48(false), 48, Ground::Any},
+        {"merged", PIconHelper::GetMergerd_48x48(true), 48, Ground::Dark},
+        {"plus", PIconHelper::GetPlusIcon_32x32(true), 32, Ground::Look},
+        {"minus", PIconHelper::GetMinusIcon_32x32(true), 32, Ground::Look},
+        {"copy", PIconHelper::GetCopyIcon_32x32(true), 32, Ground::Look},
+        {"copy rows", PIconHelper::GetCopyRowsIcon_32x32(true), 32, Ground::Look},
+        {"open", PIconHelper::GetOpenIcon_32x32(true), 32, Ground::Look},
+        {"refresh", PIconHelper::GetRefreshIcon_256x256(true), 256, Ground::Look},
+        {"settings", PIconHelper::GetSettingsIconOriginal_32x32(true), 32, Ground::Look},
+        {"settings, neutral", PIconHelper::GetSettingsIconOriginal_32x32(false), 32, Ground::Any},
+        {"close tab", PIconHelper16x16::GetTabCloseIcon(), 16, Ground::Look},
+        {"visible", PIconHelper16x16::GetVisibleIcon(), 16, Ground::Look},
+        {"invisible", PIconHelper16x16::GetInVisibleIcon(), 16, Ground::Look},
+        {"date and time", PPlayerIconHelper::GetDateTimeIcon_32x32(false), 32, Ground::Any},
+        {"play", PTarvoPlayerIconHelper::GetPlay_32x32(), 32, Ground::Dark},
+        {"pause", PTarvoPlayerIconHelper::GetPause_32x32(), 32, Ground::Dark},
+        {"reverse", PTarvoPlayerIconHelper::GetPlayReverse_32x32(), 32, Ground::Dark},
+        {"fast forward", PTarvoPlayerIconHelper::GetFastForward_32x32(), 32, Ground::Dark},
+        {"fast rewind", PTarvoPlayerIconHelper::GetFastRewind_32x32(), 32, Ground::Dark},
+        {"frame back", PTarvoPlayerIconHelper::GetStartSingle_32x32(), 32, Ground::Dark},
+        {"frame forward", PTarvoPlayerIconHelper::GetEndSingle_32x32(), 32, Ground::Dark},
+        {"track begin", PTarvoPlayerIconHelper::GetStartDouble_32x32(), 32, Ground::Dark},
+        {"track end", PTarvoPlayerIconHelper::GetEndDoubleIcon_32x32(), 32, Ground::Dark},
+    };
+    for (const auto& row : rows)
+        QTest::newRow(row.name) << row.icon << row.nominalSize << row.ground;
+}
+
+} // namespace
+
+class TestThemeIcons : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void drawsAtEverySize_data();
+    void drawsAtEverySize();
+    void showsOnItsGround_data();
+    void showsOnItsGround();
+    void iconsDiffer();
+    void straightEdgesAreCrisp_data();
+    void straightEdgesAreCrisp();
+    void paintsInDevicePixels();
+    void addedPixmapReplacesOneMode();
+    void lockFollowsLook();
+    void iconFromImage();
+};
+
+void TestThemeIcons::drawsAtEverySize_data()
+{
+    allIcons();
+}
+
+void TestThemeIcons::drawsAtEverySize()
+{
+    QFETCH(const QIcon, icon);
+    QFETCH(const int, nominalSize);
+
+    QCOMPARE(icon.availableSizes().constFirst(), QSize(nominalSize, nominalSize));
+    for (const int side : {16, 33, 1000}) {
+        const QImage image = picture(icon, side);
+        QCOMPARE(image.size(), QSize(side, side));
+        const QRect drawn = QRegion(QBitmap::fromImage(image.createAlphaMask())).boundingRect();
+        QVERIFY2(drawn.height() >= side / 8 && drawn.width() >= side / 3, "too small");
+        QVERIFY2(side < 1000 || image.rect().adjusted(1, 1, -1, -1).contains(drawn), "cut off");
+    }
+    QCOMPARE(icon.pixmap(QSize(40, 20), 1.0).size(), QSize(20, 20));
+}
+
+void TestThemeIcons::showsOnItsGround_data()
+{
+    allIcons();
+}
+
+// One icon, painted again after the look has changed.
+void TestThemeIcons::showsOnItsGround()
+{
+    QFETCH(const QIcon, icon);
+    QFETCH(const Ground, ground);
+    QHash<bool, QColor> inks;
+    for (const bool dark : {true, false}) {
+        POrvGuiTheme::bPantherTheme = dark;
+        const QColor surface =
+            dark || ground == Ground::Dark ? POrvGuiTheme::colorShark : QColor(239, 239, 239);
+        QSet<QRgb> modeInks;
+        for (const QIcon::Mode mode : allModes)
+            modeInks << inkOf(picture(icon, 64, mode)).rgba();
+        QVERIFY(modeInks.size() >= 3);
+        inks[dark] = inkOf(picture(icon, 64));
+        QVERIFY(contrast(inks[dark], surface) >= 3);
+        QVERIFY(contrast(inkOf(picture(icon, 64, QIcon::Active)), surface) >= 3);
+    }
+    QCOMPARE(inks[true] != inks[false], ground == Ground::Look);
+}
+
+void TestThemeIcons::iconsDiffer()
+{
+    const QIcon icons[] = {PTarvoPlayerIconHelper::GetPlay_32x32(),
+                           PTarvoPlayerIconHelper::GetPause_32x32(),
+                           PTarvoPlayerIconHelper::GetPlayReverse_32x32(),
+                           PTarvoPlayerIconHelper::GetFastForward_32x32(),
+                           PTarvoPlayerIconHelper::GetFastRewind_32x32(),
+                           PTarvoPlayerIconHelper::GetStartSingle_32x32(),
+                           PTarvoPlayerIconHelper::GetEndSingle_32x32(),
+                           PTarvoPlayerIconHelper::GetStartDouble_32x32(),
+                           PTarvoPlayerIconHelper::GetEndDoubleIcon_32x32()};
+    for (const QIcon& one : icons) {
+        for (const QIcon& other : icons)
+            QCOMPARE(picture(one, 24) == picture(other, 24), &one == &other);
+    }
+    const QImage play = picture(icons[0], 64);
+    const QImage reverse = picture(icons[2], 64);
+    QVERIFY2(qAlpha(play.pixel(50, 32)) == 255 && qAlpha(play.pixel(60, 32)) == 0 &&
+                 qAlpha(play.pixel(50, 10)) == 0,
+             "play points to the right");
+    QVERIFY2(qAlpha(reverse.pixel(13, 32)) == 255 && qAlpha(reverse.pixel(13, 10)) == 0,
+             "reverse points to the left");
+}
+
+void TestThemeIcons::straightEdgesAreCrisp_data()
+{
+    QTest::addColumn<QIcon>("icon");
+    QTest::newRow("plus") << PIconHelper::GetPlusIcon_32x32(true);
+    QTest::newRow("pause") << PTarvoPlayerIconHelper::GetPause_32x32();
+    QTest::newRow("copy") << PIconHelper::GetCopyIcon_32x32(true);
+    QTest::newRow("copy rows") << PIconHelper::GetCopyRowsIcon_32x32(true);
+}
+
+void TestThemeIcons::straightEdgesAreCrisp()
+{
+    QFETCH(const QIcon, icon);
+    for (const int side : {12, 16, 20, 24, 32, 48})
+        QCOMPARE(halfTransparentPixels(picture(icon, side)), 0);
+}
+
+void TestThemeIcons::paintsInDevicePixels()
+{
+    const QIcon icon = PIconHelper::GetCopyIcon_32x32(true);
+    QImage screen(80, 80, QImage::Format_ARGB32);
+    screen.fill(Qt::transparent);
+    screen.setDevicePixelRatio(2);
+    QPainter painter(&screen);
+    icon.paint(&painter, QRect(5, 7, 20, 20));
+    painter.end();
+    screen.setDevicePixelRatio(1);
+    QCOMPARE(screen.copy(10, 14, 40, 40), picture(icon, 40));
+}
+
+void TestThemeIcons::addedPixmapReplacesOneMode()
+{
+    const QIcon original = PTarvoPlayerIconHelper::GetPlay_32x32();
+    QIcon hovered = original;
+    hovered.addPixmap(original.pixmap(QSize(1000, 1000), 1.0, QIcon::Active), QIcon::Normal);
+    const QColor active = inkOf(picture(original, 24, QIcon::Active));
+    QCOMPARE(inkOf(picture(hovered, 24)), active);
+    QVERIFY(inkOf(picture(original, 24)) != active);
+    QCOMPARE(picture(hovered, 24, QIcon::Disabled), picture(original, 24, QIcon::Disabled));
+}
+
+void TestThemeIcons::lockFollowsLook()
+{
+    POrvGuiTheme::bPantherTheme = true;
+    const QImage dark = PIconHelper::GetLockImage_32x32();
+    POrvGuiTheme::bPantherTheme = false;
+    const QImage light = PIconHelper::GetLockImage_32x32();
+    QCOMPARE(dark.size(), QSize(32, 32));
+    QVERIFY(inkOf(dark) != inkOf(light));
+    QCOMPARE(dark.createAlphaMask(), light.createAlphaMask());
+}
+
+void TestThemeIcons::iconFromImage()
+{
+    QTemporaryDir folder;
+    QImage image(16, 16, QImage::Format_ARGB32);
+    image.fill(QColor(40, 120, 200));
+    const QString path = folder.filePath(u"blue.png"_s);
+    QVERIFY(image.save(path));
+    image.fill(QColor(200, 120, 40));
+    QVERIFY(image.scaled(32, 32).save(folder.filePath(u"blue@2x.png"_s)));
+
+    const QIcon icon = PIconHelperBase::GetIcon(path, true);
+    QCOMPARE(picture(icon, 16).pixelColor(8, 8), QColor(40, 120, 200));
+    QCOMPARE(icon.pixmap(QSize(16, 16), 2.0).toImage().pixelColor(8, 8), QColor(200, 120, 40));
+    const QColor disabled = picture(icon, 16, QIcon::Disabled).pixelColor(8, 8);
+    QVERIFY(disabled.hsvSaturation() == 0 && disabled.alpha() < 255);
+    QVERIFY(picture(icon, 16, QIcon::Active).pixelColor(8, 8).lightness() >
+            QColor(40, 120, 200).lightness());
+
+    const QIcon plain = PIconHelperBase::GetIcon(path, false);
+    QCOMPARE(picture(plain, 16, QIcon::Active), picture(plain, 16));
+
+    QVERIFY(PIconHelperBase::GetIcon(folder.filePath(u"none.png"_s), true).isNull());
+    QVERIFY(PIconHelperBase::GetIcon(QString(), false).isNull());
+}
+
+QTEST_MAIN(TestThemeIcons)
+#include "tst_themeicons.moc"
