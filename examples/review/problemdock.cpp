@@ -1,5 +1,7 @@
 #include "problemdock.h"
 
+#include "roomydelegate.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QListWidget>
@@ -16,14 +18,9 @@ ProblemDock::ProblemDock(const ProblemList& problems, QWidget* parent)
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea | Qt::RightDockWidgetArea);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setUniformItemSizes(true);
+    m_list->setItemDelegate(new RoomyDelegate(m_list));
     setWidget(m_list);
     retranslate();
-}
-
-QSize ProblemDock::sizeHint() const
-{
-    constexpr int rowsAtFirst = 7;
-    return {QDockWidget::sizeHint().width(), rowsAtFirst * fontMetrics().lineSpacing() * 3 / 2};
 }
 
 void ProblemDock::retranslate()

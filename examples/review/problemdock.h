@@ -16,8 +16,6 @@ class ProblemDock : public QDockWidget
 public:
     explicit ProblemDock(const ProblemList& problems, QWidget* parent = nullptr);
 
-    QSize sizeHint() const override;
-
     /// Applies all translated texts again.
     void retranslate();
 

@@ -1,6 +1,7 @@
 #include "reviewwindow.h"
 
 #include "problemdock.h"
+#include "roomydelegate.h"
 #include "timelinepane.h"
 #include "trackmodel.h"
 
@@ -24,6 +25,8 @@ namespace Review {
 
 namespace {
 
+constexpr int problemDockHeight = 150;
+
 QTreeView* createTrackView(TrackModel* model, QWidget* parent)
 {
     auto* view = new QTreeView(parent);
@@ -33,6 +36,7 @@ QTreeView* createTrackView(TrackModel* model, QWidget* parent)
     view->setUniformRowHeights(true);
     view->setAlternatingRowColors(true);
     view->setAllColumnsShowFocus(true);
+    view->setItemDelegate(new RoomyDelegate(view));
     view->header()->setStretchLastSection(false);
     view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     view->header()->setSectionResizeMode(TrackModel::Name, QHeaderView::Stretch);
@@ -64,11 +68,13 @@ ReviewWindow::ReviewWindow(const ReviewData& review, const ProblemList& problems
     setCentralWidget(content);
 
     createActions(dark);
+    m_viewLabel->setContentsMargins(6, 0, 0, 0);
     statusBar()->addWidget(m_viewLabel);
     statusBar()->addPermanentWidget(m_countsLabel);
     if (problems.count() > 0) {
         m_problems = new ProblemDock(problems, this);
         addDockWidget(Qt::BottomDockWidgetArea, m_problems);
+        resizeDocks({m_problems}, {problemDockHeight}, Qt::Vertical);
         m_toolBar->insertAction(m_darkLook, m_problems->toggleViewAction());
     }
 

@@ -39,6 +39,8 @@ void TimelinePane::setPeriod(const TimeSpan& period)
     if (period.isEmpty())
         return;
     m_ruler->setTimeLimits(quint64(period.begin), quint64(period.end));
+    // The ruler puts its indicator at the begin, but nothing is played here.
+    m_ruler->setIndicatorPosition(0);
     showWholePeriod();
 }
 
