@@ -1,0 +1,138 @@
+#include "testsupport.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestReviewProgram : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusals_data();
+    void refusals();
+    void answers();
+    void pictures_data();
+    void pictures();
+    void pictureThatCannotBeWritten();
+
+private:
+    /// Runs the program to its end. Returns its exit code.
+    int run(const QStringList& arguments);
+
+    QTemporaryDir m_dir;
+    QString m_output;
+    QString m_errors;
+};
+
+int TestReviewProgram::run(const QStringList& arguments)
+{
+    QProcess process;
+    process.setWorkingDirectory(m_dir.path());
+    process.start(QStringLiteral(REVIEW_PROGRAM), arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
+        process.kill();
+        process.waitForFinished();
+        return -1;
+    }
+    m_output = QString::fromLocal8Bit(process.readAllStandardOutput());
+    m_errors = QString::fromLocal8Bit(process.readAllStandardError());
+    return process.exitCode();
+}
+
+void TestReviewProgram::refusals_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+
+    const auto row = [](const QStringList& arguments, const QString& message) {
+        QTest::newRow(qPrintable(arguments.join(u' '))) << arguments << message;
+    };
+    row({u"--recordings"_s, u"missing.csv"_s}, u"Cannot read missing.csv: "_s);
+    row({u"--events"_s, u"missing.csv"_s}, u"Cannot read missing.csv: "_s);
+    row({u"--deployments"_s, u"."_s}, u"Cannot read .: "_s);
+    row({u"--recordings"_s}, u"recordings"_s);
+    row({u"--recordings="_s}, u"--recordings needs a value"_s);
+    row({u"--zone"_s, u"Europe/Nowhere"_s}, u"Unknown time zone “Europe/Nowhere”"_s);
+    row({u"--look"_s, u"Dark"_s}, u"Unknown look “Dark”"_s);
+    row({u"--size"_s, u"1200"_s}, u"Bad size “1200”"_s);
+    row({u"--size"_s, u"1200x-700"_s}, u"Bad size “1200x-700”"_s);
+    row({u"--size"_s, u"99999x700"_s}, u"Bad size “99999x700”"_s);
+    row({u"--size"_s, u"100x700"_s}, u"Bad size “100x700”"_s);
+    row({u"--colour"_s}, u"colour"_s);
+    row({u"recordings.csv"_s}, u"Unexpected argument “recordings.csv”"_s);
+}
+
+void TestReviewProgram::refusals()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, message);
+    QCOMPARE(run(arguments), 2);
+    const qsizetype line = m_errors.indexOf(u"corvel-review: "_s);
+    QVERIFY2(line >= 0, qPrintable(m_errors));
+    QVERIFY2(m_errors.sliced(line).contains(message), qPrintable(m_errors));
+    QCOMPARE(m_output, QString());
+}
+
+void TestReviewProgram::answers()
+{
+    QCOMPARE(run({u"--help"_s}), 0);
+    for (const QString& option :
+         {u"--recordings <file>"_s, u"--events <file>"_s, u"--deployments <file>"_s,
+          u"--zone <name>"_s, u"--look <look>"_s, u"--picture <file>"_s, u"--size <size>"_s})
+        QVERIFY2(m_output.contains(option), qPrintable(option));
+    QCOMPARE(run({u"--version"_s}), 0);
+    QVERIFY(m_output.startsWith(u"corvel-review "_s));
+}
+
+void TestReviewProgram::pictures_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("dark");
+
+    QTest::newRow("sample") << QStringList{} << QSize(1200, 700) << true;
+    QTest::newRow("light look") << QStringList{u"--look"_s, u"light"_s, u"--size"_s, u"1000x500"_s}
+                                << QSize(1000, 500) << false;
+    QTest::newRow("malformed file")
+        << QStringList{u"--recordings"_s, u"bad.csv"_s} << QSize(1200, 700) << true;
+    QTest::newRow("nothing in it")
+        << QStringList{u"--recordings"_s, u"empty.csv"_s} << QSize(1200, 700) << true;
+    // A period of eight thousand years.
+    QTest::newRow("very long") << QStringList{u"--recordings"_s, u"long.csv"_s} << QSize(1200, 700)
+                               << true;
+}
+
+void TestReviewProgram::pictures()
+{
+    const auto write = [this](const QString& name, const QByteArray& text) {
+        QFile file(m_dir.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    };
+    QVERIFY(write(u"bad.csv"_s, "track,begin,end\na,b,c\na\n"
+                                "a,2026-03-02T00:00Z,2026-03-02T00:01Z\n"));
+    QVERIFY(write(u"empty.csv"_s, "track,begin,end\n"));
+    QVERIFY(write(u"long.csv"_s, "track,begin,end\na,1971-01-01T00:00Z,1971-01-01T00:01Z\n"
+                                 "a,9999-12-31T00:00Z,9999-12-31T00:01Z\n"));
+
+    QFETCH(const QStringList, arguments);
+    QFETCH(const bool, dark);
+    const QStringList request{u"--picture"_s, u"window.png"_s, u"--zone"_s, u"Europe/Brussels"_s};
+    QVERIFY2(run(request + arguments) == 0, qPrintable(m_errors));
+    const QImage picture(m_dir.filePath(u"window.png"_s));
+    QTEST(picture.size(), "size");
+    // The body of the table, below its few rows.
+    QCOMPARE(picture.pixelColor(picture.width() / 2, 250).lightness() < 128, dark);
+}
+
+void TestReviewProgram::pictureThatCannotBeWritten()
+{
+    QCOMPARE(run({u"--picture"_s, u"no/such/directory/window.png"_s}), 1);
+    QVERIFY2(m_errors.contains(u"corvel-review: Cannot write "_s), qPrintable(m_errors));
+}
+
+QTEST_GUILESS_MAIN(TestReviewProgram)
+#include "tst_reviewprogram.moc"

@@ -1,0 +1,173 @@
+#include "reviewwindow.h"
+#include "sampledata.h"
+#include "testsupport.h"
+#include "times.h"
+
+#include <CorvelGui/Ruler>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QLabel>
+#include <QListWidget>
+#include <QTest>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+using CorvelGui::Ruler;
+
+namespace {
+
+/// A window over the sample, and what a user sees and presses in it.
+struct SampleWindow
+{
+    explicit SampleWindow(const QString& zone, const ProblemList& problems = {})
+        : window(SampleData::make(), problems, zone, true)
+    {
+        window.resize(1200, 700);
+        window.show();
+    }
+
+    QAction* action(const QString& text) const
+    {
+        for (QAction* candidate : window.findChildren<QAction*>()) {
+            if (candidate->text() == text)
+                return candidate;
+        }
+        qFatal("No such action: %s", qPrintable(text));
+    }
+
+    QString enabled() const
+    {
+        QStringList texts;
+        for (const QString& text :
+             {u"Zoom in"_s, u"Zoom out"_s, u"Whole period"_s, u"Earlier"_s, u"Later"_s}) {
+            if (action(text)->isEnabled())
+                texts.append(text);
+        }
+        return texts.join(u", "_s);
+    }
+
+    bool says(const QString& text) const
+    {
+        const auto labels = window.findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&text](const QLabel* label) { return label->text() == text; });
+    }
+
+    QImage rulerPicture() const { return window.findChild<Ruler*>()->grab().toImage(); }
+
+    ReviewWindow window;
+};
+
+} // namespace
+
+class TestReviewWindow : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
+    void actionsMoveTheView();
+    void uncheckedTracksLeaveTheTimeline();
+    void timesStandInTheZone();
+    void problemsAreListed();
+    void lookIsSwitched();
+};
+
+void TestReviewWindow::actionsMoveTheView()
+{
+    const SampleWindow sample(u"UTC"_s);
+    QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
+    QVERIFY(sample.says(u"Tracks: 4    Recordings: 3,022    Events: 1,809"_s));
+    QCOMPARE(sample.enabled(), u"Zoom in"_s);
+
+    // The level of fourteen days would show the same as the whole period.
+    sample.action(u"Zoom in"_s)->trigger();
+    QCOMPARE(sample.enabled(), u"Zoom in, Zoom out, Whole period, Earlier, Later"_s);
+    const Ruler* ruler = sample.window.findChild<Ruler*>();
+    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 7 * day);
+    const qint64 begin = qint64(ruler->beginTime());
+
+    sample.action(u"Later"_s)->trigger();
+    QCOMPARE(qint64(ruler->beginTime()), begin + 7 * day / 2);
+    sample.action(u"Earlier"_s)->trigger();
+    QCOMPARE(qint64(ruler->beginTime()), begin);
+    sample.action(u"Earlier"_s)->trigger();
+    sample.action(u"Earlier"_s)->trigger();
+    QCOMPARE(qint64(ruler->beginTime()), monday);
+    QCOMPARE(sample.enabled(), u"Zoom in, Zoom out, Whole period, Later"_s);
+
+    for (int i = 0; i < 10; ++i)
+        sample.action(u"Zoom in"_s)->trigger();
+    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 20 * minute);
+    QCOMPARE(sample.enabled(), u"Zoom out, Whole period, Earlier, Later"_s);
+    sample.action(u"Zoom out"_s)->trigger();
+    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), hour);
+
+    sample.action(u"Whole period"_s)->trigger();
+    QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
+    QCOMPARE(sample.enabled(), u"Zoom in"_s);
+}
+
+void TestReviewWindow::uncheckedTracksLeaveTheTimeline()
+{
+    const SampleWindow sample(u"UTC"_s);
+    QAbstractItemModel* tracks = sample.window.findChild<QTreeView*>()->model();
+    QCOMPARE(tracks->rowCount(), 4);
+    const QImage all = sample.rulerPicture();
+    const QModelIndex gate = tracks->index(0, 0);
+    QCOMPARE(gate.data().toString(), u"Main gate"_s);
+    QVERIFY(tracks->setData(gate, Qt::Unchecked, Qt::CheckStateRole));
+    QCOMPARE(gate.data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    QVERIFY(sample.rulerPicture() != all);
+    QVERIFY(tracks->setData(gate, Qt::Checked, Qt::CheckStateRole));
+    QCOMPARE(sample.rulerPicture(), all);
+}
+
+void TestReviewWindow::timesStandInTheZone()
+{
+    const SampleWindow sample(u"Asia/Kathmandu"_s);
+    QVERIFY(sample.says(u"02.03.2026 05:45:00 – 16.03.2026 05:45:00 (Asia/Kathmandu)"_s));
+    const QAbstractItemModel* tracks = sample.window.findChild<QTreeView*>()->model();
+    QCOMPARE(tracks->index(3, 1).data().toString(), u"02.03.2026 05:45:00"_s);
+    QCOMPARE(tracks->index(3, 2).data().toString(), u"12.03.2026 15:45:00"_s);
+    QVERIFY(SampleWindow(u"UTC"_s).rulerPicture() != sample.rulerPicture());
+}
+
+void TestReviewWindow::problemsAreListed()
+{
+    QVERIFY(!SampleWindow(u"UTC"_s).window.findChild<QDockWidget*>());
+
+    ProblemList problems;
+    for (int line = 2; line < 252; ++line)
+        problems.add({u"dir/<b>.csv"_s, line, u"bad"_s});
+    const SampleWindow sample(u"UTC"_s, problems);
+    const QListWidget* list = sample.window.findChild<QListWidget*>();
+    QCOMPARE(list->count(), 101);
+    QCOMPARE(list->item(0)->text(), u"<b>.csv:2: bad"_s);
+    QCOMPARE(list->item(100)->text(), u"and 150 more"_s);
+
+    QAction* toggle = sample.action(u"Lines left out: 250"_s);
+    QVERIFY(list->isVisible());
+    toggle->trigger();
+    QVERIFY(!list->isVisible());
+    toggle->trigger();
+    QVERIFY(list->isVisible());
+}
+
+void TestReviewWindow::lookIsSwitched()
+{
+    SampleWindow sample(u"UTC"_s);
+    const auto tableLightness = [&sample] {
+        return sample.window.grab().toImage().pixelColor(600, 400).lightness();
+    };
+    QVERIFY(tableLightness() < 60);
+    sample.action(u"Dark look"_s)->trigger();
+    QVERIFY(tableLightness() > 200);
+    sample.action(u"Dark look"_s)->trigger();
+    QVERIFY(tableLightness() < 60);
+}
+
+QTEST_MAIN(TestReviewWindow)
+#include "tst_reviewwindow.moc"
