@@ -58,9 +58,10 @@ struct Camera
 {
     QString identifier;
     QString name;
-    /// Recordings in each hour of a day, on average.
+    /// Recordings in each hour of a busy day, on average.
     std::array<int, 24> recordingsPerHour;
-    /// Percentage of them on Saturdays and Sundays.
+    /// Percentages of them on working days, and on Saturdays and Sundays.
+    int workdayShare;
     int weekendShare;
     /// Of one recording, in seconds.
     int shortest;
@@ -85,8 +86,8 @@ std::vector<TimeSpan> recordingsOf(const Camera& camera, Dice& dice)
     std::vector<TimeSpan> recordings;
     for (int hour = 0; hour < days * 24; ++hour) {
         const bool weekend = hour / 24 % 7 >= 5; // the sample begins on a Monday
-        const int average =
-            camera.recordingsPerHour[hour % 24] * (weekend ? camera.weekendShare : 100);
+        const int average = camera.recordingsPerHour[hour % 24] *
+                            (weekend ? camera.weekendShare : camera.workdayShare);
         // An average of 0.4 recordings is one recording in 40 of 100 hours.
         qint64 count = average / 100 + (dice.percent(average % 100) ? 1 : 0);
         count = std::max<qint64>(0, count + dice.roll(-count / 2, count / 2));
@@ -118,6 +119,7 @@ ReviewData SampleData::make()
          .name = tr("Main gate"),
          .recordingsPerHour = {1,  0, 0, 0, 1,  2,  6,  12, 14, 9, 8, 8,
                                10, 9, 8, 8, 10, 14, 11, 7,  5,  3, 2, 1},
+         .workdayShare = 100,
          .weekendShare = 40,
          .shortest = 12,
          .longest = 95,
@@ -130,6 +132,7 @@ ReviewData SampleData::make()
          .name = tr("Car park"),
          .recordingsPerHour = {0, 0, 0, 0, 0, 1,  5, 10, 9, 4, 3, 4,
                                7, 5, 3, 4, 8, 10, 5, 3,  2, 1, 1, 0},
+         .workdayShare = 100,
          .weekendShare = 30,
          .shortest = 20,
          .longest = 180,
@@ -142,6 +145,7 @@ ReviewData SampleData::make()
          .name = tr("Loading dock"),
          .recordingsPerHour = {0, 0, 0, 0, 0, 2, 4, 4, 4, 4, 4, 3,
                                2, 4, 4, 4, 3, 1, 0, 0, 0, 0, 0, 0},
+         .workdayShare = 100,
          .weekendShare = 4,
          .shortest = 120,
          .longest = 1'100,
@@ -154,7 +158,8 @@ ReviewData SampleData::make()
          .name = tr("North fence"),
          .recordingsPerHour = {2, 2, 2, 2, 3, 3, 2, 1, 1, 1, 1, 1,
                                1, 1, 1, 1, 1, 2, 3, 3, 2, 2, 2, 2},
-         .weekendShare = 110,
+         .workdayShare = 30,
+         .weekendShare = 35,
          .shortest = 10,
          .longest = 45,
          .described = {sampleBegin, marchTime(12, 10)},
