@@ -23,6 +23,15 @@ int fail(ExitCode code, const QString& message)
     return code;
 }
 
+int takePicture(QWidget& window, const QString& path)
+{
+    const QString error = writePicture(window, path);
+    if (error.isEmpty())
+        return Success;
+    return fail(Failure, QApplication::translate("Review", "Cannot write %1: %2")
+                             .arg(QDir::toNativeSeparators(path), error));
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -58,14 +67,8 @@ int main(int argc, char* argv[])
     window.show();
 
     if (!arguments.picture.isEmpty()) {
-        QTimer::singleShot(0, &window, [&] {
-            const QString error = writePicture(window, arguments.picture);
-            const QString path = QDir::toNativeSeparators(arguments.picture);
-            QApplication::exit(error.isEmpty() ? Success
-                                               : fail(Failure, QApplication::translate(
-                                                                   "Review", "Cannot write %1: %2")
-                                                                   .arg(path, error)));
-        });
+        QTimer::singleShot(0, &window,
+                           [&] { QApplication::exit(takePicture(window, arguments.picture)); });
     }
     return QApplication::exec();
 }

@@ -8,6 +8,7 @@
 
 class QAction;
 class QLabel;
+class QToolBar;
 class QTreeView;
 
 namespace Review {
