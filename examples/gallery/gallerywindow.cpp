@@ -57,13 +57,12 @@ void GalleryWindow::showPage(int index)
     m_list->setCurrentRow(index);
 }
 
-void GalleryWindow::showWholePage(int index)
+void GalleryWindow::growToPage()
 {
-    showPage(index);
     const auto* scroll = static_cast<QScrollArea*>(m_stack->currentWidget());
-    const QSize page =
-        scroll->widget()->minimumSizeHint().expandedTo(scroll->widget()->minimumSize());
-    resize(size().expandedTo(page + size() - scroll->size()));
+    const QWidget* page = scroll->widget();
+    const QSize missing = page->minimumSizeHint().expandedTo(page->minimumSize()) - scroll->size();
+    resize(size() + missing.expandedTo(QSize(0, 0)));
 }
 
 void GalleryWindow::setDark(bool dark)

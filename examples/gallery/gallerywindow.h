@@ -18,8 +18,8 @@ public:
     GalleryWindow();
 
     void showPage(int index);
-    /// Shows the page and makes the window as large as the page needs to show without scroll bars.
-    void showWholePage(int index);
+    /// Makes the window as large as the current page needs to show without scroll bars.
+    void growToPage();
     void setDark(bool dark);
 
 Q_SIGNALS:

@@ -62,7 +62,9 @@ bool writePictures(GalleryWindow& window, const QList<int>& pageIndexes, const Q
         window.setDark(dark);
         for (const int index : pageIndexes) {
             window.resize(pictureSize);
-            window.showWholePage(index);
+            window.showPage(index);
+            settle();
+            window.growToPage();
             settle();
             const QString path = QDir(folder).filePath(
                 u"%1-%2-%3x.png"_s
