@@ -52,10 +52,9 @@ QPainterPath question(const IconGrid& grid)
                  grid.toPixels(QPointF(10.4, 6.0)));
     hook.cubicTo(grid.toPixels(QPointF(10.2, 7.8)), grid.toPixels(QPointF(8.0, 7.6)),
                  grid.toPixels(QPointF(8, 9.4)));
-    const QPainterPath sign = grid.stroked(hook, grid.toPixels(1.6)).simplified();
-    QPainterPath path = grid.disc(center, 7).subtracted(sign);
-    path.setFillRule(Qt::WindingFill);
-    return path.subtracted(grid.disc({8, 11.7}, 1.0));
+    const QPainterPath sign =
+        grid.stroked(hook, grid.toPixels(1.8)).united(grid.disc({8, 11.8}, 1.1));
+    return grid.disc(center, 7).subtracted(sign);
 }
 
 } // namespace Hueloft::IconShapes

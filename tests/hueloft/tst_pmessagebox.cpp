@@ -47,6 +47,7 @@ private Q_SLOTS:
     void returnsPressedButton_data();
     void returnsPressedButton();
     void escapeAnswersNo();
+    void questionShowsItsMark();
     void showsMarkupAsText();
     void longTextsStaySmall_data();
     void longTextsStaySmall();
@@ -116,6 +117,22 @@ void TestPMessageBox::escapeAnswersNo()
 {
     whenShown(this, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     QCOMPARE(PMessageBox::Question(nullptr, u"Update"_s, u"Restart now?"_s), int(QMessageBox::No));
+}
+
+void TestPMessageBox::questionShowsItsMark()
+{
+    whenShown(this, [](QMessageBox& box) {
+        const auto* label = box.findChild<QLabel*>(u"qt_msgboxex_icon_label"_s);
+        const QImage mark = label->pixmap().toImage();
+        const auto alphaAt = [&mark](double x, double y) {
+            return qAlpha(mark.pixel(int(x * mark.width() / 16), int(y * mark.height() / 16)));
+        };
+        QCOMPARE(alphaAt(3, 8), 255);
+        QVERIFY2(alphaAt(10.4, 6) < 100, "the hook");
+        QVERIFY2(alphaAt(8, 11.8) < 100, "the dot");
+        press(box, QMessageBox::No);
+    });
+    PMessageBox::Question(nullptr, u"Update"_s, u"Restart now?"_s);
 }
 
 void TestPMessageBox::showsMarkupAsText()
