@@ -158,7 +158,7 @@ void ReviewWindow::showView()
                                                    m_times.dateTime(view.end), m_times.zoneName()));
     m_zoomIn->setEnabled(m_timeline->canZoomIn());
     m_zoomOut->setEnabled(m_timeline->canZoomOut());
-    m_wholePeriod->setEnabled(m_timeline->canZoomOut());
+    m_wholePeriod->setEnabled(!m_timeline->showsWholePeriod());
     m_earlier->setEnabled(m_timeline->canStepEarlier());
     m_later->setEnabled(m_timeline->canStepLater());
 }

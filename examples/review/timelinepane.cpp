@@ -56,6 +56,11 @@ TimeSpan TimelinePane::view() const
     return {.begin = qint64(m_ruler->beginTime()), .end = qint64(m_ruler->endTime())};
 }
 
+bool TimelinePane::showsWholePeriod() const
+{
+    return view() == m_period;
+}
+
 bool TimelinePane::canZoomIn() const
 {
     return !m_period.isEmpty() && m_ruler->level() > 0;

@@ -25,6 +25,7 @@ public:
 
     /// What is in view; empty without a period.
     CorvelGui::TimeSpan view() const;
+    bool showsWholePeriod() const;
     bool canZoomIn() const;
     bool canZoomOut() const;
     bool canStepEarlier() const;
@@ -39,7 +40,7 @@ public Q_SLOTS:
     void stepLater();
 
 Q_SIGNALS:
-    /// Emitted whenever view() or one of the can…() answers may have changed.
+    /// Emitted whenever view() may have changed, and with it what can be done to it.
     void viewChanged();
 
 private:

@@ -85,7 +85,8 @@ void TestReviewWindow::actionsMoveTheView()
     // The level of fourteen days would show the same as the whole period.
     sample.action(u"Zoom in"_s)->trigger();
     QCOMPARE(sample.enabled(), u"Zoom in, Zoom out, Whole period, Earlier, Later"_s);
-    const Ruler* ruler = sample.window.findChild<Ruler*>();
+    Ruler* ruler = sample.window.findChild<Ruler*>();
+    QCOMPARE(ruler->getIndicatorMSecs(), 0U);
     QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 7 * day);
     const qint64 begin = qint64(ruler->beginTime());
 
@@ -108,6 +109,12 @@ void TestReviewWindow::actionsMoveTheView()
     sample.action(u"Whole period"_s)->trigger();
     QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
     QCOMPARE(sample.enabled(), u"Zoom in"_s);
+
+    // The ruler can be moved beyond the period.
+    ruler->onTimelineOffsetChanged(0.75);
+    QCOMPARE(sample.enabled(), u"Zoom in, Whole period, Earlier"_s);
+    sample.action(u"Whole period"_s)->trigger();
+    QCOMPARE(qint64(ruler->beginTime()), monday);
 }
 
 void TestReviewWindow::uncheckedTracksLeaveTheTimeline()
