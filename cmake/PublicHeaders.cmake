@@ -18,4 +18,6 @@ set(CORVELGUI_PUBLIC_HEADERS
     frame/ToolBarWithLabel
     timeline/Indicator
     timeline/Ruler
-    timeline/TrackDescription)
+    timeline/TimelineScroll
+    timeline/TrackDescription
+    timeline/Zoomer)

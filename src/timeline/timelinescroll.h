@@ -1,0 +1,90 @@
+#pragma once
+
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QLabel>
+
+#include <memory>
+
+namespace CorvelGui {
+
+/// The overview strip below the ruler: its width stands for the whole recording period, a box shows
+/// which part of it is in view, a line the play indicator, and a band the search range.
+///
+/// The user drags the box, clicks beside it to page, or uses the keyboard: Left and Right move by a
+/// tenth of the view, Page Up and Page Down by the view, Home and End to the ends of the period.
+///
+/// Positions are relative: 0.0 is the begin and 1.0 the end of the period. Setters are silent;
+/// values outside that range are allowed and drawn as far as they can be seen. Use it on the GUI
+/// thread only.
+class CORVELGUI_EXPORT TimelineScroll : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// Starts inactive, with the whole period in view.
+    explicit TimelineScroll(QWidget* parent = nullptr);
+    ~TimelineScroll() override;
+
+    /// The part of the period that is in view: its length as a fraction of the period. With 1.0 or
+    /// more there is nothing to move.
+    void setViewArea(double fraction);
+    double viewArea() const;
+
+    void setIndicatorPosition(double position);
+
+    /// The position of the view's centre: the latest of onCenterPositionChanged() and the user's.
+    double centerPosition() const;
+
+    /// An inactive strip is disabled and shows nothing but its border.
+    void setActive(bool active);
+
+    /// True puts the theme's colours in. False leaves the colours as they are.
+    void setOrvaneGuiTheme(bool on);
+    /// Stored for the owner; the strip looks and works the same in result mode.
+    void setResultMode(bool on);
+    /// True shows the box as if the mouse were on it.
+    void setHover(bool hover);
+
+    /// The search range; it is drawn while it ends after it begins and displaySearchTimeRange()
+    /// says so. Does nothing when both ends differ by at most 1e-5 from those before.
+    void setSearchTimeRange(double begin, double end);
+    void resetSearchTimeRange();
+    void displaySearchTimeRange(bool display);
+
+public Q_SLOTS:
+    /// As setIndicatorPosition(); the absolute time @p msecs is not needed.
+    void onIndicatorPositionChanged(quint64 msecs, double position);
+    /// Moves the box.
+    void onCenterPositionChanged(double position);
+
+Q_SIGNALS:
+    /// Emitted when the user moves the box: at every mouse move of a drag, at every page (every
+    /// 200 ms while the mouse is held beside the box, and once when it is released there), for the
+    /// keys, and for assistive technology. Also emitted when the box cannot go any further.
+    void viewAreaMoved(double centerPosition);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void updateStyleSheet();
+    void onMoveViewAreaTimer();
+    void translateViewAreaCenter();
+    void moveView(double centerPosition);
+    void storeCenterPosition(double position);
+    void endHold();
+
+    struct Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace CorvelGui

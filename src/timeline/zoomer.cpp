@@ -1,0 +1,142 @@
+#include "zoomer.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QPointer>
+#include <QSlider>
+#include <QToolButton>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr int zoomerWidth = 150;
+constexpr int zoomerHeight = 15;
+constexpr int minimumLevel = 0;
+constexpr double viewCenter = 0.5;
+
+QToolButton* createButton(const QString& iconPath, QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setIcon(QIcon(iconPath));
+    button->setIconSize(QSize(zoomerHeight, zoomerHeight));
+    button->setFixedSize(zoomerHeight, zoomerHeight);
+    button->setAutoRaise(true);
+    return button;
+}
+
+} // namespace
+
+Zoomer::Zoomer(int maximumLevel, QWidget* parent) : QWidget(parent), m_maximumLevel(maximumLevel)
+{
+    setFixedWidth(zoomerWidth);
+    setMaximumHeight(zoomerHeight);
+    setCursor(Qt::PointingHandCursor);
+    initializeControls();
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setSpacing(5);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_zoomIn);
+    layout->addWidget(m_slider);
+    layout->addWidget(m_zoomOut);
+}
+
+Zoomer::~Zoomer()
+{
+    // Deleted by a receiver: the slider is still at work on the mouse event that it reported.
+    if (m_pendingReports > 0) {
+        m_slider->hide();
+        m_slider->setParent(nullptr);
+        m_slider->deleteLater();
+    }
+}
+
+void Zoomer::initializeControls()
+{
+    m_slider = new QSlider(Qt::Horizontal, this);
+    m_slider->setRange(minimumLevel, m_maximumLevel);
+    m_slider->setPageStep(1);
+    m_slider->setSingleStep(1);
+    m_slider->setValue(minimumLevel);
+    connect(m_slider, &QSlider::valueChanged, this, &Zoomer::onSliderChanged);
+
+    m_zoomIn = createButton(u":/CorvelGui/common/zoomin.png"_s, this);
+    connect(m_zoomIn, &QToolButton::clicked, this, &Zoomer::onZoomInClicked);
+    m_zoomOut = createButton(u":/CorvelGui/common/zoomout.png"_s, this);
+    connect(m_zoomOut, &QToolButton::clicked, this, &Zoomer::onZoomOutClicked);
+    translateTexts();
+}
+
+void Zoomer::onZoomInClicked(bool)
+{
+    const int level = m_slider->value() - 1;
+    if (level < minimumLevel)
+        return;
+    const QPointer<Zoomer> alive(this);
+    m_slider->setValue(level);
+    if (alive)
+        Q_EMIT zoomerIn(level, viewCenter);
+}
+
+void Zoomer::onZoomOutClicked(bool)
+{
+    const int level = m_slider->value() + 1;
+    if (level > m_maximumLevel)
+        return;
+    const QPointer<Zoomer> alive(this);
+    m_slider->setValue(level);
+    if (alive)
+        Q_EMIT zoomerOut(level, viewCenter);
+}
+
+void Zoomer::onSliderChanged(int level)
+{
+    if (level == m_currentLevel)
+        return;
+    const bool wider = level > m_currentLevel;
+    m_currentLevel = level;
+
+    const QPointer<Zoomer> alive(this);
+    ++m_pendingReports;
+    if (wider)
+        Q_EMIT zoomerOut(level, viewCenter);
+    else
+        Q_EMIT zoomerIn(level, viewCenter);
+    if (alive)
+        --m_pendingReports;
+}
+
+void Zoomer::onChangeSliderPosition(int level)
+{
+    const int shown = std::clamp(level, m_slider->minimum(), m_slider->maximum());
+    if (shown == m_currentLevel)
+        return;
+    m_currentLevel = shown;
+    m_slider->setValue(shown);
+}
+
+void Zoomer::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        translateTexts();
+}
+
+void Zoomer::translateTexts()
+{
+    const auto name = [](QWidget* control, const QString& text) {
+        control->setToolTip(text);
+        control->setAccessibleName(text);
+    };
+    name(m_zoomIn, tr("Zoom in"));
+    name(m_slider, tr("Zoom level"));
+    name(m_zoomOut, tr("Zoom out"));
+}
+
+} // namespace CorvelGui
