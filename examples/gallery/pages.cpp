@@ -3,6 +3,7 @@
 #include "colourspage.h"
 #include "iconspage.h"
 #include "lookspage.h"
+#include "overviewpage.h"
 #include "rulerpage.h"
 
 #include <algorithm>
@@ -28,6 +29,7 @@ const std::vector<Page>& pages()
         {u"Colours"_s, create<ColoursPage>},
         {u"Icons"_s, create<IconsPage>},
         {u"Ruler"_s, create<RulerPage>},
+        {u"Overview"_s, create<OverviewPage>},
     };
     return all;
 }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QWidget>
+
+namespace Gallery {
+
+/// The overview strip and the zoomer in their states.
+class OverviewPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit OverviewPage(QWidget* parent);
+};
+
+} // namespace Gallery
