@@ -258,6 +258,7 @@ void TestRuler::viewSettingsOnRequest()
 void TestRuler::themeIsOneWay()
 {
     LoggedRuler ruler;
+    ruler.resize(800, ruler.height());
     const auto body = [&ruler] {
         return ruler.grab().toImage().pixelColor(500, 50);
     };

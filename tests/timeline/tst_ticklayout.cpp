@@ -3,6 +3,7 @@
 #include "times.h"
 #include "timescale.h"
 
+#include <QOperatingSystemVersion>
 #include <QTest>
 
 #include <algorithm>
@@ -243,6 +244,9 @@ void TestTickLayout::clockChanges()
 
     const QTimeZone timeZone(zone);
     const QDateTime changeTime = utc(change).toTimeZone(timeZone);
+    if (changeTime.date().year() < 2000 &&
+        QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
+        QSKIP("Windows knows the recent rules of a zone only.");
     QVERIFY(changeTime.offsetFromUtc() != changeTime.addMSecs(-1).offsetFromUtc());
 
     TimeScale scale = scaleOf(changeTime.addDays(-40), 80 * day);

@@ -392,7 +392,7 @@ void TestTimeScale::secondsInLabels()
 void TestTimeScale::storedTimesKeepTheirZone()
 {
     TimeScale scale = scaleOf(day);
-    scale.setTimeZone(QTimeZone("Asia/Kathmandu"));
+    scale.setTimeZone(QTimeZone((5 * 60 + 45) * 60));
     QCOMPARE(scale.getTickerString(0), u"00:00"_s);
     QCOMPARE(scale.inZone(monday).time(), QTime(5, 45));
 
