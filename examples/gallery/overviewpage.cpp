@@ -77,9 +77,8 @@ OverviewPage::OverviewPage(QWidget* parent) : QWidget(parent)
         form->addRow(tr("Search range"), search);
     }
 
-    TimelineScroll* focused = createStrip(0.2, 0.5);
-    form->addRow(tr("With focus"), focused);
-    QTimer::singleShot(0, focused, [focused] { focused->setFocus(Qt::TabFocusReason); });
+    m_focused = createStrip(0.2, 0.5);
+    form->addRow(tr("With focus"), m_focused);
 
     auto* plain = new TimelineScroll;
     plain->setActive(true);
@@ -101,9 +100,16 @@ OverviewPage::OverviewPage(QWidget* parent) : QWidget(parent)
     form->addRow(tr("Disabled"), disabled);
 
     auto* both = new QGridLayout;
+    both->setHorizontalSpacing(6);
     both->addWidget(createZoomer(6), 0, 0);
     both->addWidget(createStrip(0.1, 0.4), 0, 1);
     form->addRow(tr("Side by side"), both);
+}
+
+void OverviewPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_focused->setFocus(Qt::TabFocusReason);
 }
 
 } // namespace Gallery

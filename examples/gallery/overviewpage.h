@@ -11,6 +11,12 @@ class OverviewPage : public QWidget
 
 public:
     explicit OverviewPage(QWidget* parent);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* m_focused = nullptr;
 };
 
 } // namespace Gallery

@@ -242,8 +242,8 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
 
     QLinearGradient background(0, 0, 0, height());
     background.setColorAt(0.0, POrvGuiTheme::colorBlack);
-    background.setColorAt(0.1, POrvGuiTheme::colorShark);
-    background.setColorAt(0.9, POrvGuiTheme::colorShark);
+    background.setColorAt(0.1, POrvGuiTheme::colorPanther);
+    background.setColorAt(0.9, POrvGuiTheme::colorPanther);
     background.setColorAt(1.0, POrvGuiTheme::colorBlack);
     painter.fillRect(rect(), background);
 
