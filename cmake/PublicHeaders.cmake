@@ -18,6 +18,8 @@ set(CORVELGUI_PUBLIC_HEADERS
     frame/ToolBarWithLabel
     timeline/Indicator
     timeline/Ruler
+    timeline/RulerMarker
+    timeline/RulerMarkerButton
     timeline/TimelineScroll
     timeline/TrackDescription
     timeline/Zoomer)

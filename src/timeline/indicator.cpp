@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QRegion>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
@@ -57,7 +59,15 @@ int Indicator::labelHeight() const
 
 void Indicator::moveHotSpotTo(int x)
 {
-    move(x - hotSpot(), y());
+    // At the ends of the parent the label stays in sight, and the line leaves its middle.
+    const int rightmost = parentWidget() ? parentWidget()->width() - width() : x;
+    const int left = std::max(std::min(x - width() / 2, rightmost), 0);
+    move(left, y());
+    if (m_hotSpot == x - left)
+        return;
+    m_hotSpot = x - left;
+    updateMask();
+    update();
 }
 
 void Indicator::paintEvent(QPaintEvent*)
@@ -74,7 +84,7 @@ void Indicator::resizeEvent(QResizeEvent*)
 
 void Indicator::layOut()
 {
-    const int hotSpotX = x() + hotSpot();
+    const int hotSpotX = x() + m_hotSpot;
     m_label->resize(m_label->sizeHint().width(), m_label->fontMetrics().height());
     resize(m_label->width(), height());
     updateMask();

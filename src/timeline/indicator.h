@@ -11,6 +11,9 @@ namespace CorvelGui {
 
 /// A time on a label, with a line below it that points at a pixel column: the hot spot.
 ///
+/// The label stands in the middle above the line, except at the ends of the parent, where it stays
+/// in sight.
+///
 /// The indicator only shows what it is told; it knows nothing of a scale. Outside its label and its
 /// line it lets everything through, mouse events included.
 class CORVELGUI_EXPORT Indicator : public QWidget
@@ -30,7 +33,7 @@ public:
 
     int labelHeight() const;
     /// Distance of the line from the left edge, in pixels.
-    int hotSpot() const { return width() / 2; }
+    int hotSpot() const { return m_hotSpot; }
     /// Moves the indicator so that its line stands on column @p x of the parent.
     void moveHotSpotTo(int x);
 
@@ -44,6 +47,7 @@ private:
 
     QLabel* const m_label;
     QColor m_color;
+    int m_hotSpot = 0;
 };
 
 } // namespace CorvelGui

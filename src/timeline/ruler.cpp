@@ -1,16 +1,9 @@
-#include "ruler.h"
-
-#include "indicator.h"
-#include "rulerarrows.h"
-#include "rulerpainter.h"
-#include "timescale.h"
-#include "tracksegments.h"
+#include "ruler_p.h"
 
 #include <Corvel/TimeZoneHelper>
 #include <Hueloft/POrvGuiTheme>
 
 #include <QPainter>
-#include <QTimer>
 
 #include <cmath>
 #include <utility>
@@ -25,77 +18,55 @@ namespace {
 
 constexpr int initialHeight = 60;
 constexpr int minimumRulerWidth = 800;
+constexpr int mouseInterval = 100; // milliseconds
 constexpr qint64 msecsPerDay = 86'400'000;
+constexpr double halfMargin = TimeScale::margin() / 2;
+
+std::optional<TimeSpan> span(const QDateTime& from, const QDateTime& to)
+{
+    if (!from.isValid() || !to.isValid() || !(from < to))
+        return {};
+    return TimeSpan{from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch()};
+}
+
+QColor indicatorColor(bool theme, bool playMode)
+{
+    if (!playMode)
+        return POrvGuiTheme::colorGreen;
+    return theme ? POrvGuiTheme::colorYellow : POrvGuiTheme::colorBlue;
+}
+
+/// Markers stand below the first two rows of text and above the coloured foot of the tracks.
+QRect markerArea(const QRect& rect, int headerHeight, bool hasTracks)
+{
+    const int halfHeader = headerHeight / 2;
+    return rect.adjusted(0, headerHeight + (hasTracks ? 2 * halfHeader : halfHeader), 0,
+                         -halfHeader);
+}
 
 } // namespace
-
-struct Ruler::Private
-{
-    TimeScale scale;
-    TrackSegments segments;
-    RulerPainter painter;
-    QString dateFormat = u"dd.MM.yy"_s;
-
-    Indicator* indicator = nullptr;
-    QDateTime indicatorTime;
-    RulerArrows* arrows = nullptr;
-
-    QDateTime previewTime;
-    bool previewVisible = false;
-    bool previewPending = false;
-
-    QDateTime searchBegin;
-    QDateTime searchEnd;
-    bool searchDisplayed = false;
-
-    int headerHeight = initialHeight / 4;
-    unsigned int fontSize = 8;
-    bool theme = true;
-    bool playMode = true;
-    bool resultMode = false;
-    bool active = false;
-    bool blocked = false;
-    bool viewChangeBlocked = false;
-    bool viewChangePending = false;
-
-    QColor indicatorColor() const
-    {
-        if (!playMode)
-            return POrvGuiTheme::colorGreen;
-        return theme ? POrvGuiTheme::colorYellow : POrvGuiTheme::colorBlue;
-    }
-
-    RulerScene scene(const QRect& rect) const
-    {
-        RulerScene scene{.scale = scale,
-                         .segments = segments,
-                         .rect = rect,
-                         .headerHeight = headerHeight,
-                         .dateFormat = dateFormat,
-                         .searchRange = {},
-                         .previewTime = {}};
-        if (searchDisplayed && searchBegin.isValid() && searchEnd.isValid())
-            scene.searchRange =
-                TimeSpan{searchBegin.toMSecsSinceEpoch(), searchEnd.toMSecsSinceEpoch()};
-        if (previewVisible && previewTime.isValid())
-            scene.previewTime = previewTime.toMSecsSinceEpoch();
-        return scene;
-    }
-};
 
 Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Timeline"));
     setMinimumSize(minimumRulerWidth, initialHeight);
     setMaximumHeight(initialHeight);
 
+    d->dateFormat = u"dd.MM.yy"_s;
+    d->headerHeight = initialHeight / 4;
     d->scale.setWidth(width());
+    d->markers = new RulerMarkers(this);
+    d->indicator = new Indicator(this);
+    d->indicator->installEventFilter(this);
+    d->indicator->hide();
     d->arrows = new RulerArrows(this, [this](int direction) { return canMoveViewPort(direction); });
     connect(d->arrows, &RulerArrows::step, this, &Ruler::moveViewPort);
     connect(d->arrows, &RulerArrows::released, this, [this] { changedTimeLineView(false); });
-    d->indicator = new Indicator(this);
-    d->indicator->hide();
+    d->mouseTimer.setInterval(mouseInterval);
+    connect(&d->mouseTimer, &QTimer::timeout, this, &Ruler::onMouseTimerTimeout);
 
     setOrvaneGuiTheme(true);
     setActive(false, false);
@@ -108,25 +79,30 @@ void Ruler::setTimeLimits(quint64 begin, quint64 end)
 {
     const QDateTime oldViewStart = d->scale.viewStart();
     d->scale.setTimeLimits(begin, end);
-    if (!oldViewStart.isValid() && d->scale.hasView())
-        Q_EMIT centerPositionChanged(getCurrentCenterPosition());
 
-    // No indicator counts as one at the epoch: it comes to the begin of the first period.
-    const qint64 indicator = qint64(getIndicatorMSecs());
-    if (indicator < d->scale.beginLimitMs())
-        setIndicatorPosition(quint64(d->scale.beginLimitMs()));
-    else if (d->scale.endLimitMs() < indicator)
-        setIndicatorPosition(quint64(d->scale.endLimitMs()));
+    const auto announceFirstView = [&] {
+        if (!oldViewStart.isValid() && d->scale.hasView())
+            Q_EMIT centerPositionChanged(getCurrentCenterPosition());
+    };
+    const auto keepIndicatorWithinLimits = [this] {
+        // No indicator counts as one at the epoch: it comes to the begin of the first period.
+        const qint64 indicator = qint64(getIndicatorMSecs());
+        if (indicator < d->scale.beginLimitMs())
+            setIndicatorPosition(quint64(d->scale.beginLimitMs()));
+        else if (d->scale.endLimitMs() < indicator)
+            setIndicatorPosition(quint64(d->scale.endLimitMs()));
+    };
+    if (!whileAlive(this, announceFirstView, keepIndicatorWithinLimits))
+        return;
 
     updateTrackSegments();
-    if (d->scale.hasView() && d->scale.viewStart() != oldViewStart) {
-        updateChildren(true);
-        changedTimeLineView(false);
-    } else {
-        updateChildren(false);
-        if (d->segments.isTrackLimitChanged(d->scale))
-            changedTimeLineView(false);
-    }
+    const bool viewChanged = d->scale.hasView() && d->scale.viewStart() != oldViewStart;
+    whileAlive(
+        this, [&] { updateChildren(viewChanged); },
+        [&] {
+            if (viewChanged || d->segments.isTrackLimitChanged(d->scale))
+                changedTimeLineView(false);
+        });
 }
 
 std::pair<quint64, quint64> Ruler::getTimeLimits() const
@@ -178,11 +154,11 @@ void Ruler::changeLevel(int level, double anchor)
     const bool changed = d->scale.level() != oldLevel;
     if (changed)
         updateTrackSegments();
-    updateChildren(changed);
-    Q_EMIT changeSliderZoom(d->scale.level());
-    Q_EMIT centerPositionChanged(getCurrentCenterPosition());
-    changedTimeLineView(false);
-    repaint();
+    whileAlive(
+        this, [&] { updateChildren(changed); },
+        [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
+        [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
+        [this] { changedTimeLineView(false); }, [this] { repaint(); });
 }
 
 double Ruler::getCurrentCenterPosition() const
@@ -208,6 +184,8 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
         showIndicatorTime(msecs);
         return false;
     }
+    if (d->indicatorDragging)
+        return true;
     if (msecs == 0) {
         d->indicatorTime = QDateTime();
         updateChildren(false);
@@ -217,8 +195,8 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
     d->indicatorTime = d->scale.inZone(qint64(msecs));
     if (d->scale.pageTo(d->indicatorTime)) {
         updateTrackSegments();
-        updateChildren(true);
-        changedTimeLineView(false);
+        whileAlive(
+            this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); });
     } else {
         updateChildren(false);
     }
@@ -240,17 +218,34 @@ bool Ruler::setPreviewIndicatorPosition(quint64 msecs)
     d->previewTime = msecs == 0 ? QDateTime() : d->scale.inZone(qint64(msecs));
     if (d->active)
         update();
+    if (d->previewTime.isValid())
+        QTimer::singleShot(0, this, &Ruler::checkPreviewLine);
     return true;
+}
+
+void Ruler::setIndicatorDragEnabled(bool on)
+{
+    d->indicatorDragEnabled = on;
+}
+
+void Ruler::setPreviewEnabled(bool on)
+{
+    d->previewEnabled = on;
+    if (on) {
+        if (d->takesInput() && d->hovering)
+            startMouseTimer(mapFromGlobal(QCursor::pos()));
+    } else {
+        d->previewVisible = false;
+        stopMouseTimer();
+    }
 }
 
 void Ruler::setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom)
 {
-    const bool valid = from.isValid() && to.isValid() && from < to;
-    d->searchBegin = valid ? from : QDateTime();
-    d->searchEnd = valid ? to : QDateTime();
+    d->searchRange = span(from, to);
+    update();
     if (adjustZoom)
         setLevelFromTimeRange(from, to);
-    update();
 }
 
 void Ruler::resetSearchTimeRange()
@@ -266,14 +261,86 @@ void Ruler::displaySearchTimeRange(bool display)
     update();
 }
 
+void Ruler::setResultTimeRange(const QDateTime& from, const QDateTime& to, bool markBegin,
+                               bool markEnd, bool onlyInside, bool adjustZoom)
+{
+    d->resultRange = span(from, to);
+    d->resultBeginMarked = markBegin;
+    d->resultEndMarked = markEnd;
+    d->markers->setRange(onlyInside ? d->resultRange : std::nullopt);
+    whileAlive(
+        this, [this] { updateChildren(true); }, [this] { update(); },
+        [&] {
+            if (adjustZoom)
+                setLevelFromTimeRange(from, to);
+        });
+}
+
+void Ruler::onMarkerOperation(RulerMarkerOperation operation)
+{
+    switch (operation.code) {
+    case RulerMarkerOperation::show:
+        return onShowMarkers();
+    case RulerMarkerOperation::hide:
+        return onHideMarkers();
+    case RulerMarkerOperation::clear:
+        return onClearMarkers();
+    case RulerMarkerOperation::add:
+        return onAddMarkers(operation.markers);
+    case RulerMarkerOperation::remove:
+        return onRemoveMarkers(operation.markers);
+    default:
+        return;
+    }
+}
+
+void Ruler::onAddMarkers(const QList<RulerMarker>& markers)
+{
+    d->markers->add(markers);
+    updateChildren(true);
+}
+
+void Ruler::onRemoveMarkers(const QList<RulerMarker>& markers)
+{
+    d->markers->remove(markers);
+    updateChildren(true);
+}
+
+void Ruler::onClearMarkers()
+{
+    d->markers->clear();
+    update();
+}
+
+void Ruler::onShowMarkers()
+{
+    if (d->markers->setShown(true))
+        updateChildren(true);
+}
+
+void Ruler::onHideMarkers()
+{
+    if (!d->markers->setShown(false))
+        return;
+    updateChildren(true);
+    updateSize();
+}
+
+void Ruler::setIconSize(const QSize& size)
+{
+    d->markers->setIconSize(size);
+    updateChildren(true);
+}
+
 void Ruler::setOrvaneGuiTheme(bool on)
 {
     d->theme = on;
-    d->indicator->setLook(d->indicatorColor(), d->fontSize);
+    d->indicator->setLook(indicatorColor(on, d->playMode), d->fontSize);
     // Without the theme the colours stay as they are: there is no way back to those from before it.
     if (on)
         d->painter.colors = RulerColors::ofTheme();
     createGradients();
+    d->markers->setOrvaneGuiTheme(on);
     updateChildren(false);
 }
 
@@ -312,10 +379,20 @@ void Ruler::setActive(bool active, bool blocked)
 {
     d->active = active;
     d->blocked = blocked;
+    const bool usable = d->takesInput();
     if (!active)
         d->indicator->hide();
-    d->arrows->setEnabled(active && !blocked);
-    updateChildren(false);
+    d->arrows->setEnabled(usable);
+    d->indicator->setCursor(blocked ? Qt::ArrowCursor : Qt::SizeHorCursor);
+    d->indicator->setMouseTracking(!blocked);
+    if (!usable)
+        endGestures();
+    whileAlive(
+        this, [this] { updateChildren(false); },
+        [&] {
+            if (usable && d->inPreviewArea && d->previewEnabled)
+                startMouseTimer(mapFromGlobal(QCursor::pos()));
+        });
 }
 
 void Ruler::updateSize()
@@ -358,9 +435,9 @@ void Ruler::onZoomerOut(int level, double anchor)
 void Ruler::onTimelineOffsetChanged(double position)
 {
     d->scale.centerOn(position);
-    updateChildren(true);
     updateTrackSegments();
-    changedTimeLineView(false);
+    whileAlive(
+        this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); });
 }
 
 void Ruler::onPreviewVisible(bool visible, bool pending)
@@ -386,7 +463,25 @@ void Ruler::paintEvent(QPaintEvent*)
     font.setPointSize(int(d->fontSize));
     painter.setFont(font);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    d->painter.paint(painter, d->scene(rect()));
+
+    const auto msecs = [](const QDateTime& time) -> std::optional<qint64> {
+        return time.isValid() ? std::optional(time.toMSecsSinceEpoch()) : std::nullopt;
+    };
+    RulerScene scene{.scale = d->scale,
+                     .segments = d->segments,
+                     .rect = rect(),
+                     .headerHeight = d->headerHeight,
+                     .dateFormat = d->dateFormat};
+    if (d->searchDisplayed)
+        scene.searchRange = d->searchRange;
+    if (d->previewVisible)
+        scene.previewTime = msecs(d->previewTime);
+    if (d->resultRange && d->resultBeginMarked)
+        scene.resultMarks.push_back(d->resultRange->begin);
+    if (d->resultRange && d->resultEndMarked)
+        scene.resultMarks.push_back(d->resultRange->end);
+    scene.focused = hasFocus();
+    d->painter.paint(painter, scene);
 }
 
 void Ruler::resizeEvent(QResizeEvent*)
@@ -409,12 +504,21 @@ void Ruler::updateTrackSegments()
     update();
 }
 
-void Ruler::updateChildren(bool)
+void Ruler::updateChildren(bool merge)
 {
     if (!d->active)
         return;
+    updateIndicator();
+    const QRect area = markerArea(rect(), d->headerHeight, d->segments.hasTracks());
+    const QList<QDateTime> firstSeen = d->markers->update(d->scale, area, merge);
+    update();
+    if (!firstSeen.isEmpty())
+        Q_EMIT newVisibleRulerMarkers(firstSeen);
+}
+
+void Ruler::updateIndicator()
+{
     const double x = std::trunc(d->scale.xAt(qint64(getIndicatorMSecs())));
-    const double halfMargin = TimeScale::margin() / 2;
     const bool inView = x >= halfMargin && x <= width() - halfMargin;
     if (inView && d->scale.hasView() && d->indicatorTime.isValid() && !d->resultMode) {
         showIndicatorTime(getIndicatorMSecs());
@@ -423,7 +527,6 @@ void Ruler::updateChildren(bool)
     } else {
         d->indicator->hide();
     }
-    update();
 }
 
 void Ruler::showIndicatorTime(quint64 msecs)
@@ -443,10 +546,11 @@ void Ruler::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
     const bool levelChanged = d->scale.level() != oldLevel;
     if (levelChanged || d->scale.viewStartMs() != oldStart)
         updateTrackSegments();
-    updateChildren(levelChanged);
-    Q_EMIT changeSliderZoom(d->scale.level());
-    Q_EMIT centerPositionChanged(getCurrentCenterPosition());
-    changedTimeLineView(false);
+    whileAlive(
+        this, [&] { updateChildren(levelChanged); },
+        [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
+        [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
+        [this] { changedTimeLineView(false); });
 }
 
 void Ruler::changedTimeLineView(bool moving)
@@ -467,6 +571,15 @@ void Ruler::emitTimeLineViewChanged(bool moving)
     Q_EMIT timeLineViewChanged(scale.beginLimit(), scale.endLimit(), viewBegin, viewEnd, moving);
 }
 
+void Ruler::viewMovedByUser(bool moving)
+{
+    updateTrackSegments();
+    whileAlive(
+        this, [this] { updateChildren(true); },
+        [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
+        [&] { changedTimeLineView(moving); });
+}
+
 bool Ruler::canMoveViewPort(int direction) const
 {
     return direction < 0 ? d->scale.beginLimitMs() < d->scale.viewStartMs()
@@ -477,10 +590,7 @@ void Ruler::moveViewPort(int direction)
 {
     d->scale.setViewStart(
         d->scale.viewStart().addMSecs(direction * d->scale.millisecondsPerInterval()));
-    updateChildren(true);
-    Q_EMIT centerPositionChanged(getCurrentCenterPosition());
-    updateTrackSegments();
-    changedTimeLineView(true);
+    viewMovedByUser(true);
 }
 
 } // namespace CorvelGui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <CorvelGui/RulerMarker>
 #include <CorvelGui/TrackDescription>
 #include <CorvelGui/corvelgui_export.h>
 
@@ -10,6 +11,8 @@
 #include <utility>
 
 namespace CorvelGui {
+
+class RulerMarkerButton;
 
 /// The time ruler: a horizontal, zoomable scale over a recording period, with a play indicator and
 /// the recorded spans of the described tracks.
@@ -75,14 +78,36 @@ public:
     /// The time of the preview line; 0 clears it. It is drawn while onPreviewVisible() says so.
     /// Always returns true.
     bool setPreviewIndicatorPosition(quint64 msecs);
+    /// Whether the user's drag of the indicator emits indicatorPositionChanged() at every move, or
+    /// only at its end.
+    void setIndicatorDragEnabled(bool on);
+    /// Whether a resting mouse asks for previews.
+    void setPreviewEnabled(bool on);
 
-    // The search range
+    // Search range and result range
 
     /// Stores the range, and with @p adjustZoom shows it at the closest level that holds it.
     /// Invalid or reversed times take the range away.
     void setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom);
     void resetSearchTimeRange();
     void displaySearchTimeRange(bool display);
+    /// Marks a range that was found: with @p markBegin and @p markEnd at its ends, with @p
+    /// onlyInside by showing only the event markers inside it. @p adjustZoom as for a search range.
+    /// Invalid times clear the range.
+    void setResultTimeRange(const QDateTime& from, const QDateTime& to, bool markBegin,
+                            bool markEnd, bool onlyInside, bool adjustZoom);
+
+    // Markers
+
+    /// Adds markers; those without a valid time are left out.
+    void onAddMarkers(const QList<RulerMarker>& markers);
+    /// Removes, for each of @p markers, the first marker that has its time.
+    void onRemoveMarkers(const QList<RulerMarker>& markers);
+    void onClearMarkers();
+    void onShowMarkers();
+    void onHideMarkers();
+    /// Gives the markers icons of about half the size plus 6 pixels in each direction.
+    void setIconSize(const QSize& size);
 
     // Appearance and state
 
@@ -97,7 +122,7 @@ public:
     void setHeaderColor(const QColor& color);
     /// Stores the colour. It shows with the next repaint.
     void setBodyColor(const QColor& color);
-    /// In result mode there is no indicator.
+    /// In result mode there is no indicator, and a click does not place one.
     void setResultMode(bool on);
     /// Selects the indicator's colour; shows when the theme is applied again.
     void setPlayMode(bool on);
@@ -106,6 +131,9 @@ public:
     void setActive(bool active, bool blocked);
     /// Derives height and layout from the height of the indicator's label.
     void updateSize();
+    /// Brings indicator and markers in line with the view, while the ruler is active. With @p merge
+    /// the markers are grouped again even where nothing moved.
+    void updateChildren(bool merge);
 
     /// While blocked, view changes are noted instead of reported. Unblocking reports nothing.
     void blockSignalTimeLineViewChanged(bool block);
@@ -119,36 +147,80 @@ public Q_SLOTS:
     void onZoomerOut(int level, double anchor);
     /// Centres the view on a relative position, without regard to the limits.
     void onTimelineOffsetChanged(double position);
+    /// Performs an operation on the markers; unknown codes do nothing.
+    void onMarkerOperation(CorvelGui::RulerMarkerOperation operation);
     /// Shows or hides the preview line. @p pending says that a preview is being fetched.
     void onPreviewVisible(bool visible, bool pending);
     /// Announces the current view on the next turn of the event loop.
     void onTimeLineViewSettingsNeeded();
 
 Q_SIGNALS:
-    /// Emitted after every change of level and after every refused zoom request.
+    /// Emitted after every change of level, every refused zoom request and every step of the wheel.
     void changeSliderZoom(int level);
-    /// Emitted when the view moved, except by onTimelineOffsetChanged() and by paging after the
-    /// indicator.
+    /// For clients that drive a zoom slider of their own; the ruler does not emit it.
+    void changeSliderFraction(double fraction);
+    /// Emitted when the user placed the indicator: by a click, at the end of a drag, by a key, and
+    /// at every move of a drag if setIndicatorDragEnabled() says so.
+    void indicatorPositionChanged(quint64 msecs, double position);
+    /// Emitted when the view moved, except by onTimelineOffsetChanged() and by paging after
+    /// setIndicatorPosition().
     void centerPositionChanged(double position);
+    /// Emitted when a marker was pressed, or reached by a key.
+    void jumpToTime(const QDateTime& time, const QUuid& identifier);
+    /// Emitted when a marker was double-clicked.
+    void jumpToTrackTime(const QDateTime& time, const QUuid& identifier);
+    /// Emitted with the times of markers that are in view for the first time, in order.
+    void newVisibleRulerMarkers(const QList<QDateTime>& times);
+    /// Asks for a preview of the time under the mouse at @p position, or of the marker whose button
+    /// has its centre there (@p onMarker). A time of 0 means that no preview is wanted.
+    void previewPositionChanged(quint64 msecs, const QPoint& position, bool onMarker);
+    /// Emitted on the turn of the event loop after setPreviewIndicatorPosition() when the preview
+    /// line stands in another column than the last preview was asked for.
+    void previewIndicatorPositionChanged(const QPoint& position);
     /// Emitted when the view changed: the limits, the view without what lies before the begin
     /// limit, and whether more changes follow at once (@p moving).
     void timeLineViewChanged(const QDateTime& beginLimit, const QDateTime& endLimit,
                              const QDateTime& viewBegin, const QDateTime& viewEnd, bool moving);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void createGradients();
     void updateTrackSegments();
-    void updateChildren(bool merge);
+    void updateIndicator();
     void showIndicatorTime(quint64 msecs);
     void setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
     void changedTimeLineView(bool moving);
     void emitTimeLineViewChanged(bool moving);
+    void viewMovedByUser(bool moving);
     bool canMoveViewPort(int direction) const;
     void moveViewPort(int direction);
+
+    bool placeIndicator(int x);
+    bool indicatorEvent(QEvent* event);
+    bool markerEvent(RulerMarkerButton* button, QEvent* event);
+    bool checkRulerMarkerEvent(RulerMarkerButton* button, QEvent* event);
+    void dragView(int x);
+    void moveIndicatorByKey(qint64 msecs);
+    void moveViewByKey(qint64 msecs);
+    void jumpToNeighbour(int direction);
+    void startMouseTimer(QPoint position);
+    void stopMouseTimer();
+    void onMouseTimerTimeout();
+    void emitPrviewPositionChanged();
+    void checkPreviewLine();
+    void endGestures();
 
     struct Private;
     const std::unique_ptr<Private> d;

@@ -2,11 +2,15 @@
 
 #include "timescale.h"
 
+#include <Hueloft/PIconHelperBase>
+
 #include <QAbstractButton>
 #include <QEvent>
 #include <QIcon>
 #include <QPainter>
+#include <QPointer>
 
+using Hueloft::PIconHelperBase;
 using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
@@ -25,7 +29,7 @@ public:
     {
         setFocusPolicy(Qt::NoFocus);
         setCursor(Qt::PointingHandCursor);
-        setIcon(QIcon(iconPath));
+        setIcon(PIconHelperBase::GetIcon(iconPath, true));
         setIconSize(QSize(12, 12));
     }
 
@@ -74,20 +78,21 @@ void RulerArrows::layOut(int top)
 
 bool RulerArrows::eventFilter(QObject* watched, QEvent* event)
 {
+    const bool isPress = event->type() == QEvent::MouseButtonPress;
+    if (!isPress && event->type() != QEvent::MouseButtonRelease)
+        return false;
     if (!static_cast<QWidget*>(watched)->isEnabled())
         return false;
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
+
+    const QPointer<QObject> alive(watched);
+    if (isPress) {
         press(watched == m_left ? -1 : +1);
-        break;
-    case QEvent::MouseButtonRelease:
+    } else {
         m_timer.stop();
         Q_EMIT released();
-        break;
-    default:
-        break;
     }
-    return false;
+    // A button that is gone handles no event any more.
+    return alive.isNull();
 }
 
 void RulerArrows::press(int direction)
@@ -95,8 +100,8 @@ void RulerArrows::press(int direction)
     if (!m_canStep(direction))
         return;
     m_direction = direction;
-    Q_EMIT step(direction);
     m_timer.start();
+    Q_EMIT step(direction);
 }
 
 void RulerArrows::repeat()

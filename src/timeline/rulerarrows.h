@@ -21,6 +21,8 @@ public:
     RulerArrows(QWidget* ruler, std::function<bool(int direction)> canStep);
 
     void setEnabled(bool enabled);
+    /// Ends the repetition of a held button.
+    void stop() { m_timer.stop(); }
     /// Puts the buttons to the ends of the ruler, below @p top.
     void layOut(int top);
 

@@ -44,7 +44,8 @@ RulerColors RulerColors::ofTheme()
             .trackEdge = POrvGuiTheme::colorYellow.darker(200),
             .search = POrvGuiTheme::colorDarkBlue,
             .preview = POrvGuiTheme::colorYellow,
-            .previewClamped = POrvGuiTheme::colorPurple};
+            .previewClamped = POrvGuiTheme::colorPurple,
+            .resultMark = POrvGuiTheme::colorOrange};
 }
 
 void RulerPainter::createGradients(const QRect& rect, int headerHeight)
@@ -86,6 +87,8 @@ void RulerPainter::paint(QPainter& painter, const RulerScene& scene) const
     shadeOutsideLimits(painter, scene, rect);
     drawPreviewLine(painter, scene, rect);
     drawScaleRuler(painter, scene, rect, toMidnight);
+    drawResultMarks(painter, scene);
+    drawFocus(painter, scene);
 }
 
 void RulerPainter::fillBands(QPainter& painter, const RulerScene& scene) const
@@ -156,6 +159,35 @@ void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
     const QRectF line(inView, rect.top(), penWidth, rect.height());
     painter.fillRect(DeviceGrid(painter).aligned(line),
                      inView == x ? colors.preview : colors.previewClamped);
+}
+
+void RulerPainter::drawResultMarks(QPainter& painter, const RulerScene& scene) const
+{
+    // A line with a small flag on top.
+    constexpr double markWidth = 2.0;
+    constexpr double flagWidth = 6.0;
+    const DeviceGrid grid(painter);
+    for (const qint64 time : scene.resultMarks) {
+        const double x = scene.scale.xAt(time);
+        if (x < halfMargin || x > scene.scale.width() - halfMargin)
+            continue;
+        const double left = std::trunc(x) - markWidth / 2;
+        painter.fillRect(grid.aligned(QRectF(left, 0, markWidth, scene.rect.height())),
+                         colors.resultMark);
+        painter.fillRect(grid.aligned(QRectF(left, 0, flagWidth, scene.headerHeight / 3)),
+                         colors.resultMark);
+    }
+}
+
+void RulerPainter::drawFocus(QPainter& painter, const RulerScene& scene) const
+{
+    if (!scene.focused)
+        return;
+    const double frame = DeviceGrid(painter).lineWidth(penWidth);
+    const QRectF inner = QRectF(scene.rect).adjusted(frame / 2, frame / 2, -frame / 2, -frame / 2);
+    painter.setPen(QPen(POrvGuiTheme::colorBlue, frame));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(inner);
 }
 
 void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,

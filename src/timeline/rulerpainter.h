@@ -28,6 +28,7 @@ struct CORVELGUI_INTERNAL_EXPORT RulerColors
     QColor search{28, 187, 255};
     QColor preview{37, 124, 191};
     QColor previewClamped{207, 0, 249};
+    QColor resultMark{255, 140, 0};
 
     static RulerColors ofTheme();
 };
@@ -40,8 +41,10 @@ struct RulerScene
     QRect rect;
     int headerHeight;
     QString dateFormat;
-    std::optional<TimeSpan> searchRange; ///< only while it is displayed
-    std::optional<qint64> previewTime;   ///< only while it is visible
+    std::optional<TimeSpan> searchRange = {}; ///< only while it is displayed
+    std::optional<qint64> previewTime = {};   ///< only while it is visible
+    std::vector<qint64> resultMarks = {};
+    bool focused = false;
 };
 
 /// Draws the ruler's bands, highlights and scale. It decides about colours and pixels, never about
@@ -62,6 +65,8 @@ private:
     void fillSearchRange(QPainter& painter, const RulerScene& scene) const;
     void fillTracks(QPainter& painter, const RulerScene& scene) const;
     void shadeOutsideLimits(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
+    void drawResultMarks(QPainter& painter, const RulerScene& scene) const;
+    void drawFocus(QPainter& painter, const RulerScene& scene) const;
     void drawPreviewLine(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
     void drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
                         qint64 toMidnight) const;

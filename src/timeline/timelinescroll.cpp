@@ -108,7 +108,7 @@ struct TimelineScroll::Private
     int pressX = 0;
     int dragOffset = 0;
     int step = 0;
-    QTimer repeatTimer;
+    QTimer repeatTimer{q};
 
     AccessibleRange accessible;
 };

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "hoverpreview.h"
+#include "indicator.h"
+#include "ruler.h"
+#include "rulerarrows.h"
+#include "rulermarkers.h"
+#include "rulerpainter.h"
+#include "timescale.h"
+#include "tracksegments.h"
+
+#include <QPointer>
+#include <QTimer>
+
+#include <optional>
+
+namespace CorvelGui {
+
+/// Takes steps that emit signals one after the other, for as long as @p object lives. Returns
+/// whether it still does.
+template <typename... Steps>
+bool whileAlive(QObject* object, Steps&&... steps)
+{
+    const QPointer<QObject> alive(object);
+    return ((steps(), !alive.isNull()) && ...);
+}
+
+/// A drag of the view, from the press on.
+struct ViewDrag
+{
+    QPoint pressPosition;
+    qint64 pressTime = 0;
+    bool active = false;
+};
+
+struct Ruler::Private
+{
+    TimeScale scale;
+    TrackSegments segments;
+    RulerPainter painter;
+    QString dateFormat;
+
+    // Children
+    Indicator* indicator = nullptr;
+    RulerArrows* arrows = nullptr;
+    RulerMarkers* markers = nullptr;
+
+    QDateTime indicatorTime;
+    bool indicatorDragEnabled = false;
+    bool indicatorDragging = false;
+
+    ViewDrag viewDrag;
+
+    HoverPreview hover;
+    QTimer mouseTimer;
+    bool hovering = false;
+    bool inPreviewArea = false;
+    bool previewEnabled = false;
+    bool previewVisible = false;
+    bool previewPending = false;
+    QDateTime previewTime;
+
+    std::optional<TimeSpan> searchRange;
+    bool searchDisplayed = false;
+    std::optional<TimeSpan> resultRange;
+    bool resultBeginMarked = false;
+    bool resultEndMarked = false;
+
+    int headerHeight = 0;
+    unsigned int fontSize = 8;
+    bool theme = true;
+    bool playMode = true;
+    bool resultMode = false;
+    bool active = false;
+    bool blocked = false;
+    bool viewChangeBlocked = false;
+    bool viewChangePending = false;
+
+    bool takesInput() const { return active && !blocked; }
+};
+
+} // namespace CorvelGui

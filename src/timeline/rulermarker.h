@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDateTime>
+#include <QIcon>
+#include <QList>
+#include <QString>
+#include <QUuid>
+
+namespace CorvelGui {
+
+/// Gives the icons of markers. Markers with the same key share one icon.
+class IRulerMarkerIconProvider
+{
+public:
+    virtual ~IRulerMarkerIconProvider() = default;
+
+    /// The key of the icon for an index; any number but -1, which is the ruler's own icon.
+    virtual int iconKey(int iconIndex) = 0;
+    /// The icon for an index. Asked once for every key.
+    virtual QIcon icon(int iconIndex) = 0;
+};
+
+/// A labelled instant on the ruler, such as an event or a bookmark.
+struct RulerMarker
+{
+    /// The kind of markers whose icon comes from their provider. All others have the ruler's own
+    /// icon.
+    static constexpr int providedIconKind = 3;
+
+    QUuid identifier;
+    /// Also the key by which markers are removed. A marker without a valid time is not added.
+    QDateTime time;
+    int kind = 0;
+    int iconIndex = -1;
+    /// Shown as the tooltip, as plain text.
+    QString text;
+    /// Not owned; must live as long as the marker is on a ruler.
+    IRulerMarkerIconProvider* iconProvider = nullptr;
+};
+
+/// What to do with the markers of a ruler. Codes beyond those listed do nothing.
+struct RulerMarkerOperation
+{
+    static constexpr int show = 1;
+    static constexpr int hide = 2;
+    static constexpr int clear = 3;
+    static constexpr int add = 4;
+    static constexpr int remove = 5;
+
+    QList<RulerMarker> markers;
+    int code = 0;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,111 @@
+#include "rulermarkerbutton.h"
+
+#include "rulericonset.h"
+
+#include <Hueloft/POrvGuiTheme>
+
+#include <QPainter>
+#include <QTextDocument>
+
+using Hueloft::POrvGuiTheme;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr QSize initialIconSize(16, 16);
+constexpr QSize initialSize(16, 18);
+
+} // namespace
+
+RulerMarkerButton::RulerMarkerButton(const MergedRulerIcons* mergedIcons, QWidget* ruler)
+    : QPushButton(ruler), m_mergedIcons(mergedIcons)
+{
+    setFlat(true);
+    setFocusPolicy(Qt::NoFocus);
+    setMouseTracking(true);
+    setCursor(Qt::PointingHandCursor);
+    setIconSize(initialIconSize);
+    setFixedSize(initialSize);
+}
+
+QString RulerMarkerButton::plainToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+void RulerMarkerButton::setMarker(const RulerMarker& marker, const RulerIconSet* icons)
+{
+    m_marker = marker;
+    m_icons = icons;
+    m_hovered = false;
+    m_alternativeHover = false;
+    setToolTip(plainToolTip(marker.text));
+    setAccessibleName(marker.text);
+    update();
+}
+
+void RulerMarkerButton::setMerge(Merge merge)
+{
+    if (m_merge == merge)
+        return;
+    m_merge = merge;
+    update();
+}
+
+void RulerMarkerButton::setHovered(bool hovered)
+{
+    if (m_hovered == hovered)
+        return;
+    m_hovered = hovered;
+    update();
+}
+
+void RulerMarkerButton::setAlternativeHover(bool on)
+{
+    if (m_alternativeHover == on)
+        return;
+    m_alternativeHover = on;
+    update();
+}
+
+void RulerMarkerButton::setOrvaneGuiTheme(bool on)
+{
+    if (m_theme == on)
+        return;
+    m_theme = on;
+    update();
+}
+
+void RulerMarkerButton::moveTo(int centerX, const QRect& markerArea)
+{
+    m_centerX = centerX;
+    move(centerX - width() / 2, markerArea.top() + (markerArea.height() - height()) / 2);
+}
+
+void RulerMarkerButton::paintEvent(QPaintEvent*)
+{
+    // Painted here and not by a style sheet, because there are many of these.
+    QPainter painter(this);
+    if (m_hovered && m_theme) {
+        QColor backdrop = POrvGuiTheme::colorPanther;
+        backdrop.setAlpha(140);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(backdrop);
+        painter.drawRoundedRect(rect(), 3, 3);
+    }
+    QRect iconRect(QPoint(0, 0), iconSize().boundedTo(size()));
+    iconRect.moveCenter(rect().center());
+    shownIcon().paint(&painter, iconRect);
+}
+
+const QIcon& RulerMarkerButton::shownIcon() const
+{
+    const RulerIconSet& icons = m_merge == Merge::Representative ? m_mergedIcons->merged : *m_icons;
+    if (m_hovered)
+        return m_alternativeHover ? icons.alternativeHover : icons.hover;
+    return m_merge == Merge::MergedAway ? m_mergedIcons->transparent : icons.normal;
+}
+
+} // namespace CorvelGui

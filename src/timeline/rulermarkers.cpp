@@ -1,0 +1,378 @@
+#include "rulermarkers.h"
+
+#include "timescale.h"
+
+#include <Hueloft/PIconHelper>
+
+#include <algorithm>
+#include <cmath>
+
+using Hueloft::PIconHelper;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr int ownIconKey = -1;
+constexpr int largestIconSize = 256;
+constexpr std::size_t longestToolTip = 12; // lines
+constexpr int halfMargin = int(TimeScale::margin() / 2);
+
+} // namespace
+
+RulerMarkers::RulerMarkers(QWidget* ruler)
+    : QObject(ruler), m_ruler(ruler), m_mergedIcons(setupMergedRulerIcons())
+{
+    m_iconSets[ownIconKey] = setupRulerIconSet(PIconHelper::GetMarkerOutlined_48x48(true));
+}
+
+void RulerMarkers::add(const QList<RulerMarker>& markers)
+{
+    std::vector<MarkerStore::Entry> entries;
+    entries.reserve(std::size_t(markers.size()));
+    for (const RulerMarker& marker : markers) {
+        if (marker.time.isValid())
+            entries.push_back({marker, iconKeyOf(marker), marker.time.toMSecsSinceEpoch()});
+    }
+    releaseButtons();
+    m_store.add(std::move(entries));
+}
+
+void RulerMarkers::remove(const QList<RulerMarker>& markers)
+{
+    std::vector<qint64> times;
+    for (const RulerMarker& marker : markers) {
+        if (marker.time.isValid())
+            times.push_back(marker.time.toMSecsSinceEpoch());
+    }
+    releaseButtons();
+    m_store.remove(std::move(times));
+}
+
+void RulerMarkers::clear()
+{
+    releaseButtons();
+    for (const QPointer<RulerMarkerButton>& button : std::exchange(m_idleButtons, {}))
+        delete button;
+    delete m_spare;
+    m_store.clear();
+}
+
+bool RulerMarkers::setShown(bool shown)
+{
+    if (m_shown == shown)
+        return false;
+    m_shown = shown;
+    m_changed = true;
+    return true;
+}
+
+void RulerMarkers::setRange(const std::optional<TimeSpan>& range)
+{
+    m_range = range;
+    m_changed = true;
+}
+
+void RulerMarkers::setIconSize(const QSize& size)
+{
+    const auto sizeFor = [](int length) {
+        return std::clamp(int(std::lround((double(length) + 8) / 2)) + 2, 1, largestIconSize);
+    };
+    const QSize iconSize(sizeFor(size.width()), sizeFor(size.height()));
+    if (m_iconSize == iconSize)
+        return;
+    m_iconSize = iconSize;
+    m_changed = true;
+}
+
+void RulerMarkers::setOrvaneGuiTheme(bool on)
+{
+    m_theme = on;
+    for (RulerMarkerButton* button :
+         m_ruler->findChildren<RulerMarkerButton*>(QString(), Qt::FindDirectChildrenOnly))
+        button->setOrvaneGuiTheme(on);
+}
+
+QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area, bool regroup)
+{
+    const View view{scale.viewStartMs(), scale.lengthPerMillisecond(), scale.width(), area};
+    if (m_view == view && !m_changed && !regroup)
+        return {};
+    m_view = view;
+    m_changed = false;
+
+    hideSpare();
+    if (!m_shown || !scale.hasView()) {
+        showSymbols({});
+        return {};
+    }
+    const Indices shown = markersBetween(halfMargin, int(view.width) - halfMargin);
+    showSymbols(symbolsOf(shown));
+
+    QList<QDateTime> firstSeen;
+    for (const std::size_t marker : m_store.takeUnseen(shown.first, shown.last))
+        firstSeen.append(m_store.marker(marker).time);
+    return firstSeen;
+}
+
+void RulerMarkers::hoverAt(QPoint position)
+{
+    const auto nearest = [&]() -> std::optional<std::size_t> {
+        if (!m_shown || !m_view.area.contains(position) || m_symbols.empty())
+            return {};
+        const Indices near = markersBetween(position.x() - m_iconSize.width() / 2,
+                                            position.x() + m_iconSize.width() / 2);
+        std::optional<std::size_t> best;
+        for (std::size_t marker = near.first; marker < near.last; ++marker) {
+            const auto distance = [&](std::size_t m) {
+                return std::abs(xOf(m) - position.x());
+            };
+            if (!best || distance(marker) < distance(*best))
+                best = marker;
+        }
+        return best;
+    }();
+    const Symbol* symbol = nearest ? symbolOf(*nearest) : nullptr;
+    if (!symbol || symbol->marker == *nearest || !symbol->button) {
+        hideSpare();
+        return;
+    }
+    if (!m_spare)
+        m_spare = createButton();
+    if (m_spare->isVisibleTo(m_ruler) && m_spareMarker == *nearest)
+        return;
+    m_spareMarker = *nearest;
+    setMarker(m_spare, m_spareMarker);
+    m_spare->setMerge(RulerMarkerButton::Merge::MergedAway);
+    m_spare->moveTo(xOf(m_spareMarker), m_view.area);
+    m_spare->stackUnder(symbol->button);
+    m_spare->show();
+}
+
+void RulerMarkers::setHovered(RulerMarkerButton* button, bool hovered)
+{
+    button->setHovered(hovered);
+    if (hovered) {
+        m_hovered = button;
+        if (button->merge() == RulerMarkerButton::Merge::Representative)
+            button->setToolTip(mergedToolTip(button));
+    } else {
+        m_hovered = nullptr;
+        if (button == m_spare)
+            hideSpare();
+    }
+}
+
+RulerMarkerButton* RulerMarkers::takeHovered()
+{
+    RulerMarkerButton* button = m_hovered;
+    m_hovered = nullptr;
+    return button;
+}
+
+const RulerMarker* RulerMarkers::neighbour(qint64 msecs, int direction) const
+{
+    if (!m_shown)
+        return nullptr;
+    const std::size_t next = m_store.firstFrom(direction > 0 ? msecs + 1 : msecs);
+    if (direction < 0 ? next == 0 : next == m_store.size())
+        return nullptr;
+    const std::size_t index = direction > 0 ? next : next - 1;
+    const qint64 time = m_store.time(index);
+    const bool inRange = !m_range || (m_range->begin <= time && time <= m_range->end);
+    return inRange ? &m_store.marker(index) : nullptr;
+}
+
+int RulerMarkers::iconKeyOf(const RulerMarker& marker)
+{
+    if (marker.kind != RulerMarker::providedIconKind || !marker.iconProvider)
+        return ownIconKey;
+    const int key = marker.iconProvider->iconKey(marker.iconIndex);
+    if (!m_iconSets.contains(key))
+        m_iconSets[key] = setupRulerIconSet(marker.iconProvider->icon(marker.iconIndex));
+    return key;
+}
+
+int RulerMarkers::xOf(std::size_t marker) const
+{
+    const double x = TimeScale::margin() +
+                     m_view.pixelsPerMillisecond * double(m_store.time(marker) - m_view.start);
+    // Far outside the view the exact column does not matter.
+    return int(std::clamp(x, -1e6, 1e6));
+}
+
+int RulerMarkers::halfWidthOf(int iconKey) const
+{
+    return visibleHalfWidth(m_iconSize.width(), m_iconSets.at(iconKey).visibleFraction);
+}
+
+RulerMarkers::Indices RulerMarkers::markersBetween(int left, int right) const
+{
+    std::size_t begin = 0;
+    std::size_t end = m_store.size();
+    if (m_range) {
+        begin = m_store.firstFrom(m_range->begin);
+        end = m_store.firstFrom(m_range->end + 1);
+    }
+    const auto firstWhere = [&](auto reached) {
+        std::size_t low = begin;
+        for (std::size_t count = end - begin; count > 0;) {
+            const std::size_t half = count / 2;
+            if (reached(xOf(low + half))) {
+                count = half;
+            } else {
+                low += half + 1;
+                count -= half + 1;
+            }
+        }
+        return low;
+    };
+    return {firstWhere([left](int x) { return x >= left; }),
+            firstWhere([right](int x) { return x > right; })};
+}
+
+RulerMarkers::Indices RulerMarkers::withNeighbourhood(const Indices& shown) const
+{
+    // Runs start at a marker that does not touch the one before it. Where the markers stand so
+    // close that there is none within a view's width, they start there. To the right a run reaches
+    // four half widths at most.
+    const int width = int(m_view.width);
+    const Indices around = markersBetween(halfMargin - width, width + 2 * m_iconSize.width());
+    std::size_t first = shown.first;
+    while (first > around.first && first < m_store.size() &&
+           xOf(first) - xOf(first - 1) <= m_iconSize.width())
+        --first;
+    return {first, std::max(around.last, shown.last)};
+}
+
+std::vector<RulerMarkers::Symbol> RulerMarkers::symbolsOf(const Indices& shown) const
+{
+    const Indices grouped = withNeighbourhood(shown);
+    std::vector<MarkerPlace> places;
+    places.reserve(grouped.last - grouped.first);
+    int iconKey = ownIconKey;
+    int halfWidth = halfWidthOf(iconKey);
+    for (std::size_t marker = grouped.first; marker < grouped.last; ++marker) {
+        if (m_store.iconKey(marker) != iconKey) {
+            iconKey = m_store.iconKey(marker);
+            halfWidth = halfWidthOf(iconKey);
+        }
+        places.push_back({xOf(marker), halfWidth});
+    }
+
+    std::vector<Symbol> symbols;
+    for (const MarkerRun& run : mergeMarkers(places)) {
+        const std::size_t marker = grouped.first + run.representative;
+        if (marker >= shown.first && marker < shown.last)
+            symbols.push_back({marker, grouped.first + run.first, grouped.first + run.last,
+                               places[run.representative].x});
+    }
+    return symbols;
+}
+
+const RulerMarkers::Symbol* RulerMarkers::symbolOf(std::size_t marker) const
+{
+    const auto symbol =
+        std::partition_point(m_symbols.begin(), m_symbols.end(),
+                             [marker](const Symbol& candidate) { return candidate.last < marker; });
+    return symbol != m_symbols.end() && symbol->first <= marker ? &*symbol : nullptr;
+}
+
+void RulerMarkers::showSymbols(std::vector<Symbol> symbols)
+{
+    // A symbol that stays in view keeps its button.
+    auto old = m_symbols.begin();
+    for (Symbol& symbol : symbols) {
+        for (; old != m_symbols.end() && old->marker < symbol.marker; ++old)
+            m_idleButtons.push_back(old->button);
+        if (old != m_symbols.end() && old->marker == symbol.marker)
+            symbol.button = (old++)->button;
+    }
+    for (; old != m_symbols.end(); ++old)
+        m_idleButtons.push_back(old->button);
+    m_symbols = std::move(symbols);
+
+    for (Symbol& symbol : m_symbols) {
+        if (!symbol.button) {
+            symbol.button = takeButton();
+            setMarker(symbol.button, symbol.marker);
+        }
+        symbol.button->setMerge(symbol.first == symbol.last
+                                    ? RulerMarkerButton::Merge::Alone
+                                    : RulerMarkerButton::Merge::Representative);
+        applySize(symbol.button);
+        symbol.button->moveTo(symbol.x, m_view.area);
+        symbol.button->show();
+    }
+    for (const QPointer<RulerMarkerButton>& button : m_idleButtons) {
+        if (button)
+            button->hide();
+    }
+}
+
+void RulerMarkers::releaseButtons()
+{
+    // Indices are about to change, so no button keeps its marker.
+    for (const Symbol& symbol : std::exchange(m_symbols, {}))
+        m_idleButtons.push_back(symbol.button);
+    hideSpare();
+    m_hovered = nullptr;
+    m_changed = true;
+}
+
+RulerMarkerButton* RulerMarkers::takeButton()
+{
+    while (!m_idleButtons.empty()) {
+        const QPointer<RulerMarkerButton> button = m_idleButtons.back();
+        m_idleButtons.pop_back();
+        if (button)
+            return button;
+    }
+    return createButton();
+}
+
+RulerMarkerButton* RulerMarkers::createButton()
+{
+    auto* button = new RulerMarkerButton(&m_mergedIcons, m_ruler);
+    button->setOrvaneGuiTheme(m_theme);
+    button->installEventFilter(m_ruler);
+    applySize(button);
+    return button;
+}
+
+void RulerMarkers::setMarker(RulerMarkerButton* button, std::size_t marker) const
+{
+    button->setMarker(m_store.marker(marker), &m_iconSets.at(m_store.iconKey(marker)));
+}
+
+void RulerMarkers::applySize(RulerMarkerButton* button) const
+{
+    button->setIconSize(m_iconSize);
+    button->setFixedSize(m_iconSize.width(),
+                         std::min(m_iconSize.height() + 2, m_view.area.height()));
+}
+
+void RulerMarkers::hideSpare()
+{
+    if (m_spare)
+        m_spare->hide();
+}
+
+QString RulerMarkers::mergedToolTip(const RulerMarkerButton* button) const
+{
+    const auto symbol =
+        std::find_if(m_symbols.begin(), m_symbols.end(),
+                     [button](const Symbol& candidate) { return candidate.button == button; });
+    if (symbol == m_symbols.end())
+        return button->toolTip();
+
+    QStringList lines;
+    const std::size_t last = std::min(symbol->last, symbol->first + longestToolTip - 1);
+    for (std::size_t marker = symbol->first; marker <= last; ++marker)
+        lines << m_store.marker(marker).text;
+    if (last < symbol->last)
+        lines << tr("and %n more", nullptr, int(symbol->last - last));
+    return RulerMarkerButton::plainToolTip(lines.join(u'\n'));
+}
+
+} // namespace CorvelGui

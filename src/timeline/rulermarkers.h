@@ -1,0 +1,124 @@
+#pragma once
+
+#include "markermerge.h"
+#include "markerstore.h"
+#include "rulericonset.h"
+#include "rulermarkerbutton.h"
+#include "timespans.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QSize>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+class QWidget;
+
+namespace CorvelGui {
+
+class TimeScale;
+
+/// The markers of a ruler and their buttons.
+///
+/// A button exists for every symbol that can be told apart in the view: one for a marker that
+/// stands alone, one for a run of merged markers. A marker that merging hides gets the one spare
+/// button while the mouse is at its place.
+class RulerMarkers : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Buttons become children of @p ruler and have @p ruler as their event filter.
+    explicit RulerMarkers(QWidget* ruler);
+
+    void add(const QList<RulerMarker>& markers);
+    void remove(const QList<RulerMarker>& markers);
+    void clear();
+    /// Returns false when nothing changes.
+    bool setShown(bool shown);
+    /// Limits what is shown to a range of time; no range shows all.
+    void setRange(const std::optional<TimeSpan>& range);
+    void setIconSize(const QSize& size);
+    void setOrvaneGuiTheme(bool on);
+
+    /// Brings the buttons in line with the view, with @p regroup also where nothing moved. Returns
+    /// the times of markers that are in view for the first time.
+    QList<QDateTime> update(const TimeScale& scale, const QRect& area, bool regroup);
+
+    /// The mouse is at @p position of the ruler, on none of the buttons: a marker that merging
+    /// hides there gets the spare button.
+    void hoverAt(QPoint position);
+    void setHovered(RulerMarkerButton* button, bool hovered);
+    RulerMarkerButton* hovered() const { return m_hovered; }
+    /// The hovered button, which is no longer known as hovered afterwards.
+    RulerMarkerButton* takeHovered();
+
+    /// The marker next to a time, in direction +1 or -1; null if there is none.
+    const RulerMarker* neighbour(qint64 msecs, int direction) const;
+
+private:
+    /// A symbol in view.
+    struct Symbol
+    {
+        std::size_t marker;
+        std::size_t first;
+        std::size_t last;
+        int x;
+        QPointer<RulerMarkerButton> button = nullptr;
+    };
+    /// What the buttons were brought in line with.
+    struct View
+    {
+        qint64 start = 0;
+        double pixelsPerMillisecond = 0.0;
+        double width = 0.0;
+        QRect area;
+
+        bool operator==(const View&) const = default;
+    };
+
+    /// Markers from first up to but not including last.
+    struct Indices
+    {
+        std::size_t first;
+        std::size_t last;
+    };
+
+    int iconKeyOf(const RulerMarker& marker);
+    int xOf(std::size_t marker) const;
+    int halfWidthOf(int iconKey) const;
+    Indices markersBetween(int left, int right) const;
+    Indices withNeighbourhood(const Indices& shown) const;
+    std::vector<Symbol> symbolsOf(const Indices& shown) const;
+    const Symbol* symbolOf(std::size_t marker) const;
+    void showSymbols(std::vector<Symbol> symbols);
+    void releaseButtons();
+    RulerMarkerButton* takeButton();
+    RulerMarkerButton* createButton();
+    void setMarker(RulerMarkerButton* button, std::size_t marker) const;
+    void applySize(RulerMarkerButton* button) const;
+    void hideSpare();
+    QString mergedToolTip(const RulerMarkerButton* button) const;
+
+    QWidget* const m_ruler;
+    MarkerStore m_store;
+    std::map<int, RulerIconSet> m_iconSets;
+    const MergedRulerIcons m_mergedIcons;
+    QSize m_iconSize{16, 16};
+    std::optional<TimeSpan> m_range;
+    bool m_shown = true;
+    bool m_theme = true;
+
+    View m_view;
+    bool m_changed = false;
+    std::vector<Symbol> m_symbols;
+    std::vector<QPointer<RulerMarkerButton>> m_idleButtons;
+    QPointer<RulerMarkerButton> m_spare;
+    std::size_t m_spareMarker = 0;
+    QPointer<RulerMarkerButton> m_hovered;
+};
+
+} // namespace CorvelGui
