@@ -1,0 +1,429 @@
+#include "testsupport.h"
+#include "viewareabox.h"
+
+#include <CorvelGui/TimelineScroll>
+#include <Hueloft/POrvGuiTheme>
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QEnterEvent>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <utility>
+
+using namespace CorvelGui;
+using Hueloft::POrvGuiTheme;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int middle = 7;
+
+/// 101 pixels, of which the box covers 21 to 39 around its centre at 30.
+class LoggedStrip : public TimelineScroll
+{
+public:
+    explicit LoggedStrip(double viewArea = 0.2, double center = 0.3)
+    {
+        setOrvaneGuiTheme(true);
+        setActive(true);
+        setViewArea(viewArea);
+        onCenterPositionChanged(center);
+        resize(101, 15);
+        show();
+        connect(this, &TimelineScroll::viewAreaMoved, this,
+                [this](double position) { moves << position; });
+    }
+
+    void press(int x) { QTest::mousePress(this, Qt::LeftButton, {}, QPoint(x, middle)); }
+    void moveTo(int x) { QTest::mouseMove(this, QPoint(x, middle)); }
+    void release(int x) { QTest::mouseRelease(this, Qt::LeftButton, {}, QPoint(x, middle)); }
+    bool isTimerActive() const { return findChild<QTimer*>()->isActive(); }
+    QColor pixel(int x, int row) { return grab().toImage().pixelColor(x, row); }
+
+    QList<double> moves;
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        TimelineScroll::paintEvent(event);
+        ++paints;
+    }
+};
+
+QAccessibleInterface* accessible(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget);
+}
+
+} // namespace
+
+class TestTimelineScroll : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void box_data();
+    void box();
+    void boxMoves();
+    void clicks_data();
+    void clicks();
+    void holdingPagesToThePress();
+    void holdEndsWithTheStrip();
+    void drag();
+    void keys();
+    void wholePeriodCannotMove();
+    void settersAreSilentAndRepaintChanges();
+    void paintOrder();
+    void boxColors();
+    void inactiveShowsItsBorderOnly();
+    void assistiveTechnology();
+    void deletionWithinTheSignal();
+};
+
+void TestTimelineScroll::box_data()
+{
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    QTest::addColumn<double>("viewArea");
+    QTest::addColumn<double>("position");
+    QTest::addColumn<QList<int>>("expected"); // width, center, left, right
+    const auto row = [](const char* name, double viewArea, double position, QList<int> expected) {
+        QTest::newRow(name) << viewArea << position << expected;
+    };
+    row("whole period", 1.0, 0.5, {99, 50, 1, 100});
+    row("whole period, at the begin", 1.0, 0.0, {99, 49, 1, 99});
+    row("whole period, at the end", 1.0, 1.0, {99, 52, 3, 100});
+    row("odd width", 0.2, 0.3, {19, 30, 21, 40});
+    row("even width", 0.21, 0.3, {20, 30, 20, 40});
+    row("at the begin", 0.1, 0.0, {9, 4, 1, 9});
+    row("at the end", 0.1, 1.0, {9, 97, 93, 100});
+    row("smallest", 0.0, 0.5, {5, 50, 48, 53});
+    row("outside the period", 0.1, -3.0, {9, 4, 1, 9});
+    row("no numbers", nan, nan, {5, 2, 1, 5});
+    row("wrapped position", 0.0, 1e19, {5, 99, 97, 100});
+    row("infinite", -infinity, infinity, {5, 99, 97, 100});
+}
+
+void TestTimelineScroll::box()
+{
+    QFETCH(double, viewArea);
+    QFETCH(double, position);
+    const ViewAreaBox box(101, viewArea, position);
+    QTEST((QList<int>{box.width(), box.center(), box.left(), box.right()}), "expected");
+}
+
+void TestTimelineScroll::boxMoves()
+{
+    const ViewAreaBox box(101, 0.2, 0.3);
+    const struct
+    {
+        int distance;
+        int center;
+    } moves[] = {{19, 49}, {-19, 11}, {-100, 9}, {100, 92}};
+    for (const auto& move : moves) {
+        QCOMPARE(box.draggedTo(box.center() + move.distance), move.center / 100.0);
+        QCOMPARE(box.pagedBy(move.distance), move.center / 101.0);
+    }
+    for (const int stripWidth : {0, 1, 2}) {
+        const ViewAreaBox tiny(stripWidth, 1.0, 0.5);
+        QVERIFY(std::isfinite(tiny.draggedTo(5)) && std::isfinite(tiny.pagedBy(5)));
+    }
+}
+
+void TestTimelineScroll::clicks_data()
+{
+    QTest::addColumn<int>("pressX");
+    QTest::addColumn<int>("releaseX");
+    QTest::addColumn<QList<double>>("moves");
+    QTest::newRow("left") << 20 << 20 << QList<double>{11 / 101.0};
+    QTest::newRow("right") << 41 << 41 << QList<double>{49 / 101.0};
+    QTest::newRow("first pixel of the box") << 21 << 21 << QList<double>();
+    QTest::newRow("pixel behind the box") << 40 << 40 << QList<double>();
+    QTest::newRow("released on the box") << 60 << 30 << QList<double>();
+    QTest::newRow("released on the other side") << 60 << 10 << QList<double>{11 / 101.0};
+}
+
+void TestTimelineScroll::clicks()
+{
+    QFETCH(int, pressX);
+    QFETCH(int, releaseX);
+    LoggedStrip strip;
+    strip.press(pressX);
+    QCOMPARE(strip.moves, QList<double>());
+    strip.release(releaseX);
+    QTEST(strip.moves, "moves");
+    QVERIFY(!strip.isTimerActive());
+
+    strip.moves.clear();
+    QTest::mouseClick(&strip, Qt::RightButton, {}, QPoint(95, middle));
+    QCOMPARE(strip.moves, QList<double>());
+}
+
+void TestTimelineScroll::holdingPagesToThePress()
+{
+    const struct
+    {
+        double center;
+        int pressX;
+        QList<double> moves;
+    } cases[] = {{0.3, 99, {49 / 101.0, 68 / 101.0, 86 / 101.0, 92 / 101.0}},
+                 {0.6, 30, {41 / 101.0, 22 / 101.0}}};
+    for (const auto& hold : cases) {
+        LoggedStrip strip(0.2, hold.center);
+        strip.press(hold.pressX);
+        QCOMPARE(strip.findChild<QTimer*>()->interval(), 200);
+        QTRY_VERIFY(!strip.isTimerActive());
+        strip.release(hold.pressX);
+        QCOMPARE(strip.moves, hold.moves);
+    }
+}
+
+void TestTimelineScroll::holdEndsWithTheStrip()
+{
+    // Each function switches the strip off and on.
+    const std::function<void(LoggedStrip&, bool)> switches[] = {
+        [](auto& strip, bool on) { strip.setVisible(on); },
+        [](auto& strip, bool on) { strip.setEnabled(on); },
+        [](auto& strip, bool on) {
+            strip.setActive(on);
+        }};
+    for (const auto& setOn : switches) {
+        for (const int pressX : {30, 60}) {
+            LoggedStrip strip;
+            strip.press(pressX);
+            setOn(strip, false);
+            QVERIFY(!strip.isTimerActive());
+            setOn(strip, true);
+            strip.moveTo(80);
+            strip.release(80);
+            QCOMPARE(strip.moves, QList<double>());
+        }
+    }
+}
+
+void TestTimelineScroll::drag()
+{
+    LoggedStrip strip;
+    strip.press(35);
+    for (const int x : {45, 0, 101, 100, 1})
+        strip.moveTo(x);
+    strip.release(1);
+    strip.moveTo(50);
+    QCOMPARE(strip.moves, (QList<double>{0.40, 0.92, 0.09}));
+    QCOMPARE(strip.centerPosition(), 0.09);
+}
+
+void TestTimelineScroll::keys()
+{
+    const std::pair<Qt::Key, double> moves[] = {{Qt::Key_Left, 0.48},  {Qt::Key_Right, 0.52},
+                                                {Qt::Key_PageUp, 0.3}, {Qt::Key_PageDown, 0.7},
+                                                {Qt::Key_Home, 0.1},   {Qt::Key_End, 0.9}};
+    for (const auto& [key, position] : moves) {
+        LoggedStrip strip(0.2, 0.5);
+        QTest::keyClick(&strip, key);
+        QCOMPARE(strip.moves, QList<double>{position});
+    }
+    // A position far outside does not swallow the next moves.
+    LoggedStrip strip(0.2, 1e19);
+    QTest::keyClick(&strip, Qt::Key_PageUp);
+    QCOMPARE(strip.moves, QList<double>{0.8});
+}
+
+void TestTimelineScroll::wholePeriodCannotMove()
+{
+    LoggedStrip strip(1.0, 0.5);
+    strip.press(50);
+    strip.moveTo(70);
+    strip.release(70);
+    QTest::keyClick(&strip, Qt::Key_Home);
+    accessible(&strip)->valueInterface()->setCurrentValue(0.1);
+    QCOMPARE(strip.moves, QList<double>());
+}
+
+void TestTimelineScroll::settersAreSilentAndRepaintChanges()
+{
+    const struct
+    {
+        bool repaints;
+        std::function<void(TimelineScroll&)> set;
+    } cases[] = {
+        {false,
+         [](auto& strip) {
+             strip.setViewArea(0.2);
+         }},
+        {true,
+         [](auto& strip) {
+             strip.setViewArea(0.3);
+         }},
+        {false,
+         [](auto& strip) {
+             strip.onCenterPositionChanged(0.3);
+         }},
+        {true,
+         [](auto& strip) {
+             strip.onCenterPositionChanged(0.4);
+         }},
+        {false,
+         [](auto& strip) {
+             strip.onIndicatorPositionChanged(5, 0.0);
+         }},
+        {true,
+         [](auto& strip) {
+             strip.onIndicatorPositionChanged(5, 0.1);
+         }},
+        {false,
+         [](auto& strip) {
+             strip.setSearchTimeRange(0.500009, 0.599991);
+         }},
+        {true,
+         [](auto& strip) {
+             strip.setSearchTimeRange(0.500011, 0.6);
+         }},
+        {true,
+         [](auto& strip) {
+             strip.setSearchTimeRange(0.5, 0.599989);
+         }},
+        {true,
+         [](auto& strip) {
+             strip.resetSearchTimeRange();
+         }},
+        {true,
+         [](auto& strip) {
+             strip.displaySearchTimeRange(false);
+         }},
+    };
+    for (const auto& setter : cases) {
+        LoggedStrip strip;
+        strip.setSearchTimeRange(0.5, 0.6);
+        strip.displaySearchTimeRange(true);
+        QVERIFY(QTest::qWaitForWindowExposed(&strip));
+        QCoreApplication::processEvents();
+        strip.paints = 0;
+        setter.set(strip);
+        QCoreApplication::processEvents();
+        QCOMPARE(strip.paints > 0, setter.repaints);
+        QCOMPARE(strip.moves, QList<double>());
+    }
+}
+
+void TestTimelineScroll::paintOrder()
+{
+    LoggedStrip strip(0.2, 0.5); // the box covers 41 to 59
+    strip.setSearchTimeRange(0.45, 0.75);
+    strip.displaySearchTimeRange(true);
+    strip.setIndicatorPosition(0.5);
+    const QImage image = strip.grab().toImage();
+    const QColor box = POrvGuiTheme::colorGreyhound;
+
+    for (const QPoint& corner : {QPoint(41, 1), QPoint(59, 1), QPoint(41, 13), QPoint(59, 10)})
+        QCOMPARE(image.pixelColor(corner), box);
+    for (const QPoint& outside : {QPoint(40, 7), QPoint(60, 7), QPoint(41, 0), QPoint(41, 14)})
+        QVERIFY(image.pixelColor(outside) != box);
+
+    const QColor band = image.pixelColor(45, 11);
+    QVERIFY(std::abs(band.red() - (box.red() + POrvGuiTheme::colorDarkBlue.red()) / 2) <= 1);
+    QCOMPARE(image.pixelColor(59, 13), band);
+    QCOMPARE(image.pixelColor(44, 11), box);
+    QVERIFY(image.pixelColor(74, 14).blue() > image.pixelColor(75, 14).blue());
+    for (const int row : {0, 7, 14})
+        QCOMPARE(image.pixelColor(50, row), POrvGuiTheme::colorYellow);
+}
+
+void TestTimelineScroll::boxColors()
+{
+    LoggedStrip strip;
+    const auto enter = [&](int x) {
+        QEnterEvent event(QPointF(x, middle), QPointF(x, middle), QPointF(x, middle));
+        QCoreApplication::sendEvent(&strip, &event);
+        return strip.pixel(25, middle);
+    };
+    const auto leave = [&] {
+        QEvent event(QEvent::Leave);
+        QCoreApplication::sendEvent(&strip, &event);
+        return strip.pixel(25, middle);
+    };
+    QCOMPARE(leave(), POrvGuiTheme::colorGreyhound);
+    QCOMPARE(enter(60), POrvGuiTheme::colorGreyhound);
+    QCOMPARE(enter(40), POrvGuiTheme::colorKoala);
+    QCOMPARE(leave(), POrvGuiTheme::colorGreyhound);
+    strip.setHover(true);
+    QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorKoala);
+    strip.press(30);
+    QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorElephant);
+    strip.setOrvaneGuiTheme(false);
+    QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorElephant);
+}
+
+void TestTimelineScroll::inactiveShowsItsBorderOnly()
+{
+    LoggedStrip strip;
+    QCOMPARE(TimelineScroll().isEnabled(), false);
+    strip.setActive(false);
+    QVERIFY(!strip.isEnabled());
+    QCOMPARE(strip.pixel(0, middle), POrvGuiTheme::colorPanther);
+    QCOMPARE(strip.pixel(25, middle), strip.palette().color(QPalette::Window));
+}
+
+void TestTimelineScroll::assistiveTechnology()
+{
+    static QList<double> reports;
+    LoggedStrip strip;
+    QAccessibleInterface* const described = accessible(&strip);
+    QCOMPARE(described->role(), QAccessible::ScrollBar);
+    QCOMPARE(described->text(QAccessible::Name), u"Timeline overview"_s);
+    QCOMPARE(described->text(QAccessible::Value), u"30.0 percent"_s);
+    QAccessibleValueInterface* const value = described->valueInterface();
+    QCOMPARE(value->minimumValue().toDouble(), 0.0);
+    QCOMPARE(value->maximumValue().toDouble(), 1.0);
+    QCOMPARE(value->currentValue().toDouble(), 0.3);
+    QCOMPARE(value->minimumStepSize().toDouble(), 0.02);
+    strip.setAccessibleName(u"Gate"_s);
+    QCOMPARE(described->text(QAccessible::Name), u"Gate"_s);
+
+    const auto previous = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (event->type() == QAccessible::ValueChanged)
+            reports << static_cast<QAccessibleValueChangeEvent*>(event)->value().toDouble();
+    });
+    for (const QVariant& unusable : {QVariant(u"x"_s), QVariant(std::nan(""))})
+        value->setCurrentValue(unusable);
+    value->setCurrentValue(0.6);
+    value->setCurrentValue(7);
+    strip.onCenterPositionChanged(0.4);
+    strip.onCenterPositionChanged(0.4);
+    strip.press(40);
+    strip.moveTo(60);
+    strip.setActive(false);
+    value->setCurrentValue(0.5);
+    QAccessible::installUpdateHandler(previous);
+    QCOMPARE(strip.moves, (QList<double>{0.6, 0.9, 0.6}));
+    if (QAccessible::isActive()) // else Qt passes no events on
+        QCOMPARE(reports, (QList<double>{0.6, 0.9, 0.4, 0.6}));
+}
+
+void TestTimelineScroll::deletionWithinTheSignal()
+{
+    const std::function<void(LoggedStrip&)> moves[] = {
+        [](auto& strip) { QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(60, middle)); },
+        [](auto& strip) { strip.press(60); },
+        [](auto& strip) { strip.press(30), strip.moveTo(50); },
+        [](auto& strip) { QTest::keyPress(&strip, Qt::Key_End); },
+        [](auto& strip) {
+            accessible(&strip)->valueInterface()->setCurrentValue(0.5);
+        }};
+    for (const auto& move : moves) {
+        QPointer<LoggedStrip> strip = new LoggedStrip;
+        connect(strip.data(), &TimelineScroll::viewAreaMoved, this, [&] { delete strip.data(); });
+        move(*strip);
+        QTRY_VERIFY(!strip);
+    }
+}
+
+QTEST_MAIN(TestTimelineScroll)
+#include "tst_timelinescroll.moc"
