@@ -22,4 +22,6 @@ set(CORVELGUI_PUBLIC_HEADERS
     timeline/RulerMarkerButton
     timeline/TimelineScroll
     timeline/TrackDescription
+    timeline/ZoomTimeline
+    timeline/ZoomTimelineOperation
     timeline/Zoomer)

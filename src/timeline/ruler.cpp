@@ -3,6 +3,7 @@
 #include <Corvel/TimeZoneHelper>
 #include <Hueloft/POrvGuiTheme>
 
+#include <QLocale>
 #include <QPainter>
 
 #include <cmath>
@@ -51,7 +52,6 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(tr("Timeline"));
     setMinimumSize(minimumRulerWidth, initialHeight);
     setMaximumHeight(initialHeight);
 
@@ -68,6 +68,7 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     d->mouseTimer.setInterval(mouseInterval);
     connect(&d->mouseTimer, &QTimer::timeout, this, &Ruler::onMouseTimerTimeout);
 
+    setUpAccessibility();
     setOrvaneGuiTheme(true);
     setActive(false, false);
     updateSize();
@@ -187,12 +188,12 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
     if (d->indicatorDragging)
         return true;
     if (msecs == 0) {
-        d->indicatorTime = QDateTime();
+        setIndicatorTime(QDateTime());
         updateChildren(false);
         return true;
     }
 
-    d->indicatorTime = d->scale.inZone(qint64(msecs));
+    setIndicatorTime(d->scale.inZone(qint64(msecs)));
     if (d->scale.pageTo(d->indicatorTime)) {
         updateTrackSegments();
         whileAlive(
@@ -514,6 +515,42 @@ void Ruler::updateChildren(bool merge)
     update();
     if (!firstSeen.isEmpty())
         Q_EMIT newVisibleRulerMarkers(firstSeen);
+}
+
+void Ruler::setUpAccessibility()
+{
+    const auto begin = [this] {
+        return double(d->scale.beginLimitMs());
+    };
+    d->accessible = std::make_unique<AccessibleRange>(
+        this,
+        AccessibleRange::Description{
+            .role = QAccessible::Slider,
+            .name = [] { return tr("Timeline"); },
+            .minimum = begin,
+            .maximum = [this] { return double(d->scale.endLimitMs()); },
+            .value =
+                [this, begin] {
+                    return d->indicatorTime.isValid() ? double(getIndicatorMSecs()) : begin();
+                },
+            .step = [this] { return double(d->scale.millisecondsPerMinorDivision()); },
+            .text =
+                [this] {
+                    return d->indicatorTime.isValid()
+                               ? QLocale().toString(d->scale.inZone(qint64(getIndicatorMSecs())))
+                               : tr("No position");
+                },
+            .move =
+                [this](double msecs) {
+                    if (d->takesInput() && d->scale.hasView())
+                        moveIndicatorByKey(qint64(msecs));
+                }});
+}
+
+void Ruler::setIndicatorTime(const QDateTime& time)
+{
+    d->indicatorTime = time;
+    d->accessible->reportValueChange();
 }
 
 void Ruler::updateIndicator()

@@ -198,6 +198,8 @@ protected:
 private:
     void createGradients();
     void updateTrackSegments();
+    void setUpAccessibility();
+    void setIndicatorTime(const QDateTime& time);
     void updateIndicator();
     void showIndicatorTime(quint64 msecs);
     void setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);

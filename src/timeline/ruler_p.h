@@ -1,5 +1,6 @@
 #pragma once
 
+#include "accessiblerange.h"
 #include "hoverpreview.h"
 #include "indicator.h"
 #include "ruler.h"
@@ -8,22 +9,15 @@
 #include "rulerpainter.h"
 #include "timescale.h"
 #include "tracksegments.h"
+#include "whilealive.h"
 
 #include <QPointer>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
 namespace CorvelGui {
-
-/// Takes steps that emit signals one after the other, for as long as @p object lives. Returns
-/// whether it still does.
-template <typename... Steps>
-bool whileAlive(QObject* object, Steps&&... steps)
-{
-    const QPointer<QObject> alive(object);
-    return ((steps(), !alive.isNull()) && ...);
-}
 
 /// A drag of the view, from the press on.
 struct ViewDrag
@@ -75,6 +69,9 @@ struct Ruler::Private
     bool blocked = false;
     bool viewChangeBlocked = false;
     bool viewChangePending = false;
+
+    // Last, so that it stops asking before anything else is gone.
+    std::unique_ptr<AccessibleRange> accessible;
 
     bool takesInput() const { return active && !blocked; }
 };

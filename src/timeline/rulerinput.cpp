@@ -96,7 +96,7 @@ bool Ruler::placeIndicator(int x)
 {
     if (!d->scale.hasView() || !d->scale.isWithinLimits(d->scale.msecsAt(x)))
         return false;
-    d->indicatorTime = d->scale.inZone(d->scale.msecsAt(x));
+    setIndicatorTime(d->scale.inZone(d->scale.msecsAt(x)));
     showIndicatorTime(getIndicatorMSecs());
     d->indicator->moveHotSpotTo(x);
     d->indicator->setVisible(d->active);
@@ -315,10 +315,9 @@ void Ruler::keyPressEvent(QKeyEvent* event)
         return QWidget::keyPressEvent(event);
 
     const TimeScale& scale = d->scale;
-    const qint64 major = scale.millisecondsPerInterval();
     const qint64 step = event->modifiers() & Qt::ShiftModifier
-                            ? major
-                            : major / scale.getSubIntervalNumber(scale.level());
+                            ? scale.millisecondsPerInterval()
+                            : scale.millisecondsPerMinorDivision();
     const qint64 indicator = qint64(getIndicatorMSecs());
     const qint64 span = qint64(scale.millisecondsPerLevel());
     switch (event->key()) {
@@ -357,7 +356,7 @@ void Ruler::moveIndicatorByKey(qint64 msecs)
     const qint64 target = std::clamp(msecs, d->scale.beginLimitMs(), d->scale.endLimitMs());
     if (d->resultMode || target == qint64(getIndicatorMSecs()))
         return;
-    d->indicatorTime = d->scale.inZone(target);
+    setIndicatorTime(d->scale.inZone(target));
     whileAlive(
         this,
         [this] {

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QTimeZone>
 
+#include <algorithm>
 #include <array>
 
 namespace CorvelGui {
@@ -87,6 +88,10 @@ public:
     quint64 millisecondsPerLevel() const { return spanOfLevel(m_level); }
     /// Distance between two major ticks in milliseconds.
     qint64 millisecondsPerInterval() const;
+    qint64 millisecondsPerMinorDivision() const
+    {
+        return std::max<qint64>(millisecondsPerInterval() / getSubIntervalNumber(m_level), 1);
+    }
     /// Distance between two major ticks in whole pixels.
     double getIntervalLength(int level) const;
     int getSubIntervalNumber(int level) const;

@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <initializer_list>
 
 using namespace Qt::StringLiterals;
 
@@ -49,11 +50,14 @@ Zoomer::Zoomer(int maximumLevel, QWidget* parent) : QWidget(parent), m_maximumLe
 
 Zoomer::~Zoomer()
 {
-    // Deleted by a receiver: the slider is still at work on the mouse event that it reported.
-    if (m_pendingReports > 0) {
-        m_slider->hide();
-        m_slider->setParent(nullptr);
-        m_slider->deleteLater();
+    if (m_pendingReports == 0)
+        return;
+    // Deleted by a receiver: Qt's sliders and tool buttons still touch themselves after their
+    // signal.
+    for (QWidget* control : std::initializer_list<QWidget*>{m_zoomIn, m_slider, m_zoomOut}) {
+        control->hide();
+        control->setParent(nullptr);
+        control->deleteLater();
     }
 }
 
@@ -81,7 +85,7 @@ void Zoomer::onZoomInClicked(bool)
     const QPointer<Zoomer> alive(this);
     m_slider->setValue(level);
     if (alive)
-        Q_EMIT zoomerIn(level, viewCenter);
+        report(&Zoomer::zoomerIn, level);
 }
 
 void Zoomer::onZoomOutClicked(bool)
@@ -92,7 +96,7 @@ void Zoomer::onZoomOutClicked(bool)
     const QPointer<Zoomer> alive(this);
     m_slider->setValue(level);
     if (alive)
-        Q_EMIT zoomerOut(level, viewCenter);
+        report(&Zoomer::zoomerOut, level);
 }
 
 void Zoomer::onSliderChanged(int level)
@@ -101,15 +105,7 @@ void Zoomer::onSliderChanged(int level)
         return;
     const bool wider = level > m_currentLevel;
     m_currentLevel = level;
-
-    const QPointer<Zoomer> alive(this);
-    ++m_pendingReports;
-    if (wider)
-        Q_EMIT zoomerOut(level, viewCenter);
-    else
-        Q_EMIT zoomerIn(level, viewCenter);
-    if (alive)
-        --m_pendingReports;
+    report(wider ? &Zoomer::zoomerOut : &Zoomer::zoomerIn, level);
 }
 
 void Zoomer::onChangeSliderPosition(int level)
@@ -119,6 +115,15 @@ void Zoomer::onChangeSliderPosition(int level)
         return;
     m_currentLevel = shown;
     m_slider->setValue(shown);
+}
+
+void Zoomer::report(void (Zoomer::*signal)(int, double), int level)
+{
+    const QPointer<Zoomer> alive(this);
+    ++m_pendingReports;
+    Q_EMIT(this->*signal)(level, viewCenter);
+    if (alive)
+        --m_pendingReports;
 }
 
 void Zoomer::changeEvent(QEvent* event)

@@ -47,6 +47,7 @@ protected:
 
 private:
     void initializeControls();
+    void report(void (Zoomer::*signal)(int, double), int level);
     void translateTexts();
 
     const int m_maximumLevel;

@@ -1,0 +1,262 @@
+#include "zoomtimeline.h"
+
+#include "ruler.h"
+#include "timelinescroll.h"
+#include "whilealive.h"
+#include "zoomer.h"
+
+#include <QEvent>
+#include <QGridLayout>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace CorvelGui {
+
+namespace {
+
+bool zoomerEnabled = true;
+
+} // namespace
+
+ZoomTimeline::ZoomTimeline(QWidget* parent)
+    : QWidget(parent), m_ruler(new Ruler(this)), m_scroll(new TimelineScroll(this))
+{
+    m_ruler->installEventFilter(this);
+    auto* layout = new QGridLayout(this);
+    layout->setVerticalSpacing(2);
+    layout->setContentsMargins(2, 2, 2, 2);
+    if (zoomerEnabled) {
+        m_zoomer = new Zoomer(m_ruler->getNrOfZooomLevels(), this);
+        connect(m_zoomer, &Zoomer::zoomerIn, m_ruler, &Ruler::onZoomerIn);
+        connect(m_zoomer, &Zoomer::zoomerOut, m_ruler, &Ruler::onZoomerOut);
+        layout->addWidget(m_ruler, 0, 0, 1, 2);
+        layout->addWidget(m_zoomer, 1, 0);
+        layout->addWidget(m_scroll, 1, 1);
+    } else {
+        layout->addWidget(m_ruler, 0, 0);
+        layout->addWidget(m_scroll, 1, 0);
+    }
+
+    connect(m_ruler, &Ruler::changeSliderZoom, this, &ZoomTimeline::onChangeSliderPosition);
+    connect(m_scroll, &TimelineScroll::viewAreaMoved, this,
+            &ZoomTimeline::onViewAreaPositionChanged);
+    connect(m_ruler, &Ruler::indicatorPositionChanged, m_scroll,
+            &TimelineScroll::onIndicatorPositionChanged);
+    connect(m_ruler, &Ruler::centerPositionChanged, m_scroll,
+            &TimelineScroll::onCenterPositionChanged);
+}
+
+void ZoomTimeline::setZoomerEnabled(bool enabled)
+{
+    zoomerEnabled = enabled;
+}
+
+void ZoomTimeline::setTimeLimits(quint64 begin, quint64 end)
+{
+    const auto [oldBegin, oldEnd] = m_ruler->getTimeLimits();
+    const auto staysInItsPixel = [this](quint64 a, quint64 b) {
+        return double(std::max(a, b) - std::min(a, b)) * m_ruler->lengthPerMillisecond() < 1.0;
+    };
+    if (staysInItsPixel(begin, oldBegin) && staysInItsPixel(end, oldEnd))
+        return;
+
+    whileAlive(
+        this, [&] { m_ruler->setTimeLimits(begin, end); },
+        [this] {
+            updateViewArea();
+            // The same view is another part of another period.
+            m_scroll->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
+            m_scroll->setIndicatorPosition(m_ruler->getIndicatorPosition());
+            updateSearchTimeRange();
+        });
+}
+
+void ZoomTimeline::setIndicatorPosition(quint64 msecs)
+{
+    bool changed = false;
+    const bool alive = whileAlive(this, [&] { changed = m_ruler->setIndicatorPosition(msecs); });
+    if (!alive || !changed)
+        return;
+    m_scroll->setIndicatorPosition(m_ruler->getIndicatorPosition());
+    m_scroll->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
+}
+
+void ZoomTimeline::setTimeLimitsAndIndicatorPosition(quint64 begin, quint64 end, quint64 indicator)
+{
+    m_ruler->blockSignalTimeLineViewChanged(true);
+    whileAlive(
+        this, [&] { setTimeLimits(begin, end); }, [&] { setIndicatorPosition(indicator); },
+        [this] {
+            m_ruler->blockSignalTimeLineViewChanged(false);
+            m_ruler->processTimeLineViewChanges();
+        });
+}
+
+void ZoomTimeline::resetTimeline()
+{
+    whileAlive(
+        this, [this] { m_ruler->setTimeLimits(0, 0); }, [this] { m_scroll->setViewArea(0.0); });
+}
+
+void ZoomTimeline::setTimeZone(const QString& name)
+{
+    m_ruler->setTimeZone(name);
+    const auto [begin, end] = m_ruler->getTimeLimits();
+    if (begin >= end)
+        return;
+    // Limits that are set again are on the new clock, and so is a view that is computed from them.
+    const double center = m_ruler->getCurrentCenterPosition();
+    m_ruler->blockSignalTimeLineViewChanged(true);
+    whileAlive(
+        this, [&, first = begin, last = end] { m_ruler->setTimeLimits(first, last); },
+        [&] { m_ruler->onTimelineOffsetChanged(center); },
+        [this] {
+            m_ruler->blockSignalTimeLineViewChanged(false);
+            m_ruler->processTimeLineViewChanges();
+        });
+}
+
+void ZoomTimeline::setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom)
+{
+    m_searchBegin = from;
+    m_searchEnd = to;
+    showSearchTimeRange();
+    updateSearchTimeRange();
+    m_ruler->setSearchTimeRange(from, to, adjustZoom);
+}
+
+void ZoomTimeline::showSearchTimeRange()
+{
+    if (!m_resultMode)
+        displaySearchTimeRange(true);
+}
+
+void ZoomTimeline::hideSearchTimeRange()
+{
+    displaySearchTimeRange(false);
+}
+
+void ZoomTimeline::clearSearchTimeRange()
+{
+    m_searchBegin = QDateTime();
+    m_searchEnd = QDateTime();
+    displaySearchTimeRange(false);
+    m_scroll->resetSearchTimeRange();
+    m_ruler->resetSearchTimeRange();
+}
+
+void ZoomTimeline::setOrvaneGuiTheme(bool on)
+{
+    m_theme = on;
+    m_scroll->setOrvaneGuiTheme(on);
+    m_ruler->setOrvaneGuiTheme(on);
+}
+
+void ZoomTimeline::setFontSize(int points)
+{
+    m_ruler->setFontSize(unsigned(std::max(points, 1)));
+}
+
+void ZoomTimeline::setResultMode(bool on)
+{
+    m_ruler->setResultMode(on);
+    m_scroll->setResultMode(on);
+    m_resultMode = on;
+}
+
+void ZoomTimeline::setActive(bool active, bool blocked)
+{
+    const bool usable = active && !blocked;
+    setEnabled(active);
+    if (m_zoomer)
+        m_zoomer->setEnabled(usable);
+    m_scroll->setActive(usable);
+    m_ruler->setActive(active, blocked);
+}
+
+void ZoomTimeline::setPlayMode(bool on)
+{
+    m_ruler->setPlayMode(on);
+    setOrvaneGuiTheme(m_theme);
+}
+
+void ZoomTimeline::onZoomTimeLineOperation(ZoomTimelineOperation operation)
+{
+    const auto setResultRange = [&](bool markBegin, bool markEnd) {
+        m_ruler->setResultTimeRange(operation.from, operation.to, markBegin, markEnd,
+                                    operation.flagA, !operation.flagB);
+    };
+    switch (operation.code) {
+    case ZoomTimelineOperation::setSearchRange:
+        return setSearchTimeRange(operation.from, operation.to, !operation.flagB);
+    case ZoomTimelineOperation::clearSearchRange:
+        return clearSearchTimeRange();
+    case ZoomTimelineOperation::showSearchRange:
+        return showSearchTimeRange();
+    case ZoomTimelineOperation::hideSearchRange:
+        return hideSearchTimeRange();
+    case ZoomTimelineOperation::setResultRange:
+        return setResultRange(false, false);
+    case ZoomTimelineOperation::setMarkedResultRange:
+        return setResultRange(true, true);
+    case ZoomTimelineOperation::setResultRangeWithBegin:
+        return setResultRange(true, false);
+    default:
+        return;
+    }
+}
+
+void ZoomTimeline::onViewAreaPositionChanged(double position)
+{
+    // Support reads this line in the output of clients.
+    std::printf("Timeline offset: %f\n", position);
+    m_ruler->onTimelineOffsetChanged(position);
+}
+
+void ZoomTimeline::onChangeSliderPosition(int level)
+{
+    if (m_zoomer)
+        m_zoomer->onChangeSliderPosition(level);
+    updateViewArea();
+}
+
+void ZoomTimeline::onChangedPreviewIndicatorTime(quint64 msecs)
+{
+    m_ruler->setPreviewIndicatorPosition(msecs);
+}
+
+bool ZoomTimeline::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_ruler) {
+        if (event->type() == QEvent::Enter)
+            m_scroll->setHover(true);
+        else if (event->type() == QEvent::Leave)
+            m_scroll->setHover(false);
+    }
+    return false;
+}
+
+void ZoomTimeline::updateViewArea()
+{
+    const quint64 duration = m_ruler->getTotalDuration();
+    if (duration > 0)
+        m_scroll->setViewArea(double(m_ruler->endTime() - m_ruler->beginTime()) / double(duration));
+}
+
+void ZoomTimeline::updateSearchTimeRange()
+{
+    if (m_searchBegin.isValid() && m_searchEnd.isValid())
+        m_scroll->setSearchTimeRange(m_ruler->getPosition(m_searchBegin),
+                                     m_ruler->getPosition(m_searchEnd));
+    else
+        m_scroll->resetSearchTimeRange();
+}
+
+void ZoomTimeline::displaySearchTimeRange(bool display)
+{
+    m_scroll->displaySearchTimeRange(display);
+    m_ruler->displaySearchTimeRange(display);
+}
+
+} // namespace CorvelGui

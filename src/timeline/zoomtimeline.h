@@ -1,0 +1,89 @@
+#pragma once
+
+#include <CorvelGui/ZoomTimelineOperation>
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QDateTime>
+#include <QWidget>
+
+namespace CorvelGui {
+
+class Ruler;
+class TimelineScroll;
+class Zoomer;
+
+/// The timeline that applications embed: a ruler on top, and below it the zoomer and the overview
+/// strip, wired to each other. Clients connect to the signals of the parts.
+///
+/// Absolute times are milliseconds since the Unix epoch.
+class CORVELGUI_EXPORT ZoomTimeline : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ZoomTimeline(QWidget* parent = nullptr);
+
+    /// Whether timelines that are made from now on have a zoomer; they do by default. Process-wide.
+    static void setZoomerEnabled(bool enabled);
+
+    /// The parts; they belong to the timeline.
+    Ruler* ruler() const { return m_ruler; }
+    TimelineScroll* timelineScroll() const { return m_scroll; }
+    /// Null where the timeline was made without one.
+    Zoomer* zoomer() const { return m_zoomer; }
+
+    /// Sets the recording period. Does nothing when neither limit moves by a pixel at least.
+    void setTimeLimits(quint64 begin, quint64 end);
+    void setIndicatorPosition(quint64 msecs);
+    /// Both of the above, with one report of the new view at most.
+    void setTimeLimitsAndIndicatorPosition(quint64 begin, quint64 end, quint64 indicator);
+    void resetTimeline();
+    /// Shows everything on the clock of another zone, by IANA or Windows name. View and indicator
+    /// stay.
+    void setTimeZone(const QString& name);
+
+    /// Stores the range and displays it, unless in result mode. @p adjustZoom zooms the ruler to
+    /// it.
+    void setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom);
+    void showSearchTimeRange();
+    void hideSearchTimeRange();
+    void clearSearchTimeRange();
+
+    void setOrvaneGuiTheme(bool on);
+    /// Point size of the ruler's texts; less than 1 counts as 1.
+    void setFontSize(int points);
+    /// In result mode there is no indicator, and no search range is displayed.
+    void setResultMode(bool on);
+    /// An inactive timeline is disabled. A blocked one shows everything but takes no input.
+    void setActive(bool active, bool blocked);
+    /// Selects the indicator's colour.
+    void setPlayMode(bool on);
+
+public Q_SLOTS:
+    /// Performs an operation; unknown codes do nothing.
+    void onZoomTimeLineOperation(CorvelGui::ZoomTimelineOperation operation);
+    /// The user moved the strip's box to a relative position.
+    void onViewAreaPositionChanged(double position);
+    /// The ruler's level changed.
+    void onChangeSliderPosition(int level);
+    /// Moves the ruler's preview line; 0 clears it.
+    void onChangedPreviewIndicatorTime(quint64 msecs);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void updateViewArea();
+    void updateSearchTimeRange();
+    void displaySearchTimeRange(bool display);
+
+    Ruler* const m_ruler;
+    TimelineScroll* const m_scroll;
+    Zoomer* m_zoomer = nullptr;
+    QDateTime m_searchBegin;
+    QDateTime m_searchEnd;
+    bool m_theme = true;
+    bool m_resultMode = false;
+};
+
+} // namespace CorvelGui
