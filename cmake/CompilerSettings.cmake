@@ -21,13 +21,13 @@ if(CORVELGUI_BUILD_TESTS OR CORVELGUI_BUILD_BENCHMARKS)
 endif()
 
 if(MSVC)
-    target_compile_options(corvelgui_settings INTERFACE
-        /W4 /permissive- /utf-8 /Zc:__cplusplus $<$<BOOL:${CORVELGUI_WERROR}>:/WX>)
+    set(options /W4 /permissive- /utf-8 /Zc:__cplusplus $<$<BOOL:${CORVELGUI_WERROR}>:/WX>)
     target_compile_definitions(corvelgui_settings INTERFACE NOMINMAX _USE_MATH_DEFINES)
 else()
-    target_compile_options(corvelgui_settings INTERFACE
-        -Wall -Wextra -Wshadow -Woverloaded-virtual -Wpedantic $<$<BOOL:${CORVELGUI_WERROR}>:-Werror>)
+    set(options -Wall -Wextra -Wshadow -Woverloaded-virtual -Wpedantic $<$<BOOL:${CORVELGUI_WERROR}>:-Werror>)
 endif()
+# The compiler of Windows resources takes none of them.
+target_compile_options(corvelgui_settings INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:${options}>")
 
 if(CORVELGUI_SANITIZERS)
     set(sanitize "-fsanitize=${CORVELGUI_SANITIZERS}")

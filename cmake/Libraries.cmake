@@ -16,6 +16,10 @@ function(corvelgui_add_library package)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         EXPORT_NAME ${package})
+    if(WIN32)
+        set_target_properties(${package} PROPERTIES PREFIX "")
+    endif()
+    corvelgui_windows_resources(${package} "${package} library")
     target_link_libraries(${package} PRIVATE $<BUILD_INTERFACE:corvelgui_settings>)
     target_compile_features(${package} PUBLIC cxx_std_20)
 
@@ -26,24 +30,24 @@ function(corvelgui_add_library package)
     generate_export_header(${package} BASE_NAME ${lower}
         EXPORT_FILE_NAME "${include_dir}/${package}/${lower}_export.h")
     install(FILES "${include_dir}/${package}/${lower}_export.h"
-        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}")
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}" COMPONENT development)
 
     foreach(entry IN LISTS arg_HEADERS)
         corvelgui_forward_header(${package} "${entry}")
     endforeach()
 
     install(TARGETS ${package} EXPORT ${package}Targets
-        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
-        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
     set(config_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${package}")
-    install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION "${config_dir}")
+    install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION "${config_dir}" COMPONENT development)
     configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in"
         "${PROJECT_BINARY_DIR}/${package}Config.cmake" INSTALL_DESTINATION "${config_dir}")
     write_basic_package_version_file("${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
         COMPATIBILITY SameMajorVersion)
     install(FILES "${PROJECT_BINARY_DIR}/${package}Config.cmake" "${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
-        DESTINATION "${config_dir}")
+        DESTINATION "${config_dir}" COMPONENT development)
 endfunction()
 
 # One forwarding header for the build tree and one to install, both for [folder/]Name.
@@ -62,6 +66,7 @@ function(corvelgui_forward_header package entry)
     set(installed "${PROJECT_BINARY_DIR}/installed-include/${package}/${name}")
     configure_file("${PROJECT_SOURCE_DIR}/cmake/ForwardingHeader.in" "${installed}")
 
-    install(FILES "${source}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}/${folder}")
-    install(FILES "${installed}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}")
+    install(FILES "${source}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}/${folder}"
+        COMPONENT development)
+    install(FILES "${installed}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}" COMPONENT development)
 endfunction()

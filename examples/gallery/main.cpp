@@ -1,3 +1,4 @@
+#include "console.h"
 #include "gallerywindow.h"
 #include "pages.h"
 #include "pictures.h"
@@ -5,7 +6,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
-#include <cstdio>
 #include <numeric>
 
 using namespace Gallery;
@@ -15,7 +15,7 @@ namespace {
 
 int fail(const QString& message)
 {
-    std::fprintf(stderr, "corvel-gallery: %s\n", qPrintable(message));
+    Console::printError(u"corvel-gallery: %1\n"_s.arg(message));
     return 1;
 }
 

@@ -1,5 +1,6 @@
 #include "pictures.h"
 
+#include "console.h"
 #include "gallerywindow.h"
 #include "pages.h"
 
@@ -12,8 +13,6 @@
 #include <QProcessEnvironment>
 #include <QWindow>
 
-#include <cstdio>
-
 using namespace Qt::StringLiterals;
 
 namespace Gallery {
@@ -22,7 +21,7 @@ namespace {
 
 void complain(const QString& message)
 {
-    std::fprintf(stderr, "corvel-gallery: %s\n", qPrintable(message));
+    Console::printError(u"corvel-gallery: %1\n"_s.arg(message));
 }
 
 bool showAndWait(GalleryWindow& window)

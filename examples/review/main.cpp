@@ -1,4 +1,5 @@
 #include "commandline.h"
+#include "console.h"
 #include "picture.h"
 #include "reviewloader.h"
 #include "reviewwindow.h"
@@ -7,8 +8,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QTimer>
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 using namespace Review;
@@ -19,7 +18,7 @@ enum ExitCode { Success = 0, Failure = 1, BadUsage = 2 };
 
 int fail(ExitCode code, const QString& message)
 {
-    std::fputs(qPrintable(QCoreApplication::applicationName() + u": "_s + message + u'\n'), stderr);
+    Console::printError(QCoreApplication::applicationName() + u": "_s + message + u'\n');
     return code;
 }
 
@@ -43,7 +42,7 @@ int main(int argc, char* argv[])
     CommandLine commandLine;
     switch (commandLine.parse(QApplication::arguments())) {
     case CommandLine::Outcome::Answered:
-        std::fputs(qPrintable(commandLine.message()), stdout);
+        Console::print(commandLine.message());
         return Success;
     case CommandLine::Outcome::Refused:
         return fail(BadUsage, commandLine.message());

@@ -38,8 +38,8 @@ int TestReviewProgram::run(const QStringList& arguments)
         process.waitForFinished();
         return -1;
     }
-    m_output = QString::fromLocal8Bit(process.readAllStandardOutput());
-    m_errors = QString::fromLocal8Bit(process.readAllStandardError());
+    m_output = QString::fromUtf8(process.readAllStandardOutput());
+    m_errors = QString::fromUtf8(process.readAllStandardError());
     return process.exitCode();
 }
 
