@@ -66,6 +66,8 @@ void Zoomer::initializeControls()
     m_slider = new QSlider(Qt::Horizontal, this);
     m_slider->setRange(minimumLevel, m_maximumLevel);
     m_slider->setPageStep(1);
+    // Some styles want more, which would make the whole control higher.
+    m_slider->setMaximumHeight(zoomerHeight);
     m_slider->setSingleStep(1);
     m_slider->setValue(minimumLevel);
     connect(m_slider, &QSlider::valueChanged, this, &Zoomer::onSliderChanged);
