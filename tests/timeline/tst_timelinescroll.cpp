@@ -30,6 +30,8 @@ class LoggedStrip : public TimelineScroll
 public:
     explicit LoggedStrip(double viewArea = 0.2, double center = 0.3)
     {
+        // Windows widens a small window that has a frame.
+        setWindowFlag(Qt::FramelessWindowHint);
         setOrvaneGuiTheme(true);
         setActive(true);
         setViewArea(viewArea);
