@@ -65,6 +65,7 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     d->arrows = new RulerArrows(this, [this](int direction) { return canMoveViewPort(direction); });
     connect(d->arrows, &RulerArrows::step, this, &Ruler::moveViewPort);
     connect(d->arrows, &RulerArrows::released, this, [this] { changedTimeLineView(false); });
+    d->mouseTimer.setParent(this);
     d->mouseTimer.setInterval(mouseInterval);
     connect(&d->mouseTimer, &QTimer::timeout, this, &Ruler::onMouseTimerTimeout);
 

@@ -54,6 +54,7 @@ RulerArrows::RulerArrows(QWidget* ruler, std::function<bool(int)> canStep)
     , m_canStep(std::move(canStep))
     , m_left(new ArrowButton(ruler, u":/CorvelGui/common/leftarrow.png"_s))
     , m_right(new ArrowButton(ruler, u":/CorvelGui/common/rightarrow.png"_s))
+    , m_timer(this)
 {
     m_left->installEventFilter(this);
     m_right->installEventFilter(this);

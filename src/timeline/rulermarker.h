@@ -27,13 +27,13 @@ struct RulerMarker
     /// icon.
     static constexpr int providedIconKind = 3;
 
-    QUuid identifier;
+    QUuid identifier = {};
     /// Also the key by which markers are removed. A marker without a valid time is not added.
-    QDateTime time;
+    QDateTime time = {};
     int kind = 0;
     int iconIndex = -1;
     /// Shown as the tooltip, as plain text.
-    QString text;
+    QString text = {};
     /// Not owned; must live as long as the marker is on a ruler.
     IRulerMarkerIconProvider* iconProvider = nullptr;
 };
@@ -47,7 +47,7 @@ struct RulerMarkerOperation
     static constexpr int add = 4;
     static constexpr int remove = 5;
 
-    QList<RulerMarker> markers;
+    QList<RulerMarker> markers = {};
     int code = 0;
 };
 

@@ -20,14 +20,14 @@ constexpr int halfMargin = int(TimeScale::margin() / 2);
 
 } // namespace
 
-RulerMarkers::RulerMarkers(QWidget* ruler)
-    : QObject(ruler), m_ruler(ruler), m_mergedIcons(setupMergedRulerIcons())
-{
-    m_iconSets[ownIconKey] = setupRulerIconSet(PIconHelper::GetMarkerOutlined_48x48(true));
-}
+RulerMarkers::RulerMarkers(QWidget* ruler) : QObject(ruler), m_ruler(ruler) {}
 
 void RulerMarkers::add(const QList<RulerMarker>& markers)
 {
+    if (m_iconSets.empty()) {
+        m_iconSets[ownIconKey] = setupRulerIconSet(PIconHelper::GetMarkerOutlined_48x48(true));
+        m_mergedIcons = setupMergedRulerIcons();
+    }
     std::vector<MarkerStore::Entry> entries;
     entries.reserve(std::size_t(markers.size()));
     for (const RulerMarker& marker : markers) {
@@ -250,12 +250,12 @@ std::vector<RulerMarkers::Symbol> RulerMarkers::symbolsOf(const Indices& shown) 
     const Indices grouped = withNeighbourhood(shown);
     std::vector<MarkerPlace> places;
     places.reserve(grouped.last - grouped.first);
-    int iconKey = ownIconKey;
-    int halfWidth = halfWidthOf(iconKey);
+    std::optional<int> iconKey;
+    int halfWidth = 0;
     for (std::size_t marker = grouped.first; marker < grouped.last; ++marker) {
         if (m_store.iconKey(marker) != iconKey) {
             iconKey = m_store.iconKey(marker);
-            halfWidth = halfWidthOf(iconKey);
+            halfWidth = halfWidthOf(*iconKey);
         }
         places.push_back({xOf(marker), halfWidth});
     }

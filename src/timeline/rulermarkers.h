@@ -105,8 +105,9 @@ private:
 
     QWidget* const m_ruler;
     MarkerStore m_store;
+    // Made with the first marker, because drawing them takes a while.
     std::map<int, RulerIconSet> m_iconSets;
-    const MergedRulerIcons m_mergedIcons;
+    MergedRulerIcons m_mergedIcons;
     QSize m_iconSize{16, 16};
     std::optional<TimeSpan> m_range;
     bool m_shown = true;

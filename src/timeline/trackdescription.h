@@ -22,13 +22,13 @@ struct TimeSpan
 /// without recording.
 struct TrackDescription
 {
-    QString identifier;
-    QString name;
+    QString identifier = {};
+    QString name = {};
     qint64 begin = 0;
     qint64 end = 0;
     /// In any order; spans may overlap, and may reach beyond the described period, which they then
     /// extend.
-    QList<TimeSpan> recorded;
+    QList<TimeSpan> recorded = {};
 };
 
 } // namespace CorvelGui

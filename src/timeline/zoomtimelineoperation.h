@@ -19,8 +19,8 @@ struct ZoomTimelineOperation
     static constexpr int setResultRangeWithBegin = 7; ///< with a mark at its begin
 
     int code = 0;
-    QDateTime from;
-    QDateTime to;
+    QDateTime from = {};
+    QDateTime to = {};
     bool flagA = false;
     bool flagB = false;
 };

@@ -1,9 +1,9 @@
 #include "indicator.h"
+#include "loggedruler.h"
 #include "testsupport.h"
 #include "times.h"
 #include "timescale.h"
 
-#include <CorvelGui/Ruler>
 #include <Hueloft/POrvGuiTheme>
 
 #include <QAbstractButton>
@@ -13,43 +13,6 @@
 using namespace CorvelGui;
 using Hueloft::POrvGuiTheme;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A ruler of 1000 pixels of scale that writes down its signals in order.
-class LoggedRuler : public Ruler
-{
-public:
-    LoggedRuler()
-    {
-        resize(1020, height());
-        show(); // a widget that was never shown does not know its size
-        setTimeZone(u"UTC"_s);
-        setActive(true, false);
-        connect(this, &Ruler::changeSliderZoom, this,
-                [this](int level) { log << u"level %1"_s.arg(level); });
-        connect(this, &Ruler::centerPositionChanged, this,
-                [this](double position) { log << u"center %1"_s.arg(position, 0, 'g', 4); });
-        connect(this, &Ruler::timeLineViewChanged, this,
-                [this](const QDateTime&, const QDateTime&, const QDateTime& begin,
-                       const QDateTime& end, bool moving) {
-                    log << u"view %1 - %2%3"_s.arg(begin.toString(u"dd hh:mm"_s))
-                               .arg(end.toString(u"dd hh:mm"_s))
-                               .arg(moving ? u" moving"_s : QString());
-                });
-    }
-
-    QStringList takeLog() { return std::exchange(log, {}); }
-
-    QStringList log;
-};
-
-quint64 at(qint64 offset)
-{
-    return quint64(monday + offset);
-}
-
-} // namespace
 
 class TestRuler : public WarningFreeTest
 {
