@@ -66,6 +66,7 @@ int main(int argc, char* argv[])
     window.show();
 
     if (!arguments.picture.isEmpty()) {
+        window.showMiddleDay();
         QTimer::singleShot(0, &window,
                            [&] { QApplication::exit(takePicture(window, arguments.picture)); });
     }

@@ -33,20 +33,4 @@ qsizetype ReviewData::recordingCount() const
     return count;
 }
 
-qint64 recordedTime(const TrackDescription& track)
-{
-    QList<TimeSpan> spans = track.recorded;
-    std::sort(spans.begin(), spans.end(),
-              [](const TimeSpan& a, const TimeSpan& b) { return a.begin < b.begin; });
-    qint64 total = 0;
-    qint64 covered = std::numeric_limits<qint64>::min();
-    for (const TimeSpan& span : std::as_const(spans)) {
-        if (span.end > covered) {
-            total += span.end - std::max(span.begin, covered);
-            covered = span.end;
-        }
-    }
-    return total;
-}
-
 } // namespace Review

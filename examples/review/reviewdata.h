@@ -32,7 +32,4 @@ struct ReviewData
     qsizetype recordingCount() const;
 };
 
-/// Milliseconds of @p track that are recorded. What overlaps counts once.
-qint64 recordedTime(const CorvelGui::TrackDescription& track);
-
 } // namespace Review

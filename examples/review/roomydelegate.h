@@ -14,7 +14,9 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(12, 10);
+        constexpr int lowestContent = 18; // rows with and without icons are equally high
+        const QSize content = QStyledItemDelegate::sizeHint(option, index);
+        return content.expandedTo(QSize(0, lowestContent)) + QSize(12, 10);
     }
 };
 

@@ -1,36 +1,64 @@
 #include "timelinepane.h"
 
 #include <CorvelGui/Ruler>
+#include <CorvelGui/TimelineScroll>
+#include <CorvelGui/ZoomTimeline>
 
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
 
 using CorvelGui::Ruler;
+using CorvelGui::RulerMarker;
+using CorvelGui::RulerMarkerOperation;
 using CorvelGui::TimeSpan;
 using CorvelGui::TrackDescription;
+using CorvelGui::ZoomTimeline;
+using CorvelGui::ZoomTimelineOperation;
 
 namespace Review {
 
 namespace {
 
 constexpr double viewCentre = 0.5;
+constexpr qint64 spanAroundMarker = 20 * 60 * 1'000;
 
 } // namespace
 
 TimelinePane::TimelinePane(const QString& zoneName, QWidget* parent)
-    : QWidget(parent), m_ruler(new Ruler(this))
+    : QWidget(parent)
+    , m_timeline(new ZoomTimeline(this))
+    , m_ruler(m_timeline->ruler())
+    , m_zone(TimeTexts(zoneName).zone())
 {
-    m_ruler->setOrvaneGuiTheme(true);
-    m_ruler->setActive(true, false);
-    m_ruler->setTimeZone(zoneName);
-    m_ruler->setAccessibleName(tr("Timeline"));
+    m_timeline->setOrvaneGuiTheme(true);
+    m_timeline->setActive(true, false);
+    m_timeline->setTimeZone(zoneName);
+    m_ruler->setIndicatorDragEnabled(true);
+    m_ruler->setPreviewEnabled(true);
+    retranslate();
+
     connect(m_ruler, &Ruler::timeLineViewChanged, this, &TimelinePane::viewChanged);
+    connect(m_ruler, &Ruler::indicatorPositionChanged, this, [this](quint64 msecs) {
+        m_currentTime = qint64(msecs);
+        Q_EMIT currentTimeChanged();
+    });
+    connect(m_ruler, &Ruler::jumpToTime, this, [this](const QDateTime& time, const QUuid& marker) {
+        setCurrentTime(time.toMSecsSinceEpoch());
+        Q_EMIT markerChosen(marker);
+    });
+    connect(m_ruler, &Ruler::jumpToTrackTime, this,
+            [this](const QDateTime& time, const QUuid& marker) {
+                jumpTo(time.toMSecsSinceEpoch(), spanAroundMarker);
+                Q_EMIT markerChosen(marker);
+            });
+    connect(m_ruler, &Ruler::previewPositionChanged, this, &TimelinePane::showPreview);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(m_ruler);
+    layout->addWidget(m_timeline);
 }
 
 void TimelinePane::setPeriod(const TimeSpan& period)
@@ -38,15 +66,123 @@ void TimelinePane::setPeriod(const TimeSpan& period)
     m_period = period;
     if (period.isEmpty())
         return;
-    m_ruler->setTimeLimits(quint64(period.begin), quint64(period.end));
-    // The ruler puts its indicator at the begin, but nothing is played here.
-    m_ruler->setIndicatorPosition(0);
+    m_timeline->setTimeLimits(quint64(period.begin), quint64(period.end));
+    setCurrentTime(period.begin);
     showWholePeriod();
 }
 
 void TimelinePane::setTracks(const QList<TrackDescription>& tracks)
 {
     m_ruler->setTrackDescriptions(tracks);
+}
+
+void TimelinePane::setMarkers(const QList<RulerMarker>& markers)
+{
+    m_ruler->onMarkerOperation({.markers = {}, .code = RulerMarkerOperation::clear});
+    m_ruler->onMarkerOperation({.markers = markers, .code = RulerMarkerOperation::add});
+}
+
+void TimelinePane::setMarkersShown(bool shown)
+{
+    m_ruler->onMarkerOperation(
+        {.markers = {}, .code = shown ? RulerMarkerOperation::show : RulerMarkerOperation::hide});
+}
+
+void TimelinePane::setZone(const QString& zoneName)
+{
+    m_zone = TimeTexts(zoneName).zone();
+    m_timeline->setTimeZone(zoneName);
+    // The indicator's label follows when its time is set again.
+    m_timeline->setIndicatorPosition(quint64(m_currentTime));
+}
+
+void TimelinePane::retranslate()
+{
+    m_ruler->setAccessibleName(tr("Timeline"));
+}
+
+// One report for all that changes the view in one go.
+template <typename Change>
+void TimelinePane::changeView(Change change)
+{
+    m_ruler->blockSignalTimeLineViewChanged(true);
+    change();
+    m_timeline->timelineScroll()->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
+    m_ruler->blockSignalTimeLineViewChanged(false);
+    m_ruler->processTimeLineViewChanges();
+}
+
+void TimelinePane::setCurrentTime(qint64 msecs)
+{
+    m_timeline->setIndicatorPosition(quint64(msecs));
+    if (m_currentTime == msecs)
+        return;
+    m_currentTime = msecs;
+    Q_EMIT currentTimeChanged();
+}
+
+void TimelinePane::jumpTo(qint64 msecs)
+{
+    if (m_period.isEmpty())
+        return;
+    changeView([&] { centreOn(msecs); });
+    setCurrentTime(msecs);
+}
+
+void TimelinePane::jumpTo(qint64 msecs, qint64 span)
+{
+    if (m_period.isEmpty())
+        return;
+    changeView([&] {
+        for (int level = 0; level <= m_ruler->getNrOfZooomLevels(); ++level) {
+            m_ruler->changeLevel(level, viewCentre);
+            if (qint64(m_ruler->endTime() - m_ruler->beginTime()) >= span)
+                break;
+        }
+        centreOn(msecs);
+    });
+    setCurrentTime(msecs);
+}
+
+void TimelinePane::centreOn(qint64 msecs)
+{
+    const TimeSpan shown = view();
+    const qint64 span = shown.end - shown.begin;
+    const qint64 begin =
+        std::clamp(msecs - span / 2, m_period.begin, std::max(m_period.begin, m_period.end - span));
+    m_ruler->onTimelineOffsetChanged(double(begin + span / 2 - m_period.begin) /
+                                     double(m_period.end - m_period.begin));
+}
+
+void TimelinePane::setSearchRange(const TimeSpan& range)
+{
+    m_timeline->onZoomTimeLineOperation({.code = ZoomTimelineOperation::setSearchRange,
+                                         .from = inZone(range.begin),
+                                         .to = inZone(range.end)});
+}
+
+void TimelinePane::setResultRange(const TimeSpan& range, const ResultLook& look)
+{
+    m_ruler->setResultTimeRange(inZone(range.begin), inZone(range.end), look.markBegin,
+                                look.markEnd, look.onlyInside, look.zoom);
+}
+
+void TimelinePane::clearRanges()
+{
+    m_timeline->onZoomTimeLineOperation({.code = ZoomTimelineOperation::clearSearchRange});
+    m_ruler->setResultTimeRange({}, {}, false, false, false, false);
+}
+
+void TimelinePane::showPreview(quint64 msecs, const QPoint& position, bool onMarker)
+{
+    // On a marker the ruler reports twice in a row: the marker, and the time under the mouse.
+    if (std::exchange(m_markerPreviewed, onMarker && msecs > 0) && msecs > 0 && !onMarker)
+        return;
+    if (m_markerPreviewed)
+        QTimer::singleShot(0, this, [this] { m_markerPreviewed = false; });
+    m_ruler->setPreviewIndicatorPosition(msecs);
+    m_ruler->onPreviewVisible(msecs > 0, false);
+    Q_EMIT previewChanged(qint64(msecs), m_ruler->mapTo(this, QPoint(position.x(), 0)), onMarker);
 }
 
 TimeSpan TimelinePane::view() const
@@ -98,31 +234,31 @@ void TimelinePane::zoomOut()
 
 void TimelinePane::showWholePeriod()
 {
-    m_ruler->changeLevel(m_ruler->getNrOfZooomLevels(), viewCentre);
-    // At that level already, the ruler leaves a view that was moved where it is.
-    m_ruler->onTimelineOffsetChanged(viewCentre);
+    changeView([this] {
+        m_ruler->changeLevel(m_ruler->getNrOfZooomLevels(), viewCentre);
+        // At that level already, the ruler leaves a view that was moved where it is.
+        m_ruler->onTimelineOffsetChanged(viewCentre);
+    });
 }
 
 void TimelinePane::stepEarlier()
 {
-    stepBy((view().begin - view().end) / 2);
+    const TimeSpan shown = view();
+    if (!m_period.isEmpty())
+        changeView([&] { centreOn(shown.begin); });
 }
 
 void TimelinePane::stepLater()
 {
-    stepBy((view().end - view().begin) / 2);
+    const TimeSpan shown = view();
+    if (!m_period.isEmpty())
+        changeView([&] { centreOn(shown.end); });
 }
 
-void TimelinePane::stepBy(qint64 msecs)
+// A view that begins at one of these times shows its labels on their clock.
+QDateTime TimelinePane::inZone(qint64 msecs) const
 {
-    if (m_period.isEmpty())
-        return;
-    const TimeSpan shown = view();
-    const qint64 span = shown.end - shown.begin;
-    const qint64 begin = std::clamp(shown.begin + msecs, m_period.begin,
-                                    std::max(m_period.begin, m_period.end - span));
-    m_ruler->onTimelineOffsetChanged(double(begin + span / 2 - m_period.begin) /
-                                     double(m_period.end - m_period.begin));
+    return QDateTime::fromMSecsSinceEpoch(msecs, m_zone);
 }
 
 qint64 TimelinePane::msecsPerPixel() const

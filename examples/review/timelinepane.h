@@ -1,12 +1,16 @@
 #pragma once
 
+#include "rangepanel.h"
+
+#include <CorvelGui/RulerMarker>
 #include <CorvelGui/TrackDescription>
 
 #include <QWidget>
 
 namespace CorvelGui {
 class Ruler;
-}
+class ZoomTimeline;
+} // namespace CorvelGui
 
 namespace Review {
 
@@ -22,6 +26,24 @@ public:
     /// Sets the limits and shows the whole period. Without one, the timeline stays empty.
     void setPeriod(const CorvelGui::TimeSpan& period);
     void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
+    /// Replaces the markers that were set before.
+    void setMarkers(const QList<CorvelGui::RulerMarker>& markers);
+    void setZone(const QString& zoneName);
+    /// Applies all translated texts again.
+    void retranslate();
+
+    /// The time of the indicator; 0 if there is none.
+    qint64 currentTime() const { return m_currentTime; }
+    /// Moves the indicator. The view follows where the indicator leaves it.
+    void setCurrentTime(qint64 msecs);
+    /// Puts the indicator at a time and brings it into the middle of the view.
+    void jumpTo(qint64 msecs);
+    /// As jumpTo(), with a view of at least @p span around it: the closest one there is.
+    void jumpTo(qint64 msecs, qint64 span);
+
+    void setSearchRange(const CorvelGui::TimeSpan& range);
+    void setResultRange(const CorvelGui::TimeSpan& range, const ResultLook& look);
+    void clearRanges();
 
     /// What is in view; empty without a period.
     CorvelGui::TimeSpan view() const;
@@ -38,17 +60,33 @@ public Q_SLOTS:
     /// Half a view towards the begin or the end of the period.
     void stepEarlier();
     void stepLater();
+    void setMarkersShown(bool shown);
 
 Q_SIGNALS:
     /// Emitted whenever view() may have changed, and with it what can be done to it.
     void viewChanged();
+    /// Emitted whenever currentTime() changed.
+    void currentTimeChanged();
+    /// Emitted when a marker was pressed or opened; the indicator stands on it already.
+    void markerChosen(const QUuid& identifier);
+    /// The mouse rests at a time, or on the marker of that time (@p onMarker). @p position is on
+    /// the upper edge of the timeline. A time of 0 ends the preview.
+    void previewChanged(qint64 msecs, const QPoint& position, bool onMarker);
 
 private:
-    void stepBy(qint64 msecs);
+    template <typename Change>
+    void changeView(Change change);
+    void centreOn(qint64 msecs);
+    void showPreview(quint64 msecs, const QPoint& position, bool onMarker);
+    QDateTime inZone(qint64 msecs) const;
     qint64 msecsPerPixel() const;
 
+    CorvelGui::ZoomTimeline* m_timeline;
     CorvelGui::Ruler* m_ruler;
+    QTimeZone m_zone;
     CorvelGui::TimeSpan m_period;
+    qint64 m_currentTime = 0;
+    bool m_markerPreviewed = false;
 };
 
 } // namespace Review

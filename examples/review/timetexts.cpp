@@ -2,7 +2,7 @@
 
 #include <Corvel/TimeZoneHelper>
 
-#include <QDateTime>
+#include <QLocale>
 
 using Corvel::TimeZoneHelper;
 using namespace Qt::StringLiterals;
@@ -24,12 +24,40 @@ QString TimeTexts::dateTime(qint64 msecs) const
     return TimeZoneHelper::fromMSecsSinceEpoch(msecs, m_zone).toString(u"dd.MM.yyyy HH:mm:ss"_s);
 }
 
+QString TimeTexts::exactDateTime(qint64 msecs) const
+{
+    const QDateTime time = TimeZoneHelper::fromMSecsSinceEpoch(msecs, m_zone);
+    return u"%1 %2 %3"_s.arg(QLocale().dayName(time.date().dayOfWeek(), QLocale::ShortFormat),
+                             time.toString(u"dd.MM.yyyy HH:mm:ss.zzz"_s),
+                             m_zone.abbreviation(time));
+}
+
 QString TimeTexts::duration(qint64 msecs)
 {
     const qint64 seconds = msecs / 1'000;
     return u"%1:%2:%3"_s.arg(seconds / 3'600)
         .arg(seconds / 60 % 60, 2, 10, QChar(u'0'))
         .arg(seconds % 60, 2, 10, QChar(u'0'));
+}
+
+QDateTime TimeTexts::wallClock(qint64 msecs) const
+{
+    const QDateTime utc = QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC);
+    return utc.addSecs(m_zone.offsetFromUtc(utc));
+}
+
+qint64 TimeTexts::fromWallClock(const QDateTime& wallClock) const
+{
+    // The offsets before and after any clock change nearby.
+    const qint64 before =
+        wallClock.addSecs(-m_zone.offsetFromUtc(wallClock.addDays(-1))).toMSecsSinceEpoch();
+    const qint64 after =
+        wallClock.addSecs(-m_zone.offsetFromUtc(wallClock.addDays(1))).toMSecsSinceEpoch();
+    for (const qint64 candidate : {before, after}) {
+        if (this->wallClock(candidate) == wallClock)
+            return candidate;
+    }
+    return before;
 }
 
 } // namespace Review

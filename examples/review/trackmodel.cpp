@@ -1,7 +1,5 @@
 #include "trackmodel.h"
 
-#include "reviewdata.h"
-
 #include <QLocale>
 
 using CorvelGui::TrackDescription;
@@ -14,7 +12,7 @@ TrackModel::TrackModel(const QList<TrackDescription>& tracks, const TimeTexts& t
 {
     m_rows.reserve(tracks.size());
     for (const TrackDescription& track : tracks)
-        m_rows.append({.track = track, .recordedTime = recordedTime(track), .checked = true});
+        m_rows.append({.track = track, .history = TrackHistory(track), .checked = true});
 }
 
 QList<TrackDescription> TrackModel::checkedTracks() const
@@ -25,6 +23,34 @@ QList<TrackDescription> TrackModel::checkedTracks() const
             tracks.append(row.track);
     }
     return tracks;
+}
+
+QSet<QString> TrackModel::uncheckedTracks() const
+{
+    QSet<QString> identifiers;
+    for (const Row& row : m_rows) {
+        if (!row.checked)
+            identifiers.insert(row.track.identifier);
+    }
+    return identifiers;
+}
+
+QList<TrackModel::NamedState> TrackModel::statesAt(qint64 msecs) const
+{
+    QList<NamedState> states;
+    for (const Row& row : m_rows) {
+        if (row.checked)
+            states.append({row.track.name, row.history.stateAt(msecs)});
+    }
+    return states;
+}
+
+void TrackModel::setTimes(const TimeTexts& times)
+{
+    m_times = times;
+    if (!m_rows.isEmpty())
+        Q_EMIT dataChanged(index(0, DescribedFrom), index(rowCount() - 1, DescribedTo),
+                           {Qt::DisplayRole});
 }
 
 int TrackModel::rowCount(const QModelIndex& parent) const
@@ -113,7 +139,7 @@ QString TrackModel::text(const QModelIndex& index) const
     case Recordings:
         return QLocale().toString(row.track.recorded.size());
     case RecordedTime:
-        return TimeTexts::duration(row.recordedTime);
+        return TimeTexts::duration(row.history.recordedTime());
     default:
         return {};
     }

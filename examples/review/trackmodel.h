@@ -1,11 +1,13 @@
 #pragma once
 
 #include "timetexts.h"
+#include "trackhistory.h"
 
 #include <CorvelGui/TrackDescription>
 
 #include <QAbstractTableModel>
 #include <QList>
+#include <QSet>
 
 namespace Review {
 
@@ -22,6 +24,20 @@ public:
 
     /// In the order of the rows. All tracks are checked at first.
     QList<CorvelGui::TrackDescription> checkedTracks() const;
+    /// Identifiers of the others.
+    QSet<QString> uncheckedTracks() const;
+
+    struct NamedState
+    {
+        QString name;
+        TrackState state;
+
+        bool operator==(const NamedState&) const = default;
+    };
+    /// What is known of the checked tracks at a time, in the order of the rows.
+    QList<NamedState> statesAt(qint64 msecs) const;
+
+    void setTimes(const TimeTexts& times);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -40,11 +56,11 @@ private:
     struct Row
     {
         CorvelGui::TrackDescription track;
-        qint64 recordedTime = 0;
+        TrackHistory history;
         bool checked = true;
     };
 
-    const TimeTexts m_times;
+    TimeTexts m_times;
     QList<Row> m_rows;
 };
 

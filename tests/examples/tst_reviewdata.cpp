@@ -4,6 +4,8 @@
 #include "sampledata.h"
 #include "testsupport.h"
 #include "times.h"
+#include "timetexts.h"
+#include "trackhistory.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -69,6 +71,9 @@ private Q_SLOTS:
     void eventsAreSorted();
     void garbageHarmsNothing();
     void overlapsCountOnce();
+    void historyKnowsThreeStates();
+    void clockChanges_data();
+    void clockChanges();
     void sampleIsSound();
 
 private:
@@ -302,7 +307,55 @@ void TestReviewData::overlapsCountOnce()
                                  .begin = 0,
                                  .end = 100,
                                  .recorded = {{50, 60}, {10, 40}, {20, 30}, {35, 45}, {60, 61}}};
-    QCOMPARE(recordedTime(track), 46);
+    QCOMPARE(TrackHistory(track).recordedTime(), 46);
+}
+
+void TestReviewData::historyKnowsThreeStates()
+{
+    // The last span reaches beyond the described period.
+    const TrackHistory history({.identifier = u"a"_s,
+                                .name = u"a"_s,
+                                .begin = 100,
+                                .end = 200,
+                                .recorded = {{190, 220}, {120, 130}, {125, 140}, {122, 124}}});
+    const auto statesAt = [&history](const QList<qint64>& times) {
+        QString states;
+        for (const qint64 time : times)
+            states += u"rg-"_s[int(history.stateAt(time))];
+        return states;
+    };
+    QCOMPARE(statesAt({99, 100, 119, 120, 130, 139, 140, 189, 190, 219, 220}), u"-ggrrrggrr-"_s);
+    QCOMPARE(int(TrackHistory({}).stateAt(0)), int(TrackState::NotDescribed));
+}
+
+void TestReviewData::clockChanges_data()
+{
+    QTest::addColumn<QString>("clock");
+    QTest::addColumn<QString>("utc");
+    QTest::addColumn<QString>("clockAgain");
+
+    QTest::newRow("winter") << u"2026-03-29T01:59:59"_s << u"2026-03-29T00:59:59"_s
+                            << u"2026-03-29T01:59:59"_s;
+    QTest::newRow("skipped") << u"2026-03-29T02:30:00"_s << u"2026-03-29T01:30:00"_s
+                             << u"2026-03-29T03:30:00"_s;
+    QTest::newRow("summer") << u"2026-03-29T03:00:00"_s << u"2026-03-29T01:00:00"_s
+                            << u"2026-03-29T03:00:00"_s;
+    QTest::newRow("repeated") << u"2026-10-25T02:30:00"_s << u"2026-10-25T00:30:00"_s
+                              << u"2026-10-25T02:30:00"_s;
+}
+
+void TestReviewData::clockChanges()
+{
+    QFETCH(const QString, clock);
+    QFETCH(const QString, utc);
+    QFETCH(const QString, clockAgain);
+    const auto time = [](const QString& text) {
+        return QDateTime::fromString(text + u'Z', Qt::ISODate);
+    };
+    const TimeTexts times(u"Europe/Brussels"_s);
+    const qint64 instant = times.fromWallClock(time(clock));
+    QCOMPARE(instant, time(utc).toMSecsSinceEpoch());
+    QCOMPARE(times.wallClock(instant), time(clockAgain));
 }
 
 void TestReviewData::sampleIsSound()

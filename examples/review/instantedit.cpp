@@ -1,0 +1,38 @@
+#include "instantedit.h"
+
+#include <QCalendarWidget>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+InstantEdit::InstantEdit(const TimeTexts& times, QWidget* parent)
+    : QDateTimeEdit(parent), m_times(times)
+{
+    setTimeSpec(Qt::UTC);
+    setDisplayFormat(u"dd.MM.yyyy HH:mm:ss"_s);
+    setCalendarPopup(true);
+    connect(this, &QDateTimeEdit::dateTimeChanged, this,
+            [this](const QDateTime& shown) { m_instant = m_times.fromWallClock(shown); });
+}
+
+void InstantEdit::setInstant(qint64 msecs)
+{
+    m_instant = msecs;
+    showInstant();
+}
+
+void InstantEdit::setTimes(const TimeTexts& times)
+{
+    m_times = times;
+    showInstant();
+}
+
+void InstantEdit::showInstant()
+{
+    const QSignalBlocker silent(this);
+    setDateTime(m_times.wallClock(m_instant));
+}
+
+} // namespace Review

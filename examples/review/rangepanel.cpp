@@ -1,0 +1,141 @@
+#include "rangepanel.h"
+
+#include "instantedit.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+using CorvelGui::TimeSpan;
+
+namespace Review {
+
+namespace {
+
+QCheckBox* createCheckBox(bool checked, QWidget* parent)
+{
+    auto* box = new QCheckBox(parent);
+    box->setChecked(checked);
+    return box;
+}
+
+} // namespace
+
+RangePanel::RangePanel(const TimeTexts& times, const TimeSpan& period, QWidget* parent)
+    : QWidget(parent)
+    , m_period(period)
+    , m_fromLabel(new QLabel(this))
+    , m_from(new InstantEdit(times, this))
+    , m_toLabel(new QLabel(this))
+    , m_to(new InstantEdit(times, this))
+    , m_fromView(new QPushButton(this))
+    , m_search(new QPushButton(this))
+    , m_clear(new QPushButton(this))
+    , m_markBegin(createCheckBox(ResultLook().markBegin, this))
+    , m_markEnd(createCheckBox(ResultLook().markEnd, this))
+    , m_onlyInside(createCheckBox(ResultLook().onlyInside, this))
+    , m_zoom(createCheckBox(ResultLook().zoom, this))
+    , m_result(new QPushButton(this))
+    , m_message(new QLabel(this))
+{
+    m_fromLabel->setBuddy(m_from);
+    m_toLabel->setBuddy(m_to);
+    m_message->setWordWrap(true);
+    setRange(period);
+    createLayout();
+
+    for (InstantEdit* edit : {m_from, m_to})
+        connect(edit, &QDateTimeEdit::dateTimeChanged, m_message, &QLabel::clear);
+    connect(m_fromView, &QPushButton::clicked, this, &RangePanel::viewWanted);
+    connect(m_search, &QPushButton::clicked, this, [this] {
+        if (checkRange())
+            Q_EMIT searchWanted(range());
+    });
+    connect(m_result, &QPushButton::clicked, this, [this] {
+        if (checkRange())
+            Q_EMIT resultWanted(range(), {.markBegin = m_markBegin->isChecked(),
+                                          .markEnd = m_markEnd->isChecked(),
+                                          .onlyInside = m_onlyInside->isChecked(),
+                                          .zoom = m_zoom->isChecked()});
+    });
+    connect(m_clear, &QPushButton::clicked, this, [this] {
+        m_message->clear();
+        Q_EMIT clearWanted();
+    });
+    retranslate();
+}
+
+TimeSpan RangePanel::range() const
+{
+    return {.begin = m_from->instant(), .end = m_to->instant()};
+}
+
+void RangePanel::setRange(const TimeSpan& range)
+{
+    m_from->setInstant(range.begin);
+    m_to->setInstant(range.end);
+    m_message->clear();
+}
+
+void RangePanel::setTimes(const TimeTexts& times)
+{
+    m_from->setTimes(times);
+    m_to->setTimes(times);
+}
+
+void RangePanel::createLayout()
+{
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(8, 6, 8, 6);
+    layout->setHorizontalSpacing(8);
+    layout->setVerticalSpacing(6);
+
+    layout->addWidget(m_fromLabel, 0, 0);
+    layout->addWidget(m_from, 0, 1);
+    layout->addWidget(m_toLabel, 1, 0);
+    layout->addWidget(m_to, 1, 1);
+    layout->addWidget(m_fromView, 0, 2);
+    layout->addWidget(m_clear, 1, 2);
+    layout->addWidget(m_search, 0, 3);
+    layout->addWidget(m_result, 1, 3);
+
+    auto* result = new QHBoxLayout;
+    result->setSpacing(14);
+    for (QCheckBox* box : {m_markBegin, m_markEnd, m_onlyInside, m_zoom})
+        result->addWidget(box);
+    result->addStretch();
+    layout->addWidget(m_message, 0, 4);
+    layout->addLayout(result, 1, 4);
+    layout->setColumnStretch(4, 1);
+}
+
+void RangePanel::retranslate()
+{
+    m_fromLabel->setText(tr("From"));
+    m_toLabel->setText(tr("To"));
+    m_fromView->setText(tr("From view"));
+    m_search->setText(tr("Search range"));
+    m_clear->setText(tr("Clear"));
+    m_markBegin->setText(tr("Mark begin"));
+    m_markEnd->setText(tr("Mark end"));
+    m_onlyInside->setText(tr("Only markers inside"));
+    m_zoom->setText(tr("Zoom to it"));
+    m_result->setText(tr("Show result"));
+    m_message->clear();
+}
+
+bool RangePanel::checkRange()
+{
+    const TimeSpan wanted = range();
+    if (wanted.isEmpty())
+        m_message->setText(tr("The range must end after it begins."));
+    else if (wanted.end <= m_period.begin || wanted.begin >= m_period.end)
+        m_message->setText(tr("Nothing is known of this range."));
+    else
+        m_message->clear();
+    return m_message->text().isEmpty();
+}
+
+} // namespace Review

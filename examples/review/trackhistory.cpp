@@ -1,0 +1,48 @@
+#include "trackhistory.h"
+
+#include <algorithm>
+
+using CorvelGui::TimeSpan;
+using CorvelGui::TrackDescription;
+
+namespace Review {
+
+TrackHistory::TrackHistory(const TrackDescription& track)
+    : m_described{.begin = track.begin, .end = track.end}
+{
+    QList<TimeSpan> spans = track.recorded;
+    std::sort(spans.begin(), spans.end(),
+              [](const TimeSpan& a, const TimeSpan& b) { return a.begin < b.begin; });
+    for (const TimeSpan& span : std::as_const(spans)) {
+        if (span.isEmpty())
+            continue;
+        if (m_recorded.isEmpty() || span.begin > m_recorded.last().end)
+            m_recorded.append(span);
+        else
+            m_recorded.last().end = std::max(m_recorded.last().end, span.end);
+    }
+    if (!m_recorded.isEmpty()) {
+        m_described.begin = std::min(m_described.begin, m_recorded.first().begin);
+        m_described.end = std::max(m_described.end, m_recorded.last().end);
+    }
+}
+
+TrackState TrackHistory::stateAt(qint64 msecs) const
+{
+    const auto next = std::partition_point(m_recorded.begin(), m_recorded.end(),
+                                           [msecs](const TimeSpan& s) { return s.begin <= msecs; });
+    if (next != m_recorded.begin() && msecs < std::prev(next)->end)
+        return TrackState::Recorded;
+    return m_described.begin <= msecs && msecs < m_described.end ? TrackState::Gap
+                                                                 : TrackState::NotDescribed;
+}
+
+qint64 TrackHistory::recordedTime() const
+{
+    qint64 total = 0;
+    for (const TimeSpan& span : m_recorded)
+        total += span.end - span.begin;
+    return total;
+}
+
+} // namespace Review

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <CorvelGui/TrackDescription>
+
+namespace Review {
+
+enum class TrackState {
+    Recorded,
+    Gap, ///< known to be without recording
+    NotDescribed
+};
+
+/// Answers what is known of a track at any time.
+class TrackHistory
+{
+public:
+    explicit TrackHistory(const CorvelGui::TrackDescription& track);
+
+    TrackState stateAt(qint64 msecs) const;
+    /// Milliseconds that are recorded. What overlaps counts once.
+    qint64 recordedTime() const;
+
+private:
+    CorvelGui::TimeSpan m_described;
+    /// Sorted, without overlaps.
+    QList<CorvelGui::TimeSpan> m_recorded;
+};
+
+} // namespace Review

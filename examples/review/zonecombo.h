@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace Review {
+
+/// Offers all time zones for choice and for search.
+class ZoneCombo : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    /// @p zoneName is an IANA or Windows name; an empty one stands for the zone of this machine.
+    explicit ZoneCombo(const QString& zoneName, QWidget* parent = nullptr);
+
+    /// Applies all translated texts again.
+    void retranslate();
+
+Q_SIGNALS:
+    /// Emitted when the user chose another zone; named as for the constructor.
+    void zoneChanged(const QString& name);
+    /// Emitted when the user entered what is no zone. The zone stays.
+    void zoneRefused(const QString& text);
+
+private:
+    void takeEntry();
+    void showZone();
+
+    QString m_zone;
+};
+
+} // namespace Review

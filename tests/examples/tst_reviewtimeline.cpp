@@ -1,0 +1,470 @@
+#include "eventicons.h"
+#include "eventmarkers.h"
+#include "eventmodel.h"
+#include "instantedit.h"
+#include "previewcard.h"
+#include "samplewindow.h"
+#include "testsupport.h"
+#include "times.h"
+#include "zonecombo.h"
+
+#include <CorvelGui/Indicator>
+#include <CorvelGui/RulerMarkerButton>
+#include <CorvelGui/TimelineScroll>
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+using CorvelGui::Ruler;
+using CorvelGui::RulerMarkerButton;
+
+namespace {
+
+/// Two tracks and three events, one of them of no track, around the noon of the Monday. The first
+/// texts look like markup.
+ReviewData smallReview()
+{
+    const qint64 noon = monday + 12 * hour;
+    return {.tracks = {{u"a"_s, u"<b>Gate</b>"_s, monday, monday + day, {{noon, noon + hour}}},
+                       {u"b"_s, u"Fence"_s, monday, noon, {{monday, monday + hour}}}},
+            .events = {{noon - 6 * hour, u"Person"_s, u"<i>thin</i>"_s, u"b"_s},
+                       {noon, u"car"_s, u"vehicle"_s, u"a"_s},
+                       {noon + 6 * hour, u"ghost"_s, u"boo"_s, QString()}}};
+}
+
+QList<RulerMarkerButton*> shownMarkers(const Ruler* ruler)
+{
+    QList<RulerMarkerButton*> shown = ruler->findChildren<RulerMarkerButton*>();
+    shown.removeIf([](const RulerMarkerButton* button) { return !button->isVisible(); });
+    std::ranges::sort(shown, {}, &RulerMarkerButton::centerX);
+    return shown;
+}
+
+template <typename Button>
+Button* buttonOf(const SampleWindow& sample, const QString& text)
+{
+    for (Button* candidate : sample.window.template findChildren<Button*>()) {
+        if (candidate->text() == text)
+            return candidate;
+    }
+    qFatal("No such button: %s", qPrintable(text));
+}
+
+void press(const SampleWindow& sample, const QString& button)
+{
+    QTest::mouseClick(buttonOf<QPushButton>(sample, button), Qt::LeftButton);
+}
+
+void enterZone(const SampleWindow& sample, const QString& text)
+{
+    auto* combo = sample.window.findChild<ZoneCombo*>();
+    combo->setEditText(text);
+    QTest::keyClick(combo, Qt::Key_Return);
+}
+
+/// Moves the mouse as the window system does, so that widgets are entered and left.
+void moveMouse(const SampleWindow& sample, const QWidget* widget, QPoint position)
+{
+    QTest::mouseMove(sample.window.windowHandle(), widget->mapTo(&sample.window, position));
+}
+
+qint64 viewSpan(const Ruler* ruler)
+{
+    return qint64(ruler->endTime() - ruler->beginTime());
+}
+
+qint64 viewCentre(const Ruler* ruler)
+{
+    return qint64(ruler->beginTime() + ruler->endTime()) / 2;
+}
+
+} // namespace
+
+class TestReviewTimeline : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
+    void kindsAreRead_data();
+    void kindsAreRead();
+    void iconsDifferInShapeAndColour();
+    void identifiersLeadToEvents();
+    void markersOfCheckedTracks();
+    void markersArePressed();
+    void eventsAreOpened();
+    void indicatorIsPlaced();
+    void previewSaysWhatIsKnown();
+    void previewPrefersTheMarker();
+    void zoneChangesAllTexts();
+    void rangesAreAsked();
+    void faultyRangesAreKept();
+    void instantsOutlastTheClock();
+    void manyEventsLoad();
+};
+
+void TestReviewTimeline::kindsAreRead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<EventKind>("kind");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("known") << u"person"_s << EventKind::Person << u"Person"_s;
+    QTest::newRow("capitals") << u" ALARM "_s << EventKind::Alarm << u"Alarm"_s;
+    QTest::newRow("synonym") << u"car"_s << EventKind::Vehicle << u"Vehicle"_s;
+    QTest::newRow("unknown") << u"personal"_s << EventKind::Other << u"personal"_s;
+}
+
+void TestReviewTimeline::kindsAreRead()
+{
+    QFETCH(const QString, name);
+    QTEST(EventKinds::parse(name), "kind");
+    QTEST(EventKinds::text(name), "text");
+}
+
+void TestReviewTimeline::iconsDifferInShapeAndColour()
+{
+    QList<QImage> shapes;
+    QList<QColor> colours;
+    EventIcons icons;
+    for (int kind = 0; kind < EventKinds::count; ++kind) {
+        QVERIFY(icons.iconKey(kind) != -1);
+        const QImage picture = icons.icon(kind).pixmap(QSize(16, 16), 1.0).toImage();
+        shapes.append(picture.convertToFormat(QImage::Format_Alpha8));
+        QColor brightest(0, 0, 0);
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 16; ++x) {
+                const QColor pixel = picture.pixelColor(x, y);
+                if (pixel.alpha() == 255 && pixel.lightness() > brightest.lightness())
+                    brightest = pixel;
+            }
+        }
+        QVERIFY(brightest.lightness() > 140); // on the dark timeline
+        colours.append(brightest);
+    }
+    for (int a = 0; a < EventKinds::count; ++a) {
+        for (int b = 0; b < a; ++b) {
+            int different = 0;
+            for (int y = 0; y < 16; ++y) {
+                for (int x = 0; x < 16; ++x)
+                    different += std::abs(shapes[a].pixelColor(x, y).alpha() -
+                                          shapes[b].pixelColor(x, y).alpha()) > 128;
+            }
+            QVERIFY2(different >= 24, qPrintable(u"%1 %2 %3"_s.arg(a).arg(b).arg(different)));
+            const int distance = std::abs(colours[a].red() - colours[b].red()) +
+                                 std::abs(colours[a].green() - colours[b].green()) +
+                                 std::abs(colours[a].blue() - colours[b].blue());
+            QVERIFY2(distance >= 60, qPrintable(u"%1 %2 %3"_s.arg(a).arg(b).arg(distance)));
+        }
+    }
+}
+
+void TestReviewTimeline::identifiersLeadToEvents()
+{
+    for (const qsizetype index : {qsizetype(0), qsizetype(1), qsizetype(100'000)})
+        QCOMPARE(EventMarkers::indexOf(EventMarkers::identifierOf(index)), index);
+    QCOMPARE(EventMarkers::indexOf(QUuid()), -1);
+    QCOMPARE(EventMarkers::indexOf(QUuid(u"00000001-0000-0000-0000-000000000000"_s)), -1);
+}
+
+void TestReviewTimeline::markersOfCheckedTracks()
+{
+    const ReviewData data = smallReview();
+    const SampleWindow sample(u"UTC"_s, {}, data);
+    const auto shownEvents = [&] {
+        QList<qsizetype> indexes;
+        for (const RulerMarkerButton* button : shownMarkers(sample.ruler())) {
+            const qsizetype index = EventMarkers::indexOf(button->marker().identifier);
+            indexes.append(index);
+            // The marker is the event's in all that it says.
+            if (button->marker().time.toMSecsSinceEpoch() != data.events[index].time ||
+                button->marker().iconIndex != int(EventKinds::parse(data.events[index].kind)))
+                indexes.append(-1);
+        }
+        return indexes;
+    };
+    QTreeView* events = sample.table(u"Events"_s);
+    QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
+    QCOMPARE(events->model()->rowCount(), 3);
+
+    QAbstractItemModel* tracks = sample.table(u"Tracks"_s)->model();
+    tracks->setData(tracks->index(1, 0), Qt::Unchecked, Qt::CheckStateRole);
+    QCOMPARE(shownEvents(), QList<qsizetype>({1, 2}));
+    QCOMPARE(events->model()->rowCount(), 2);
+    QCOMPARE(events->model()->index(0, EventModel::Kind).data().toString(), u"Vehicle"_s);
+    QCOMPARE(events->model()->index(0, EventModel::Track).data().toString(), u"<b>Gate</b>"_s);
+
+    sample.action(u"Events"_s)->trigger();
+    QCOMPARE(shownEvents(), QList<qsizetype>());
+    tracks->setData(tracks->index(1, 0), Qt::Checked, Qt::CheckStateRole);
+    QCOMPARE(shownEvents(), QList<qsizetype>());
+    sample.action(u"Events"_s)->trigger();
+    QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
+}
+
+void TestReviewTimeline::markersArePressed()
+{
+    const ReviewData data = smallReview();
+    const SampleWindow sample(u"UTC"_s, {}, data);
+    QTreeView* events = sample.table(u"Events"_s);
+    Ruler* ruler = sample.ruler();
+    const qint64 span = viewSpan(ruler);
+
+    // The uncheckable first row is gone, so that rows and events differ in number.
+    QAbstractItemModel* tracks = sample.table(u"Tracks"_s)->model();
+    tracks->setData(tracks->index(1, 0), Qt::Unchecked, Qt::CheckStateRole);
+
+    QTest::mouseClick(shownMarkers(ruler).last(), Qt::LeftButton);
+    QCOMPARE(events->currentIndex().row(), 1);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[2].time);
+    QVERIFY(sample.says(u"Mon 02.03.2026 18:00:00.000 UTC"_s));
+    QCOMPARE(viewSpan(ruler), span);
+
+    QTest::mouseDClick(shownMarkers(ruler).first(), Qt::LeftButton);
+    QCOMPARE(events->currentIndex().row(), 0);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[1].time);
+    QCOMPARE(viewSpan(ruler), 20 * minute);
+    QCOMPARE(viewCentre(ruler), data.events[1].time);
+}
+
+void TestReviewTimeline::eventsAreOpened()
+{
+    const ReviewData data = SampleData::make();
+    const SampleWindow sample(u"UTC"_s);
+    Ruler* ruler = sample.ruler();
+    for (int i = 0; i < 4; ++i)
+        sample.action(u"Zoom in"_s)->trigger();
+
+    QTreeView* events = sample.table(u"Events"_s);
+    const int row = 1'200;
+    events->scrollTo(events->model()->index(row, 0));
+    const QPoint position = events->visualRect(events->model()->index(row, 0)).center();
+    QTest::mouseClick(events->viewport(), Qt::LeftButton, {}, position);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), monday);
+    QTest::mouseDClick(events->viewport(), Qt::LeftButton, {}, position);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[row].time);
+    QVERIFY(std::abs(viewCentre(ruler) - data.events[row].time) < second);
+    // The overview goes along.
+    const double strip = sample.window.findChild<CorvelGui::TimelineScroll*>()->centerPosition();
+    QVERIFY(std::abs(strip - ruler->getCurrentCenterPosition()) < 1e-6);
+}
+
+void TestReviewTimeline::indicatorIsPlaced()
+{
+    const SampleWindow sample(u"UTC"_s, {}, smallReview());
+    QVERIFY(sample.says(u"Mon 02.03.2026 00:00:00.000 UTC"_s));
+    Ruler* ruler = sample.ruler();
+    const auto saysIndicatorTime = [&] {
+        const QDateTime time =
+            QDateTime::fromMSecsSinceEpoch(qint64(ruler->getIndicatorMSecs()), Qt::UTC);
+        return sample.says(time.toString(u"'Mon' dd.MM.yyyy HH:mm:ss.zzz 'UTC'"_s));
+    };
+
+    QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(ruler->width() / 3, 5));
+    QVERIFY(std::abs(qint64(ruler->getIndicatorMSecs()) - monday - 8 * hour) < 10 * minute);
+    QVERIFY(saysIndicatorTime());
+
+    auto* indicator = ruler->findChild<CorvelGui::Indicator*>();
+    const qint64 before = qint64(ruler->getIndicatorMSecs());
+    QTest::mousePress(indicator, Qt::LeftButton);
+    QTest::mouseMove(indicator, QPoint(indicator->width() / 2 + 200, 5));
+    QTRY_VERIFY(qint64(ruler->getIndicatorMSecs()) > before + 3 * hour);
+    QVERIFY(saysIndicatorTime());
+    QTest::mouseRelease(indicator, Qt::LeftButton);
+    QVERIFY(!sample.table(u"Events"_s)->currentIndex().isValid());
+}
+
+void TestReviewTimeline::previewSaysWhatIsKnown()
+{
+    const SampleWindow sample(u"Europe/Brussels"_s, {}, smallReview());
+    Ruler* ruler = sample.ruler();
+    const auto* card = sample.window.findChild<PreviewCard*>();
+    QVERIFY(!card->isVisible());
+
+    const auto preview = [&](qint64 msecs) {
+        Q_EMIT ruler->previewPositionChanged(quint64(msecs), QPoint(600, 5), false);
+        return card->lines();
+    };
+    QCOMPARE(preview(monday + 30 * minute),
+             QStringList({u"Mon 02.03.2026 01:30:00.000 CET"_s, u"<b>Gate</b>: no recording"_s,
+                          u"Fence: recorded"_s}));
+    QCOMPARE(preview(monday + 12 * hour),
+             QStringList({u"Mon 02.03.2026 13:00:00.000 CET"_s, u"<b>Gate</b>: recorded"_s,
+                          u"Fence: not described"_s}));
+    QVERIFY(card->isVisible());
+    preview(0);
+    QVERIFY(!card->isVisible());
+
+    // Above the ruler, and inside the window at its edges.
+    for (const int x : {20, ruler->width() - 20}) {
+        moveMouse(sample, ruler, QPoint(x, 5));
+        QTRY_VERIFY(card->isVisible());
+        QVERIFY(sample.window.rect().contains(card->geometry()));
+        QVERIFY(card->geometry().bottom() < ruler->mapTo(&sample.window, QPoint(0, 0)).y());
+        moveMouse(sample, &sample.window, QPoint(300, 300));
+        QTRY_VERIFY(!card->isVisible());
+    }
+}
+
+void TestReviewTimeline::previewPrefersTheMarker()
+{
+    const ReviewData data = smallReview();
+    const SampleWindow sample(u"UTC"_s, {}, data);
+    Ruler* ruler = sample.ruler();
+    const auto* card = sample.window.findChild<PreviewCard*>();
+
+    QSignalSpy previews(ruler, &Ruler::previewPositionChanged);
+    moveMouse(sample, shownMarkers(ruler).first(), QPoint(3, 3));
+    QTRY_VERIFY(card->isVisible());
+    QCOMPARE(previews.size(), 2);
+    QCOMPARE(card->lines().mid(0, 2),
+             QStringList({u"Mon 02.03.2026 06:00:00.000 UTC"_s, u"Person: <i>thin</i>"_s}));
+    QCoreApplication::processEvents();
+    Q_EMIT ruler->previewPositionChanged(quint64(data.events[0].time), QPoint(600, 5), false);
+    QCOMPARE(card->lines().size(), 3); // no longer on the marker
+}
+
+void TestReviewTimeline::zoneChangesAllTexts()
+{
+    const SampleWindow sample(u"UTC"_s, {}, smallReview());
+    sample.action(u"Ranges"_s)->trigger();
+    const auto texts = [&] {
+        QStringList all;
+        for (const QString& table : {u"Tracks"_s, u"Events"_s}) {
+            const QAbstractItemModel* model = sample.table(table)->model();
+            all.append(model->index(0, table == "Tracks"_L1 ? 1 : 0).data().toString());
+        }
+        for (const InstantEdit* edit : sample.window.findChildren<InstantEdit*>())
+            all.append(edit->text());
+        return all;
+    };
+    const QImage before = sample.ruler()->grab().toImage();
+    QCOMPARE(texts(), QStringList({u"02.03.2026 00:00:00"_s, u"02.03.2026 06:00:00"_s,
+                                   u"02.03.2026 00:00:00"_s, u"03.03.2026 00:00:00"_s}));
+    const QStringList inKathmandu{u"02.03.2026 05:45:00"_s, u"02.03.2026 11:45:00"_s,
+                                  u"02.03.2026 05:45:00"_s, u"03.03.2026 05:45:00"_s};
+    const auto saysKathmandu = [&] {
+        return sample.says(u"02.03.2026 05:45:00 – 03.03.2026 05:45:00 (Asia/Kathmandu)"_s);
+    };
+    enterZone(sample, u"asia/kathmandu"_s);
+    QCOMPARE(texts(), inKathmandu);
+    QVERIFY(saysKathmandu());
+    QVERIFY(sample.ruler()->grab().toImage() != before);
+
+    enterZone(sample, u"Mars/Base"_s);
+    QCOMPARE(texts(), inKathmandu);
+    QCOMPARE(sample.window.findChild<ZoneCombo*>()->currentText(), u"Asia/Kathmandu"_s);
+    QVERIFY(sample.window.statusBar()->currentMessage().contains(u"Mars/Base"_s));
+
+    enterZone(sample, u"UTC"_s);
+    QCOMPARE(sample.ruler()->grab().toImage(), before);
+    QCOMPARE(sample.window.statusBar()->currentMessage(), QString());
+    enterZone(sample, u"This computer"_s);
+    QVERIFY(!saysKathmandu());
+}
+
+void TestReviewTimeline::rangesAreAsked()
+{
+    const ReviewData data = smallReview();
+    const SampleWindow sample(u"UTC"_s, {}, data);
+    Ruler* ruler = sample.ruler();
+    sample.action(u"Ranges"_s)->trigger();
+    const QList<InstantEdit*> edits = sample.window.findChildren<InstantEdit*>();
+    edits[0]->setDateTime(edits[0]->dateTime().addSecs(11 * 3'600));
+    edits[1]->setDateTime(edits[0]->dateTime().addSecs(3 * 3'600));
+
+    press(sample, u"Search range"_s);
+    QCOMPARE(viewSpan(ruler), 3 * hour);
+    QCOMPARE(viewCentre(ruler), monday + 12 * hour + 30 * minute);
+
+    sample.action(u"Whole period"_s)->trigger();
+    buttonOf<QCheckBox>(sample, u"Zoom to it"_s)->setChecked(false);
+    buttonOf<QCheckBox>(sample, u"Only markers inside"_s)->setChecked(true);
+    press(sample, u"Show result"_s);
+    QCOMPARE(viewSpan(ruler), day);
+    QCOMPARE(shownMarkers(ruler).size(), 1);
+    const QImage marked = ruler->grab().toImage();
+    press(sample, u"Clear"_s);
+    QCOMPARE(shownMarkers(ruler).size(), 3);
+    QVERIFY(ruler->grab().toImage() != marked);
+
+    sample.action(u"Zoom in"_s)->trigger();
+    press(sample, u"From view"_s);
+    QCOMPARE(edits[0]->instant(), qint64(ruler->beginTime()));
+    QCOMPARE(edits[1]->instant(), qint64(ruler->endTime()));
+}
+
+void TestReviewTimeline::faultyRangesAreKept()
+{
+    const SampleWindow sample(u"UTC"_s, {}, smallReview());
+    sample.action(u"Ranges"_s)->trigger();
+    sample.action(u"Zoom in"_s)->trigger();
+    const QImage before = sample.ruler()->grab().toImage();
+    const QList<InstantEdit*> edits = sample.window.findChildren<InstantEdit*>();
+    edits[0]->setInstant(monday + 3 * hour);
+    edits[1]->setInstant(monday + 2 * hour);
+    const QString reversed = u"The range must end after it begins."_s;
+    for (const QString& button : {u"Search range"_s, u"Show result"_s}) {
+        press(sample, button);
+        QVERIFY(sample.says(reversed));
+    }
+    QCOMPARE(edits[0]->instant(), monday + 3 * hour);
+    QCOMPARE(edits[1]->instant(), monday + 2 * hour);
+    QCOMPARE(sample.ruler()->grab().toImage(), before);
+
+    edits[1]->setDateTime(edits[1]->dateTime().addDays(40));
+    QVERIFY(!sample.says(reversed));
+    edits[0]->setDateTime(edits[0]->dateTime().addDays(30));
+    press(sample, u"Search range"_s);
+    QVERIFY(sample.says(u"Nothing is known of this range."_s));
+    QCOMPARE(sample.ruler()->grab().toImage(), before);
+}
+
+void TestReviewTimeline::instantsOutlastTheClock()
+{
+    // The second of two times that the clock shows as 02:30, with a fraction that it does not show.
+    const qint64 second0230 =
+        QDateTime::fromString(u"2026-10-25T01:30:00.250Z"_s, Qt::ISODateWithMs).toMSecsSinceEpoch();
+    InstantEdit edit{TimeTexts(u"Europe/Brussels"_s)};
+    edit.setInstant(second0230);
+    QCOMPARE(edit.text(), u"25.10.2026 02:30:00"_s);
+    edit.setTimes(TimeTexts(u"America/New_York"_s));
+    QCOMPARE(edit.text(), u"24.10.2026 21:30:00"_s);
+    QCOMPARE(edit.instant(), second0230);
+    edit.stepUp();
+    QVERIFY(edit.instant() != second0230);
+}
+
+void TestReviewTimeline::manyEventsLoad()
+{
+    ReviewData data = smallReview();
+    data.events.clear();
+    constexpr int count = 100'000;
+    for (int i = 0; i < count; ++i)
+        data.events.append({monday + i * day / count, i % 3 ? u"person"_s : u"alarm"_s,
+                            u"event %1"_s.arg(i), i % 2 ? u"a"_s : u"b"_s});
+
+    QElapsedTimer timer;
+    timer.start();
+    const SampleWindow sample(u"Europe/Brussels"_s, {}, data);
+    sample.window.findChild<Ruler*>()->grab();
+    const qint64 opened = timer.restart();
+    QAbstractItemModel* tracks = sample.table(u"Tracks"_s)->model();
+    tracks->setData(tracks->index(0, 0), Qt::Unchecked, Qt::CheckStateRole);
+    const qint64 unchecked = timer.restart();
+    enterZone(sample, u"Asia/Kathmandu"_s);
+    const qint64 zoneChanged = timer.elapsed();
+    qInfo("100000 events: window %lld ms, track unchecked %lld ms, zone changed %lld ms", opened,
+          unchecked, zoneChanged);
+    QCOMPARE(sample.table(u"Events"_s)->model()->rowCount(), count / 2);
+    QVERIFY(opened + unchecked + zoneChanged < 20'000);
+}
+
+QTEST_MAIN(TestReviewTimeline)
+#include "tst_reviewtimeline.moc"
