@@ -305,7 +305,7 @@ void TestTimelineScroll::settersAreSilentAndRepaintChanges()
         LoggedStrip strip;
         strip.setSearchTimeRange(0.5, 0.6);
         strip.displaySearchTimeRange(true);
-        QVERIFY(QTest::qWaitForWindowExposed(&strip));
+        QVERIFY(QTest::qWaitForWindowActive(&strip));
         QCoreApplication::processEvents();
         strip.repaintRequests = 0;
         setter.set(strip);
