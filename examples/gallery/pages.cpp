@@ -5,6 +5,7 @@
 #include "lookspage.h"
 #include "overviewpage.h"
 #include "rulerpage.h"
+#include "zoomtimelinepage.h"
 
 #include <algorithm>
 
@@ -30,6 +31,7 @@ const std::vector<Page>& pages()
         {u"Icons"_s, create<IconsPage>},
         {u"Ruler"_s, create<RulerPage>},
         {u"Overview"_s, create<OverviewPage>},
+        {u"Zoom timeline"_s, create<ZoomTimelinePage>},
     };
     return all;
 }

@@ -1,5 +1,7 @@
 #include "eventmarkers.h"
 
+#include "eventicons.h"
+
 #include <QDateTime>
 
 using CorvelGui::RulerMarker;
@@ -16,6 +18,7 @@ constexpr QUuid firstEvent(0, 0x5e7e, 0x4a61, 0x9c, 0x2b, 0x63, 0x6f, 0x72, 0x76
 
 RulerMarker EventMarkers::marker(const Event& event, qsizetype index, const QString& trackName)
 {
+    static EventIcons icons;
     QString text = textOf(event);
     if (!trackName.isEmpty())
         text += u" – "_s + trackName;
@@ -24,7 +27,7 @@ RulerMarker EventMarkers::marker(const Event& event, qsizetype index, const QStr
             .kind = RulerMarker::providedIconKind,
             .iconIndex = int(EventKinds::parse(event.kind)),
             .text = text,
-            .iconProvider = &m_icons};
+            .iconProvider = &icons};
 }
 
 QString EventMarkers::textOf(const Event& event)

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "eventicons.h"
 #include "reviewdata.h"
+
+#include <CorvelGui/RulerMarker>
 
 #include <QUuid>
 
@@ -11,17 +12,17 @@ namespace Review {
 class EventMarkers
 {
 public:
+    EventMarkers() = delete;
+
     /// A marker for the event with the number @p index.
-    CorvelGui::RulerMarker marker(const Event& event, qsizetype index, const QString& trackName);
+    static CorvelGui::RulerMarker marker(const Event& event, qsizetype index,
+                                         const QString& trackName);
 
     /// Kind and text of an event; the text is left out where it only repeats the kind.
     static QString textOf(const Event& event);
     static QUuid identifierOf(qsizetype index);
     /// The number of the event; -1 for an identifier that is not of an event.
     static qsizetype indexOf(const QUuid& identifier);
-
-private:
-    EventIcons m_icons;
 };
 
 } // namespace Review

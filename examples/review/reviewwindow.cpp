@@ -1,5 +1,6 @@
 #include "reviewwindow.h"
 
+#include "eventmarkers.h"
 #include "eventmodel.h"
 #include "previewcard.h"
 #include "problemdock.h"
@@ -277,7 +278,8 @@ void ReviewWindow::showCheckedTracks()
     QList<CorvelGui::RulerMarker> markers;
     markers.reserve(qsizetype(m_events->shownEvents().size()));
     for (const qsizetype index : m_events->shownEvents())
-        markers.append(m_markers.marker(m_events->event(index), index, m_events->trackName(index)));
+        markers.append(
+            EventMarkers::marker(m_events->event(index), index, m_events->trackName(index)));
     m_timeline->setMarkers(markers);
 }
 

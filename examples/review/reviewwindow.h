@@ -1,6 +1,5 @@
 #pragma once
 
-#include "eventmarkers.h"
 #include "problemlist.h"
 #include "reviewdata.h"
 #include "timetexts.h"
@@ -55,7 +54,6 @@ private:
 
     const ReviewData m_review;
     TimeTexts m_times;
-    EventMarkers m_markers;
     TrackModel* m_tracks;
     EventModel* m_events;
     QTreeView* m_trackView;

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QTest>
 #include <QTreeView>
 
 #include <algorithm>
@@ -20,6 +21,9 @@ struct SampleWindow
     {
         window.resize(1200, 700);
         window.show();
+        // Offscreen, the mouse enters a window when it appears.
+        if (!QTest::qWaitForWindowExposed(&window))
+            qFatal("The window does not appear");
     }
 
     QAction* action(const QString& text) const

@@ -1,0 +1,159 @@
+#include "zoomtimelinepage.h"
+
+#include <CorvelGui/Ruler>
+#include <CorvelGui/RulerMarker>
+#include <CorvelGui/ZoomTimeline>
+#include <Hueloft/POrvGuiTheme>
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+using CorvelGui::Ruler;
+using CorvelGui::RulerMarker;
+using CorvelGui::TrackDescription;
+using CorvelGui::ZoomTimeline;
+using CorvelGui::ZoomTimelineOperation;
+using Hueloft::POrvGuiTheme;
+using namespace Qt::StringLiterals;
+
+namespace Gallery {
+
+namespace {
+
+constexpr qint64 minute = 60'000;
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+
+constexpr qint64 begin = 1'772'409'600'000; // 2026-03-02T00:00Z
+constexpr qint64 period = 20 * day;
+constexpr qint64 middle = begin + 8 * day + 12 * hour;
+
+constexpr int level12Hours = 3;
+constexpr int iconCount = 3;
+
+TrackDescription track()
+{
+    TrackDescription gate{u"gate"_s, u"Gate"_s, begin + day, begin + 15 * day, {}};
+    for (qint64 time = gate.begin; time < gate.end; time += 47 * minute)
+        gate.recorded.append({time, time + (time / minute % 31) * minute});
+    return gate;
+}
+
+QDateTime at(qint64 msecs)
+{
+    return QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC);
+}
+
+ZoomTimeline* createTimeline(QWidget* parent)
+{
+    auto* timeline = new ZoomTimeline(parent);
+    timeline->setTimeZone(u"UTC"_s);
+    timeline->setOrvaneGuiTheme(true);
+    timeline->setActive(true, false);
+    timeline->ruler()->setTrackDescriptions({track()});
+    timeline->setTimeLimits(quint64(begin), quint64(begin + period));
+    // Paging brings the indicator to the right end of the view; from there on it stays in view.
+    timeline->ruler()->changeLevel(level12Hours, 0.5);
+    timeline->setIndicatorPosition(quint64(middle + 6 * hour));
+    timeline->setIndicatorPosition(quint64(middle));
+    return timeline;
+}
+
+QIcon drawIcon(int iconIndex)
+{
+    QPixmap picture(1000, 1000);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(POrvGuiTheme::colorPanther, 90));
+    switch (iconIndex) {
+    case 0:
+        painter.setBrush(POrvGuiTheme::colorYellow);
+        painter.drawPolygon(QPolygonF{{500, 90}, {920, 880}, {80, 880}});
+        break;
+    case 1:
+        painter.setBrush(POrvGuiTheme::colorKoala);
+        painter.drawRect(130, 130, 740, 740);
+        break;
+    default:
+        painter.setBrush(POrvGuiTheme::colorPurple);
+        painter.drawEllipse(90, 90, 820, 820);
+    }
+    return picture;
+}
+
+class MarkerIcons : public CorvelGui::IRulerMarkerIconProvider
+{
+public:
+    int iconKey(int iconIndex) override { return iconIndex; }
+    QIcon icon(int iconIndex) override { return drawIcon(iconIndex); }
+};
+
+QList<RulerMarker> markers(qint64 distance)
+{
+    static MarkerIcons icons;
+    QList<RulerMarker> all;
+    for (qint64 time = begin; time < begin + period; time += distance) {
+        const int index = int(all.size());
+        all.append({.identifier = QUuid::createUuid(),
+                    .time = at(time),
+                    .kind = index % 4 ? RulerMarker::providedIconKind : 0,
+                    .iconIndex = index % iconCount,
+                    .text = u"Marker %1"_s.arg(index),
+                    .iconProvider = &icons});
+    }
+    return all;
+}
+
+} // namespace
+
+ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    const auto add = [&](const QString& caption) {
+        layout->addWidget(new QLabel(caption, this));
+        ZoomTimeline* timeline = createTimeline(this);
+        layout->addWidget(timeline);
+        return timeline;
+    };
+
+    add(tr("Sparse markers"))->ruler()->onAddMarkers(markers(50 * minute));
+    add(tr("Crowded markers"))->ruler()->onAddMarkers(markers(7 * minute));
+
+    ZoomTimeline* search = add(tr("Search range"));
+    search->setSearchTimeRange(at(middle - 2 * hour), at(middle + 3 * hour), false);
+
+    ZoomTimeline* result = add(tr("Result range with marks, and only the markers inside"));
+    result->ruler()->onAddMarkers(markers(25 * minute));
+    result->onZoomTimeLineOperation({.code = ZoomTimelineOperation::setMarkedResultRange,
+                                     .from = at(middle - 2 * hour),
+                                     .to = at(middle + 3 * hour),
+                                     .flagA = true,
+                                     .flagB = true});
+
+    ZoomTimeline* preview = add(tr("Preview line, not playing"));
+    preview->setPlayMode(false);
+    preview->ruler()->setPreviewEnabled(true);
+    preview->onChangedPreviewIndicatorTime(quint64(middle - 3 * hour));
+    preview->ruler()->onPreviewVisible(true, false);
+
+    add(tr("Blocked"))->setActive(true, true);
+    add(tr("Inactive"))->setActive(false, false);
+
+    ZoomTimeline::setZoomerEnabled(false);
+    add(tr("Without a zoomer"));
+    ZoomTimeline::setZoomerEnabled(true);
+
+    ZoomTimeline* large = add(tr("Larger text"));
+    large->setFontSize(12);
+    large->ruler()->onAddMarkers(markers(50 * minute));
+
+    layout->addWidget(new QLabel(tr("Without a period"), this));
+    auto* empty = new ZoomTimeline(this);
+    empty->setOrvaneGuiTheme(true);
+    layout->addWidget(empty);
+    layout->addStretch();
+}
+
+} // namespace Gallery
