@@ -1,16 +1,12 @@
 #include "ruler_p.h"
 
 #include <Corvel/TimeZoneHelper>
-#include <Hueloft/POrvGuiTheme>
 
 #include <QLocale>
-#include <QPainter>
 
-#include <cmath>
 #include <utility>
 
 using Corvel::TimeZoneHelper;
-using Hueloft::POrvGuiTheme;
 using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
@@ -20,29 +16,12 @@ namespace {
 constexpr int initialHeight = 60;
 constexpr int minimumRulerWidth = 800;
 constexpr int mouseInterval = 100; // milliseconds
-constexpr qint64 msecsPerDay = 86'400'000;
-constexpr double halfMargin = TimeScale::margin() / 2;
 
 std::optional<TimeSpan> span(const QDateTime& from, const QDateTime& to)
 {
     if (!from.isValid() || !to.isValid() || !(from < to))
         return {};
     return TimeSpan{from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch()};
-}
-
-QColor indicatorColor(bool theme, bool playMode)
-{
-    if (!playMode)
-        return POrvGuiTheme::colorGreen;
-    return theme ? POrvGuiTheme::colorYellow : POrvGuiTheme::colorBlue;
-}
-
-/// Markers stand below the first two rows of text and above the coloured foot of the tracks.
-QRect markerArea(const QRect& rect, int headerHeight, bool hasTracks)
-{
-    const int halfHeader = headerHeight / 2;
-    return rect.adjusted(0, headerHeight + (hasTracks ? 2 * halfHeader : halfHeader), 0,
-                         -halfHeader);
 }
 
 } // namespace
@@ -194,7 +173,7 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
         return true;
     }
 
-    setIndicatorTime(d->scale.inZone(qint64(msecs)));
+    setIndicatorTime(d->scale.inZone(TimeScale::instant(msecs)));
     if (d->scale.pageTo(d->indicatorTime)) {
         updateTrackSegments();
         whileAlive(
@@ -217,7 +196,7 @@ double Ruler::getIndicatorPosition() const
 
 bool Ruler::setPreviewIndicatorPosition(quint64 msecs)
 {
-    d->previewTime = msecs == 0 ? QDateTime() : d->scale.inZone(qint64(msecs));
+    d->previewTime = msecs == 0 ? QDateTime() : d->scale.inZone(TimeScale::instant(msecs));
     if (d->active)
         update();
     if (d->previewTime.isValid())
@@ -324,47 +303,14 @@ void Ruler::onHideMarkers()
 {
     if (!d->markers->setShown(false))
         return;
-    updateChildren(true);
     updateSize();
+    updateChildren(true);
 }
 
 void Ruler::setIconSize(const QSize& size)
 {
     d->markers->setIconSize(size);
     updateChildren(true);
-}
-
-void Ruler::setOrvaneGuiTheme(bool on)
-{
-    d->theme = on;
-    d->indicator->setLook(indicatorColor(on, d->playMode), d->fontSize);
-    // Without the theme the colours stay as they are: there is no way back to those from before it.
-    if (on)
-        d->painter.colors = RulerColors::ofTheme();
-    createGradients();
-    d->markers->setOrvaneGuiTheme(on);
-    updateChildren(false);
-}
-
-void Ruler::setFontSize(unsigned int points)
-{
-    d->fontSize = points;
-    setOrvaneGuiTheme(d->theme);
-}
-
-void Ruler::setDateFormat(const QString& format)
-{
-    d->dateFormat = format;
-}
-
-void Ruler::setHeaderColor(const QColor& color)
-{
-    d->painter.colors.header = color;
-}
-
-void Ruler::setBodyColor(const QColor& color)
-{
-    d->painter.colors.body = color;
 }
 
 void Ruler::setResultMode(bool on)
@@ -395,16 +341,6 @@ void Ruler::setActive(bool active, bool blocked)
             if (usable && d->inPreviewArea && d->previewEnabled)
                 startMouseTimer(mapFromGlobal(QCursor::pos()));
         });
-}
-
-void Ruler::updateSize()
-{
-    d->headerHeight = d->indicator->labelHeight();
-    const int rulerHeight = 4 * d->headerHeight;
-    setMinimumHeight(rulerHeight);
-    setMaximumHeight(rulerHeight);
-    d->indicator->resize(d->indicator->width(), rulerHeight);
-    createGradients();
 }
 
 void Ruler::blockSignalTimeLineViewChanged(bool block)
@@ -455,67 +391,10 @@ void Ruler::onTimeLineViewSettingsNeeded()
     QTimer::singleShot(0, this, [this] { changedTimeLineView(false); });
 }
 
-void Ruler::paintEvent(QPaintEvent*)
-{
-    if (d->headerHeight != d->indicator->labelHeight())
-        updateSize();
-
-    QPainter painter(this);
-    QFont font = painter.font();
-    font.setPointSize(int(d->fontSize));
-    painter.setFont(font);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-
-    const auto msecs = [](const QDateTime& time) -> std::optional<qint64> {
-        return time.isValid() ? std::optional(time.toMSecsSinceEpoch()) : std::nullopt;
-    };
-    RulerScene scene{.scale = d->scale,
-                     .segments = d->segments,
-                     .rect = rect(),
-                     .headerHeight = d->headerHeight,
-                     .dateFormat = d->dateFormat};
-    if (d->searchDisplayed)
-        scene.searchRange = d->searchRange;
-    if (d->previewVisible)
-        scene.previewTime = msecs(d->previewTime);
-    if (d->resultRange && d->resultBeginMarked)
-        scene.resultMarks.push_back(d->resultRange->begin);
-    if (d->resultRange && d->resultEndMarked)
-        scene.resultMarks.push_back(d->resultRange->end);
-    scene.focused = hasFocus();
-    d->painter.paint(painter, scene);
-}
-
-void Ruler::resizeEvent(QResizeEvent*)
-{
-    d->scale.setWidth(width());
-    d->arrows->layOut(d->headerHeight / 4);
-    createGradients();
-    updateTrackSegments();
-    updateChildren(true);
-}
-
-void Ruler::createGradients()
-{
-    d->painter.createGradients(rect(), d->headerHeight);
-}
-
 void Ruler::updateTrackSegments()
 {
     d->segments.update(d->scale);
     update();
-}
-
-void Ruler::updateChildren(bool merge)
-{
-    if (!d->active)
-        return;
-    updateIndicator();
-    const QRect area = markerArea(rect(), d->headerHeight, d->segments.hasTracks());
-    const QList<QDateTime> firstSeen = d->markers->update(d->scale, area, merge);
-    update();
-    if (!firstSeen.isEmpty())
-        Q_EMIT newVisibleRulerMarkers(firstSeen);
 }
 
 void Ruler::setUpAccessibility()
@@ -552,27 +431,6 @@ void Ruler::setIndicatorTime(const QDateTime& time)
 {
     d->indicatorTime = time;
     d->accessible->reportValueChange();
-}
-
-void Ruler::updateIndicator()
-{
-    const double x = std::trunc(d->scale.xAt(qint64(getIndicatorMSecs())));
-    const bool inView = x >= halfMargin && x <= width() - halfMargin;
-    if (inView && d->scale.hasView() && d->indicatorTime.isValid() && !d->resultMode) {
-        showIndicatorTime(getIndicatorMSecs());
-        d->indicator->moveHotSpotTo(int(x));
-        d->indicator->show();
-    } else {
-        d->indicator->hide();
-    }
-}
-
-void Ruler::showIndicatorTime(quint64 msecs)
-{
-    // Where the view shows more than a day, a time alone says little.
-    const bool needsDate = qint64(d->scale.millisecondsPerLevel()) > msecsPerDay;
-    const QString format = needsDate ? d->dateFormat + u" hh:mm:ss"_s : u"hh:mm:ss"_s;
-    d->indicator->setText(d->scale.inZone(qint64(msecs)).toString(format));
 }
 
 void Ruler::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)

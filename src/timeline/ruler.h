@@ -114,7 +114,7 @@ public:
     /// True puts the theme's colours in. False leaves the colours as they are, and changes the
     /// indicator's only.
     void setOrvaneGuiTheme(bool on);
-    /// Point size of all text on the ruler.
+    /// Point size of all text on the ruler, from 1 to 200.
     void setFontSize(unsigned int points);
     /// Format of date labels, as QDateTime::toString() takes it. Shows with the next repaint.
     void setDateFormat(const QString& format);
@@ -197,6 +197,7 @@ protected:
 
 private:
     void createGradients();
+    void layOutChildren();
     void updateTrackSegments();
     void setUpAccessibility();
     void setIndicatorTime(const QDateTime& time);

@@ -4,11 +4,9 @@
 
 #include <Hueloft/PIconHelperBase>
 
-#include <QAbstractButton>
 #include <QEvent>
 #include <QIcon>
 #include <QPainter>
-#include <QPointer>
 
 using Hueloft::PIconHelperBase;
 using namespace Qt::StringLiterals;
@@ -64,8 +62,10 @@ RulerArrows::RulerArrows(QWidget* ruler, std::function<bool(int)> canStep)
 
 void RulerArrows::setEnabled(bool enabled)
 {
-    m_left->setEnabled(enabled);
-    m_right->setEnabled(enabled);
+    for (QAbstractButton* button : {m_left.data(), m_right.data()}) {
+        if (button)
+            button->setEnabled(enabled);
+    }
     if (!enabled)
         m_timer.stop();
 }
@@ -73,8 +73,10 @@ void RulerArrows::setEnabled(bool enabled)
 void RulerArrows::layOut(int top)
 {
     const QSize size(int(halfMargin), m_ruler->height() - 2 * top);
-    m_left->setGeometry(QRect(QPoint(0, top), size));
-    m_right->setGeometry(QRect(QPoint(int(m_ruler->width() - halfMargin), top), size));
+    if (m_left)
+        m_left->setGeometry(QRect(QPoint(0, top), size));
+    if (m_right)
+        m_right->setGeometry(QRect(QPoint(int(m_ruler->width() - halfMargin), top), size));
 }
 
 bool RulerArrows::eventFilter(QObject* watched, QEvent* event)

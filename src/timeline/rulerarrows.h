@@ -1,12 +1,11 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
-
-class QAbstractButton;
-class QWidget;
 
 namespace CorvelGui {
 
@@ -39,8 +38,8 @@ private:
 
     QWidget* const m_ruler;
     const std::function<bool(int)> m_canStep;
-    QAbstractButton* const m_left;
-    QAbstractButton* const m_right;
+    const QPointer<QAbstractButton> m_left;
+    const QPointer<QAbstractButton> m_right;
     QTimer m_timer;
     int m_direction = 0;
 };

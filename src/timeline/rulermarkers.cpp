@@ -63,7 +63,7 @@ bool RulerMarkers::setShown(bool shown)
     if (m_shown == shown)
         return false;
     m_shown = shown;
-    m_changed = true;
+    releaseButtons();
     return true;
 }
 
@@ -304,6 +304,11 @@ void RulerMarkers::showSymbols(std::vector<Symbol> symbols)
         symbol.button->moveTo(symbol.x, m_view.area);
         symbol.button->show();
     }
+    hideReleased();
+}
+
+void RulerMarkers::hideReleased()
+{
     for (const QPointer<RulerMarkerButton>& button : m_idleButtons) {
         if (button)
             button->hide();

@@ -48,6 +48,8 @@ public:
     /// the times of markers that are in view for the first time.
     QList<QDateTime> update(const TimeScale& scale, const QRect& area, bool regroup);
 
+    /// Hides the buttons that markers no longer have, until update() gives them to others.
+    void hideReleased();
     /// The mouse is at @p position of the ruler, on none of the buttons: a marker that merging
     /// hides there gets the spare button.
     void hoverAt(QPoint position);

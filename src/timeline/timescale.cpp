@@ -41,14 +41,19 @@ const std::array<ZoomLevel, TimeScale::levelCount>& TimeScale::zoomLevels()
     return levels;
 }
 
+qint64 TimeScale::instant(quint64 msecs)
+{
+    return qint64(std::min(msecs, latestInstant));
+}
+
 void TimeScale::setTimeLimits(quint64 beginMs, quint64 endMs)
 {
-    const quint64 begin = std::min(beginMs, latestInstant);
-    const quint64 end = std::min(endMs, latestInstant);
-    m_totalDuration = end > begin ? end - begin : 0;
+    const qint64 begin = instant(beginMs);
+    const qint64 end = instant(endMs);
+    m_totalDuration = end > begin ? quint64(end - begin) : 0;
     m_wholeRangeInterval = getTotalDurationIntervals();
-    m_begin = Instant(inZone(qint64(begin)));
-    m_end = Instant(inZone(qint64(end)));
+    m_begin = Instant(inZone(begin));
+    m_end = Instant(inZone(end));
 
     if (m_totalDuration == 0 || m_wholeRangeInterval == 0) {
         m_level = 1;

@@ -38,6 +38,10 @@ public:
 
     static const std::array<ZoomLevel, levelCount>& zoomLevels();
 
+    /// A time of the public interface as a signed number; one beyond the year 275760 counts as that
+    /// year's end.
+    static qint64 instant(quint64 msecs);
+
     // The period
     /// An empty period (and one that ends before it begins) leaves a scale of one hour without a
     /// view.

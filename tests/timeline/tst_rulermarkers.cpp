@@ -400,6 +400,11 @@ void TestRulerMarkers::inactiveRulerWaits()
     m_ruler->setActive(true, false);
     QCOMPARE(m_ruler->takeLog(), QStringList{u"new 02 00:17"_s});
     QCOMPARE(symbols(*m_ruler), u"300"_s);
+
+    // What is gone is not shown any longer all the same.
+    m_ruler->setActive(false, false);
+    m_ruler->onHideMarkers();
+    QCOMPARE(symbols(*m_ruler), QString());
 }
 
 void TestRulerMarkers::manyMarkersNeedFewButtons()
@@ -423,6 +428,8 @@ void TestRulerMarkers::clearingInsideSignals_data()
     QTest::newRow("markers") << Act([](Ruler& ruler) { ruler.onClearMarkers(); });
     QTest::newRow("buttons") << Act(
         [](Ruler& ruler) { qDeleteAll(ruler.findChildren<RulerMarkerButton*>()); });
+    QTest::newRow("all buttons") << Act(
+        [](Ruler& ruler) { qDeleteAll(ruler.findChildren<QAbstractButton*>()); });
     QTest::newRow("ruler") << Act([](Ruler& ruler) { delete &ruler; });
 }
 
@@ -450,6 +457,7 @@ void TestRulerMarkers::clearingInsideSignals()
         if (!ruler)
             continue;
         // What is left still works.
+        ruler->setActive(true, false);
         ruler->changeLevel(2, 0.5);
         ruler->onAddMarkers(markersAtPixels({700}));
         QVERIFY(!visibleButtons(*ruler).isEmpty());

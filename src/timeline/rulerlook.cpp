@@ -1,0 +1,169 @@
+// How the ruler looks: colours, sizes, painting, and where its children stand.
+
+#include "ruler_p.h"
+
+#include <Hueloft/POrvGuiTheme>
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+using Hueloft::POrvGuiTheme;
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr qint64 msecsPerDay = 86'400'000;
+constexpr double halfMargin = TimeScale::margin() / 2;
+
+QColor indicatorColor(bool theme, bool playMode)
+{
+    if (!playMode)
+        return POrvGuiTheme::colorGreen;
+    return theme ? POrvGuiTheme::colorYellow : POrvGuiTheme::colorBlue;
+}
+
+/// Markers stand below the first two rows of text and above the coloured foot of the tracks.
+QRect markerArea(const QRect& rect, int headerHeight, bool hasTracks)
+{
+    const int halfHeader = headerHeight / 2;
+    return rect.adjusted(0, headerHeight + (hasTracks ? 2 * halfHeader : halfHeader), 0,
+                         -halfHeader);
+}
+
+} // namespace
+
+void Ruler::setOrvaneGuiTheme(bool on)
+{
+    d->theme = on;
+    d->indicator->setLook(indicatorColor(on, d->playMode), d->fontSize);
+    // Without the theme the colours stay as they are: there is no way back to those from before it.
+    if (on)
+        d->painter.colors = RulerColors::ofTheme();
+    createGradients();
+    d->markers->setOrvaneGuiTheme(on);
+    updateChildren(false);
+}
+
+void Ruler::setFontSize(unsigned int points)
+{
+    constexpr unsigned int largest = 200;
+    d->fontSize = std::clamp(points, 1U, largest);
+    setOrvaneGuiTheme(d->theme);
+}
+
+void Ruler::setDateFormat(const QString& format)
+{
+    d->dateFormat = format;
+}
+
+void Ruler::setHeaderColor(const QColor& color)
+{
+    d->painter.colors.header = color;
+}
+
+void Ruler::setBodyColor(const QColor& color)
+{
+    d->painter.colors.body = color;
+}
+
+void Ruler::updateSize()
+{
+    d->headerHeight = d->indicator->labelHeight();
+    const int rulerHeight = 4 * d->headerHeight;
+    setMinimumHeight(rulerHeight);
+    setMaximumHeight(rulerHeight);
+    createGradients();
+    layOutChildren();
+}
+
+void Ruler::paintEvent(QPaintEvent*)
+{
+    if (d->headerHeight != d->indicator->labelHeight())
+        updateSize();
+
+    QPainter painter(this);
+    QFont font = painter.font();
+    font.setPointSize(int(d->fontSize));
+    painter.setFont(font);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+
+    const auto msecs = [](const QDateTime& time) -> std::optional<qint64> {
+        return time.isValid() ? std::optional(time.toMSecsSinceEpoch()) : std::nullopt;
+    };
+    RulerScene scene{.scale = d->scale,
+                     .segments = d->segments,
+                     .rect = rect(),
+                     .headerHeight = d->headerHeight,
+                     .dateFormat = d->dateFormat};
+    if (d->searchDisplayed)
+        scene.searchRange = d->searchRange;
+    if (d->previewVisible)
+        scene.previewTime = msecs(d->previewTime);
+    if (d->resultRange && d->resultBeginMarked)
+        scene.resultMarks.push_back(d->resultRange->begin);
+    if (d->resultRange && d->resultEndMarked)
+        scene.resultMarks.push_back(d->resultRange->end);
+    scene.focused = hasFocus();
+    d->painter.paint(painter, scene);
+}
+
+void Ruler::resizeEvent(QResizeEvent*)
+{
+    d->scale.setWidth(width());
+    createGradients();
+    layOutChildren();
+    updateTrackSegments();
+    updateChildren(true);
+}
+
+void Ruler::layOutChildren()
+{
+    d->arrows->layOut(d->headerHeight / 4);
+    d->indicator->resize(d->indicator->width(), 4 * d->headerHeight);
+}
+
+void Ruler::createGradients()
+{
+    d->painter.createGradients(rect(), d->headerHeight);
+}
+
+void Ruler::updateChildren(bool merge)
+{
+    if (!d->active) {
+        d->markers->hideReleased();
+        return;
+    }
+    updateIndicator();
+    const QRect area = markerArea(rect(), d->headerHeight, d->segments.hasTracks());
+    const QList<QDateTime> firstSeen = d->markers->update(d->scale, area, merge);
+    update();
+    if (!firstSeen.isEmpty())
+        Q_EMIT newVisibleRulerMarkers(firstSeen);
+}
+
+void Ruler::updateIndicator()
+{
+    const double x = std::trunc(d->scale.xAt(qint64(getIndicatorMSecs())));
+    const bool inView = x >= halfMargin && x <= width() - halfMargin;
+    if (inView && d->scale.hasView() && d->indicatorTime.isValid() && !d->resultMode) {
+        showIndicatorTime(getIndicatorMSecs());
+        d->indicator->moveHotSpotTo(int(x));
+        d->indicator->show();
+    } else {
+        d->indicator->hide();
+    }
+}
+
+void Ruler::showIndicatorTime(quint64 msecs)
+{
+    // Where the view shows more than a day, a time alone says little.
+    const bool needsDate = qint64(d->scale.millisecondsPerLevel()) > msecsPerDay;
+    const QString format = needsDate ? d->dateFormat + u" hh:mm:ss"_s : u"hh:mm:ss"_s;
+    d->indicator->setText(d->scale.inZone(TimeScale::instant(msecs)).toString(format));
+}
+
+} // namespace CorvelGui
