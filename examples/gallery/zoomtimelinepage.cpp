@@ -53,7 +53,7 @@ ZoomTimeline* createTimeline(QWidget* parent)
     timeline->setActive(true, false);
     timeline->ruler()->setTrackDescriptions({track()});
     timeline->setTimeLimits(quint64(begin), quint64(begin + period));
-    // Paging brings the indicator to the right end of the view; from there on it stays in view.
+    // The view pages after the indicator; half a view ahead puts the middle into its middle.
     timeline->ruler()->changeLevel(level12Hours, 0.5);
     timeline->setIndicatorPosition(quint64(middle + 6 * hour));
     timeline->setIndicatorPosition(quint64(middle));

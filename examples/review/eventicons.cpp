@@ -123,8 +123,10 @@ public:
     {
         const qreal side = std::min(rect.width(), rect.height());
         const KindLook& look = lookOf(m_kind);
-        const bool onDark =
-            m_onTimeline || Hueloft::POrvGuiTheme::bPantherTheme || mode == QIcon::Selected;
+        const bool onDark = m_onTimeline || Hueloft::POrvGuiTheme::bPantherTheme;
+        const QColor color = mode == QIcon::Selected && !m_onTimeline
+                                 ? QColor(Qt::white)
+                                 : (onDark ? look.onDark : look.onLight);
 
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
@@ -135,7 +137,7 @@ public:
             painter->strokePath(look.outline(),
                                 QPen(rim, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         }
-        painter->fillPath(look.outline(), onDark ? look.onDark : look.onLight);
+        painter->fillPath(look.outline(), color);
         painter->restore();
     }
 

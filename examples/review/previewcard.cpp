@@ -117,7 +117,9 @@ int PreviewCard::heightOf(const Line& line) const
 int PreviewCard::widthOf(const Line& line) const
 {
     const QFontMetrics metrics(fontOf(line));
-    int width = std::min(metrics.horizontalAdvance(line.text), widestText);
+    // A text elides in its own rounded width.
+    constexpr int rounding = 2;
+    int width = std::min(metrics.horizontalAdvance(line.text) + rounding, widestText);
     if (line.sign != Line::Sign::None)
         width += signWidth;
     if (!line.remark.isEmpty())

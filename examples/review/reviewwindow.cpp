@@ -48,6 +48,8 @@ QTreeView* createTable(QAbstractItemModel* model, QWidget* parent)
     view->setItemDelegate(new RoomyDelegate(view));
     view->header()->setStretchLastSection(false);
     view->header()->setSectionsMovable(false);
+    // In a narrow table the stretched column stays readable, and the table scrolls.
+    view->header()->setMinimumSectionSize(110);
     view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     return view;
 }
