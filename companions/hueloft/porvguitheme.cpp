@@ -17,7 +17,7 @@ constinit QColor POrvGuiTheme::colorOrange(222, 120, 20);
 constinit QColor POrvGuiTheme::colorYellow(255, 205, 60);
 constinit QColor POrvGuiTheme::colorGreen(12, 160, 130);
 constinit QColor POrvGuiTheme::colorBlue(60, 144, 224);
-constinit QColor POrvGuiTheme::colorDarkBlue(24, 78, 132);
+constinit QColor POrvGuiTheme::colorDarkBlue(30, 112, 192);
 constinit QColor POrvGuiTheme::colorPurple(196, 120, 220);
 
 constinit bool POrvGuiTheme::bPantherTheme = false;

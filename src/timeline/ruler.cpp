@@ -37,11 +37,13 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     d->dateFormat = u"dd.MM.yy"_s;
     d->headerHeight = initialHeight / 4;
     d->scale.setWidth(width());
-    d->markers = new RulerMarkers(this);
     d->indicator = new Indicator(this);
     d->indicator->installEventFilter(this);
     d->indicator->hide();
     d->arrows = new RulerArrows(this, [this](int direction) { return canMoveViewPort(direction); });
+    // Above the indicator, so that a double click on a marker does not end on an indicator that
+    // followed the first.
+    d->markers = new RulerMarkers(this, d->arrows->lowestButton());
     connect(d->arrows, &RulerArrows::step, this, &Ruler::moveViewPort);
     connect(d->arrows, &RulerArrows::released, this, [this] { changedTimeLineView(false); });
     d->mouseTimer.setParent(this);

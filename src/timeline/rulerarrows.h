@@ -22,6 +22,7 @@ public:
     void setEnabled(bool enabled);
     /// Ends the repetition of a held button.
     void stop() { m_timer.stop(); }
+    QWidget* lowestButton() const { return m_left; }
     /// Puts the buttons to the ends of the ruler, below @p top.
     void layOut(int top);
 

@@ -236,7 +236,8 @@ bool Ruler::checkRulerMarkerEvent(RulerMarkerButton* button, QEvent* event)
         d->markers->setHovered(button, true);
         if (!d->mouseTimer.isActive())
             startMouseTimer(position);
-        break;
+        // Passed on to the ruler, a move would count as one outside the preview area.
+        return event->type() == QEvent::MouseMove && !static_cast<QMouseEvent*>(event)->buttons();
     }
     case QEvent::Leave:
         d->markers->setHovered(button, false);

@@ -20,7 +20,9 @@ constexpr int halfMargin = int(TimeScale::margin() / 2);
 
 } // namespace
 
-RulerMarkers::RulerMarkers(QWidget* ruler) : QObject(ruler), m_ruler(ruler) {}
+RulerMarkers::RulerMarkers(QWidget* ruler, QWidget* ceiling)
+    : QObject(ruler), m_ruler(ruler), m_ceiling(ceiling)
+{}
 
 void RulerMarkers::add(const QList<RulerMarker>& markers)
 {
@@ -296,6 +298,8 @@ void RulerMarkers::showSymbols(std::vector<Symbol> symbols)
         if (!symbol.button) {
             symbol.button = takeButton();
             setMarker(symbol.button, symbol.marker);
+            if (m_ceiling)
+                symbol.button->stackUnder(m_ceiling);
         }
         symbol.button->setMerge(symbol.first == symbol.last
                                     ? RulerMarkerButton::Merge::Alone

@@ -31,8 +31,9 @@ class RulerMarkers : public QObject
     Q_OBJECT
 
 public:
-    /// Buttons become children of @p ruler and have @p ruler as their event filter.
-    explicit RulerMarkers(QWidget* ruler);
+    /// Buttons become children of @p ruler, below its child @p ceiling, and have @p ruler as their
+    /// event filter.
+    RulerMarkers(QWidget* ruler, QWidget* ceiling);
 
     void add(const QList<RulerMarker>& markers);
     void remove(const QList<RulerMarker>& markers);
@@ -106,6 +107,7 @@ private:
     QString mergedToolTip(const RulerMarkerButton* button) const;
 
     QWidget* const m_ruler;
+    const QPointer<QWidget> m_ceiling;
     MarkerStore m_store;
     // Made with the first marker, because drawing them takes a while.
     std::map<int, RulerIconSet> m_iconSets;

@@ -93,10 +93,11 @@ bool TimeScale::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to
         return level.millisecondsPerLevel >= range;
     });
     m_level = int(row - levels.begin());
-    m_viewStart =
-        Instant(row == levels.end()
-                    ? from
-                    : from.addMSecs((qint64(range) - qint64(row->millisecondsPerLevel)) / 2));
+    qint64 start = from.toMSecsSinceEpoch();
+    if (row != levels.end())
+        start += (qint64(range) - qint64(row->millisecondsPerLevel)) / 2;
+    // In the zone of the ruler, whatever the zone of the range.
+    m_viewStart = Instant(inZone(start));
     // No limit at the end: a range close to it may leave the view running past it.
     if (m_viewStart.msecs < m_begin.msecs)
         m_viewStart = m_begin;

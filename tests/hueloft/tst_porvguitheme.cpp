@@ -70,7 +70,6 @@ void TestPOrvGuiTheme::textOnTimelineIsReadable_data()
     QTest::newRow("scale on body") << scaleText << POrvGuiTheme::colorShark;
     QTest::newRow("scale on shade") << scaleText << POrvGuiTheme::colorBlack;
     QTest::newRow("scale on track") << scaleText << POrvGuiTheme::colorTuna;
-    QTest::newRow("scale on search range") << scaleText << POrvGuiTheme::colorDarkBlue;
     QTest::newRow("playing") << QColor(Qt::black) << POrvGuiTheme::colorYellow;
     QTest::newRow("paused") << QColor(Qt::black) << POrvGuiTheme::colorGreen;
     QTest::newRow("playing, plain") << QColor(Qt::black) << POrvGuiTheme::colorBlue;

@@ -1,12 +1,18 @@
 #include "testsupport.h"
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 void WarningFreeTest::init()
 {
+    // A real mouse cursor must not rest on a window that a test opens.
+    if (qGuiApp)
+        QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
     // The offscreen platform says of itself what it cannot do.
     QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
 }

@@ -74,6 +74,17 @@ void UserHand::click()
     release();
 }
 
+void UserHand::doubleClick()
+{
+    if (m_real) {
+        xdo({u"click"_s, u"--repeat"_s, u"2"_s, u"--delay"_s, u"50"_s, u"1"_s});
+        return;
+    }
+    click();
+    send(QEvent::MouseButtonDblClick);
+    release();
+}
+
 void UserHand::turnWheel(int notches)
 {
     for (int i = 0; i < qAbs(notches); ++i) {

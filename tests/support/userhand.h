@@ -20,6 +20,7 @@ public:
     void press();
     void release();
     void click();
+    void doubleClick();
     /// Turns the wheel by notches; positive ones away from the user.
     void turnWheel(int notches);
     /// Presses a key by its name in Qt, such as "Right" or "PgDown".

@@ -334,7 +334,8 @@ void TestRulerMarkers::markerPreview()
     m_ruler->onPreviewVisible(true, false);
     auto* button = visibleButtons(*m_ruler).front();
     m_ruler->takeLog();
-    send(button, QEvent::Enter, QPoint(10, 8));
+    send(button, QEvent::Enter, QPoint(8, 8));
+    send(button, QEvent::MouseMove, QPoint(10, 8));
     QTRY_COMPARE(m_ruler->log.size(), 2);
     QCOMPARE(m_ruler->log,
              (QStringList{u"preview 1044 at 299 marker"_s, u"preview 1051 at 302"_s}));

@@ -122,6 +122,14 @@ void TestTimelineJourney::journey()
     QTRY_COMPARE(jumped.count(), 1);
     QCOMPARE(jumped.front().front().toDateTime(), timeAt(15 * hour));
 
+    // Double-click it, while the client lets the indicator follow the first click.
+    QSignalSpy jumpedOnTrack(ruler, &Ruler::jumpToTrackTime);
+    connect(ruler, &Ruler::jumpToTime, &timeline, [&timeline](const QDateTime& time) {
+        timeline.setIndicatorPosition(quint64(time.toMSecsSinceEpoch()));
+    });
+    hand.doubleClick();
+    QTRY_COMPARE(jumpedOnTrack.count(), 1);
+
     // Page the strip.
     TimelineScroll* strip = timeline.timelineScroll();
     hand.moveTo(strip, QPoint(strip->width() - 20, strip->height() / 2));

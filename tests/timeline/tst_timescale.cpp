@@ -401,6 +401,9 @@ void TestTimeScale::storedTimesKeepTheirZone()
     QCOMPARE(scale.getTickerString(0), u"00:00"_s);
     scale.centerOn(0.5);
     QCOMPARE(scale.getTickerString(-qint64(scale.viewStartMs() - monday)), u"05:45"_s);
+    // So is one that shows a range, whatever the zone of the range.
+    QVERIFY(scale.setLevelFromTimeRange(at(monday), at(monday + hour)));
+    QCOMPARE(scale.getTickerString(0), u"05:45"_s);
 }
 
 QTEST_GUILESS_MAIN(TestTimeScale)
