@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 void WarningFreeTest::init()
 {
     // A real mouse cursor must not rest on a window that a test opens.
-    if (qGuiApp)
-        QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        QCursor::setPos(screen->geometry().bottomRight());
     // The offscreen platform says of itself what it cannot do.
     QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
 }
