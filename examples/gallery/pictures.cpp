@@ -67,7 +67,8 @@ bool writePictures(GalleryWindow& window, const QList<int>& pageIndexes, const Q
             settle();
             const QString path = QDir(folder).filePath(
                 u"%1-%2-%3x.png"_s
-                    .arg(pages()[size_t(index)].title.toLower(), dark ? u"dark"_s : u"light"_s)
+                    .arg(pages()[size_t(index)].title.toLower().replace(u' ', u'-'),
+                         dark ? u"dark"_s : u"light"_s)
                     .arg(scale));
             if (!window.grab().save(path, "PNG")) {
                 complain(u"cannot write %1"_s.arg(path));

@@ -147,7 +147,8 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
 
     ZoomTimeline* large = add(tr("Larger text"));
     large->setFontSize(12);
-    large->ruler()->onAddMarkers(markers(50 * minute));
+    large->ruler()->changeLevel(2, 0.5);
+    large->ruler()->onAddMarkers(markers(20 * minute));
 
     layout->addWidget(new QLabel(tr("Without a period"), this));
     auto* empty = new ZoomTimeline(this);

@@ -66,7 +66,9 @@ int main(int argc, char* argv[])
     window.show();
 
     if (!arguments.picture.isEmpty()) {
-        window.showMiddleDay();
+        // The sample looks best from close by; of a user's own files the picture shows everything.
+        if (arguments.files.isEmpty())
+            window.showMiddleDay();
         QTimer::singleShot(0, &window,
                            [&] { QApplication::exit(takePicture(window, arguments.picture)); });
     }

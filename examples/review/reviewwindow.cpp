@@ -118,6 +118,8 @@ QWidget* ReviewWindow::createContent()
     m_trackView->header()->setSectionResizeMode(TrackModel::Name, QHeaderView::Stretch);
     m_eventView = createTable(m_events, tables);
     m_eventView->header()->setSectionResizeMode(EventModel::Text, QHeaderView::Stretch);
+    // In proportion: the tracks have more columns that need their width.
+    tables->setSizes({660, 540});
 
     auto* times = new QHBoxLayout;
     times->setContentsMargins(8, 5, 8, 5);
