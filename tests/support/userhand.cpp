@@ -1,41 +1,20 @@
 #include "userhand.h"
 
+#include "realinput.h"
+
 #include <QApplication>
 #include <QKeySequence>
 #include <QMouseEvent>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 #include <QWheelEvent>
 #include <QWidget>
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-bool isX()
-{
-    return QGuiApplication::platformName() == u"xcb"_s;
-}
-
-/// The X server's names differ where Qt's are short.
-QString xKey(const QString& key)
-{
-    if (key == u"PgDown"_s)
-        return u"Next"_s;
-    if (key == u"PgUp"_s)
-        return u"Prior"_s;
-    return key;
-}
-
-} // namespace
-
 bool UserHand::isAvailable()
 {
-    return !isX() || !QStandardPaths::findExecutable(u"xdotool"_s).isEmpty();
+    return !RealInput::isWanted() || RealInput::isAvailable();
 }
 
-UserHand::UserHand() : m_real(isX()) {}
+UserHand::UserHand() : m_real(RealInput::isWanted()) {}
 
 void UserHand::moveTo(QWidget* widget, QPoint position)
 {
@@ -43,18 +22,17 @@ void UserHand::moveTo(QWidget* widget, QPoint position)
     if (!m_held)
         m_target = widget;
     m_position = widget->mapToGlobal(position);
-    if (m_real) {
-        xdo({u"mousemove"_s, QString::number(m_position.x()), QString::number(m_position.y())});
-    } else {
+    if (m_real)
+        RealInput::moveTo(m_position * widget->devicePixelRatio());
+    else
         send(QEvent::MouseMove);
-    }
 }
 
 void UserHand::press()
 {
     m_held = true;
     if (m_real)
-        xdo({u"mousedown"_s, u"1"_s});
+        RealInput::press();
     else
         send(QEvent::MouseButtonPress);
 }
@@ -63,7 +41,7 @@ void UserHand::release()
 {
     m_held = false;
     if (m_real)
-        xdo({u"mouseup"_s, u"1"_s});
+        RealInput::release();
     else
         send(QEvent::MouseButtonRelease);
 }
@@ -76,10 +54,8 @@ void UserHand::click()
 
 void UserHand::doubleClick()
 {
-    if (m_real) {
-        xdo({u"click"_s, u"--repeat"_s, u"2"_s, u"--delay"_s, u"50"_s, u"1"_s});
-        return;
-    }
+    if (m_real)
+        return RealInput::doubleClick();
     click();
     send(QEvent::MouseButtonDblClick);
     release();
@@ -87,11 +63,9 @@ void UserHand::doubleClick()
 
 void UserHand::turnWheel(int notches)
 {
+    if (m_real)
+        return RealInput::turnWheel(notches);
     for (int i = 0; i < qAbs(notches); ++i) {
-        if (m_real) {
-            xdo({u"click"_s, notches > 0 ? u"4"_s : u"5"_s});
-            continue;
-        }
         QWheelEvent event(m_target->mapFromGlobal(QPointF(m_position)), m_position, {},
                           QPoint(0, notches > 0 ? 120 : -120), Qt::NoButton, {}, Qt::NoScrollPhase,
                           false);
@@ -102,14 +76,8 @@ void UserHand::turnWheel(int notches)
 void UserHand::strike(const QString& key)
 {
     if (m_real)
-        return xdo({u"key"_s, xKey(key)});
+        return RealInput::strike(key);
     QTest::keyClick(QApplication::focusWidget(), QKeySequence(key)[0].key());
-}
-
-void UserHand::xdo(const QStringList& arguments)
-{
-    QCOMPARE(QProcess::execute(u"xdotool"_s, arguments), 0);
-    QCoreApplication::processEvents();
 }
 
 void UserHand::send(int type)

@@ -5,13 +5,12 @@
 
 class QWidget;
 
-/// A user's hand on mouse and keyboard. On an X server it moves the real pointer and presses real
-/// keys, through the server and all that lies between it and the widgets; elsewhere it sends events
-/// to the widgets.
+/// A user's hand on mouse and keyboard. On an X server and on Windows it moves the real pointer and
+/// presses real keys; elsewhere it sends events to the widgets.
 class UserHand
 {
 public:
-    /// False where the platform is X but the tool that drives the server is missing.
+    /// False where the tool that drives the window system is missing.
     static bool isAvailable();
 
     UserHand();
@@ -27,7 +26,6 @@ public:
     void strike(const QString& key);
 
 private:
-    void xdo(const QStringList& arguments);
     void send(int type);
 
     QWidget* m_target = nullptr;

@@ -1,0 +1,93 @@
+#include "realinput.h"
+
+#include <QGuiApplication>
+#include <QHash>
+#include <QTest>
+
+#include <qt_windows.h>
+
+using namespace Qt::StringLiterals;
+
+namespace RealInput {
+
+namespace {
+
+void send(INPUT input)
+{
+    QCOMPARE(SendInput(1, &input, sizeof input), 1u);
+    QCoreApplication::processEvents();
+}
+
+void sendMouse(DWORD flags, int wheel = 0)
+{
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    input.mi.mouseData = DWORD(wheel);
+    send(input);
+}
+
+void sendKey(WORD key, DWORD flags)
+{
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    // Without it these are the keys of the numeric pad.
+    input.ki.dwFlags = flags | KEYEVENTF_EXTENDEDKEY;
+    send(input);
+}
+
+} // namespace
+
+bool isWanted()
+{
+    return QGuiApplication::platformName() == u"windows"_s;
+}
+
+bool isAvailable()
+{
+    return true;
+}
+
+void moveTo(QPoint position)
+{
+    QVERIFY(SetCursorPos(position.x(), position.y()));
+    QCoreApplication::processEvents();
+}
+
+void press()
+{
+    sendMouse(MOUSEEVENTF_LEFTDOWN);
+}
+
+void release()
+{
+    sendMouse(MOUSEEVENTF_LEFTUP);
+}
+
+void doubleClick()
+{
+    for (int i = 0; i < 2; ++i) {
+        press();
+        release();
+    }
+}
+
+void turnWheel(int notches)
+{
+    for (int i = 0; i < qAbs(notches); ++i)
+        sendMouse(MOUSEEVENTF_WHEEL, notches > 0 ? WHEEL_DELTA : -WHEEL_DELTA);
+}
+
+void strike(const QString& key)
+{
+    static const QHash<QString, WORD> keys{
+        {u"Left"_s, WORD(VK_LEFT)},  {u"Right"_s, WORD(VK_RIGHT)}, {u"Up"_s, WORD(VK_UP)},
+        {u"Down"_s, WORD(VK_DOWN)},  {u"Home"_s, WORD(VK_HOME)},   {u"End"_s, WORD(VK_END)},
+        {u"PgUp"_s, WORD(VK_PRIOR)}, {u"PgDown"_s, WORD(VK_NEXT)}};
+    QVERIFY(keys.contains(key));
+    sendKey(keys[key], 0);
+    sendKey(keys[key], KEYEVENTF_KEYUP);
+}
+
+} // namespace RealInput
