@@ -4,7 +4,9 @@
 
 #include <CorvelGui/Ruler>
 
+#include <QApplication>
 #include <QStringList>
+#include <QTest>
 #include <QTimeZone>
 
 #include <utility>
@@ -20,11 +22,25 @@ inline QDateTime timeAt(qint64 offset)
     return QDateTime::fromMSecsSinceEpoch(monday + offset, QTimeZone::utc());
 }
 
-/// An active ruler in UTC with 1000 pixels of scale that writes down its signals in order.
+inline void moveMouse(QWidget& widget, QPoint position, Qt::MouseButtons buttons = {})
+{
+    QMouseEvent event(QEvent::MouseMove, position, widget.mapToGlobal(position), Qt::NoButton,
+                      buttons, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+inline void leaveMouse(QWidget& widget)
+{
+    QEvent event(QEvent::Leave);
+    QApplication::sendEvent(&widget, &event);
+}
+
+/// An active ruler in UTC with 1000 pixels of scale that writes down its signals in order. It shows
+/// the first hour from Monday, 3.6 seconds a pixel, unless it has no duration.
 class LoggedRuler : public CorvelGui::Ruler
 {
 public:
-    LoggedRuler()
+    explicit LoggedRuler(qint64 duration = 10 * day)
     {
         using namespace Qt::StringLiterals;
         using CorvelGui::Ruler;
@@ -78,6 +94,21 @@ public:
                 [this](const QPoint& position) {
                     log << u"line %1,%2"_s.arg(position.x()).arg(position.y());
                 });
+        // A new window gets an enter event for wherever the mouse is.
+        if (QTest::qWaitForWindowExposed(this))
+            QCoreApplication::processEvents();
+        if (duration > 0)
+            setTimeLimits(at(0), at(duration));
+        log.clear();
+    }
+
+    void press(int x) { QTest::mousePress(this, Qt::LeftButton, {}, QPoint(x, 30)); }
+    void dragTo(int x, int y = 30) { moveMouse(*this, QPoint(x, y), Qt::LeftButton); }
+    void release(int x) { QTest::mouseRelease(this, Qt::LeftButton, {}, QPoint(x, 30)); }
+    QStringList click(int x, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(this, button, {}, QPoint(x, 30));
+        return takeLog();
     }
 
     QStringList takeLog() { return std::exchange(log, {}); }

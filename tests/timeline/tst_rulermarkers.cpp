@@ -4,10 +4,8 @@
 #include <CorvelGui/RulerMarkerButton>
 #include <Hueloft/POrvGuiTheme>
 
-#include <QApplication>
 #include <QPainter>
 #include <QPointer>
-#include <QTest>
 
 using namespace CorvelGui;
 using Hueloft::POrvGuiTheme;
@@ -55,19 +53,12 @@ QString symbols(const Ruler& ruler)
     return result.join(u' ');
 }
 
-void send(QWidget* widget, QEvent::Type type, QPoint position)
+void enterMouse(QWidget& widget)
 {
-    if (type == QEvent::Leave) {
-        QEvent event(type);
-        QApplication::sendEvent(widget, &event);
-    } else if (type == QEvent::Enter) {
-        QEnterEvent event(position, widget->mapTo(widget->window(), position),
-                          widget->mapToGlobal(position));
-        QApplication::sendEvent(widget, &event);
-    } else {
-        QMouseEvent event(type, position, widget->mapToGlobal(position), Qt::NoButton, {}, {});
-        QApplication::sendEvent(widget, &event);
-    }
+    const QPoint position(8, 8);
+    QEnterEvent event(position, widget.mapTo(widget.window(), position),
+                      widget.mapToGlobal(position));
+    QApplication::sendEvent(&widget, &event);
 }
 
 QColor middleColor(QWidget* button)
@@ -91,6 +82,15 @@ public:
         return QIcon(pixmap);
     }
 
+    RulerMarker marker(qint64 offset, int iconIndex, int kind = 3)
+    {
+        RulerMarker result = ::marker(offset);
+        result.kind = kind;
+        result.iconIndex = iconIndex;
+        result.iconProvider = this;
+        return result;
+    }
+
     int asked = 0;
 };
 
@@ -101,368 +101,296 @@ class TestRulerMarkers : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup() { m_ruler.reset(); }
-    void symbolsInView_data();
     void symbolsInView();
     void symbolsFollowTheView();
     void reportedOnce();
     void operations();
-    void removalTakesTheFirstOfATime();
     void pressAndDoubleClick();
     void hiddenMarkersAnswerTheMouse();
-    void mergedToolTipListsItsMarkers();
-    void textsStayText();
+    void toolTips();
     void iconsOfTheProvider();
-    void hoverColors();
     void markerPreview();
-    void iconSizes();
-    void markerAreaLeavesRoomForTexts();
+    void sizes();
     void onlyInsideTheResultRange();
     void inactiveRulerWaits();
     void manyMarkersNeedFewButtons();
-    void clearingInsideSignals_data();
     void clearingInsideSignals();
-
-private:
-    std::unique_ptr<LoggedRuler> m_ruler;
 };
-
-void TestRulerMarkers::init()
-{
-    WarningFreeTest::init();
-    m_ruler = std::make_unique<LoggedRuler>();
-    QVERIFY(QTest::qWaitForWindowExposed(m_ruler.get()));
-    QCoreApplication::processEvents();
-    m_ruler->setTimeLimits(at(0), at(10 * day));
-    m_ruler->takeLog();
-}
-
-void TestRulerMarkers::symbolsInView_data()
-{
-    QTest::addColumn<QList<RulerMarker>>("markers");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("apart") << markersAtPixels({400, 100, 200}) << u"100 200 400"_s;
-    QTest::newRow("three at one place") << markersAtPixels({300, 300, 300}) << u"300+"_s;
-    QTest::newRow("crowded and alone") << markersAtPixels({300, 302, 304, 500}) << u"302+ 500"_s;
-    QTest::newRow("at the edges") << markersAtPixels({5, 1015}) << u"5 1015"_s;
-    QTest::newRow("beyond the edges") << markersAtPixels({4, 1016}) << QString();
-    QTest::newRow("out of view") << markersAtPixels({-500, 5000}) << QString();
-    QTest::newRow("without a time") << QList<RulerMarker>{RulerMarker()} << QString();
-}
 
 void TestRulerMarkers::symbolsInView()
 {
-    QFETCH(QList<RulerMarker>, markers);
-    m_ruler->onAddMarkers(markers);
-    QTEST(symbols(*m_ruler), "expected");
+    const std::pair<QList<RulerMarker>, QString> cases[] = {
+        {markersAtPixels({400, 100, 200}), u"100 200 400"_s},
+        {markersAtPixels({300, 300, 300}), u"300+"_s},
+        {markersAtPixels({300, 302, 304, 500}), u"302+ 500"_s},
+        {markersAtPixels({5, 1015}), u"5 1015"_s},
+        {markersAtPixels({4, 1016, -500, 5000}), {}},
+        {{RulerMarker()}, {}},
+    };
+    for (const auto& [markers, expected] : cases) {
+        LoggedRuler ruler;
+        ruler.onAddMarkers(markers);
+        QCOMPARE(symbols(ruler), expected);
+    }
 }
 
 void TestRulerMarkers::symbolsFollowTheView()
 {
-    m_ruler->onAddMarkers(markersAtPixels({300, 302, 700}));
-    QCOMPARE(symbols(*m_ruler), u"300+ 700"_s);
-    m_ruler->changeLevel(0, 290.0 / 999);
-    QCOMPARE(visibleButtons(*m_ruler).size(), 1);
-    m_ruler->onTimelineOffsetChanged(302.0 * pixel / (10 * day));
-    QCOMPARE(visibleButtons(*m_ruler).size(), 1);
-    m_ruler->changeLevel(8, 0.5);
-    QCOMPARE(visibleButtons(*m_ruler).size(), 1);
-    QCOMPARE(visibleButtons(*m_ruler).front()->merge(), Merge::Representative);
-    m_ruler->changeLevel(1, 0.0);
-    QCOMPARE(symbols(*m_ruler), u"300+ 700"_s);
+    LoggedRuler ruler;
+    ruler.onAddMarkers(markersAtPixels({300, 302, 700}));
+    ruler.changeLevel(0, 290.0 / 999);
+    QCOMPARE(visibleButtons(ruler).size(), 1);
+    ruler.onTimelineOffsetChanged(302.0 * pixel / (10 * day));
+    QCOMPARE(visibleButtons(ruler).size(), 1);
+    ruler.changeLevel(8, 0.5);
+    QCOMPARE(symbols(ruler).count(u'+'), 1);
+    QCOMPARE(visibleButtons(ruler).size(), 1);
+    ruler.changeLevel(1, 0.0);
+    QCOMPARE(symbols(ruler), u"300+ 700"_s);
 }
 
 void TestRulerMarkers::reportedOnce()
 {
-    m_ruler->onAddMarkers({marker(10 * minute), marker(2 * hour), marker(20 * minute)});
-    QCOMPARE(m_ruler->takeLog(), QStringList{u"new 02 00:10, 02 00:20"_s});
-    m_ruler->onTimelineOffsetChanged(2.0 * hour / (10 * day));
-    QVERIFY(m_ruler->takeLog().contains(u"new 02 02:00"_s));
-    m_ruler->changeLevel(4, 1.0);
-    m_ruler->onAddMarkers({marker(15 * minute)});
-    QCOMPARE(m_ruler->takeLog().filter(u"new"_s), QStringList{u"new 02 00:15"_s});
+    LoggedRuler ruler;
+    ruler.onAddMarkers({marker(10 * minute), marker(2 * hour), marker(20 * minute)});
+    QCOMPARE(ruler.takeLog(), QStringList{u"new 02 00:10, 02 00:20"_s});
+    ruler.onTimelineOffsetChanged(2.0 * hour / (10 * day));
+    QVERIFY(ruler.takeLog().contains(u"new 02 02:00"_s));
+    ruler.changeLevel(4, 1.0);
+    ruler.onAddMarkers({marker(15 * minute)});
+    QCOMPARE(ruler.takeLog().filter(u"new"_s), QStringList{u"new 02 00:15"_s});
 }
 
 void TestRulerMarkers::operations()
 {
-    const QList<RulerMarker> markers = markersAtPixels({100, 200});
-    const auto perform = [&](int code) {
-        m_ruler->onMarkerOperation({.markers = markers, .code = code});
-    };
-    perform(0);
-    perform(6);
-    QCOMPARE(symbols(*m_ruler), QString());
-    perform(4);
-    QCOMPARE(symbols(*m_ruler), u"100 200"_s);
-    perform(2);
-    QCOMPARE(symbols(*m_ruler), QString());
-    perform(2);
-    perform(4);
-    QCOMPARE(symbols(*m_ruler), QString());
-    perform(1);
-    QCOMPARE(symbols(*m_ruler), u"100+ 200+"_s);
-    perform(5);
-    QCOMPARE(symbols(*m_ruler), u"100 200"_s);
-    perform(3);
-    QCOMPARE(m_ruler->findChildren<RulerMarkerButton*>().size(), 0);
-}
-
-void TestRulerMarkers::removalTakesTheFirstOfATime()
-{
-    m_ruler->onAddMarkers({marker(minute, u"first"_s), marker(minute, u"second"_s)});
-    m_ruler->onRemoveMarkers({marker(minute), marker(2 * minute)});
-    QCOMPARE(visibleButtons(*m_ruler).size(), 1);
-    QCOMPARE(visibleButtons(*m_ruler).front()->marker().text, u"second"_s);
+    LoggedRuler ruler;
+    const std::pair<int, QString> steps[] = {
+        {0, {}}, {6, {}}, {4, u"100 200"_s},   {2, {}},
+        {4, {}}, {0, {}}, {1, u"100+ 200+"_s}, {5, u"100 200"_s}};
+    for (const auto& [code, expected] : steps) {
+        ruler.onMarkerOperation({.markers = markersAtPixels({100, 200}), .code = code});
+        QCOMPARE(symbols(ruler), expected);
+    }
+    ruler.onMarkerOperation({.code = 3});
+    QCOMPARE(ruler.findChildren<RulerMarkerButton*>().size(), 0);
 }
 
 void TestRulerMarkers::pressAndDoubleClick()
 {
-    m_ruler->onAddMarkers({marker(10 * minute), marker(20 * minute)});
-    m_ruler->takeLog();
-    auto* button = visibleButtons(*m_ruler).back();
+    LoggedRuler ruler;
+    ruler.onAddMarkers({marker(10 * minute), marker(20 * minute)});
+    ruler.takeLog();
+    auto* button = visibleButtons(ruler).back();
     QTest::mouseClick(button, Qt::RightButton);
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(m_ruler->takeLog(), QStringList{u"jump 02 00:20"_s});
+    QCOMPARE(ruler.takeLog(), QStringList{u"jump 02 00:20"_s});
     QTest::mouseDClick(button, Qt::LeftButton);
-    QCOMPARE(m_ruler->takeLog(), QStringList{u"track jump 02 00:20"_s});
-    m_ruler->setActive(true, true);
+    QCOMPARE(ruler.takeLog(), QStringList{u"track jump 02 00:20"_s});
+    ruler.setActive(true, true);
     QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(m_ruler->takeLog(), QStringList());
+    QCOMPARE(ruler.takeLog(), QStringList());
 }
 
 void TestRulerMarkers::hiddenMarkersAnswerTheMouse()
 {
-    m_ruler->onAddMarkers(markersAtPixels({300, 307, 314}));
-    m_ruler->takeLog();
-    QCOMPARE(symbols(*m_ruler), u"307+"_s);
-    const int y = visibleButtons(*m_ruler).front()->geometry().center().y();
-
+    LoggedRuler ruler;
+    ruler.onAddMarkers(markersAtPixels({300, 307, 314}));
+    ruler.takeLog();
+    const int y = visibleButtons(ruler).front()->geometry().center().y();
     // Left of the symbol is the first of its markers.
-    send(m_ruler.get(), QEvent::MouseMove, QPoint(297, y));
-    QCOMPARE(symbols(*m_ruler), u"300 307+"_s);
-    auto* hidden = visibleButtons(*m_ruler).front();
+    moveMouse(ruler, QPoint(297, y));
+    QCOMPARE(symbols(ruler), u"300 307+"_s);
+    auto* hidden = visibleButtons(ruler).front();
     QCOMPARE(hidden->merge(), Merge::MergedAway);
     QCOMPARE(hidden->toolTip(), u"300"_s);
     QTest::mouseClick(hidden, Qt::LeftButton);
-    QCOMPARE(m_ruler->takeLog(), QStringList{u"jump 02 00:17"_s});
+    QCOMPARE(ruler.takeLog(), QStringList{u"jump 02 00:17"_s});
 
-    send(m_ruler.get(), QEvent::MouseMove, QPoint(318, y));
-    QCOMPARE(symbols(*m_ruler), u"307+ 314"_s);
-    send(m_ruler.get(), QEvent::MouseMove, QPoint(400, y));
-    QCOMPARE(symbols(*m_ruler), u"307+"_s);
+    moveMouse(ruler, QPoint(318, y));
+    QCOMPARE(symbols(ruler), u"307+ 314"_s);
+    moveMouse(ruler, QPoint(400, y));
+    QCOMPARE(symbols(ruler), u"307+"_s);
 }
 
-void TestRulerMarkers::mergedToolTipListsItsMarkers()
+void TestRulerMarkers::toolTips()
 {
-    m_ruler->onAddMarkers(markersAtPixels({300, 301, 302}));
-    auto* button = visibleButtons(*m_ruler).front();
-    send(button, QEvent::Enter, QPoint(8, 8));
-    QCOMPARE(button->toolTip(), u"300\n301\n302"_s);
-
+    LoggedRuler ruler;
+    const auto firstToolTip = [&] {
+        auto* button = visibleButtons(ruler).front();
+        enterMouse(*button);
+        return button->toolTip();
+    };
+    ruler.onAddMarkers(markersAtPixels({300, 301, 302}));
+    QCOMPARE(firstToolTip(), u"300\n301\n302"_s);
     QList<RulerMarker> many;
     for (int i = 0; i < 40; ++i)
         many << marker(10 * minute + i, QString::number(i));
-    m_ruler->onAddMarkers(many);
-    button = visibleButtons(*m_ruler).front();
-    send(button, QEvent::Enter, QPoint(8, 8));
-    const QStringList lines = button->toolTip().split(u'\n');
+    ruler.onAddMarkers(many);
+    const QStringList lines = firstToolTip().split(u'\n');
     QCOMPARE(lines.size(), 13);
     QCOMPARE(lines.front(), u"0"_s);
     QVERIFY(lines.back().contains(u"28"_s));
-}
 
-void TestRulerMarkers::textsStayText()
-{
-    m_ruler->onAddMarkers({marker(minute, u"<b>bold</b> & <img src=x>"_s)});
-    const QString toolTip = visibleButtons(*m_ruler).front()->toolTip();
+    // The second of a time stays when one is removed, and its text stays text.
+    ruler.onClearMarkers();
+    ruler.onAddMarkers({marker(minute, u"first"_s), marker(minute, u"<b>bold</b> & <img>"_s)});
+    ruler.onRemoveMarkers({marker(minute), marker(2 * minute)});
+    const QString toolTip = firstToolTip();
     QVERIFY(!toolTip.contains(u"<b>"_s));
-    QVERIFY(toolTip.contains(u"&lt;b&gt;bold&lt;/b&gt;"_s));
-    QVERIFY(toolTip.contains(u"&lt;img"_s));
+    QVERIFY(toolTip.contains(u"&lt;b&gt;bold&lt;/b&gt;"_s) && toolTip.contains(u"&lt;img"_s));
 }
 
 void TestRulerMarkers::iconsOfTheProvider()
 {
     Provider provider;
-    const auto provided = [&](qint64 offset, int kind, int index) {
-        RulerMarker result = marker(offset);
-        result.kind = kind;
-        result.iconIndex = index;
-        result.iconProvider = &provider;
-        return result;
-    };
-    m_ruler->onAddMarkers({provided(10 * minute, 3, 0), provided(20 * minute, 3, 1),
-                           provided(30 * minute, 3, 2), provided(40 * minute, 3, 0)});
+    LoggedRuler ruler;
+    ruler.onAddMarkers({provider.marker(10 * minute, 0), provider.marker(20 * minute, 1),
+                        provider.marker(30 * minute, 2), provider.marker(40 * minute, 0)});
     QCOMPARE(provider.asked, 2);
-    const auto buttons = visibleButtons(*m_ruler);
-    QCOMPARE(middleColor(buttons[0]), QColor(Qt::magenta));
+    const auto buttons = visibleButtons(ruler);
     QCOMPARE(middleColor(buttons[1]), QColor(Qt::cyan));
     QCOMPARE(middleColor(buttons[2]), QColor(Qt::cyan));
 
-    // Of another kind the same marker has the ruler's own icon.
-    m_ruler->onClearMarkers();
-    m_ruler->onAddMarkers({provided(10 * minute, 2, 0)});
-    QVERIFY(middleColor(visibleButtons(*m_ruler)[0]) != QColor(Qt::magenta));
-    QCOMPARE(provider.asked, 2);
-    m_ruler.reset();
-}
-
-void TestRulerMarkers::hoverColors()
-{
-    Provider provider;
-    RulerMarker provided = marker(10 * minute);
-    provided.kind = 3;
-    provided.iconIndex = 0;
-    provided.iconProvider = &provider;
-    m_ruler->onAddMarkers({provided});
-    auto* button = visibleButtons(*m_ruler).front();
-    send(button, QEvent::Enter, QPoint(8, 8));
+    auto* button = buttons.front();
+    QCOMPARE(middleColor(button), QColor(Qt::magenta));
+    enterMouse(*button);
     QCOMPARE(middleColor(button), POrvGuiTheme::colorLightRed);
     QTest::mousePress(button, Qt::LeftButton);
     QCOMPARE(middleColor(button), POrvGuiTheme::colorOrange);
     QTest::mouseRelease(button, Qt::LeftButton);
-    send(button, QEvent::Leave, {});
+    leaveMouse(*button);
     QCOMPARE(middleColor(button), QColor(Qt::magenta));
-    m_ruler.reset();
+
+    // Of another kind the same marker has the ruler's own icon.
+    ruler.onClearMarkers();
+    ruler.onAddMarkers({provider.marker(10 * minute, 0, 2)});
+    QVERIFY(middleColor(visibleButtons(ruler)[0]) != QColor(Qt::magenta));
+    QCOMPARE(provider.asked, 2);
 }
 
 void TestRulerMarkers::markerPreview()
 {
-    m_ruler->onAddMarkers(markersAtPixels({300}));
-    m_ruler->setPreviewEnabled(true);
-    m_ruler->onPreviewVisible(true, false);
-    auto* button = visibleButtons(*m_ruler).front();
-    m_ruler->takeLog();
-    send(button, QEvent::Enter, QPoint(8, 8));
-    send(button, QEvent::MouseMove, QPoint(10, 8));
-    QTRY_COMPARE(m_ruler->log.size(), 2);
-    QCOMPARE(m_ruler->log,
-             (QStringList{u"preview 1044 at 299 marker"_s, u"preview 1051 at 302"_s}));
+    LoggedRuler ruler;
+    ruler.onAddMarkers(markersAtPixels({300}));
+    ruler.setPreviewEnabled(true);
+    ruler.onPreviewVisible(true, false);
+    auto* button = visibleButtons(ruler).front();
+    ruler.takeLog();
+    enterMouse(*button);
+    moveMouse(*button, QPoint(10, 8));
+    QTRY_COMPARE(ruler.log.size(), 2);
+    QCOMPARE(ruler.log, (QStringList{u"preview 1044 at 299 marker"_s, u"preview 1051 at 302"_s}));
 }
 
-void TestRulerMarkers::iconSizes()
+void TestRulerMarkers::sizes()
 {
-    m_ruler->onAddMarkers(markersAtPixels({300}));
-    auto* button = visibleButtons(*m_ruler).front();
+    LoggedRuler ruler;
+    ruler.onAddMarkers(markersAtPixels({300}));
+    auto* button = visibleButtons(ruler).front();
     QCOMPARE(button->size(), QSize(16, 18));
-    m_ruler->setIconSize(QSize(16, 16));
+    const int header = ruler.height() / 4;
+    const int top = button->y();
+    QVERIFY(top >= header + header / 2);
+    ruler.setIconSize(QSize(16, 16));
     QCOMPARE(button->iconSize(), QSize(14, 14));
     QCOMPARE(button->size(), QSize(14, 16));
-    m_ruler->setIconSize(QSize(17, 400));
+    ruler.setIconSize(QSize(17, 400));
     QCOMPARE(button->iconSize(), QSize(15, 206));
-    QVERIFY(button->geometry().bottom() < m_ruler->height() && button->y() > m_ruler->height() / 4);
+    QVERIFY(button->geometry().bottom() < ruler.height() && button->y() > header);
     QCOMPARE(button->centerX(), 300);
-}
 
-void TestRulerMarkers::markerAreaLeavesRoomForTexts()
-{
-    m_ruler->onAddMarkers(markersAtPixels({300}));
-    const int header = m_ruler->height() / 4;
-    const auto top = [&] {
-        return visibleButtons(*m_ruler).front()->y();
-    };
-    const int withoutTracks = top();
-    QVERIFY(withoutTracks >= header + header / 2);
-    m_ruler->setTrackDescriptions({{u"a"_s, u"Gate"_s, monday, monday + day, {}}});
-    m_ruler->updateChildren(true);
-    QVERIFY(top() > withoutTracks);
-    QVERIFY(visibleButtons(*m_ruler).front()->geometry().bottom() < m_ruler->height());
+    // The names of tracks need room.
+    LoggedRuler withTracks;
+    withTracks.onAddMarkers(markersAtPixels({300}));
+    withTracks.setTrackDescriptions({{u"a"_s, u"Gate"_s, monday, monday + day, {}}});
+    withTracks.updateChildren(true);
+    button = visibleButtons(withTracks).front();
+    QVERIFY(button->y() > top && button->geometry().bottom() < withTracks.height());
 }
 
 void TestRulerMarkers::onlyInsideTheResultRange()
 {
-    m_ruler->onAddMarkers(markersAtPixels({100, 200, 300, 400}));
-    const auto timeAtPixel = [](int x) {
-        return timeAt((x - 10) * pixel);
+    LoggedRuler ruler;
+    ruler.onAddMarkers(markersAtPixels({100, 200, 300, 400}));
+    const QDateTime from = timeAt(190 * pixel);
+    const QDateTime to = timeAt(290 * pixel);
+    const auto edge = [&](int x) {
+        return ruler.grab().toImage().pixelColor(x, ruler.height() - 3);
     };
-    m_ruler->setResultTimeRange(timeAtPixel(200), timeAtPixel(300), false, false, true, false);
-    QCOMPARE(symbols(*m_ruler), u"200 300"_s);
-    m_ruler->setResultTimeRange(timeAtPixel(200), timeAtPixel(300), true, true, false, false);
-    QCOMPARE(symbols(*m_ruler), u"100 200 300 400"_s);
-    const QImage marked = m_ruler->grab().toImage();
-    QCOMPARE(marked.pixelColor(200, m_ruler->height() - 3), POrvGuiTheme::colorOrange);
-    QCOMPARE(marked.pixelColor(300, m_ruler->height() - 3), POrvGuiTheme::colorOrange);
+    ruler.setResultTimeRange(from, to, false, false, true, false);
+    QCOMPARE(symbols(ruler), u"200 300"_s);
+    ruler.setResultTimeRange(from, to, true, true, false, false);
+    QCOMPARE(symbols(ruler), u"100 200 300 400"_s);
+    QCOMPARE(edge(200), POrvGuiTheme::colorOrange);
+    QCOMPARE(edge(300), POrvGuiTheme::colorOrange);
 
-    m_ruler->takeLog();
-    m_ruler->setResultTimeRange(timeAtPixel(200), timeAtPixel(300), true, true, true, true);
-    QVERIFY(m_ruler->takeLog().contains(u"level 0"_s));
-    m_ruler->setResultTimeRange({}, {}, false, false, false, false);
-    m_ruler->changeLevel(1, 0.0);
-    QVERIFY(m_ruler->grab().toImage().pixelColor(200, m_ruler->height() - 3) !=
-            POrvGuiTheme::colorOrange);
+    ruler.takeLog();
+    ruler.setResultTimeRange(from, to, true, true, true, true);
+    QVERIFY(ruler.takeLog().contains(u"level 0"_s));
+    ruler.setResultTimeRange({}, {}, false, false, false, false);
+    ruler.changeLevel(1, 0.0);
+    QVERIFY(edge(200) != POrvGuiTheme::colorOrange);
 }
 
 void TestRulerMarkers::inactiveRulerWaits()
 {
-    m_ruler->setActive(false, false);
-    m_ruler->onAddMarkers(markersAtPixels({300}));
-    QCOMPARE(m_ruler->takeLog(), QStringList());
-    m_ruler->setActive(true, false);
-    QCOMPARE(m_ruler->takeLog(), QStringList{u"new 02 00:17"_s});
-    QCOMPARE(symbols(*m_ruler), u"300"_s);
-
+    LoggedRuler ruler;
+    ruler.setActive(false, false);
+    ruler.onAddMarkers(markersAtPixels({300}));
+    QCOMPARE(ruler.takeLog(), QStringList());
+    ruler.setActive(true, false);
+    QCOMPARE(ruler.takeLog(), QStringList{u"new 02 00:17"_s});
+    QCOMPARE(symbols(ruler), u"300"_s);
     // What is gone is not shown any longer all the same.
-    m_ruler->setActive(false, false);
-    m_ruler->onHideMarkers();
-    QCOMPARE(symbols(*m_ruler), QString());
+    ruler.setActive(false, false);
+    ruler.onHideMarkers();
+    QCOMPARE(symbols(ruler), QString());
 }
 
 void TestRulerMarkers::manyMarkersNeedFewButtons()
 {
+    LoggedRuler ruler;
     QList<RulerMarker> markers;
     for (int i = 0; i < 20'000; ++i)
         markers << marker(i * 40 * second);
-    m_ruler->onAddMarkers(markers);
+    ruler.onAddMarkers(markers);
     for (int level = 0; level <= 8; ++level) {
-        m_ruler->changeLevel(level, 0.5);
-        m_ruler->onTimelineOffsetChanged(0.5);
-        QVERIFY(!visibleButtons(*m_ruler).isEmpty());
-        QVERIFY(m_ruler->findChildren<RulerMarkerButton*>().size() <= 1020 / 6);
+        ruler.changeLevel(level, 0.5);
+        ruler.onTimelineOffsetChanged(0.5);
+        QVERIFY(!visibleButtons(ruler).isEmpty());
+        QVERIFY(ruler.findChildren<RulerMarkerButton*>().size() <= 1020 / 6);
     }
-}
-
-void TestRulerMarkers::clearingInsideSignals_data()
-{
-    using Act = std::function<void(Ruler&)>;
-    QTest::addColumn<Act>("act");
-    QTest::newRow("markers") << Act([](Ruler& ruler) { ruler.onClearMarkers(); });
-    QTest::newRow("buttons") << Act(
-        [](Ruler& ruler) { qDeleteAll(ruler.findChildren<RulerMarkerButton*>()); });
-    QTest::newRow("all buttons") << Act(
-        [](Ruler& ruler) { qDeleteAll(ruler.findChildren<QAbstractButton*>()); });
-    QTest::newRow("ruler") << Act([](Ruler& ruler) { delete &ruler; });
 }
 
 void TestRulerMarkers::clearingInsideSignals()
 {
-    QFETCH(std::function<void(Ruler&)>, act);
-
-    for (const bool twice : {false, true}) {
-        QPointer<LoggedRuler> ruler = new LoggedRuler;
-        ruler->setTimeLimits(at(0), at(10 * day));
-        ruler->onAddMarkers(markersAtPixels({300, 500}));
-        QObject context;
-        const auto perform = [&] {
-            act(*ruler);
-        };
-        if (twice)
-            connect(ruler, &Ruler::jumpToTrackTime, &context, perform);
-        else
-            connect(ruler, &Ruler::jumpToTime, &context, perform);
-        auto* button = visibleButtons(*ruler).front();
-        if (twice)
-            QTest::mouseDClick(button, Qt::LeftButton);
-        else
-            QTest::mousePress(button, Qt::LeftButton);
-        if (!ruler)
-            continue;
-        // What is left still works.
-        ruler->setActive(true, false);
-        ruler->changeLevel(2, 0.5);
-        ruler->onAddMarkers(markersAtPixels({700}));
-        QVERIFY(!visibleButtons(*ruler).isEmpty());
-        delete ruler;
+    const std::vector<std::function<void(Ruler&)>> acts{
+        [](Ruler& ruler) { ruler.onClearMarkers(); },
+        [](Ruler& ruler) { qDeleteAll(ruler.findChildren<RulerMarkerButton*>()); },
+        [](Ruler& ruler) { qDeleteAll(ruler.findChildren<QAbstractButton*>()); },
+        [](Ruler& ruler) { delete &ruler; },
+    };
+    for (const auto& act : acts) {
+        for (const bool twice : {false, true}) {
+            QPointer<LoggedRuler> ruler = new LoggedRuler;
+            ruler->onAddMarkers(markersAtPixels({300, 500}));
+            QObject context;
+            connect(ruler, twice ? &Ruler::jumpToTrackTime : &Ruler::jumpToTime, &context,
+                    [&] { act(*ruler); });
+            auto* button = visibleButtons(*ruler).front();
+            if (twice)
+                QTest::mouseDClick(button, Qt::LeftButton);
+            else
+                QTest::mousePress(button, Qt::LeftButton);
+            if (!ruler)
+                continue;
+            // What is left still works.
+            ruler->setActive(true, false);
+            ruler->changeLevel(2, 0.5);
+            ruler->onAddMarkers(markersAtPixels({700}));
+            QVERIFY(!visibleButtons(*ruler).isEmpty());
+            delete ruler;
+        }
     }
 }
 
