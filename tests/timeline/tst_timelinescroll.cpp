@@ -14,7 +14,6 @@
 #include <cmath>
 #include <functional>
 #include <limits>
-#include <utility>
 
 using namespace CorvelGui;
 using Hueloft::POrvGuiTheme;
@@ -59,9 +58,16 @@ protected:
     }
 };
 
-QAccessibleInterface* accessible(QWidget* widget)
+using Act = std::function<void(LoggedStrip&)>;
+
+QAccessibleInterface* accessible(LoggedStrip& strip)
 {
-    return QAccessible::queryAccessibleInterface(widget);
+    return QAccessible::queryAccessibleInterface(&strip);
+}
+
+void setAccessibleValue(LoggedStrip& strip, const QVariant& value)
+{
+    accessible(strip)->valueInterface()->setCurrentValue(value);
 }
 
 } // namespace
@@ -71,10 +77,7 @@ class TestTimelineScroll : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void box_data();
     void box();
-    void boxMoves();
-    void clicks_data();
     void clicks();
     void holdingPagesToThePress();
     void holdEndsWithTheStrip();
@@ -84,54 +87,37 @@ private Q_SLOTS:
     void settersAreSilentAndRepaintChanges();
     void paintOrder();
     void boxColors();
-    void inactiveShowsItsBorderOnly();
     void assistiveTechnology();
     void deletionWithinTheSignal();
 };
 
-void TestTimelineScroll::box_data()
+void TestTimelineScroll::box()
 {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    QTest::addColumn<double>("viewArea");
-    QTest::addColumn<double>("position");
-    QTest::addColumn<QList<int>>("expected"); // width, center, left, right
-    const auto row = [](const char* name, double viewArea, double position, QList<int> expected) {
-        QTest::newRow(name) << viewArea << position << expected;
-    };
-    row("whole period", 1.0, 0.5, {99, 50, 1, 100});
-    row("whole period, at the begin", 1.0, 0.0, {99, 49, 1, 99});
-    row("whole period, at the end", 1.0, 1.0, {99, 52, 3, 100});
-    row("odd width", 0.2, 0.3, {19, 30, 21, 40});
-    row("even width", 0.21, 0.3, {20, 30, 20, 40});
-    row("at the begin", 0.1, 0.0, {9, 4, 1, 9});
-    row("at the end", 0.1, 1.0, {9, 97, 93, 100});
-    row("smallest", 0.0, 0.5, {5, 50, 48, 53});
-    row("outside the period", 0.1, -3.0, {9, 4, 1, 9});
-    row("no numbers", nan, nan, {5, 2, 1, 5});
-    row("wrapped position", 0.0, 1e19, {5, 99, 97, 100});
-    row("infinite", -infinity, infinity, {5, 99, 97, 100});
-}
-
-void TestTimelineScroll::box()
-{
-    QFETCH(double, viewArea);
-    QFETCH(double, position);
-    const ViewAreaBox box(101, viewArea, position);
-    QTEST((QList<int>{box.width(), box.center(), box.left(), box.right()}), "expected");
-}
-
-void TestTimelineScroll::boxMoves()
-{
-    const ViewAreaBox box(101, 0.2, 0.3);
     const struct
     {
-        int distance;
-        int center;
-    } moves[] = {{19, 49}, {-19, 11}, {-100, 9}, {100, 92}};
-    for (const auto& move : moves) {
-        QCOMPARE(box.draggedTo(box.center() + move.distance), move.center / 100.0);
-        QCOMPARE(box.pagedBy(move.distance), move.center / 101.0);
+        double viewArea, position;
+        QList<int> expected; // width, center, left, right
+    } cases[] = {{1.0, 0.5, {99, 50, 1, 100}},
+                 {1.0, 0.0, {99, 49, 1, 99}},
+                 {1.0, 1.0, {99, 52, 3, 100}},
+                 {0.2, 0.3, {19, 30, 21, 40}},
+                 {0.21, 0.3, {20, 30, 20, 40}},
+                 {0.1, 1.0, {9, 97, 93, 100}},
+                 {0.0, 0.5, {5, 50, 48, 53}},
+                 {0.1, -3.0, {9, 4, 1, 9}},
+                 {nan, nan, {5, 2, 1, 5}},
+                 {0.0, 1e19, {5, 99, 97, 100}}, // a wrapped position
+                 {-infinity, infinity, {5, 99, 97, 100}}};
+    for (const auto& c : cases) {
+        const ViewAreaBox box(101, c.viewArea, c.position);
+        QCOMPARE((QList<int>{box.width(), box.center(), box.left(), box.right()}), c.expected);
+    }
+    const ViewAreaBox box(101, 0.2, 0.3);
+    for (const auto& [distance, center] : {std::pair(19, 49), {-19, 11}, {-100, 9}, {100, 92}}) {
+        QCOMPARE(box.draggedTo(box.center() + distance), center / 100.0);
+        QCOMPARE(box.pagedBy(distance), center / 101.0);
     }
     for (const int stripWidth : {0, 1, 2}) {
         const ViewAreaBox tiny(stripWidth, 1.0, 0.5);
@@ -139,33 +125,23 @@ void TestTimelineScroll::boxMoves()
     }
 }
 
-void TestTimelineScroll::clicks_data()
-{
-    QTest::addColumn<int>("pressX");
-    QTest::addColumn<int>("releaseX");
-    QTest::addColumn<QList<double>>("moves");
-    QTest::newRow("left") << 20 << 20 << QList<double>{11 / 101.0};
-    QTest::newRow("right") << 41 << 41 << QList<double>{49 / 101.0};
-    QTest::newRow("first pixel of the box") << 21 << 21 << QList<double>();
-    QTest::newRow("pixel behind the box") << 40 << 40 << QList<double>();
-    QTest::newRow("released on the box") << 60 << 30 << QList<double>();
-    QTest::newRow("released on the other side") << 60 << 10 << QList<double>{11 / 101.0};
-}
-
 void TestTimelineScroll::clicks()
 {
-    QFETCH(int, pressX);
-    QFETCH(int, releaseX);
-    LoggedStrip strip;
-    strip.press(pressX);
-    QCOMPARE(strip.moves, QList<double>());
-    strip.release(releaseX);
-    QTEST(strip.moves, "moves");
-    QVERIFY(!strip.isTimerActive());
-
-    strip.moves.clear();
-    QTest::mouseClick(&strip, Qt::RightButton, {}, QPoint(95, middle));
-    QCOMPARE(strip.moves, QList<double>());
+    const struct
+    {
+        int press, release;
+        QList<double> moves;
+    } cases[] = {{20, 20, {11 / 101.0}}, {41, 41, {49 / 101.0}}, {21, 21, {}},
+                 {40, 40, {}},           {60, 30, {}},           {60, 10, {11 / 101.0}}};
+    for (const auto& click : cases) {
+        LoggedStrip strip;
+        QTest::mouseClick(&strip, Qt::RightButton, {}, QPoint(95, middle));
+        strip.press(click.press);
+        QCOMPARE(strip.moves, QList<double>());
+        strip.release(click.release);
+        QCOMPARE(strip.moves, click.moves);
+        QVERIFY(!strip.isTimerActive());
+    }
 }
 
 void TestTimelineScroll::holdingPagesToThePress()
@@ -190,12 +166,11 @@ void TestTimelineScroll::holdingPagesToThePress()
 void TestTimelineScroll::holdEndsWithTheStrip()
 {
     // Each function switches the strip off and on.
-    const std::function<void(LoggedStrip&, bool)> switches[] = {
-        [](auto& strip, bool on) { strip.setVisible(on); },
-        [](auto& strip, bool on) { strip.setEnabled(on); },
-        [](auto& strip, bool on) {
-            strip.setActive(on);
-        }};
+    const std::vector<std::function<void(LoggedStrip&, bool)>> switches{
+        [](LoggedStrip& strip, bool on) { strip.setVisible(on); },
+        [](LoggedStrip& strip, bool on) { strip.setEnabled(on); },
+        [](LoggedStrip& strip, bool on) { strip.setActive(on); },
+    };
     for (const auto& setOn : switches) {
         for (const int pressX : {30, 60}) {
             LoggedStrip strip;
@@ -224,18 +199,20 @@ void TestTimelineScroll::drag()
 
 void TestTimelineScroll::keys()
 {
-    const std::pair<Qt::Key, double> moves[] = {{Qt::Key_Left, 0.48},  {Qt::Key_Right, 0.52},
-                                                {Qt::Key_PageUp, 0.3}, {Qt::Key_PageDown, 0.7},
-                                                {Qt::Key_Home, 0.1},   {Qt::Key_End, 0.9}};
-    for (const auto& [key, position] : moves) {
-        LoggedStrip strip(0.2, 0.5);
-        QTest::keyClick(&strip, key);
-        QCOMPARE(strip.moves, QList<double>{position});
+    const struct
+    {
+        double center;
+        Qt::Key key;
+        double position;
+    } cases[] = {{0.5, Qt::Key_Left, 0.48},  {0.5, Qt::Key_Right, 0.52},
+                 {0.5, Qt::Key_PageUp, 0.3}, {0.5, Qt::Key_PageDown, 0.7},
+                 {0.5, Qt::Key_Home, 0.1},   {0.5, Qt::Key_End, 0.9},
+                 {1e19, Qt::Key_PageUp, 0.8}}; // far outside does not swallow the next moves
+    for (const auto& stroke : cases) {
+        LoggedStrip strip(0.2, stroke.center);
+        QTest::keyClick(&strip, stroke.key);
+        QCOMPARE(strip.moves, QList<double>{stroke.position});
     }
-    // A position far outside does not swallow the next moves.
-    LoggedStrip strip(0.2, 1e19);
-    QTest::keyClick(&strip, Qt::Key_PageUp);
-    QCOMPARE(strip.moves, QList<double>{0.8});
 }
 
 void TestTimelineScroll::wholePeriodCannotMove()
@@ -245,63 +222,30 @@ void TestTimelineScroll::wholePeriodCannotMove()
     strip.moveTo(70);
     strip.release(70);
     QTest::keyClick(&strip, Qt::Key_Home);
-    accessible(&strip)->valueInterface()->setCurrentValue(0.1);
+    setAccessibleValue(strip, 0.1);
     QCOMPARE(strip.moves, QList<double>());
 }
 
 void TestTimelineScroll::settersAreSilentAndRepaintChanges()
 {
-    const struct
-    {
-        bool repaints;
-        std::function<void(TimelineScroll&)> set;
-    } cases[] = {
-        {false,
-         [](auto& strip) {
-             strip.setViewArea(0.2);
-         }},
-        {true,
-         [](auto& strip) {
-             strip.setViewArea(0.3);
-         }},
-        {false,
-         [](auto& strip) {
-             strip.onCenterPositionChanged(0.3);
-         }},
-        {true,
-         [](auto& strip) {
-             strip.onCenterPositionChanged(0.4);
-         }},
-        {false,
-         [](auto& strip) {
-             strip.onIndicatorPositionChanged(5, 0.0);
-         }},
-        {true,
-         [](auto& strip) {
-             strip.onIndicatorPositionChanged(5, 0.1);
-         }},
-        {false,
-         [](auto& strip) {
-             strip.setSearchTimeRange(0.500009, 0.599991);
-         }},
-        {true,
-         [](auto& strip) {
-             strip.setSearchTimeRange(0.500011, 0.6);
-         }},
-        {true,
-         [](auto& strip) {
-             strip.setSearchTimeRange(0.5, 0.599989);
-         }},
-        {true,
-         [](auto& strip) {
-             strip.resetSearchTimeRange();
-         }},
-        {true,
-         [](auto& strip) {
-             strip.displaySearchTimeRange(false);
-         }},
+    const std::vector<Act> same{
+        [](LoggedStrip& strip) { strip.setViewArea(0.2); },
+        [](LoggedStrip& strip) { strip.onCenterPositionChanged(0.3); },
+        [](LoggedStrip& strip) { strip.onIndicatorPositionChanged(5, 0.0); },
+        [](LoggedStrip& strip) { strip.setSearchTimeRange(0.500009, 0.599991); },
     };
-    for (const auto& setter : cases) {
+    std::vector<Act> setters{
+        [](LoggedStrip& strip) { strip.setViewArea(0.3); },
+        [](LoggedStrip& strip) { strip.onCenterPositionChanged(0.4); },
+        [](LoggedStrip& strip) { strip.onIndicatorPositionChanged(5, 0.1); },
+        [](LoggedStrip& strip) { strip.setSearchTimeRange(0.500011, 0.6); },
+        [](LoggedStrip& strip) { strip.setSearchTimeRange(0.5, 0.599989); },
+        [](LoggedStrip& strip) { strip.resetSearchTimeRange(); },
+        [](LoggedStrip& strip) { strip.displaySearchTimeRange(false); },
+    };
+    const std::size_t repainting = setters.size();
+    setters.insert(setters.end(), same.begin(), same.end());
+    for (std::size_t i = 0; i < setters.size(); ++i) {
         LoggedStrip strip;
         strip.setSearchTimeRange(0.5, 0.6);
         strip.displaySearchTimeRange(true);
@@ -312,9 +256,9 @@ void TestTimelineScroll::settersAreSilentAndRepaintChanges()
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents();
         } while (strip.repaintRequests > 0);
-        setter.set(strip);
+        setters[i](strip);
         QCoreApplication::processEvents();
-        QCOMPARE(strip.repaintRequests > 0, setter.repaints);
+        QCOMPARE(strip.repaintRequests > 0, i < repainting);
         QCOMPARE(strip.moves, QList<double>());
     }
 }
@@ -327,7 +271,6 @@ void TestTimelineScroll::paintOrder()
     strip.setIndicatorPosition(0.5);
     const QImage image = strip.grab().toImage();
     const QColor box = POrvGuiTheme::colorGreyhound;
-
     for (const QPoint& corner : {QPoint(41, 1), QPoint(59, 1), QPoint(41, 13), QPoint(59, 10)})
         QCOMPARE(image.pixelColor(corner), box);
     for (const QPoint& outside : {QPoint(40, 7), QPoint(60, 7), QPoint(41, 0), QPoint(41, 14)})
@@ -345,32 +288,25 @@ void TestTimelineScroll::paintOrder()
 void TestTimelineScroll::boxColors()
 {
     LoggedStrip strip;
-    const auto enter = [&](int x) {
-        QEnterEvent event(QPointF(x, middle), QPointF(x, middle), QPointF(x, middle));
+    const auto colorAfter = [&](QEvent&& event) {
         QCoreApplication::sendEvent(&strip, &event);
         return strip.pixel(25, middle);
     };
-    const auto leave = [&] {
-        QEvent event(QEvent::Leave);
-        QCoreApplication::sendEvent(&strip, &event);
-        return strip.pixel(25, middle);
+    const auto enter = [](int x) {
+        return QEnterEvent(QPointF(x, middle), QPointF(x, middle), QPointF(x, middle));
     };
-    QCOMPARE(leave(), POrvGuiTheme::colorGreyhound);
-    QCOMPARE(enter(60), POrvGuiTheme::colorGreyhound);
-    QCOMPARE(enter(40), POrvGuiTheme::colorKoala);
-    QCOMPARE(leave(), POrvGuiTheme::colorGreyhound);
+    QCOMPARE(colorAfter(QEvent(QEvent::Leave)), POrvGuiTheme::colorGreyhound);
+    QCOMPARE(colorAfter(enter(60)), POrvGuiTheme::colorGreyhound);
+    QCOMPARE(colorAfter(enter(40)), POrvGuiTheme::colorKoala);
+    QCOMPARE(colorAfter(QEvent(QEvent::Leave)), POrvGuiTheme::colorGreyhound);
     strip.setHover(true);
     QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorKoala);
     strip.press(30);
+    strip.setOrvaneGuiTheme(false); // the colours stay
     QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorElephant);
-    strip.setOrvaneGuiTheme(false);
-    QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorElephant);
-}
 
-void TestTimelineScroll::inactiveShowsItsBorderOnly()
-{
-    LoggedStrip strip;
-    QCOMPARE(TimelineScroll().isEnabled(), false);
+    // Inactive, the strip shows its border only.
+    QVERIFY(!TimelineScroll().isEnabled());
     strip.setActive(false);
     QVERIFY(!strip.isEnabled());
     QCOMPARE(strip.pixel(0, middle), POrvGuiTheme::colorPanther);
@@ -381,7 +317,7 @@ void TestTimelineScroll::assistiveTechnology()
 {
     static QList<double> reports;
     LoggedStrip strip;
-    QAccessibleInterface* const described = accessible(&strip);
+    QAccessibleInterface* const described = accessible(strip);
     QCOMPARE(described->role(), QAccessible::ScrollBar);
     QCOMPARE(described->text(QAccessible::Name), u"Timeline overview"_s);
     QCOMPARE(described->text(QAccessible::Value), u"30.0 percent"_s);
@@ -397,16 +333,15 @@ void TestTimelineScroll::assistiveTechnology()
         if (event->type() == QAccessible::ValueChanged)
             reports << static_cast<QAccessibleValueChangeEvent*>(event)->value().toDouble();
     });
-    for (const QVariant& unusable : {QVariant(u"x"_s), QVariant(std::nan(""))})
-        value->setCurrentValue(unusable);
-    value->setCurrentValue(0.6);
-    value->setCurrentValue(7);
+    for (const QVariant& wanted : {QVariant(u"x"_s), QVariant(std::nan("")), QVariant(0.6)})
+        setAccessibleValue(strip, wanted);
+    setAccessibleValue(strip, 7);
     strip.onCenterPositionChanged(0.4);
     strip.onCenterPositionChanged(0.4);
     strip.press(40);
     strip.moveTo(60);
     strip.setActive(false);
-    value->setCurrentValue(0.5);
+    setAccessibleValue(strip, 0.5);
     QAccessible::installUpdateHandler(previous);
     QCOMPARE(strip.moves, (QList<double>{0.6, 0.9, 0.6}));
     if (QAccessible::isActive()) // else Qt passes no events on
@@ -415,18 +350,17 @@ void TestTimelineScroll::assistiveTechnology()
 
 void TestTimelineScroll::deletionWithinTheSignal()
 {
-    const std::function<void(LoggedStrip&)> moves[] = {
-        [](auto& strip) { QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(60, middle)); },
-        [](auto& strip) { strip.press(60); },
-        [](auto& strip) { strip.press(30), strip.moveTo(50); },
-        [](auto& strip) { QTest::keyPress(&strip, Qt::Key_End); },
-        [](auto& strip) {
-            accessible(&strip)->valueInterface()->setCurrentValue(0.5);
-        }};
-    for (const auto& move : moves) {
+    const std::vector<Act> acts{
+        [](LoggedStrip& strip) { strip.press(60), strip.release(60); },
+        [](LoggedStrip& strip) { strip.press(60); },
+        [](LoggedStrip& strip) { strip.press(30), strip.moveTo(50); },
+        [](LoggedStrip& strip) { QTest::keyPress(&strip, Qt::Key_End); },
+        [](LoggedStrip& strip) { setAccessibleValue(strip, 0.5); },
+    };
+    for (const Act& act : acts) {
         QPointer<LoggedStrip> strip = new LoggedStrip;
         connect(strip.data(), &TimelineScroll::viewAreaMoved, this, [&] { delete strip.data(); });
-        move(*strip);
+        act(*strip);
         QTRY_VERIFY(!strip);
     }
 }
