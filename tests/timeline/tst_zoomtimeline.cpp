@@ -5,325 +5,265 @@
 #include <CorvelGui/ZoomTimeline>
 #include <CorvelGui/Zoomer>
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QSlider>
-#include <QTest>
-
-#include <memory>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An active timeline in UTC that shows the first hour of ten days.
+class TestedTimeline : public ZoomTimeline
+{
+public:
+    TestedTimeline()
+    {
+        resize(1024, minimumSizeHint().height());
+        show();
+        setTimeZone(u"UTC"_s);
+        setOrvaneGuiTheme(true);
+        setActive(true, false);
+        setTimeLimits(at(0), at(10 * day));
+    }
+
+    QSlider* slider() const { return zoomer()->findChild<QSlider*>(); }
+    QImage strip() const { return timelineScroll()->grab().toImage(); }
+    /// Whether the strip shows the search range at a fraction of its width.
+    bool stripIsMarkedAt(double fraction) const
+    {
+        const QImage image = strip();
+        return isMarked(image.pixelColor(int(image.width() * fraction), image.height() - 3));
+    }
+    bool rulerIsMarked() const { return isMarked(ruler()->grab().toImage().pixelColor(523, 1)); }
+
+private:
+    static bool isMarked(const QColor& color) { return color.blue() > color.red() + 20; }
+};
+
+} // namespace
 
 class TestZoomTimeline : public WarningFreeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void layout();
-    void limitsOfLessThanAPixelChangeNothing();
-    void limitsAndIndicatorReportOnce();
-    void stripFollowsRuler();
-    void rulerFollowsStrip();
+    void limitsReportOnce();
+    void stripAndRulerFollowEachOther();
     void zoomerAndRulerFollowEachOther();
-    void operations_data();
     void operations();
     void searchRangeOnTheStrip();
-    void resultModeHidesTheSearchRange();
     void withoutZoomer();
-    void activity_data();
     void activity();
     void zoneKeepsTheView();
     void hoverReachesTheStrip();
     void deletionInSignals();
-
-private:
-    QImage strip() const { return m_timeline->timelineScroll()->grab().toImage(); }
-    /// Whether the strip shows the search range at a fraction of its width.
-    bool stripIsMarkedAt(double fraction) const;
-    /// Whether the ruler shows the search range on a column.
-    bool rulerIsMarkedAt(int x) const;
-
-    std::unique_ptr<ZoomTimeline> m_timeline;
 };
-
-void TestZoomTimeline::init()
-{
-    WarningFreeTest::init();
-    m_timeline = std::make_unique<ZoomTimeline>();
-    m_timeline->resize(1024, m_timeline->minimumSizeHint().height());
-    m_timeline->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_timeline.get()));
-    m_timeline->setTimeZone(u"UTC"_s);
-    m_timeline->setOrvaneGuiTheme(true);
-    m_timeline->setActive(true, false);
-    m_timeline->setTimeLimits(at(0), at(10 * day));
-}
-
-void TestZoomTimeline::cleanup()
-{
-    m_timeline.reset();
-    ZoomTimeline::setZoomerEnabled(true);
-}
-
-bool TestZoomTimeline::stripIsMarkedAt(double fraction) const
-{
-    const QImage image = strip();
-    const QColor color = image.pixelColor(int(image.width() * fraction), image.height() - 3);
-    return color.blue() > color.red() + 20;
-}
-
-bool TestZoomTimeline::rulerIsMarkedAt(int x) const
-{
-    const QColor color = m_timeline->ruler()->grab().toImage().pixelColor(x, 1);
-    return color.blue() > color.red() + 20;
-}
 
 void TestZoomTimeline::layout()
 {
-    const QRect ruler = m_timeline->ruler()->geometry();
-    const QRect zoomer = m_timeline->zoomer()->geometry();
-    const QRect scroll = m_timeline->timelineScroll()->geometry();
+    TestedTimeline timeline;
+    QVERIFY(QTest::qWaitForWindowExposed(&timeline));
+    const QRect ruler = timeline.ruler()->geometry();
+    const QRect zoomer = timeline.zoomer()->geometry();
+    const QRect scroll = timeline.timelineScroll()->geometry();
     QCOMPARE(ruler.topLeft(), QPoint(2, 2));
-    QCOMPARE(ruler.right(), m_timeline->width() - 3);
-    QCOMPARE(zoomer.width(), 150);
+    QCOMPARE(ruler.right(), timeline.width() - 3);
     QVERIFY(zoomer.top() > ruler.bottom() && zoomer.right() < scroll.left());
     QCOMPARE(scroll.right(), ruler.right());
-    QCOMPARE(m_timeline->zoomer()->findChild<QSlider*>()->maximum(), 8);
+    QCOMPARE(timeline.slider()->maximum(), 8);
 }
 
-void TestZoomTimeline::limitsOfLessThanAPixelChangeNothing()
+void TestZoomTimeline::limitsReportOnce()
 {
-    // An hour on 1000 pixels: one is 3600 ms.
-    QSignalSpy view(m_timeline->ruler(), &Ruler::timeLineViewChanged);
-    m_timeline->setTimeLimits(at(3599), at(10 * day + 3599));
-    QCOMPARE(m_timeline->ruler()->getTimeLimits(), std::pair(at(0), at(10 * day)));
-    m_timeline->setTimeLimits(at(0), at(10 * day + 3600));
-    QCOMPARE(m_timeline->ruler()->getTimeLimits(), std::pair(at(0), at(10 * day + 3600)));
+    TestedTimeline timeline;
+    QSignalSpy view(timeline.ruler(), &Ruler::timeLineViewChanged);
+    // Less than a pixel of 3600 ms changes nothing.
+    timeline.setTimeLimits(at(3599), at(10 * day + 3599));
+    QCOMPARE(timeline.ruler()->getTimeLimits(), std::pair(at(0), at(10 * day)));
+    timeline.setTimeLimits(at(0), at(10 * day + 3600));
+    QCOMPARE(timeline.ruler()->getTimeLimits(), std::pair(at(0), at(10 * day + 3600)));
     QCOMPARE(view.count(), 0);
-}
-
-void TestZoomTimeline::limitsAndIndicatorReportOnce()
-{
-    QSignalSpy view(m_timeline->ruler(), &Ruler::timeLineViewChanged);
-    m_timeline->setTimeLimitsAndIndicatorPosition(at(2 * day), at(12 * day), at(5 * day));
-    QCOMPARE(view.count(), 1);
+    for (int i = 0; i < 2; ++i) {
+        timeline.setTimeLimitsAndIndicatorPosition(at(2 * day), at(12 * day), at(5 * day));
+        QCOMPARE(view.count(), 1);
+    }
     QCOMPARE(view.front().at(4).toBool(), false);
-    QCOMPARE(m_timeline->ruler()->getIndicatorMSecs(), at(5 * day));
-    m_timeline->setTimeLimitsAndIndicatorPosition(at(2 * day), at(12 * day), at(5 * day));
-    QCOMPARE(view.count(), 1);
+    QCOMPARE(timeline.ruler()->getIndicatorMSecs(), at(5 * day));
 }
 
-void TestZoomTimeline::stripFollowsRuler()
+void TestZoomTimeline::stripAndRulerFollowEachOther()
 {
-    const TimelineScroll* scroll = m_timeline->timelineScroll();
-    m_timeline->ruler()->changeLevel(4, 0.0);
+    TestedTimeline timeline;
+    TimelineScroll* scroll = timeline.timelineScroll();
+    timeline.ruler()->changeLevel(4, 0.0);
     QCOMPARE(scroll->viewArea(), 0.1);
     QCOMPARE(scroll->centerPosition(), 0.05);
-    m_timeline->setIndicatorPosition(at(5 * day));
+    QSignalSpy center(timeline.ruler(), &Ruler::centerPositionChanged);
+    QTest::mouseClick(scroll, Qt::LeftButton, {}, QPoint(scroll->width() - 10, 5));
+    QVERIFY(timeline.ruler()->beginTime() > at(20 * hour));
+    QVERIFY(timeline.ruler()->beginTime() < at(28 * hour));
+    QCOMPARE(center.count(), 0);
+
+    timeline.setIndicatorPosition(at(5 * day));
     QCOMPARE(scroll->centerPosition(), 0.45);
     // The same view is another part of a longer period.
-    m_timeline->setTimeLimits(at(0), at(20 * day));
+    timeline.setTimeLimits(at(0), at(20 * day));
     QCOMPARE(scroll->viewArea(), 0.05);
     QCOMPARE(scroll->centerPosition(), 0.225);
-    m_timeline->resetTimeline();
+    timeline.resetTimeline();
     QCOMPARE(scroll->viewArea(), 0.0);
-}
-
-void TestZoomTimeline::rulerFollowsStrip()
-{
-    m_timeline->ruler()->changeLevel(4, 0.0);
-    QSignalSpy center(m_timeline->ruler(), &Ruler::centerPositionChanged);
-    TimelineScroll* scroll = m_timeline->timelineScroll();
-    QTest::mouseClick(scroll, Qt::LeftButton, {}, QPoint(scroll->width() - 10, 5));
-    QVERIFY(m_timeline->ruler()->beginTime() > at(20 * hour));
-    QVERIFY(m_timeline->ruler()->beginTime() < at(28 * hour));
-    QCOMPARE(center.count(), 0);
 }
 
 void TestZoomTimeline::zoomerAndRulerFollowEachOther()
 {
-    auto* slider = m_timeline->zoomer()->findChild<QSlider*>();
-    QSignalSpy levels(m_timeline->ruler(), &Ruler::changeSliderZoom);
-    QSignalSpy requests(m_timeline->zoomer(), &Zoomer::zoomerOut);
-
-    m_timeline->ruler()->changeLevel(4, 0.5);
-    QCOMPARE(slider->value(), 4);
+    TestedTimeline timeline;
+    QSignalSpy levels(timeline.ruler(), &Ruler::changeSliderZoom);
+    QSignalSpy requests(timeline.zoomer(), &Zoomer::zoomerOut);
+    timeline.ruler()->changeLevel(4, 0.5);
+    QCOMPARE(timeline.slider()->value(), 4);
     QCOMPARE(requests.count(), 0);
     // Two requests, one change.
-    m_timeline->zoomer()->onZoomOutClicked(false);
+    timeline.zoomer()->onZoomOutClicked(false);
     QCOMPARE(requests.count(), 2);
-    QCOMPARE(m_timeline->ruler()->level(), 5);
+    QCOMPARE(timeline.ruler()->level(), 5);
     QCOMPARE(levels.count(), 2);
-    // There is nothing wider than ten days, so the slider snaps back from where it was dragged.
-    m_timeline->ruler()->changeLevel(8, 0.5);
-    slider->setValue(2);
-    QCOMPARE(m_timeline->ruler()->level(), 2);
-    QCOMPARE(m_timeline->timelineScroll()->viewArea(), 3.0 * hour / (10 * day));
-}
-
-void TestZoomTimeline::operations_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<bool>("flagB");
-    QTest::addColumn<bool>("searchShown");
-    QTest::addColumn<bool>("zooms");
-
-    QTest::newRow("unknown") << 0 << false << false << false;
-    QTest::newRow("search range") << 1 << false << true << true;
-    QTest::newRow("search range without zoom") << 1 << true << true << false;
-    QTest::newRow("result range") << 5 << false << false << true;
-    QTest::newRow("result range without zoom") << 5 << true << false << false;
-    QTest::newRow("marked result range") << 6 << false << false << true;
-    QTest::newRow("begin-marked result range") << 7 << true << false << false;
-    QTest::newRow("beyond") << 8 << false << false << false;
+    timeline.ruler()->changeLevel(8, 0.5);
+    timeline.slider()->setValue(2);
+    QCOMPARE(timeline.ruler()->level(), 2);
+    QCOMPARE(timeline.timelineScroll()->viewArea(), 3.0 * hour / (10 * day));
 }
 
 void TestZoomTimeline::operations()
 {
-    QFETCH(int, code);
-    QFETCH(bool, flagB);
-    QFETCH(bool, searchShown);
-    QFETCH(bool, zooms);
-
-    m_timeline->ruler()->changeLevel(8, 0.5);
-    const auto perform = [&](int operation) {
-        m_timeline->onZoomTimeLineOperation(
-            {.code = operation, .from = timeAt(4 * day), .to = timeAt(6 * day), .flagB = flagB});
-    };
-    perform(code);
-    QCOMPARE(m_timeline->ruler()->level(), zooms ? 5 : 8);
-    QCOMPARE(stripIsMarkedAt(0.5), searchShown);
-    QCOMPARE(rulerIsMarkedAt(523), searchShown);
-    perform(4);
-    QVERIFY(!stripIsMarkedAt(0.5) && !rulerIsMarkedAt(523));
-    perform(3);
-    QCOMPARE(stripIsMarkedAt(0.5), searchShown);
-    perform(2);
-    perform(3);
-    QVERIFY(!stripIsMarkedAt(0.5) && !rulerIsMarkedAt(523));
+    const struct
+    {
+        int code;
+        bool flagB, searchShown, zooms;
+    } cases[] = {{0, false, false, false}, {1, false, true, true},  {1, true, true, false},
+                 {5, false, false, true},  {5, true, false, false}, {6, false, false, true},
+                 {7, true, false, false},  {8, false, false, false}};
+    for (const auto& operation : cases) {
+        TestedTimeline timeline;
+        timeline.ruler()->changeLevel(8, 0.5);
+        const auto shownAfter = [&](int code) {
+            timeline.onZoomTimeLineOperation({.code = code,
+                                              .from = timeAt(4 * day),
+                                              .to = timeAt(6 * day),
+                                              .flagB = operation.flagB});
+            return std::pair(timeline.stripIsMarkedAt(0.5), timeline.rulerIsMarked());
+        };
+        const std::pair nowhere(false, false);
+        const std::pair shown(operation.searchShown, operation.searchShown);
+        QCOMPARE(shownAfter(operation.code), shown);
+        QCOMPARE(timeline.ruler()->level(), operation.zooms ? 5 : 8);
+        QCOMPARE(shownAfter(4), nowhere);
+        QCOMPARE(shownAfter(3), shown);
+        QCOMPARE(shownAfter(2), nowhere);
+        QCOMPARE(shownAfter(3), nowhere);
+    }
 }
 
 void TestZoomTimeline::searchRangeOnTheStrip()
 {
-    m_timeline->setSearchTimeRange(timeAt(4 * day), timeAt(6 * day), false);
-    QVERIFY(!stripIsMarkedAt(0.35) && stripIsMarkedAt(0.45) && stripIsMarkedAt(0.55) &&
-            !stripIsMarkedAt(0.65));
-    m_timeline->setTimeLimits(at(0), at(20 * day));
-    QVERIFY(stripIsMarkedAt(0.25) && !stripIsMarkedAt(0.45));
-}
-
-void TestZoomTimeline::resultModeHidesTheSearchRange()
-{
-    m_timeline->setResultMode(true);
-    m_timeline->setSearchTimeRange(timeAt(4 * day), timeAt(6 * day), false);
-    QVERIFY(!stripIsMarkedAt(0.5));
-    m_timeline->setResultMode(false);
-    m_timeline->showSearchTimeRange();
-    QVERIFY(stripIsMarkedAt(0.5));
+    TestedTimeline timeline;
+    timeline.setResultMode(true);
+    timeline.setSearchTimeRange(timeAt(4 * day), timeAt(6 * day), false);
+    QVERIFY(!timeline.stripIsMarkedAt(0.5));
+    timeline.setResultMode(false);
+    timeline.showSearchTimeRange();
+    for (const double fraction : {0.35, 0.45, 0.55, 0.65})
+        QCOMPARE(timeline.stripIsMarkedAt(fraction), qAbs(fraction - 0.5) < 0.1);
+    timeline.setTimeLimits(at(0), at(20 * day));
+    QVERIFY(timeline.stripIsMarkedAt(0.25) && !timeline.stripIsMarkedAt(0.45));
 }
 
 void TestZoomTimeline::withoutZoomer()
 {
     ZoomTimeline::setZoomerEnabled(false);
-    ZoomTimeline timeline;
+    TestedTimeline timeline;
+    ZoomTimeline::setZoomerEnabled(true);
     QVERIFY(!timeline.zoomer());
-    timeline.setActive(true, false);
-    timeline.setTimeLimits(at(0), at(10 * day));
     timeline.ruler()->changeLevel(4, 0.5);
     QCOMPARE(timeline.timelineScroll()->viewArea(), 0.1);
 }
 
-void TestZoomTimeline::activity_data()
-{
-    QTest::addColumn<bool>("active");
-    QTest::addColumn<bool>("blocked");
-
-    QTest::newRow("active") << true << false;
-    QTest::newRow("blocked") << true << true;
-    QTest::newRow("inactive") << false << false;
-    QTest::newRow("inactive and blocked") << false << true;
-}
-
 void TestZoomTimeline::activity()
 {
-    QFETCH(bool, active);
-    QFETCH(bool, blocked);
-    m_timeline->setActive(active, blocked);
-    const bool usable = active && !blocked;
-    QCOMPARE(m_timeline->isEnabled(), active);
-    QCOMPARE(m_timeline->zoomer()->isEnabled(), usable);
-    QCOMPARE(m_timeline->timelineScroll()->isEnabled(), usable);
-    QSignalSpy clicks(m_timeline->ruler(), &Ruler::indicatorPositionChanged);
-    if (active)
-        QTest::mouseClick(m_timeline->ruler(), Qt::LeftButton, {}, QPoint(500, 40));
-    QCOMPARE(clicks.count(), usable ? 1 : 0);
+    for (const bool active : {true, false}) {
+        for (const bool blocked : {true, false}) {
+            TestedTimeline timeline;
+            timeline.setActive(active, blocked);
+            const bool usable = active && !blocked;
+            QCOMPARE(timeline.isEnabled(), active);
+            QCOMPARE(timeline.zoomer()->isEnabled(), usable);
+            QCOMPARE(timeline.timelineScroll()->isEnabled(), usable);
+            QSignalSpy clicks(timeline.ruler(), &Ruler::indicatorPositionChanged);
+            if (active)
+                QTest::mouseClick(timeline.ruler(), Qt::LeftButton, {}, QPoint(500, 40));
+            QCOMPARE(clicks.count(), usable ? 1 : 0);
+        }
+    }
 }
 
 void TestZoomTimeline::zoneKeepsTheView()
 {
-    m_timeline->ruler()->changeLevel(4, 0.5);
-    m_timeline->ruler()->onTimelineOffsetChanged(0.4);
-    m_timeline->setIndicatorPosition(at(4 * day));
-    const quint64 begin = m_timeline->ruler()->beginTime();
-    QSignalSpy view(m_timeline->ruler(), &Ruler::timeLineViewChanged);
-
-    m_timeline->setTimeZone(u"Asia/Kathmandu"_s);
-    QCOMPARE(m_timeline->ruler()->getIndicatorMSecs(), at(4 * day));
-    QVERIFY(qAbs(qint64(m_timeline->ruler()->beginTime()) - qint64(begin)) <= 1);
+    TestedTimeline timeline;
+    timeline.ruler()->changeLevel(4, 0.5);
+    timeline.setIndicatorPosition(at(4 * day));
+    const quint64 begin = timeline.ruler()->beginTime();
+    QSignalSpy view(timeline.ruler(), &Ruler::timeLineViewChanged);
+    timeline.setTimeZone(u"Asia/Kathmandu"_s);
+    QCOMPARE(timeline.ruler()->getIndicatorMSecs(), at(4 * day));
+    QVERIFY(qAbs(qint64(timeline.ruler()->beginTime()) - qint64(begin)) <= 1);
     QCOMPARE(view.count(), 1);
-    const QDateTime viewBegin = view.front().at(3).toDateTime();
-    QCOMPARE(viewBegin.offsetFromUtc(), 20'700);
+    QCOMPARE(view.front().at(3).toDateTime().offsetFromUtc(), 20'700);
 }
 
 void TestZoomTimeline::hoverReachesTheStrip()
 {
-    m_timeline->ruler()->changeLevel(4, 0.0);
-    const auto boxColor = [this] {
-        return strip().pixelColor(40, strip().height() / 2);
+    TestedTimeline timeline;
+    timeline.ruler()->changeLevel(4, 0.0);
+    const auto boxColor = [&] {
+        return timeline.strip().pixelColor(40, timeline.strip().height() / 2);
     };
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(m_timeline->ruler(), &leave);
+    leaveMouse(*timeline.ruler());
     const QColor idle = boxColor();
     QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
-    QApplication::sendEvent(m_timeline->ruler(), &enter);
+    QApplication::sendEvent(timeline.ruler(), &enter);
     QVERIFY(boxColor() != idle);
-    QApplication::sendEvent(m_timeline->ruler(), &leave);
+    leaveMouse(*timeline.ruler());
     QCOMPARE(boxColor(), idle);
 }
 
 void TestZoomTimeline::deletionInSignals()
 {
-    const std::vector<std::function<void(ZoomTimeline&)>> acts{
-        [](ZoomTimeline& t) { t.setTimeLimits(at(day), at(5 * day)); },
-        [](ZoomTimeline& t) { t.setIndicatorPosition(at(4 * day)); },
-        [](ZoomTimeline& t) {
+    const std::vector<std::function<void(TestedTimeline&)>> acts{
+        [](TestedTimeline& t) { t.setTimeLimits(at(day), at(5 * day)); },
+        [](TestedTimeline& t) { t.setIndicatorPosition(at(4 * day)); },
+        [](TestedTimeline& t) {
             t.setTimeLimitsAndIndicatorPosition(at(day), at(5 * day), at(3 * day));
         },
-        [](ZoomTimeline& t) { t.setTimeZone(u"Asia/Tokyo"_s); },
-        [](ZoomTimeline& t) {
+        [](TestedTimeline& t) { t.setTimeZone(u"Asia/Tokyo"_s); },
+        [](TestedTimeline& t) {
             // The first click brings the slider to the level that is current already.
             const QPointer<Zoomer> zoomer = t.zoomer();
             for (int click = 0; click < 2 && zoomer; ++click)
                 zoomer->onZoomOutClicked(false);
         },
-        [](ZoomTimeline& t) { t.zoomer()->findChild<QSlider*>()->setValue(4); },
-        [](ZoomTimeline& t) {
+        [](TestedTimeline& t) { t.slider()->setValue(4); },
+        [](TestedTimeline& t) {
             QTest::mouseClick(t.timelineScroll(), Qt::LeftButton, {}, QPoint(700, 5));
         },
-        [](ZoomTimeline& t) { t.setSearchTimeRange(timeAt(day), timeAt(2 * day), true); },
-        [](ZoomTimeline& t) { QTest::mouseClick(t.ruler(), Qt::LeftButton, {}, QPoint(500, 40)); },
+        [](TestedTimeline& t) { t.setSearchTimeRange(timeAt(day), timeAt(2 * day), true); },
+        [](TestedTimeline& t) {
+            QTest::mouseClick(t.ruler(), Qt::LeftButton, {}, {500, 40});
+        },
     };
     for (const auto& act : acts) {
-        QPointer<ZoomTimeline> timeline = new ZoomTimeline;
-        timeline->resize(1024, 80);
-        timeline->show();
-        timeline->setActive(true, false);
-        timeline->setTimeLimits(at(0), at(10 * day));
+        QPointer<TestedTimeline> timeline = new TestedTimeline;
         QObject context;
         const auto remove = [&] {
             delete timeline;
