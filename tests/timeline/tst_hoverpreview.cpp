@@ -12,6 +12,13 @@ namespace {
 const HoverPreview::Clock::time_point start{1000s};
 constexpr qint64 viewStart = 1'000'000;
 
+HoverPreview started()
+{
+    HoverPreview hover;
+    hover.start(QPoint(100, 5), viewStart, start);
+    return hover;
+}
+
 } // namespace
 
 class TestHoverPreview : public WarningFreeTest
@@ -19,81 +26,55 @@ class TestHoverPreview : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void firstPreview_data();
     void firstPreview();
-    void visiblePreviewFollows_data();
     void visiblePreviewFollows();
     void movingMouseEarnsNothing();
     void startForgetsTheLastPreview();
 };
 
-void TestHoverPreview::firstPreview_data()
-{
-    QTest::addColumn<bool>("pending");
-    QTest::addColumn<bool>("dragging");
-    QTest::addColumn<int>("restedMsecs");
-    QTest::addColumn<bool>("due");
-
-    QTest::newRow("not yet") << false << false << 300 << false;
-    QTest::newRow("now") << false << false << 301 << true;
-    QTest::newRow("pending, not yet") << true << false << 150 << false;
-    QTest::newRow("pending, now") << true << false << 151 << true;
-    QTest::newRow("dragging") << false << true << 1000 << false;
-    QTest::newRow("pending and dragging") << true << true << 1000 << false;
-}
-
 void TestHoverPreview::firstPreview()
 {
-    QFETCH(bool, pending);
-    QFETCH(bool, dragging);
-    QFETCH(int, restedMsecs);
-
-    HoverPreview hover;
-    hover.start(QPoint(100, 5), viewStart, start);
-    const HoverPreview::Situation situation{
-        .dragging = dragging, .pending = pending, .viewStart = viewStart};
-    QTEST(hover.isDue(situation, start + std::chrono::milliseconds(restedMsecs)), "due");
-}
-
-void TestHoverPreview::visiblePreviewFollows_data()
-{
-    QTest::addColumn<int>("mouseMove");
-    QTest::addColumn<qint64>("viewMove");
-    QTest::addColumn<bool>("markerHovered");
-    QTest::addColumn<int>("restedMsecs");
-    QTest::addColumn<bool>("due");
-
-    QTest::newRow("nothing moved") << 0 << qint64(0) << false << 1000 << false;
-    QTest::newRow("3 pixels") << 3 << qint64(0) << false << 1000 << false;
-    QTest::newRow("4 pixels") << 4 << qint64(0) << false << 101 << true;
-    QTest::newRow("4 pixels back") << -4 << qint64(0) << false << 101 << true;
-    QTest::newRow("4 pixels, too soon") << 4 << qint64(0) << false << 100 << false;
-    QTest::newRow("view by 500 ms") << 0 << qint64(500) << false << 1000 << false;
-    QTest::newRow("view by 501 ms") << 0 << qint64(-501) << false << 101 << true;
-    QTest::newRow("on a marker") << 0 << qint64(0) << true << 101 << true;
-    QTest::newRow("on a marker, too soon") << 0 << qint64(0) << true << 100 << false;
+    const struct
+    {
+        bool pending, dragging;
+        std::chrono::milliseconds rested;
+        bool due;
+    } cases[] = {{false, false, 300ms, false}, {false, false, 301ms, true},
+                 {true, false, 150ms, false},  {true, false, 151ms, true},
+                 {false, true, 1000ms, false}, {true, true, 1000ms, false}};
+    for (const auto& [pending, dragging, rested, due] : cases) {
+        const HoverPreview::Situation situation{
+            .dragging = dragging, .pending = pending, .viewStart = viewStart};
+        QCOMPARE(started().isDue(situation, start + rested), due);
+    }
 }
 
 void TestHoverPreview::visiblePreviewFollows()
 {
-    QFETCH(int, mouseMove);
-    QFETCH(qint64, viewMove);
-    QFETCH(bool, markerHovered);
-    QFETCH(int, restedMsecs);
-
-    HoverPreview hover;
-    hover.start(QPoint(100, 5), viewStart, start);
-    hover.emitted(viewStart);
-    hover.mouseMoved(QPoint(100 + mouseMove, 25), start);
-    const HoverPreview::Situation situation{
-        .visible = true, .markerHovered = markerHovered, .viewStart = viewStart + viewMove};
-    QTEST(hover.isDue(situation, start + std::chrono::milliseconds(restedMsecs)), "due");
+    const struct
+    {
+        int mouseMove;
+        qint64 viewMove;
+        bool markerHovered;
+        std::chrono::milliseconds rested;
+        bool due;
+    } cases[] = {
+        {0, 0, false, 1000ms, false},  {3, 0, false, 1000ms, false}, {4, 0, false, 101ms, true},
+        {-4, 0, false, 101ms, true},   {4, 0, false, 100ms, false},  {0, 500, false, 1000ms, false},
+        {0, -501, false, 101ms, true}, {0, 0, true, 101ms, true},    {0, 0, true, 100ms, false}};
+    for (const auto& [mouseMove, viewMove, markerHovered, rested, due] : cases) {
+        HoverPreview hover = started();
+        hover.emitted(viewStart);
+        hover.mouseMoved(QPoint(100 + mouseMove, 25), start);
+        const HoverPreview::Situation situation{
+            .visible = true, .markerHovered = markerHovered, .viewStart = viewStart + viewMove};
+        QCOMPARE(hover.isDue(situation, start + rested), due);
+    }
 }
 
 void TestHoverPreview::movingMouseEarnsNothing()
 {
-    HoverPreview hover;
-    hover.start(QPoint(100, 5), viewStart, start);
+    HoverPreview hover = started();
     for (int i = 1; i <= 50; ++i) {
         hover.mouseMoved(QPoint(100 + i, 5), start + i * 90ms);
         QVERIFY(!hover.isDue({.pending = true, .viewStart = viewStart}, start + i * 90ms + 89ms));
@@ -102,8 +83,7 @@ void TestHoverPreview::movingMouseEarnsNothing()
 
 void TestHoverPreview::startForgetsTheLastPreview()
 {
-    HoverPreview hover;
-    hover.start(QPoint(100, 5), viewStart, start);
+    HoverPreview hover = started();
     hover.emitted(viewStart);
     QCOMPARE(hover.lastPosition(), QPoint(100, 5));
     hover.start(QPoint(100, 5), viewStart, start + 1s);
