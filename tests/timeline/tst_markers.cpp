@@ -9,6 +9,7 @@
 #include <algorithm>
 
 using namespace CorvelGui;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -33,22 +34,19 @@ std::vector<int> representatives(const std::vector<MarkerPlace>& places)
     return result;
 }
 
-RulerMarker markerAt(qint64 msecs, const QString& text = {})
-{
-    return {.time = QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC), .text = text};
-}
-
 MarkerStore::Entry entry(qint64 msecs, const QString& text = {})
 {
-    return {.marker = markerAt(msecs, text), .iconKey = -1, .msecs = msecs};
+    return {.marker = {.time = QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC), .text = text},
+            .iconKey = -1,
+            .msecs = msecs};
 }
 
-QStringList texts(const MarkerStore& store)
+QString texts(const MarkerStore& store)
 {
     QStringList result;
     for (std::size_t i = 0; i < store.size(); ++i)
         result << store.marker(i).text;
-    return result;
+    return result.join(u' ');
 }
 
 } // namespace
@@ -58,123 +56,80 @@ class TestMarkers : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void merging_data();
     void merging();
-    void mergingAgreesWithTheRule_data();
     void mergingAgreesWithTheRule();
-    void halfWidths_data();
     void halfWidths();
     void storeKeepsTimeOrder();
-    void storeRemovesTheFirstOfATime();
     void markersAreSeenOnce();
-    void seenMarkersStaySeenWhenOthersCome();
 };
-
-void TestMarkers::merging_data()
-{
-    using Runs = std::vector<MarkerRun>;
-    QTest::addColumn<std::vector<MarkerPlace>>("places");
-    QTest::addColumn<Runs>("runs");
-
-    QTest::newRow("none") << std::vector<MarkerPlace>() << Runs();
-    QTest::newRow("three at one place")
-        << std::vector<MarkerPlace>{{50, 6}, {50, 6}, {50, 6}} << Runs{{0, 2, 1}};
-    QTest::newRow("touching") << std::vector<MarkerPlace>{{50, 6}, {62, 6}} << Runs{{0, 1, 0}};
-    QTest::newRow("a pixel apart")
-        << std::vector<MarkerPlace>{{50, 6}, {63, 6}} << Runs{{0, 0, 0}, {1, 1, 1}};
-    QTest::newRow("a chain breaks where the middle leaves the first")
-        << std::vector<MarkerPlace>{{0, 6}, {10, 6}, {20, 6}, {30, 6}, {40, 6}}
-        << Runs{{0, 2, 1}, {3, 4, 3}};
-    QTest::newRow("different widths")
-        << std::vector<MarkerPlace>{{50, 0}, {58, 8}, {67, 0}} << Runs{{0, 1, 0}, {2, 2, 2}};
-}
 
 void TestMarkers::merging()
 {
-    QFETCH(std::vector<MarkerPlace>, places);
-    QFETCH(std::vector<MarkerRun>, runs);
-    QVERIFY(mergeMarkers(places) == runs);
-}
-
-void TestMarkers::mergingAgreesWithTheRule_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("pixels");
-
-    QTest::newRow("sparse") << 60 << 1900;
-    QTest::newRow("touching here and there") << 200 << 1900;
-    QTest::newRow("crowded") << 5000 << 1900;
-    QTest::newRow("all within a button") << 300 << 10;
+    const struct
+    {
+        std::vector<MarkerPlace> places;
+        std::vector<MarkerRun> runs;
+    } cases[] = {
+        {{}, {}},
+        {{{50, 6}, {50, 6}, {50, 6}}, {{0, 2, 1}}},
+        {{{50, 6}, {62, 6}}, {{0, 1, 0}}}, // touching
+        {{{50, 6}, {63, 6}}, {{0, 0, 0}, {1, 1, 1}}},
+        // A chain breaks where the middle leaves the first.
+        {{{0, 6}, {10, 6}, {20, 6}, {30, 6}, {40, 6}}, {{0, 2, 1}, {3, 4, 3}}},
+        {{{50, 0}, {58, 8}, {67, 0}}, {{0, 1, 0}, {2, 2, 2}}},
+    };
+    for (const auto& [places, runs] : cases)
+        QVERIFY(mergeMarkers(places) == runs);
 }
 
 void TestMarkers::mergingAgreesWithTheRule()
 {
-    QFETCH(int, count);
-    QFETCH(int, pixels);
+    // Sparse, touching here and there, crowded, all within a button.
+    for (const auto& [count, pixels] :
+         {std::pair(60, 1900), {200, 1900}, {5000, 1900}, {300, 10}}) {
+        for (quint32 seed = 1; seed <= 30; ++seed) {
+            QRandomGenerator random(seed);
+            std::vector<MarkerPlace> places;
+            for (int i = 0; i < count; ++i)
+                places.push_back({int(random.bounded(pixels)), int(random.bounded(9))});
+            std::sort(places.begin(), places.end(),
+                      [](const MarkerPlace& a, const MarkerPlace& b) { return a.x < b.x; });
 
-    for (quint32 seed = 1; seed <= 30; ++seed) {
-        QRandomGenerator random(seed);
-        std::vector<MarkerPlace> places;
-        for (int i = 0; i < count; ++i)
-            places.push_back({int(random.bounded(pixels)), int(random.bounded(9))});
-        std::sort(places.begin(), places.end(),
-                  [](const MarkerPlace& a, const MarkerPlace& b) { return a.x < b.x; });
-
-        const std::vector<int> expected = representatives(places);
-        std::size_t next = 0;
-        for (const MarkerRun& run : mergeMarkers(places)) {
-            QCOMPARE(run.first, next);
-            for (; next <= run.last; ++next)
-                QCOMPARE(int(run.representative), expected[next]);
+            const std::vector<int> expected = representatives(places);
+            std::size_t next = 0;
+            for (const MarkerRun& run : mergeMarkers(places)) {
+                QCOMPARE(run.first, next);
+                for (; next <= run.last; ++next)
+                    QCOMPARE(int(run.representative), expected[next]);
+            }
+            QCOMPARE(next, places.size());
         }
-        QCOMPARE(next, places.size());
     }
-}
-
-void TestMarkers::halfWidths_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<double>("fraction");
-    QTest::addColumn<int>("halfWidth");
-
-    QTest::newRow("filled") << 16 << 1.0 << 6;
-    QTest::newRow("three quarters") << 16 << 0.75 << 5;
-    QTest::newRow("a half") << 16 << 0.5 << 3;
-    QTest::newRow("nothing visible") << 16 << 0.0 << 0;
-    QTest::newRow("larger") << 40 << 0.6 << 9;
 }
 
 void TestMarkers::halfWidths()
 {
-    QFETCH(int, width);
-    QFETCH(double, fraction);
-    QTEST(visibleHalfWidth(width, fraction), "halfWidth");
+    QCOMPARE(visibleHalfWidth(16, 1.0), 6);
+    QCOMPARE(visibleHalfWidth(16, 0.75), 5);
+    QCOMPARE(visibleHalfWidth(16, 0.5), 3);
+    QCOMPARE(visibleHalfWidth(16, 0.0), 0);
+    QCOMPARE(visibleHalfWidth(40, 0.6), 9);
 }
 
 void TestMarkers::storeKeepsTimeOrder()
 {
     MarkerStore store;
-    store.add({entry(30, QStringLiteral("c")), entry(10, QStringLiteral("a"))});
-    store.add({entry(20, QStringLiteral("b")), entry(10, QStringLiteral("a2")),
-               entry(40, QStringLiteral("d"))});
-    QCOMPARE(texts(store).join(u' '), QStringLiteral("a a2 b c d"));
+    store.add({entry(30, u"c"_s), entry(10, u"a"_s)});
+    store.add({entry(20, u"b"_s), entry(10, u"a2"_s), entry(10, u"a3"_s), entry(40, u"d"_s)});
+    QCOMPARE(texts(store), u"a a2 a3 b c d"_s);
     QCOMPARE(store.firstFrom(10), std::size_t(0));
-    QCOMPARE(store.firstFrom(11), std::size_t(2));
+    QCOMPARE(store.firstFrom(11), std::size_t(3));
     QCOMPARE(store.firstFrom(41), store.size());
-}
-
-void TestMarkers::storeRemovesTheFirstOfATime()
-{
-    MarkerStore store;
-    store.add({entry(10, QStringLiteral("a1")), entry(10, QStringLiteral("a2")),
-               entry(10, QStringLiteral("a3")), entry(20, QStringLiteral("b")),
-               entry(30, QStringLiteral("c"))});
+    // The first of a time goes first.
     store.remove({30, 15, 10});
-    QCOMPARE(texts(store).join(u' '), QStringLiteral("a2 a3 b"));
-    store.remove({10, 10, 10, 10});
-    QCOMPARE(texts(store).join(u' '), QStringLiteral("b"));
-    store.remove({99});
-    QCOMPARE(store.size(), std::size_t(1));
+    QCOMPARE(texts(store), u"a2 a3 b d"_s);
+    store.remove({10, 10, 10, 10, 99});
+    QCOMPARE(texts(store), u"b d"_s);
 }
 
 void TestMarkers::markersAreSeenOnce()
@@ -185,7 +140,6 @@ void TestMarkers::markersAreSeenOnce()
     for (int i = 0; i < 100; ++i)
         entries.push_back(entry(i));
     store.add(std::move(entries));
-
     QRandomGenerator random(3);
     std::vector<bool> seen(100, false);
     for (int round = 0; round < 200; ++round) {
@@ -199,17 +153,15 @@ void TestMarkers::markersAreSeenOnce()
         }
         QVERIFY(store.takeUnseen(first, last) == expected);
     }
-}
 
-void TestMarkers::seenMarkersStaySeenWhenOthersCome()
-{
-    MarkerStore store;
-    store.add({entry(10), entry(30)});
-    store.takeUnseen(0, 2);
-    store.add({entry(20)});
-    QVERIFY(store.takeUnseen(0, 3) == std::vector<std::size_t>{1});
-    store.remove({10});
-    QVERIFY(store.takeUnseen(0, 2).empty());
+    // They stay seen when others come and go.
+    MarkerStore changing;
+    changing.add({entry(10), entry(30)});
+    changing.takeUnseen(0, 2);
+    changing.add({entry(20)});
+    QVERIFY(changing.takeUnseen(0, 3) == std::vector<std::size_t>{1});
+    changing.remove({10});
+    QVERIFY(changing.takeUnseen(0, 2).empty());
 }
 
 QTEST_GUILESS_MAIN(TestMarkers)
