@@ -43,101 +43,74 @@ class TestTrackSegments : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void joining_data();
     void joining();
-    void differences_data();
     void differences();
-    void segmentsFillTheColumnsOfTheirSpans_data();
     void segmentsFillTheColumnsOfTheirSpans();
     void threeStates();
     void limitsBeyondTracks();
 };
 
-void TestTrackSegments::joining_data()
-{
-    QTest::addColumn<TimeSpans>("spans");
-    QTest::addColumn<TimeSpans>("expected");
-
-    QTest::newRow("none") << TimeSpans() << TimeSpans();
-    QTest::newRow("unsorted") << TimeSpans{{5, 6}, {1, 2}} << TimeSpans{{1, 2}, {5, 6}};
-    QTest::newRow("overlapping") << TimeSpans{{1, 4}, {3, 6}} << TimeSpans{{1, 6}};
-    QTest::newRow("touching") << TimeSpans{{1, 3}, {3, 6}} << TimeSpans{{1, 6}};
-    QTest::newRow("one inside another") << TimeSpans{{1, 9}, {2, 3}, {8, 10}} << TimeSpans{{1, 10}};
-    QTest::newRow("empty and reversed") << TimeSpans{{4, 4}, {9, 2}, {1, 2}} << TimeSpans{{1, 2}};
-}
-
 void TestTrackSegments::joining()
 {
-    QFETCH(TimeSpans, spans);
-    QTEST(joined(spans), "expected");
-}
-
-void TestTrackSegments::differences_data()
-{
-    QTest::addColumn<TimeSpans>("spans");
-    QTest::addColumn<TimeSpans>("without");
-    QTest::addColumn<TimeSpans>("expected");
-
-    QTest::newRow("nothing taken") << TimeSpans{{1, 9}} << TimeSpans() << TimeSpans{{1, 9}};
-    QTest::newRow("holes") << TimeSpans{{1, 9}} << TimeSpans{{2, 3}, {5, 6}}
-                           << TimeSpans{{1, 2}, {3, 5}, {6, 9}};
-    QTest::newRow("over the ends")
-        << TimeSpans{{1, 9}} << TimeSpans{{0, 2}, {8, 12}} << TimeSpans{{2, 8}};
-    QTest::newRow("everything") << TimeSpans{{1, 9}} << TimeSpans{{0, 9}} << TimeSpans();
-    QTest::newRow("one hole across two spans")
-        << TimeSpans{{1, 4}, {6, 9}} << TimeSpans{{3, 7}} << TimeSpans{{1, 3}, {7, 9}};
+    const std::pair<TimeSpans, TimeSpans> cases[] = {
+        {{}, {}},
+        {{{5, 6}, {1, 2}}, {{1, 2}, {5, 6}}},
+        {{{1, 4}, {3, 6}}, {{1, 6}}},
+        {{{1, 3}, {3, 6}}, {{1, 6}}},
+        {{{1, 9}, {2, 3}, {8, 10}}, {{1, 10}}},
+        {{{4, 4}, {9, 2}, {1, 2}}, {{1, 2}}}, // empty and reversed ones
+    };
+    for (const auto& [spans, expected] : cases)
+        QCOMPARE(joined(spans), expected);
 }
 
 void TestTrackSegments::differences()
 {
-    QFETCH(TimeSpans, spans);
-    QFETCH(TimeSpans, without);
-    QTEST(difference(spans, without), "expected");
-}
-
-void TestTrackSegments::segmentsFillTheColumnsOfTheirSpans_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<qint64>("longest");
-
-    QTest::newRow("a few long ones") << 10 << day;
-    QTest::newRow("about a column each") << 800 << 30 * minute;
-    QTest::newRow("many to a column") << 100'000 << second;
+    const struct
+    {
+        TimeSpans spans, without, expected;
+    } cases[] = {{{{1, 9}}, {}, {{1, 9}}},
+                 {{{1, 9}}, {{2, 3}, {5, 6}}, {{1, 2}, {3, 5}, {6, 9}}},
+                 {{{1, 9}}, {{0, 2}, {8, 12}}, {{2, 8}}},
+                 {{{1, 9}}, {{0, 9}}, {}},
+                 {{{1, 4}, {6, 9}}, {{3, 7}}, {{1, 3}, {7, 9}}}};
+    for (const auto& [spans, without, expected] : cases)
+        QCOMPARE(difference(spans, without), expected);
 }
 
 void TestTrackSegments::segmentsFillTheColumnsOfTheirSpans()
 {
-    QFETCH(int, count);
-    QFETCH(qint64, longest);
+    // A few long ones, about a column each, many to a column.
+    const std::pair<int, qint64> cases[] = {{10, day}, {800, 30 * minute}, {100'000, second}};
+    for (const auto& [count, longest] : cases) {
+        QRandomGenerator random(7);
+        TimeSpans spans;
+        for (int i = 0; i < count; ++i) {
+            // Some lie outside the view.
+            const qint64 begin = monday - day + qint64(random.bounded(16.0 * day));
+            spans.push_back({begin, begin + 1 + qint64(random.bounded(double(longest)))});
+        }
+        spans = joined(std::move(spans));
 
-    QRandomGenerator random(7);
-    TimeSpans spans;
-    for (int i = 0; i < count; ++i) {
-        // Some lie outside the view.
-        const qint64 begin = monday - day + qint64(random.bounded(16.0 * day));
-        spans.push_back({begin, begin + 1 + qint64(random.bounded(double(longest)))});
+        const TimeScale scale = scaleOf(14 * day);
+        QSet<int> expected;
+        for (const TimeSpan& span : spans) {
+            const double start = scale.xAt(span.begin);
+            const double end = scale.xAt(span.end);
+            if (start < width - 5 && end > 5)
+                addColumns(expected, start, end);
+        }
+        const TrackSegmentList segments = visibleSegments(spans, scale);
+        QVERIFY(segments.size() <= size_t(width));
+        QSet<int> columns;
+        double last = 0;
+        for (const TrackSegment& segment : segments) {
+            QVERIFY(std::floor(segment.start) > std::floor(last));
+            last = segment.end;
+            addColumns(columns, segment.start, segment.end);
+        }
+        QCOMPARE(columns, expected);
     }
-    spans = joined(std::move(spans));
-
-    const TimeScale scale = scaleOf(14 * day);
-    QSet<int> expected;
-    for (const TimeSpan& span : spans) {
-        const double start = scale.xAt(span.begin);
-        const double end = scale.xAt(span.end);
-        if (start < width - 5 && end > 5)
-            addColumns(expected, start, end);
-    }
-
-    const TrackSegmentList segments = visibleSegments(spans, scale);
-    QVERIFY(segments.size() <= size_t(width));
-    QSet<int> columns;
-    double last = 0;
-    for (const TrackSegment& segment : segments) {
-        QVERIFY(std::floor(segment.start) > std::floor(last));
-        last = segment.end;
-        addColumns(columns, segment.start, segment.end);
-    }
-    QCOMPARE(columns, expected);
 }
 
 void TestTrackSegments::threeStates()
