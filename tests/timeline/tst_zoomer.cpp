@@ -10,7 +10,6 @@
 #include <QToolButton>
 #include <QTranslator>
 
-#include <functional>
 #include <utility>
 
 using namespace CorvelGui;
@@ -18,18 +17,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int widest = 8;
-
 class LoggedZoomer : public Zoomer
 {
 public:
-    LoggedZoomer() : Zoomer(widest)
+    LoggedZoomer() : Zoomer(8)
     {
         show();
-        connect(this, &Zoomer::zoomerIn, this,
-                [this](int level, double anchor) { log << u"in %1 %2"_s.arg(level).arg(anchor); });
-        connect(this, &Zoomer::zoomerOut, this,
-                [this](int level, double anchor) { log << u"out %1 %2"_s.arg(level).arg(anchor); });
+        const auto logged = [this](const QString& direction) {
+            return [=, this](int level, double anchor) {
+                log << direction + u" %1 %2"_s.arg(level).arg(anchor);
+            };
+        };
+        connect(this, &Zoomer::zoomerIn, this, logged(u"in"_s));
+        connect(this, &Zoomer::zoomerOut, this, logged(u"out"_s));
     }
 
     QSlider* slider() const { return findChild<QSlider*>(); }
@@ -67,10 +67,8 @@ class TestZoomer : public WarningFreeTest
 
 private Q_SLOTS:
     void size();
-    void firstLevels();
+    void levels();
     void buttonsReportTwice();
-    void sliderReportsEachValue();
-    void followsWithoutEcho();
     void textsFollowTheLanguage();
     void deletionWithinASignal();
 };
@@ -88,10 +86,9 @@ void TestZoomer::size()
         QVERIFY(!zoomer.button(in)->icon().pixmap(15).isNull());
 }
 
-void TestZoomer::firstLevels()
+void TestZoomer::levels()
 {
     LoggedZoomer zoomer;
-    QCOMPARE(zoomer.slider()->value(), 0);
     zoomer.onChangeSliderPosition(1);
     QCOMPARE(zoomer.slider()->value(), 0);
     zoomer.clickIn();
@@ -99,8 +96,15 @@ void TestZoomer::firstLevels()
     // Level 1 is current already, so only the button reports.
     zoomer.clickOut();
     QCOMPARE(zoomer.takeLog(), QStringList{u"out 1 0.5"_s});
-    zoomer.onChangeSliderPosition(2);
-    QCOMPARE(zoomer.slider()->value(), 2);
+    for (const auto& [level, shown] : {std::pair(2, 2), {99, 8}, {-3, 0}}) {
+        zoomer.onChangeSliderPosition(level);
+        QCOMPARE(zoomer.slider()->value(), shown);
+    }
+    QCOMPARE(zoomer.takeLog(), QStringList());
+    for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Left, Qt::Key_Home})
+        QTest::keyClick(zoomer.slider(), key);
+    QCOMPARE(zoomer.takeLog(),
+             (QStringList{u"out 8 0.5"_s, u"in 7 0.5"_s, u"in 6 0.5"_s, u"in 0 0.5"_s}));
 }
 
 void TestZoomer::buttonsReportTwice()
@@ -120,43 +124,16 @@ void TestZoomer::buttonsReportTwice()
     QCOMPARE(zoomer.slider()->value(), 7);
 }
 
-void TestZoomer::sliderReportsEachValue()
-{
-    LoggedZoomer zoomer;
-    const auto press = [&](Qt::Key key) {
-        QTest::keyClick(zoomer.slider(), key);
-    };
-    press(Qt::Key_End);
-    press(Qt::Key_PageDown);
-    press(Qt::Key_Left);
-    press(Qt::Key_Home);
-    QCOMPARE(zoomer.takeLog(),
-             (QStringList{u"out 8 0.5"_s, u"in 7 0.5"_s, u"in 6 0.5"_s, u"in 0 0.5"_s}));
-}
-
-void TestZoomer::followsWithoutEcho()
-{
-    LoggedZoomer zoomer;
-    const std::pair<int, int> levels[] = {{4, 4}, {99, widest}, {-3, 0}};
-    for (const auto& [level, shown] : levels) {
-        zoomer.onChangeSliderPosition(level);
-        QCOMPARE(zoomer.slider()->value(), shown);
-    }
-    QCOMPARE(zoomer.takeLog(), QStringList());
-}
-
 void TestZoomer::textsFollowTheLanguage()
 {
     LoggedZoomer zoomer;
     const auto texts = [&] {
         QStringList result;
-        for (QWidget* control :
-             {static_cast<QWidget*>(zoomer.button(true)), static_cast<QWidget*>(zoomer.slider()),
-              static_cast<QWidget*>(zoomer.button(false))}) {
-            const QString name =
-                QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
-            if (control->toolTip() == name)
-                result << name;
+        const QList<QWidget*> controls{zoomer.button(true), zoomer.slider(), zoomer.button(false)};
+        for (QWidget* control : controls) {
+            const auto* accessible = QAccessible::queryAccessibleInterface(control);
+            if (control->toolTip() == accessible->text(QAccessible::Name))
+                result << control->toolTip();
         }
         return result;
     };
@@ -170,28 +147,22 @@ void TestZoomer::textsFollowTheLanguage()
 
 void TestZoomer::deletionWithinASignal()
 {
-    const auto click = [](LoggedZoomer& zoomer) {
-        zoomer.clickOut();
-    };
-    const auto pressGroove = [](LoggedZoomer& zoomer) {
-        QTest::mousePress(zoomer.slider(), Qt::LeftButton, {}, zoomer.slider()->rect().center());
-    };
-    const auto pressKey = [](LoggedZoomer& zoomer) {
-        QTest::keyPress(zoomer.slider(), Qt::Key_End);
-    };
-    const struct
-    {
-        std::function<void(LoggedZoomer&)> move;
-        int emission; // the one that deletes
-    } cases[] = {{click, 1}, {click, 2}, {pressGroove, 1}, {pressKey, 1}};
-    for (const auto& [move, emission] : cases) {
+    // Both emissions of a click, a press on the groove, and a key.
+    for (const int way : {1, 2, 3, 4}) {
         QPointer<LoggedZoomer> zoomer = new LoggedZoomer;
         zoomer->onChangeSliderPosition(2);
-        connect(zoomer.data(), &Zoomer::zoomerOut, this, [&, left = emission]() mutable {
+        QSlider* slider = zoomer->slider();
+        int left = way == 2 ? 2 : 1;
+        connect(zoomer.data(), &Zoomer::zoomerOut, this, [&] {
             if (--left == 0)
                 delete zoomer.data();
         });
-        move(*zoomer);
+        if (way <= 2)
+            zoomer->clickOut();
+        else if (way == 3)
+            QTest::mousePress(slider, Qt::LeftButton, {}, slider->rect().center());
+        else
+            QTest::keyPress(slider, Qt::Key_End);
         QVERIFY(!zoomer);
     }
 }
