@@ -31,14 +31,11 @@ class TestRulerPainter : public WarningFreeTest
 private Q_SLOTS:
     void init();
     void bandsOnlyWithoutView();
-    void headerGradientOrder();
-    void trackGradientOrder();
+    void gradientOrder();
     void threeTrackStates();
     void shadeOutsideTheLimits();
     void searchRangeWithinTheScale();
-    void previewLine_data();
     void previewLine();
-    void ticksStayCrisp_data();
     void ticksStayCrisp();
 
 private:
@@ -98,20 +95,17 @@ void TestRulerPainter::bandsOnlyWithoutView()
     QVERIFY(image.pixelColor(0, 0) != QColor(Qt::magenta));
 }
 
-void TestRulerPainter::headerGradientOrder()
+void TestRulerPainter::gradientOrder()
 {
-    const QImage image = paint();
+    QImage image = paint();
     QVERIFY(image.pixelColor(36, 0).lightness() < m_painter.colors.header.lightness() / 2);
     QCOMPARE(image.pixelColor(36, header - 1), m_painter.colors.header);
-}
 
-void TestRulerPainter::trackGradientOrder()
-{
     m_painter.colors.track = QColor(0, 0, 200);
     m_painter.colors.header = QColor(200, 0, 0);
     m_segments.setTracks(
         {{u"a"_s, u"Gate"_s, monday, monday + 2 * hour, {{monday, monday + 2 * hour}}}});
-    const QImage image = paint();
+    image = paint();
     // Header colour on top, track colour from 0.7 to 37/44 of the band, edge colour at its foot.
     QVERIFY(image.pixelColor(36, header + 1).red() > 180);
     QCOMPARE(image.pixelColor(36, header + 32), QColor(0, 0, 200));
@@ -138,13 +132,10 @@ void TestRulerPainter::threeTrackStates()
 void TestRulerPainter::shadeOutsideTheLimits()
 {
     QImage image = paint();
-    QCOMPARE(between(image, 4), m_painter.colors.body);
-    QCOMPARE(between(image, 7), black);
-    QCOMPARE(between(image, 11), m_painter.colors.body);
-    QCOMPARE(between(image, 1009), m_painter.colors.body);
-    QCOMPARE(between(image, 1012), black);
-    QCOMPARE(between(image, 1015), m_painter.colors.body);
-
+    for (const int x : {7, 1012})
+        QCOMPARE(between(image, x), black);
+    for (const int x : {4, 11, 1009, 1015})
+        QCOMPARE(between(image, x), m_painter.colors.body);
     m_scale.centerOn(0.4);
     image = paint();
     QCOMPARE(between(image, 107), black);
@@ -155,81 +146,58 @@ void TestRulerPainter::searchRangeWithinTheScale()
 {
     m_painter.colors.header = black;
     m_painter.colors.search = QColor(0, 0, 255);
-    const auto searched = [](const QImage& image, int x) {
-        return image.pixelColor(x, 1).blue() > 100;
-    };
-
-    m_search = TimeSpan{monday + 110 * minute, monday + 130 * minute};
-    QImage image = paint();
-    QVERIFY(!searched(image, 119));
-    QVERIFY(searched(image, 120));
-    QVERIFY(searched(image, 139));
-    QVERIFY(!searched(image, 140));
-
-    m_search = TimeSpan{monday - day, monday + 2 * day};
-    image = paint();
-    QVERIFY(!searched(image, 4));
-    QVERIFY(searched(image, 5));
-    QVERIFY(searched(image, 1014));
-    QVERIFY(!searched(image, 1015));
-
+    const struct
+    {
+        qint64 begin, end;
+        int first, last;
+    } cases[] = {{110 * minute, 130 * minute, 120, 139}, {-day, 2 * day, 5, 1014}};
+    for (const auto& [begin, end, first, last] : cases) {
+        m_search = TimeSpan{monday + begin, monday + end};
+        const QImage image = paint();
+        for (const int x : {first - 1, first, last, last + 1})
+            QCOMPARE(image.pixelColor(x, 1).blue() > 100, x >= first && x <= last);
+    }
     m_search = TimeSpan{monday + 2 * day, monday + 3 * day};
-    QVERIFY(!searched(paint(), 1014));
-}
-
-void TestRulerPainter::previewLine_data()
-{
-    QTest::addColumn<qint64>("time");
-    QTest::addColumn<int>("x");
-    QTest::addColumn<bool>("clamped");
-
-    QTest::newRow("in view") << 123 * minute << 133 << false;
-    QTest::newRow("in the outer margin") << -5 * minute << 5 << false;
-    QTest::newRow("before the view") << -hour << 5 << true;
-    QTest::newRow("behind the view") << day << 1015 << true;
+    QVERIFY(paint().pixelColor(1014, 1).blue() <= 100);
 }
 
 void TestRulerPainter::previewLine()
 {
-    QFETCH(qint64, time);
-    QFETCH(int, x);
-    QFETCH(bool, clamped);
-
-    m_preview = monday + time;
-    const QImage image = paint();
-    const QColor color = clamped ? m_painter.colors.previewClamped : m_painter.colors.preview;
-    QCOMPARE(between(image, x), color);
-    QCOMPARE(image.pixelColor(x, height - 1), color);
-    QVERIFY(between(image, x - 1) != color);
-    QVERIFY(between(image, x + 1) != color);
-}
-
-void TestRulerPainter::ticksStayCrisp_data()
-{
-    QTest::addColumn<double>("ratio");
-
-    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0})
-        QTest::addRow("%.2f", ratio) << ratio;
+    const struct
+    {
+        qint64 time;
+        int x;
+        QColor color;
+    } cases[] = {{123 * minute, 133, m_painter.colors.preview},
+                 {-5 * minute, 5, m_painter.colors.preview}, // in the outer margin
+                 {-hour, 5, m_painter.colors.previewClamped},
+                 {day, 1015, m_painter.colors.previewClamped}};
+    for (const auto& [time, x, color] : cases) {
+        m_preview = monday + time;
+        const QImage image = paint();
+        QCOMPARE(between(image, x), color);
+        QCOMPARE(image.pixelColor(x, height - 1), color);
+        QVERIFY(between(image, x - 1) != color && between(image, x + 1) != color);
+    }
 }
 
 void TestRulerPainter::ticksStayCrisp()
 {
-    QFETCH(double, ratio);
-
     // Begins at an odd second, so that ticks fall between pixels.
     m_scale.setViewStart(m_scale.viewStart().addMSecs(3 * minute + 17 * second));
-    const QImage image = paint(ratio);
-    const int y = int(bodyY * ratio);
     const QColor major(160, 160, 160);
     const QColor minor(90, 90, 90);
-    int lines = 0;
-    for (int x = int(10 * ratio); x < int(900 * ratio); ++x) {
-        const QColor color = image.pixelColor(x, y);
-        QVERIFY2(color == major || color == minor || color == m_painter.colors.body,
-                 qPrintable(u"blurred at %1: %2"_s.arg(x).arg(color.name())));
-        lines += color == major;
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        const QImage image = paint(ratio);
+        int lines = 0;
+        for (int x = int(10 * ratio); x < int(900 * ratio); ++x) {
+            const QColor color = image.pixelColor(x, int(bodyY * ratio));
+            QVERIFY2(color == major || color == minor || color == m_painter.colors.body,
+                     qPrintable(u"blurred at %1 of %2"_s.arg(x).arg(ratio)));
+            lines += color == major;
+        }
+        QCOMPARE(lines, 18 * std::max(1, qRound(ratio)));
     }
-    QCOMPARE(lines, 18 * std::max(1, qRound(ratio)));
 }
 
 QTEST_MAIN(TestRulerPainter)
