@@ -228,13 +228,13 @@ void TestTimelineScroll::wholePeriodCannotMove()
 
 void TestTimelineScroll::settersAreSilentAndRepaintChanges()
 {
-    const std::vector<Act> same{
-        [](LoggedStrip& strip) { strip.setViewArea(0.2); },
-        [](LoggedStrip& strip) { strip.onCenterPositionChanged(0.3); },
-        [](LoggedStrip& strip) { strip.onIndicatorPositionChanged(5, 0.0); },
-        [](LoggedStrip& strip) { strip.setSearchTimeRange(0.500009, 0.599991); },
-    };
-    std::vector<Act> setters{
+    const std::vector<Act> setters{
+        [](LoggedStrip& strip) {
+            strip.setViewArea(0.2);
+            strip.onCenterPositionChanged(0.3);
+            strip.onIndicatorPositionChanged(5, 0.0);
+            strip.setSearchTimeRange(0.500009, 0.599991);
+        },
         [](LoggedStrip& strip) { strip.setViewArea(0.3); },
         [](LoggedStrip& strip) { strip.onCenterPositionChanged(0.4); },
         [](LoggedStrip& strip) { strip.onIndicatorPositionChanged(5, 0.1); },
@@ -243,8 +243,6 @@ void TestTimelineScroll::settersAreSilentAndRepaintChanges()
         [](LoggedStrip& strip) { strip.resetSearchTimeRange(); },
         [](LoggedStrip& strip) { strip.displaySearchTimeRange(false); },
     };
-    const std::size_t repainting = setters.size();
-    setters.insert(setters.end(), same.begin(), same.end());
     for (std::size_t i = 0; i < setters.size(); ++i) {
         LoggedStrip strip;
         strip.setSearchTimeRange(0.5, 0.6);
@@ -258,7 +256,7 @@ void TestTimelineScroll::settersAreSilentAndRepaintChanges()
         } while (strip.repaintRequests > 0);
         setters[i](strip);
         QCoreApplication::processEvents();
-        QCOMPARE(strip.repaintRequests > 0, i < repainting);
+        QCOMPARE(strip.repaintRequests > 0, i > 0); // the first ones change nothing
         QCOMPARE(strip.moves, QList<double>());
     }
 }
