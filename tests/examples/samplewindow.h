@@ -26,30 +26,26 @@ struct SampleWindow
             qFatal("The window does not appear");
     }
 
-    QAction* action(const QString& text) const
+    /// The first child of the type that shows the text.
+    template <typename Child>
+    Child* withText(const QString& text) const
     {
-        for (QAction* candidate : window.findChildren<QAction*>()) {
-            if (candidate->text() == text)
-                return candidate;
-        }
-        qFatal("No such action: %s", qPrintable(text));
+        const auto children = window.findChildren<Child*>();
+        const auto found = std::ranges::find(children, text, &Child::text);
+        if (found == children.end())
+            qFatal("Nothing shows: %s", qPrintable(text));
+        return *found;
     }
-
+    QAction* action(const QString& text) const { return withText<QAction>(text); }
     bool says(const QString& text) const
     {
-        const auto labels = window.findChildren<QLabel*>();
-        return std::any_of(labels.begin(), labels.end(),
-                           [&text](const QLabel* label) { return label->text() == text; });
+        return std::ranges::count(window.findChildren<QLabel*>(), text, &QLabel::text) > 0;
     }
-
     CorvelGui::Ruler* ruler() const { return window.findChild<CorvelGui::Ruler*>(); }
     QTreeView* table(const QString& accessibleName) const
     {
-        for (QTreeView* candidate : window.findChildren<QTreeView*>()) {
-            if (candidate->accessibleName() == accessibleName)
-                return candidate;
-        }
-        qFatal("No such table: %s", qPrintable(accessibleName));
+        const auto tables = window.findChildren<QTreeView*>();
+        return *std::ranges::find(tables, accessibleName, &QTreeView::accessibleName);
     }
 
     Review::ReviewWindow window;
