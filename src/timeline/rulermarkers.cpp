@@ -122,10 +122,10 @@ void RulerMarkers::hoverAt(QPoint position)
     const auto nearest = [&]() -> std::optional<std::size_t> {
         if (!m_shown || !m_view.area.contains(position) || m_symbols.empty())
             return {};
-        const Indices near = markersBetween(position.x() - m_iconSize.width() / 2,
-                                            position.x() + m_iconSize.width() / 2);
+        const Indices around = markersBetween(position.x() - m_iconSize.width() / 2,
+                                              position.x() + m_iconSize.width() / 2);
         std::optional<std::size_t> best;
-        for (std::size_t marker = near.first; marker < near.last; ++marker) {
+        for (std::size_t marker = around.first; marker < around.last; ++marker) {
             const auto distance = [&](std::size_t m) {
                 return std::abs(xOf(m) - position.x());
             };
