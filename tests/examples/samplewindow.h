@@ -45,7 +45,10 @@ struct SampleWindow
     QTreeView* table(const QString& accessibleName) const
     {
         const auto tables = window.findChildren<QTreeView*>();
-        return *std::ranges::find(tables, accessibleName, &QTreeView::accessibleName);
+        const auto found = std::ranges::find(tables, accessibleName, &QTreeView::accessibleName);
+        if (found == tables.end())
+            qFatal("There is no table: %s", qPrintable(accessibleName));
+        return *found;
     }
 
     Review::ReviewWindow window;

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
     void actionsMoveTheView();
     void uncheckedTracksLeaveTheTimeline();
+    void timesStandInTheZone();
     void problemsAreListed();
     void lookIsSwitched();
 };
@@ -93,6 +94,15 @@ void TestReviewWindow::uncheckedTracksLeaveTheTimeline()
     QVERIFY(rulerPicture(sample) != all);
     QVERIFY(tracks->setData(gate, Qt::Checked, Qt::CheckStateRole));
     QCOMPARE(rulerPicture(sample), all);
+}
+
+void TestReviewWindow::timesStandInTheZone()
+{
+    const SampleWindow sample(u"Australia/Darwin"_s);
+    QVERIFY(sample.says(u"02.03.2026 09:30:00 – 16.03.2026 09:30:00 (Australia/Darwin)"_s));
+    const QAbstractItemModel* tracks = sample.table(u"Tracks"_s)->model();
+    QCOMPARE(tracks->index(3, 1).data().toString(), u"02.03.2026 09:30:00"_s);
+    QCOMPARE(tracks->index(3, 2).data().toString(), u"12.03.2026 19:30:00"_s);
 }
 
 void TestReviewWindow::problemsAreListed()
