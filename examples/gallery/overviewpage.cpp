@@ -34,7 +34,7 @@ TimelineScroll* createStrip(double viewArea, double center)
 // Takes hold of the box with a mouse press that is never released.
 void holdBox(TimelineScroll* strip)
 {
-    const QPointF onBox(strip->centerPosition() * strip->width(), strip->height() / 2);
+    const QPointF onBox(strip->centerPosition() * strip->width(), strip->height() / 2.0);
     QMouseEvent press(QEvent::MouseButtonPress, onBox, strip->mapToGlobal(onBox), Qt::LeftButton,
                       Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(strip, &press);

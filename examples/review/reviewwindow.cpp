@@ -89,7 +89,7 @@ void ReviewWindow::showMiddleDay()
     const TimeSpan period = m_review.period();
     if (period.isEmpty())
         return;
-    constexpr qint64 day = 24 * 60 * 60 * 1'000;
+    constexpr qint64 day = qint64(24) * 60 * 60 * 1'000;
     const QDateTime middle = m_times.wallClock(period.begin + (period.end - period.begin) / 2);
     const QDateTime noon(middle.date(), QTime(12, 0), Qt::UTC);
     const qint64 time = m_times.fromWallClock(noon);

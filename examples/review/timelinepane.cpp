@@ -23,7 +23,7 @@ namespace Review {
 namespace {
 
 constexpr double viewCentre = 0.5;
-constexpr qint64 spanAroundMarker = 20 * 60 * 1'000;
+constexpr qint64 spanAroundMarker = qint64(20) * 60 * 1'000;
 
 } // namespace
 
@@ -150,7 +150,8 @@ void TimelinePane::centreOn(qint64 msecs)
     const qint64 span = shown.end - shown.begin;
     const qint64 begin =
         std::clamp(msecs - span / 2, m_period.begin, std::max(m_period.begin, m_period.end - span));
-    m_ruler->onTimelineOffsetChanged(double(begin + span / 2 - m_period.begin) /
+    const qint64 middle = begin + span / 2;
+    m_ruler->onTimelineOffsetChanged(double(middle - m_period.begin) /
                                      double(m_period.end - m_period.begin));
 }
 

@@ -60,10 +60,10 @@ void RulerPainter::createGradients(const QRect& rect, int headerHeight)
     m_searchGradient = headerGradient(colors.search);
 
     const double bodyHeight = rect.bottom() - rect.top() - headerHeight;
-    // The last half header fades into the edge colour.
-    const double fade = bodyHeight > 0
-                            ? std::clamp((bodyHeight - headerHeight / 2) / bodyHeight, 0.75, 0.95)
-                            : 0.75;
+    // The last half header, in whole pixels, fades into the edge colour.
+    const int halfHeader = headerHeight / 2;
+    const double fade =
+        bodyHeight > 0 ? std::clamp((bodyHeight - halfHeader) / bodyHeight, 0.75, 0.95) : 0.75;
     QLinearGradient track(0, headerHeight + rect.top(), 0, rect.bottom());
     track.setColorAt(0.0, colors.header);
     track.setColorAt(0.7, colors.track);
@@ -174,7 +174,7 @@ void RulerPainter::drawResultMarks(QPainter& painter, const RulerScene& scene) c
         const double left = std::trunc(x) - markWidth / 2;
         painter.fillRect(grid.aligned(QRectF(left, 0, markWidth, scene.rect.height())),
                          colors.resultMark);
-        painter.fillRect(grid.aligned(QRectF(left, 0, flagWidth, scene.headerHeight / 3)),
+        painter.fillRect(grid.aligned(QRectF(left, 0, flagWidth, scene.headerHeight / 3.0)),
                          colors.resultMark);
     }
 }

@@ -124,7 +124,7 @@ private:
 
 qint64 msecsToMidnight(const TimeScale& scale)
 {
-    const QDateTime start = scale.viewStart();
+    const QDateTime& start = scale.viewStart();
     QDateTime midnight = start;
     midnight.setDate(start.date().addDays(1));
     midnight.setTime(QTime(0, 0));
