@@ -19,7 +19,7 @@ void MarkerStore::add(std::vector<Entry> entries)
     rebuild();
 }
 
-bool MarkerStore::remove(std::vector<qint64> times)
+void MarkerStore::remove(std::vector<qint64> times)
 {
     std::sort(times.begin(), times.end());
     auto time = times.begin();
@@ -39,10 +39,8 @@ bool MarkerStore::remove(std::vector<qint64> times)
             *kept = std::move(*entry);
         ++kept;
     }
-    const bool removed = kept != m_entries.end();
     m_entries.erase(kept, m_entries.end());
     rebuild();
-    return removed;
 }
 
 void MarkerStore::clear()

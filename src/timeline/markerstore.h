@@ -27,8 +27,8 @@ public:
 
     /// Equal times keep the order in which they were added.
     void add(std::vector<Entry> entries);
-    /// Removes, for each of @p times, the first marker of that time. Returns whether there was any.
-    bool remove(std::vector<qint64> times);
+    /// Removes, for each of @p times, the first marker of that time.
+    void remove(std::vector<qint64> times);
     void clear();
 
     std::size_t size() const { return m_entries.size(); }

@@ -24,7 +24,8 @@ struct ViewDrag
 {
     QPoint pressPosition;
     qint64 pressTime = 0;
-    bool active = false;
+    bool pressed = false; ///< the left button went down on the ruler itself and is held
+    bool active = false;  ///< it was moved far enough since
 };
 
 struct Ruler::Private

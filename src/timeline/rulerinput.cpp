@@ -25,6 +25,7 @@ void Ruler::mousePressEvent(QMouseEvent* event)
     const QPoint position = event->position().toPoint();
     d->viewDrag.pressPosition = position;
     d->viewDrag.pressTime = d->scale.msecsAt(position.x());
+    d->viewDrag.pressed = event->button() == Qt::LeftButton;
 }
 
 void Ruler::mouseMoveEvent(QMouseEvent* event)
@@ -35,8 +36,9 @@ void Ruler::mouseMoveEvent(QMouseEvent* event)
     d->hover.mouseMoved(position, HoverPreview::Clock::now());
     d->inPreviewArea = position.y() >= 0 && position.y() <= 2 * d->headerHeight;
 
+    // Buttons hand moves outside of them on to the ruler: those are no drag of the view.
     const bool dragged =
-        (event->buttons() & Qt::LeftButton) && d->scale.hasView() &&
+        d->viewDrag.pressed && (event->buttons() & Qt::LeftButton) && d->scale.hasView() &&
         std::abs(position.x() - d->viewDrag.pressPosition.x()) >= QApplication::startDragDistance();
     const QPointer<Ruler> self(this);
     if (!d->viewDrag.active && !dragged) {
@@ -76,7 +78,8 @@ void Ruler::mouseReleaseEvent(QMouseEvent* event)
 {
     if (d->blocked)
         return;
-    if (std::exchange(d->viewDrag.active, false)) {
+    const ViewDrag drag = std::exchange(d->viewDrag, {});
+    if (drag.active) {
         const QPoint position = event->position().toPoint();
         whileAlive(
             this, [this] { changedTimeLineView(false); },
@@ -84,7 +87,7 @@ void Ruler::mouseReleaseEvent(QMouseEvent* event)
                 if (d->takesInput() && d->inPreviewArea && d->previewEnabled)
                     startMouseTimer(position);
             });
-    } else if (event->button() == Qt::LeftButton && !d->resultMode) {
+    } else if (drag.pressed && event->button() == Qt::LeftButton && !d->resultMode) {
         const double x = event->position().x();
         if (x > TimeScale::margin() && x <= width() - TimeScale::margin() - 1 &&
             placeIndicator(int(x)))
@@ -149,7 +152,7 @@ void Ruler::endGestures()
 {
     d->mouseTimer.stop();
     d->arrows->stop();
-    d->viewDrag.active = false;
+    d->viewDrag = {};
     d->indicatorDragging = false;
 }
 
@@ -178,6 +181,8 @@ bool Ruler::indicatorEvent(QEvent* event)
         return false;
     }
     if (event->type() == QEvent::MouseButtonRelease) {
+        // The ruler saw the press as well, but will not see this.
+        d->viewDrag = {};
         if (!std::exchange(d->indicatorDragging, false))
             return false;
         const int x =

@@ -114,6 +114,7 @@ private Q_SLOTS:
     void onlyInsideTheResultRange();
     void inactiveRulerWaits();
     void manyMarkersNeedFewButtons();
+    void dragsThatBeginOnAButtonAreNotTheRulers();
     void clearingInsideSignals();
 };
 
@@ -391,6 +392,28 @@ void TestRulerMarkers::clearingInsideSignals()
             delete ruler;
         }
     }
+}
+
+void TestRulerMarkers::dragsThatBeginOnAButtonAreNotTheRulers()
+{
+    LoggedRuler ruler;
+    ruler.onTimelineOffsetChanged(0.5);
+    ruler.onAddMarkers({marker(5 * day)});
+    QTest::mouseClick(&ruler, Qt::LeftButton, {}, QPoint(100, 5));
+    QWidget* button = visibleButtons(ruler).front();
+    const quint64 begin = ruler.beginTime();
+    const quint64 indicator = ruler.getIndicatorMSecs();
+
+    // Outside a held button Qt hands the mouse on to its parent.
+    QTest::mousePress(button, Qt::LeftButton);
+    for (const int x : {40, 60, 90}) {
+        QMouseEvent move(QEvent::MouseMove, QPointF(x, 8), button->mapToGlobal(QPointF(x, 8)),
+                         Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(button, &move);
+    }
+    QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(90, 8));
+    QCOMPARE(ruler.beginTime(), begin);
+    QCOMPARE(ruler.getIndicatorMSecs(), indicator);
 }
 
 QTEST_MAIN(TestRulerMarkers)
