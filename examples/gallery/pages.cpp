@@ -26,9 +26,14 @@ QWidget* create(QWidget* parent)
 const std::vector<Page>& pages()
 {
     static const std::vector<Page> all{
-        {u"Looks"_s, create<LooksPage>},       {u"Colours"_s, create<ColoursPage>},
-        {u"Icons"_s, create<IconsPage>},       {u"Ruler"_s, create<RulerPage>},
-        {u"Overview"_s, create<OverviewPage>}, {u"Zoom timeline"_s, create<ZoomTimelinePage>},
+        // Theme
+        {u"Looks"_s, create<LooksPage>},
+        {u"Colours"_s, create<ColoursPage>},
+        {u"Icons"_s, create<IconsPage>},
+        // Timeline
+        {u"Ruler"_s, create<RulerPage>},
+        {u"Overview"_s, create<OverviewPage>},
+        {u"Zoom timeline"_s, create<ZoomTimelinePage>},
     };
     return all;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "accessiblerange.h"
+#include "frame/whilealive.h"
 #include "hoverpreview.h"
 #include "indicator.h"
 #include "ruler.h"
@@ -9,7 +10,6 @@
 #include "rulerpainter.h"
 #include "timescale.h"
 #include "tracksegments.h"
-#include "whilealive.h"
 
 #include <QPointer>
 #include <QTimer>

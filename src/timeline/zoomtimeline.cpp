@@ -1,8 +1,8 @@
 #include "zoomtimeline.h"
 
+#include "frame/whilealive.h"
 #include "ruler.h"
 #include "timelinescroll.h"
-#include "whilealive.h"
 #include "zoomer.h"
 
 #include <QEvent>

@@ -1,4 +1,5 @@
 #include "testsupport.h"
+#include "whenshown.h"
 
 #include <Hueloft/PMessageBox>
 
@@ -8,31 +9,9 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
-#include <QTimer>
-
-#include <functional>
 
 using Hueloft::PMessageBox;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Runs once a message box is shown, inside its event loop.
-void whenShown(QObject* context, const std::function<void(QMessageBox&)>& act)
-{
-    auto* timer = new QTimer(context);
-    QObject::connect(timer, &QTimer::timeout, context, [timer, act] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box || !box->isVisible())
-            return;
-        timer->stop();
-        timer->deleteLater();
-        act(*box);
-    });
-    timer->start(0);
-}
-
-} // namespace
 
 class TestPMessageBox : public WarningFreeTest
 {
@@ -58,7 +37,7 @@ void TestPMessageBox::returnsPressedButton()
     const auto expect = [&](QMessageBox::Icon kind, QMessageBox::StandardButtons buttons,
                             QMessageBox::StandardButton byDefault,
                             QMessageBox::StandardButton pressed) {
-        whenShown(this, [=, &parent](QMessageBox& box) {
+        whenShown<QMessageBox>(this, [=, &parent](QMessageBox& box) {
             QCOMPARE(box.icon(), kind);
             QCOMPARE(box.standardButtons(), buttons);
             QVERIFY(box.isModal());
@@ -89,7 +68,7 @@ void TestPMessageBox::returnsPressedButton()
 
 void TestPMessageBox::escapeAnswersNo()
 {
-    whenShown(this, [](QMessageBox& box) {
+    whenShown<QMessageBox>(this, [](QMessageBox& box) {
         const auto* label = box.findChild<QLabel*>(u"qt_msgboxex_icon_label"_s);
         const QImage mark = label->pixmap().toImage();
         const auto alphaAt = [&mark](double x, double y) {
@@ -106,7 +85,7 @@ void TestPMessageBox::escapeAnswersNo()
 void TestPMessageBox::showsMarkupAsText()
 {
     const QString hostile = u"<b>bold</b> <img src=\"http://203.0.113.1/x.png\">"_s;
-    whenShown(this, [&hostile](QMessageBox& box) {
+    whenShown<QMessageBox>(this, [&hostile](QMessageBox& box) {
         int shown = 0;
         for (const QLabel* label : box.findChildren<QLabel*>())
             shown += label->text() == hostile && label->textFormat() == Qt::PlainText;
@@ -130,7 +109,7 @@ void TestPMessageBox::longTextsStaySmall()
 {
     QFETCH(const QString, text);
     QFETCH(const bool, shortened);
-    whenShown(this, [&](QMessageBox& box) {
+    whenShown<QMessageBox>(this, [&](QMessageBox& box) {
         const QSize screen = box.screen()->availableSize();
         QVERIFY(box.width() <= screen.width() && box.width() <= 1000);
         QVERIFY(box.height() <= screen.height() / 2);
@@ -144,7 +123,7 @@ void TestPMessageBox::longTextsStaySmall()
 void TestPMessageBox::parentMayGo()
 {
     QPointer<QWidget> parent = new QWidget;
-    whenShown(this, [&parent](QMessageBox&) { delete parent; });
+    whenShown<QMessageBox>(this, [&parent](QMessageBox&) { delete parent; });
     QCOMPARE(PMessageBox::Question(parent, u"Update"_s, u"Restart now?"_s),
              int(QMessageBox::NoButton));
     QVERIFY(!parent);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QApplication>
+#include <QTimer>
+
+#include <functional>
+
+/// Runs @p act once a modal dialog of that class is shown, inside the dialog's event loop. It must
+/// end the dialog.
+template <typename Dialog>
+void whenShown(QObject* context, const std::function<void(Dialog&)>& act)
+{
+    auto* timer = new QTimer(context);
+    QObject::connect(timer, &QTimer::timeout, context, [timer, act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        act(*dialog);
+    });
+    timer->start(0);
+}
