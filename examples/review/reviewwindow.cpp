@@ -1,33 +1,28 @@
 #include "reviewwindow.h"
 
+#include "devicepane.h"
 #include "eventmarkers.h"
-#include "eventmodel.h"
+#include "eventpane.h"
 #include "previewcard.h"
 #include "problemdock.h"
 #include "rangepanel.h"
-#include "roomydelegate.h"
 #include "timelinepane.h"
-#include "trackmodel.h"
+#include "timelinetoolbar.h"
 #include "zonecombo.h"
-
-#include <Hueloft/PIconHelper>
 
 #include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
+#include <QMenuBar>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QToolBar>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 using CorvelGui::TimeSpan;
-using Hueloft::PIconHelper;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -36,39 +31,17 @@ namespace {
 
 constexpr int problemDockHeight = 150;
 
-QTreeView* createTable(QAbstractItemModel* model, QWidget* parent)
-{
-    auto* view = new QTreeView(parent);
-    view->setModel(model);
-    view->setFrameShape(QFrame::NoFrame);
-    view->setRootIsDecorated(false);
-    view->setUniformRowHeights(true);
-    view->setAlternatingRowColors(true);
-    view->setAllColumnsShowFocus(true);
-    view->setItemDelegate(new RoomyDelegate(view));
-    view->header()->setStretchLastSection(false);
-    view->header()->setSectionsMovable(false);
-    // In a narrow table the stretched column stays readable, and the table scrolls.
-    view->header()->setMinimumSectionSize(110);
-    view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    return view;
-}
-
 } // namespace
 
 ReviewWindow::ReviewWindow(const ReviewData& review, const ProblemList& problems,
                            const QString& zoneName, bool dark, QWidget* parent)
-    : PMainWindow(parent)
-    , m_review(review)
-    , m_times(zoneName)
-    , m_tracks(new TrackModel(review.tracks, m_times, this))
-    , m_events(new EventModel(review, m_times, this))
+    : PMainWindow(parent), m_review(review), m_times(zoneName)
 {
     createDarkFusionStyle(dark);
     setCentralWidget(createContent());
     m_preview = new PreviewCard(this);
     m_zone = new ZoneCombo(zoneName, this);
-    createActions(dark);
+    createToolBar(dark);
     createStatusBar();
     if (problems.count() > 0) {
         m_problems = new ProblemDock(problems, this);
@@ -76,6 +49,7 @@ ReviewWindow::ReviewWindow(const ReviewData& review, const ProblemList& problems
         resizeDocks({m_problems}, {problemDockHeight}, Qt::Vertical);
         m_toolBar->insertAction(m_darkLook, m_problems->toggleViewAction());
     }
+    createMenus();
     connectParts();
 
     m_timeline->setZone(zoneName);
@@ -98,7 +72,7 @@ void ReviewWindow::showMiddleDay()
     const auto event = std::ranges::lower_bound(m_review.events, time, {}, &Event::time);
     if (event != m_review.events.end() && event->time < time + day / 2) {
         m_timeline->setCurrentTime(event->time);
-        selectEvent(event - m_review.events.begin());
+        m_events->select(event - m_review.events.begin());
     }
 }
 
@@ -114,10 +88,8 @@ QWidget* ReviewWindow::createContent()
     auto* content = new QWidget(this);
     auto* tables = new QSplitter(content);
     tables->setChildrenCollapsible(false);
-    m_trackView = createTable(m_tracks, tables);
-    m_trackView->header()->setSectionResizeMode(TrackModel::Name, QHeaderView::Stretch);
-    m_eventView = createTable(m_events, tables);
-    m_eventView->header()->setSectionResizeMode(EventModel::Text, QHeaderView::Stretch);
+    m_devices = new DevicePane(m_review.tracks, m_times, tables);
+    m_events = new EventPane(m_review, m_times, tables);
     // In proportion: the tracks have more columns that need their width.
     tables->setSizes({660, 540});
 
@@ -148,37 +120,33 @@ QWidget* ReviewWindow::createContent()
     return content;
 }
 
-void ReviewWindow::createActions(bool dark)
+void ReviewWindow::createToolBar(bool dark)
 {
-    m_toolBar = addToolBar(QString());
-    m_toolBar->setObjectName(u"timelineToolBar"_s);
-    m_toolBar->setMovable(false);
-    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-
-    m_zoomIn = m_toolBar->addAction(PIconHelper::GetPlusIcon_32x32(true), QString());
-    m_zoomOut = m_toolBar->addAction(PIconHelper::GetMinusIcon_32x32(true), QString());
-    m_wholePeriod = m_toolBar->addAction(QString());
-    m_toolBar->addSeparator();
-    m_earlier = m_toolBar->addAction(QString());
-    m_later = m_toolBar->addAction(QString());
-    m_toolBar->addSeparator();
-    m_showMarkers = m_toolBar->addAction(QString());
-    m_showMarkers->setCheckable(true);
-    m_showMarkers->setChecked(true);
-    m_showRanges = m_toolBar->addAction(QString());
-    m_showRanges->setCheckable(true);
+    m_toolBar = new TimelineToolBar(m_timeline, this);
+    addToolBar(m_toolBar);
     auto* spacer = new QWidget(m_toolBar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_toolBar->addWidget(spacer);
     m_darkLook = m_toolBar->addAction(QString());
     m_darkLook->setCheckable(true);
     m_darkLook->setChecked(dark);
+}
 
-    m_zoomIn->setShortcut(QKeySequence::ZoomIn);
-    m_zoomOut->setShortcut(QKeySequence::ZoomOut);
-    m_wholePeriod->setShortcut(Qt::CTRL | Qt::Key_0);
-    m_earlier->setShortcut(Qt::ALT | Qt::Key_Left);
-    m_later->setShortcut(Qt::ALT | Qt::Key_Right);
+void ReviewWindow::createMenus()
+{
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_quit = m_fileMenu->addAction(QString());
+    m_quit->setShortcut(QKeySequence::Quit);
+
+    m_viewMenu = menuBar()->addMenu(QString());
+    for (QAction* action : m_toolBar->viewActions()) {
+        if (action)
+            m_viewMenu->addAction(action);
+        else
+            m_viewMenu->addSeparator();
+    }
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(m_darkLook);
 }
 
 void ReviewWindow::createStatusBar()
@@ -194,24 +162,18 @@ void ReviewWindow::createStatusBar()
 
 void ReviewWindow::connectParts()
 {
-    connect(m_zoomIn, &QAction::triggered, m_timeline, &TimelinePane::zoomIn);
-    connect(m_zoomOut, &QAction::triggered, m_timeline, &TimelinePane::zoomOut);
-    connect(m_wholePeriod, &QAction::triggered, m_timeline, &TimelinePane::showWholePeriod);
-    connect(m_earlier, &QAction::triggered, m_timeline, &TimelinePane::stepEarlier);
-    connect(m_later, &QAction::triggered, m_timeline, &TimelinePane::stepLater);
+    connect(m_quit, &QAction::triggered, this, &QWidget::close);
     connect(m_darkLook, &QAction::toggled, this, &ReviewWindow::createDarkFusionStyle);
-    connect(m_showMarkers, &QAction::toggled, m_timeline, &TimelinePane::setMarkersShown);
-    connect(m_showRanges, &QAction::toggled, m_ranges, &QWidget::setVisible);
+    connect(m_toolBar->showRanges(), &QAction::toggled, m_ranges, &QWidget::setVisible);
 
-    connect(m_tracks, &TrackModel::checkedTracksChanged, this, &ReviewWindow::showCheckedTracks);
-    connect(m_eventView, &QTreeView::activated, this, [this](const QModelIndex& index) {
-        m_timeline->jumpTo(m_events->eventOfRow(index.row()).time);
-    });
+    connect(m_devices, &DevicePane::checkedTracksChanged, this, &ReviewWindow::showCheckedTracks);
+    connect(m_events, &EventPane::eventOpened, this,
+            [this](qint64 msecs) { m_timeline->jumpTo(msecs); });
 
     connect(m_timeline, &TimelinePane::viewChanged, this, &ReviewWindow::showView);
     connect(m_timeline, &TimelinePane::currentTimeChanged, this, &ReviewWindow::showCurrentTime);
     connect(m_timeline, &TimelinePane::markerChosen, this,
-            [this](const QUuid& marker) { selectEvent(EventMarkers::indexOf(marker)); });
+            [this](const QUuid& marker) { m_events->select(EventMarkers::indexOf(marker)); });
     connect(m_timeline, &TimelinePane::previewChanged, this, &ReviewWindow::showPreview);
 
     connect(m_ranges, &RangePanel::viewWanted, this,
@@ -232,18 +194,12 @@ void ReviewWindow::connectParts()
 void ReviewWindow::retranslate()
 {
     setWindowTitle(tr("Recording review"));
-    m_trackView->setAccessibleName(tr("Tracks"));
-    m_eventView->setAccessibleName(tr("Events"));
-    m_toolBar->setWindowTitle(tr("Timeline"));
-    m_zoomIn->setText(tr("Zoom in"));
-    m_zoomOut->setText(tr("Zoom out"));
-    m_wholePeriod->setText(tr("Whole period"));
-    m_earlier->setText(tr("Earlier"));
-    m_later->setText(tr("Later"));
-    m_showMarkers->setText(tr("Events"));
-    m_showMarkers->setToolTip(tr("Shows the events on the timeline"));
-    m_showRanges->setText(tr("Ranges"));
-    m_showRanges->setToolTip(tr("Sets a search range and a result range"));
+    m_devices->retranslate();
+    m_events->retranslate();
+    m_toolBar->retranslate();
+    m_fileMenu->setTitle(tr("&File"));
+    m_quit->setText(tr("&Quit"));
+    m_viewMenu->setTitle(tr("&View"));
     m_darkLook->setText(tr("Dark look"));
     m_zoneLabel->setText(tr("Time zone"));
     if (m_problems)
@@ -264,7 +220,7 @@ void ReviewWindow::retranslate()
 void ReviewWindow::setZone(const QString& name)
 {
     m_times = TimeTexts(name);
-    m_tracks->setTimes(m_times);
+    m_devices->setTimes(m_times);
     m_events->setTimes(m_times);
     m_ranges->setTimes(m_times);
     m_timeline->setZone(name);
@@ -276,14 +232,14 @@ void ReviewWindow::setZone(const QString& name)
 
 void ReviewWindow::showCheckedTracks()
 {
-    m_timeline->setTracks(m_tracks->checkedTracks());
-    m_events->setHiddenTracks(m_tracks->uncheckedTracks());
+    m_timeline->setTracks(m_devices->checkedTracks());
+    m_events->setHiddenTracks(m_devices->uncheckedTracks());
 
     QList<CorvelGui::RulerMarker> markers;
-    markers.reserve(qsizetype(m_events->shownEvents().size()));
-    for (const qsizetype index : m_events->shownEvents())
-        markers.append(
-            EventMarkers::marker(m_events->event(index), index, m_events->trackName(index)));
+    const EventModel& events = m_events->events();
+    markers.reserve(qsizetype(events.shownEvents().size()));
+    for (const qsizetype index : events.shownEvents())
+        markers.append(EventMarkers::marker(events.event(index), index, events.trackName(index)));
     m_timeline->setMarkers(markers);
 }
 
@@ -294,26 +250,12 @@ void ReviewWindow::showView()
                                         : tr("%1 – %2 (%3)")
                                               .arg(m_times.dateTime(view.begin),
                                                    m_times.dateTime(view.end), m_times.zoneName()));
-    m_zoomIn->setEnabled(m_timeline->canZoomIn());
-    m_zoomOut->setEnabled(m_timeline->canZoomOut());
-    m_wholePeriod->setEnabled(!m_timeline->showsWholePeriod());
-    m_earlier->setEnabled(m_timeline->canStepEarlier());
-    m_later->setEnabled(m_timeline->canStepLater());
 }
 
 void ReviewWindow::showCurrentTime()
 {
     const qint64 msecs = m_timeline->currentTime();
     m_timeLabel->setText(msecs > 0 ? m_times.exactDateTime(msecs) : QString());
-}
-
-void ReviewWindow::selectEvent(qsizetype index)
-{
-    const QModelIndex row = m_events->rowOf(index);
-    if (!row.isValid())
-        return;
-    m_eventView->setCurrentIndex(row);
-    m_eventView->scrollTo(row, QAbstractItemView::PositionAtCenter);
 }
 
 void ReviewWindow::showPreview(qint64 msecs, const QPoint& position, bool onMarker)
@@ -323,9 +265,9 @@ void ReviewWindow::showPreview(qint64 msecs, const QPoint& position, bool onMark
         return;
     }
     PreviewContent content{
-        .time = m_times.exactDateTime(msecs), .events = {}, .tracks = m_tracks->statesAt(msecs)};
+        .time = m_times.exactDateTime(msecs), .events = {}, .tracks = m_devices->statesAt(msecs)};
     if (onMarker) {
-        for (const Event& event : m_events->eventsAt(msecs))
+        for (const Event& event : m_events->events().eventsAt(msecs))
             content.events.append({EventKinds::parse(event.kind), EventMarkers::textOf(event)});
     }
     constexpr int distance = 6;

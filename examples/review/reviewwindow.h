@@ -8,20 +8,20 @@
 
 class QAction;
 class QLabel;
-class QToolBar;
-class QTreeView;
+class QMenu;
 
 namespace Review {
 
-class EventModel;
+class DevicePane;
+class EventPane;
 class PreviewCard;
 class ProblemDock;
 class RangePanel;
 class TimelinePane;
-class TrackModel;
+class TimelineToolBar;
 class ZoneCombo;
 
-/// The client's window: tracks and events, the timeline that shows the checked ones, and the lines
+/// The client's window: cameras and events, the timeline that shows the checked ones, and the lines
 /// that could not be loaded.
 class ReviewWindow : public CorvelGui::PMainWindow
 {
@@ -40,7 +40,8 @@ protected:
 
 private:
     QWidget* createContent();
-    void createActions(bool dark);
+    void createToolBar(bool dark);
+    void createMenus();
     void createStatusBar();
     void connectParts();
     void retranslate();
@@ -49,15 +50,12 @@ private:
     void showCheckedTracks();
     void showView();
     void showCurrentTime();
-    void selectEvent(qsizetype index);
     void showPreview(qint64 msecs, const QPoint& position, bool onMarker);
 
     const ReviewData m_review;
     TimeTexts m_times;
-    TrackModel* m_tracks;
-    EventModel* m_events;
-    QTreeView* m_trackView;
-    QTreeView* m_eventView;
+    DevicePane* m_devices;
+    EventPane* m_events;
     QLabel* m_timeLabel;
     QLabel* m_viewLabel;
     RangePanel* m_ranges;
@@ -65,15 +63,11 @@ private:
     PreviewCard* m_preview;
     ProblemDock* m_problems = nullptr;
 
-    QToolBar* m_toolBar;
-    QAction* m_zoomIn;
-    QAction* m_zoomOut;
-    QAction* m_wholePeriod;
-    QAction* m_earlier;
-    QAction* m_later;
-    QAction* m_showMarkers;
-    QAction* m_showRanges;
+    TimelineToolBar* m_toolBar;
     QAction* m_darkLook;
+    QMenu* m_fileMenu;
+    QAction* m_quit;
+    QMenu* m_viewMenu;
 
     QLabel* m_countsLabel;
     QLabel* m_zoneLabel;

@@ -1,0 +1,80 @@
+#include "timelinetoolbar.h"
+
+#include "timelinepane.h"
+
+#include <Hueloft/PIconHelper>
+
+#include <QAction>
+
+using Hueloft::PIconHelper;
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
+    : QToolBar(parent), m_timeline(timeline)
+{
+    setObjectName(u"timelineToolBar"_s);
+    setMovable(false);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+
+    m_zoomIn = addAction(PIconHelper::GetPlusIcon_32x32(true), QString());
+    m_zoomOut = addAction(PIconHelper::GetMinusIcon_32x32(true), QString());
+    m_wholePeriod = addAction(QString());
+    addSeparator();
+    m_earlier = addAction(QString());
+    m_later = addAction(QString());
+    addSeparator();
+    m_showMarkers = addAction(QString());
+    m_showMarkers->setCheckable(true);
+    m_showMarkers->setChecked(true);
+    m_showRanges = addAction(QString());
+    m_showRanges->setCheckable(true);
+
+    m_zoomIn->setShortcut(QKeySequence::ZoomIn);
+    m_zoomOut->setShortcut(QKeySequence::ZoomOut);
+    m_wholePeriod->setShortcut(Qt::CTRL | Qt::Key_0);
+    m_earlier->setShortcut(Qt::ALT | Qt::Key_Left);
+    m_later->setShortcut(Qt::ALT | Qt::Key_Right);
+
+    connect(m_zoomIn, &QAction::triggered, timeline, &TimelinePane::zoomIn);
+    connect(m_zoomOut, &QAction::triggered, timeline, &TimelinePane::zoomOut);
+    connect(m_wholePeriod, &QAction::triggered, timeline, &TimelinePane::showWholePeriod);
+    connect(m_earlier, &QAction::triggered, timeline, &TimelinePane::stepEarlier);
+    connect(m_later, &QAction::triggered, timeline, &TimelinePane::stepLater);
+    connect(m_showMarkers, &QAction::toggled, timeline, &TimelinePane::setMarkersShown);
+    connect(timeline, &TimelinePane::viewChanged, this, &TimelineToolBar::showState);
+    retranslate();
+    showState();
+}
+
+QList<QAction*> TimelineToolBar::viewActions() const
+{
+    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,     m_earlier,
+            m_later,  nullptr,   m_showMarkers, m_showRanges};
+}
+
+void TimelineToolBar::retranslate()
+{
+    setWindowTitle(tr("Timeline"));
+    m_zoomIn->setText(tr("Zoom in"));
+    m_zoomOut->setText(tr("Zoom out"));
+    m_wholePeriod->setText(tr("Whole period"));
+    m_earlier->setText(tr("Earlier"));
+    m_later->setText(tr("Later"));
+    m_showMarkers->setText(tr("Events"));
+    m_showMarkers->setToolTip(tr("Shows the events on the timeline"));
+    m_showRanges->setText(tr("Ranges"));
+    m_showRanges->setToolTip(tr("Sets a search range and a result range"));
+}
+
+void TimelineToolBar::showState()
+{
+    m_zoomIn->setEnabled(m_timeline->canZoomIn());
+    m_zoomOut->setEnabled(m_timeline->canZoomOut());
+    m_wholePeriod->setEnabled(!m_timeline->showsWholePeriod());
+    m_earlier->setEnabled(m_timeline->canStepEarlier());
+    m_later->setEnabled(m_timeline->canStepLater());
+}
+
+} // namespace Review

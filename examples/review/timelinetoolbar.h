@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QToolBar>
+
+namespace Review {
+
+class TimelinePane;
+
+/// What can be done to the view of a timeline: buttons and shortcuts, enabled while they can do
+/// something.
+class TimelineToolBar : public QToolBar
+{
+    Q_OBJECT
+
+public:
+    explicit TimelineToolBar(TimelinePane* timeline, QWidget* parent = nullptr);
+
+    /// The actions as a menu shows them, with null pointers for separators.
+    QList<QAction*> viewActions() const;
+    /// Checkable: whether the panel for ranges is shown.
+    QAction* showRanges() const { return m_showRanges; }
+    /// Applies all translated texts again.
+    void retranslate();
+
+private:
+    void showState();
+
+    TimelinePane* m_timeline;
+    QAction* m_zoomIn;
+    QAction* m_zoomOut;
+    QAction* m_wholePeriod;
+    QAction* m_earlier;
+    QAction* m_later;
+    QAction* m_showMarkers;
+    QAction* m_showRanges;
+};
+
+} // namespace Review
