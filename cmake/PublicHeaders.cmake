@@ -16,6 +16,12 @@ set(CORVELGUI_PUBLIC_HEADERS
     frame/PMainWindow
     frame/PWidget
     frame/ToolBarWithLabel
+    settings/ISettingsPage
+    settings/ISettingsPageProvider
+    settings/IUserSettings
+    settings/OptionPageProvider
+    settings/SettingsBaseWidget
+    settings/SettingsManager
     timeline/Indicator
     timeline/Ruler
     timeline/RulerMarker

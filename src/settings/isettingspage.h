@@ -1,0 +1,80 @@
+#pragma once
+
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QIcon>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+namespace CorvelGui {
+
+/// One page of the options dialog. An application derives from it, describes the page by the
+/// setters, and registers it in SettingsManager::m_listPages or hands it over through an
+/// ISettingsPageProvider.
+///
+/// The library never deletes a page, except through the provider that owns it. A page that is
+/// deleted takes itself out of SettingsManager::m_listPages; an open dialog gets along without it.
+class CORVELGUI_EXPORT ISettingsPage : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ISettingsPage(QObject* parent = nullptr);
+    ~ISettingsPage() override;
+
+    /// Builds the page's widget. A dialog calls it at most once, when the page's category is first
+    /// shown or searched, and owns the widget from then on: the widget dies with the dialog.
+    virtual QWidget* createWidget(QWidget* parent) = 0;
+    /// Writes the edited values to wherever they are kept. Called on Apply and on OK, and only if
+    /// the user has seen the page.
+    virtual void apply() = 0;
+    /// The dialog closes, on OK after everything was applied, or on Cancel. Pages of providers are
+    /// not told, nor is anyone when the dialog is closed with Escape or by its title bar.
+    virtual void finish() = 0;
+
+    /// Unique within the category; stored to find the page again.
+    QString id() const;
+    /// The caption of the page's tab.
+    QString displayName() const;
+    /// The key of the category; pages with equal keys share one.
+    QString category() const;
+    /// The caption of the category.
+    QString displayCategory() const;
+    /// Made from the path on each call; null if there is no such picture.
+    QIcon categoryIcon() const;
+
+    /// Whether a text on the page contains @p text, in whatever case: labels, check boxes, push
+    /// buttons and the titles of group boxes, without their "&". False as long as there is no
+    /// widget. The texts are collected once, at the first call that finds a widget.
+    bool matches(const QString& text) const;
+
+protected:
+    void setId(const QString& id);
+    void setDisplayName(const QString& displayName);
+    void setCategory(const QString& category);
+    void setDisplayCategory(const QString& displayCategory);
+    /// @p path is the path of a picture, in the file system or among the resources.
+    void setCategoryIcon(const QString& path);
+
+private:
+    void collectKeywords() const;
+
+    QString m_id;
+    QString m_displayName;
+    QString m_category;
+    QString m_displayCategory;
+    QString m_categoryIcon;
+
+protected:
+    /// To be set by createWidget(); not owned. Guarded, since the widget dies with the dialog.
+    QPointer<QWidget> m_widget;
+
+private:
+    mutable bool m_keywordsReady = false;
+    mutable QStringList m_keywords;
+};
+
+} // namespace CorvelGui

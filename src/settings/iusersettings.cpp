@@ -1,0 +1,3 @@
+#include "iusersettings.h"
+
+IUserSettings::~IUserSettings() = default;
