@@ -1,5 +1,10 @@
 # The one list of what clients may include, as <Package/Name>. The header of Name is its lower-case file.
 set(CORVEL_PUBLIC_HEADERS
+    CheckAppUpdate
+    FileDownloader
+    ProxyNetworkAccessManager
+    ProxyUserSettings
+    RequestLimits
     TimeZoneHelper)
 
 set(HUELOFT_PUBLIC_HEADERS

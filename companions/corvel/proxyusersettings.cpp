@@ -1,0 +1,7 @@
+#include "proxyusersettings.h"
+
+namespace Corvel {
+
+ProxyUserSettings ProxyUserSettings::m_Settings;
+
+} // namespace Corvel
