@@ -27,6 +27,15 @@ set(CORVELGUI_PUBLIC_HEADERS
     settings/OptionPageProvider
     settings/SettingsBaseWidget
     settings/SettingsManager
+    frame/ToolTipHelper
+    itemviews/PDeviceItem
+    itemviews/PFirmwareVersionItem
+    itemviews/PIpItem
+    itemviews/PPathItem
+    itemviews/PSerialNumberItem
+    itemviews/PStatusItem
+    itemviews/PTableWidgetItem
+    itemviews/PTextWidgetItem
     timeline/Indicator
     timeline/Ruler
     timeline/RulerMarker
