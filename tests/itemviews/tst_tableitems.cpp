@@ -1,0 +1,190 @@
+#include "testsupport.h"
+
+#include <CorvelGui/PDeviceItem>
+#include <CorvelGui/PFirmwareVersionItem>
+#include <CorvelGui/PIpItem>
+#include <CorvelGui/PPathItem>
+#include <CorvelGui/PSerialNumberItem>
+#include <CorvelGui/PStatusItem>
+#include <CorvelGui/PTextWidgetItem>
+#include <CorvelGui/ToolTipHelper>
+#include <Hueloft/POrvGuiTheme>
+
+#include <QApplication>
+#include <QHostAddress>
+#include <QImage>
+#include <QRandomGenerator>
+#include <QTableWidget>
+#include <QTest>
+#include <QTextDocument>
+
+using namespace CorvelGui;
+using Hueloft::POrvGuiTheme;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The tooltip with these rows of label and value.
+QString table(std::initializer_list<std::pair<QString, QString>> rows)
+{
+    ToolTipHelper tip;
+    for (const auto& [label, value] : rows)
+        tip.AddRow(label, value);
+    return tip.GetToolTip();
+}
+
+} // namespace
+
+class TestTableItems : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void labelsToolTips();
+    void textStaysText();
+    void textsShowTheirColour();
+    void brushKeepsItsStyle();
+    void sortsAddressesByValue();
+    void copiesKeepTheirFields();
+    void collectsStatus();
+    void maintenanceMonths_data();
+    void maintenanceMonths();
+};
+
+void TestTableItems::labelsToolTips()
+{
+    const auto check = [](const QTableWidgetItem& item, const QString& label,
+                          const QString& value) {
+        QCOMPARE(item.toolTip(), table({{label, value}}));
+    };
+    check(PIpItem(u"10.0.0.2"_s), u"IP"_s, u"10.0.0.2"_s);
+    check(PSerialNumberItem(), u"Serial Number"_s, QString());
+    check(PDeviceItem(u"<b>"_s), u"Device"_s, u"<b>"_s);
+    check(PFirmwareVersionItem(u"1.2"_s), u"Software"_s, u"1.2"_s);
+    check(PPathItem(u"A/B"_s), u"Group Path"_s, u"A/B"_s);
+    QVERIFY(!PTableWidgetItem(u"a"_s).data(Qt::ToolTipRole).isValid());
+    QVERIFY(!PStatusItem(u"a"_s).data(Qt::ToolTipRole).isValid());
+}
+
+void TestTableItems::textStaysText()
+{
+    QCOMPARE(PTextWidgetItem(u"a\nb"_s).toolTip(), u"a\nb"_s);
+    const QString markup = u"<img src=\"/etc/passwd\"> & <b>"_s;
+    QTextDocument document;
+    document.setHtml(PTextWidgetItem(markup).toolTip());
+    QCOMPARE(document.toPlainText(), markup);
+}
+
+void TestTableItems::textsShowTheirColour()
+{
+    QTableWidget table(1, 1);
+    auto* item = new PTableWidgetItem;
+    table.setItem(0, 0, item);
+    // A full block takes the pure colour into the picture.
+    const auto painted = [&table](const QColor& color) {
+        const QImage picture =
+            table.viewport()->grab(table.visualItemRect(table.item(0, 0))).toImage();
+        for (int x = 0; x < picture.width(); ++x)
+            for (int y = 0; y < picture.height(); ++y)
+                if (picture.pixelColor(x, y) == color)
+                    return true;
+        return false;
+    };
+    item->SetRedText(u"████"_s);
+    QVERIFY(painted(POrvGuiTheme::statusRed()));
+    QCOMPARE(item->foreground(), QBrush(POrvGuiTheme::statusRed()));
+    item->SetNormalText(u"████"_s);
+    QVERIFY(!painted(POrvGuiTheme::statusRed()));
+    QVERIFY(painted(QApplication::palette().color(QPalette::Text)));
+}
+
+void TestTableItems::brushKeepsItsStyle()
+{
+    PTableWidgetItem item;
+    item.setForeground(QBrush(Qt::blue, Qt::Dense4Pattern));
+    item.SetRedText(u"a"_s);
+    QCOMPARE(item.foreground(), QBrush(POrvGuiTheme::statusRed(), Qt::Dense4Pattern));
+    item.SetNormalText(u"b"_s);
+    QCOMPARE(item.foreground(),
+             QBrush(QApplication::palette().color(QPalette::Text), Qt::Dense4Pattern));
+}
+
+void TestTableItems::sortsAddressesByValue()
+{
+    const QStringList notAddresses{u""_s, u"camera"_s, u"1.2.3.256"_s, u"fe80::1"_s};
+    QList<quint32> values(notAddresses.size(), 0);
+    QTableWidget table(10'000, 1);
+    QRandomGenerator random(1);
+    for (int row = 0; row < table.rowCount(); ++row) {
+        values.append(random.generate());
+        table.setItem(row, 0, new PIpItem(QHostAddress(values.last()).toString()));
+    }
+    for (const QString& text : notAddresses) {
+        auto* item = new PIpItem(u"9.9.9.9"_s);
+        item->setIp(text);
+        QCOMPARE(item->getIp(), 0u);
+        table.insertRow(5'000);
+        table.setItem(5'000, 0, item);
+    }
+    table.sortItems(0);
+    std::ranges::sort(values);
+    for (int row = 0; row < table.rowCount(); ++row)
+        QCOMPARE(static_cast<PIpItem*>(table.item(row, 0))->getIp(), values[row]);
+    for (int row = 0; row < notAddresses.size(); ++row)
+        QVERIFY(notAddresses.contains(table.item(row, 0)->text()));
+    // The other cell is judged by its text, of whatever class it is.
+    QVERIFY(PIpItem(u"9.255.255.255"_s) < QTableWidgetItem(u"10.0.0.2"_s));
+    QVERIFY(!(PIpItem(u"10.0.0.10"_s) < QTableWidgetItem(u"10.0.0.2"_s)));
+}
+
+void TestTableItems::copiesKeepTheirFields()
+{
+    PIpItem ip(u"10.0.0.2"_s);
+    ip.setIconResource(u":/a.png"_s);
+    PStatusItem status;
+    status.AddRedStatus(u"a"_s);
+    PIpItem otherIp;
+    otherIp = ip;
+    const PStatusItem otherStatus = std::move(status);
+    QCOMPARE(otherIp.getIp(), 0x0a000002u);
+    QCOMPARE(otherIp.getIconResource(), u":/a.png"_s);
+    QCOMPARE(otherIp.text(), u"10.0.0.2"_s);
+    QCOMPARE(otherStatus.toolTip(), table({{u"1"_s, u"a"_s}}));
+}
+
+void TestTableItems::collectsStatus()
+{
+    PStatusItem item;
+    item.AddRedStatus(u"No %2 <b>"_s);
+    QCOMPARE(item.text(), u"No %2 <b>"_s);
+    QCOMPARE(item.foreground().color(), POrvGuiTheme::statusRed());
+    item.AddApplicationSystemUpTime(u"%2 h"_s);
+    item.AddStatusSystemUpTime(u"3 d"_s);
+    QCOMPARE(item.text(), u"3 d System uptime"_s);
+    QCOMPARE(item.foreground().color(), QApplication::palette().color(QPalette::Text));
+    QCOMPARE(item.toolTip(), table({{u"1"_s, u"No %2 <b>"_s},
+                                    {u"2"_s, u"%2 h Application uptime"_s},
+                                    {u"3"_s, u"3 d System uptime"_s}}));
+}
+
+void TestTableItems::maintenanceMonths_data()
+{
+    QTest::addColumn<QString>("months");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("none") << QString() << QString();
+    QTest::newRow("zero") << u"0"_s << QString();
+    QTest::newRow("some") << u"14"_s << u" (14 Month(s))"_s;
+    QTest::newRow("no number") << u"abc"_s << u" (abc Month(s))"_s;
+}
+
+void TestTableItems::maintenanceMonths()
+{
+    QFETCH(const QString, months);
+    QFETCH(const QString, shown);
+    PStatusItem item;
+    item.AddMaintenanceInfo(u"%1-31"_s, months);
+    QCOMPARE(item.text(), u"End of Software Maintenance %1-31"_s + shown);
+}
+
+QTEST_MAIN(TestTableItems)
+#include "tst_tableitems.moc"
