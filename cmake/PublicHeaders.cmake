@@ -44,4 +44,9 @@ set(CORVELGUI_PUBLIC_HEADERS
     timeline/TrackDescription
     timeline/ZoomTimeline
     timeline/ZoomTimelineOperation
-    timeline/Zoomer)
+    timeline/Zoomer
+    update/AppUpdater
+    update/AppUpdaterDialog
+    update/PChangeLogDialog
+    update/PCheckVersionUpdate
+    update/PCheckVersionUpdateDialog)

@@ -1,0 +1,261 @@
+#include "harmlesshtml.h"
+
+#include "weblink.h"
+
+#include <QList>
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr qsizetype longestText = 200'000;
+constexpr qsizetype longestUrl = 2'000;
+constexpr qsizetype deepestNesting = 24;
+
+using Names = QSet<QString>;
+
+const Names& keptElements()
+{
+    static const Names names{u"a"_s,   u"b"_s,   u"blockquote"_s, u"br"_s, u"code"_s, u"dd"_s,
+                             u"div"_s, u"dl"_s,  u"dt"_s,         u"em"_s, u"h1"_s,   u"h2"_s,
+                             u"h3"_s,  u"h4"_s,  u"h5"_s,         u"h6"_s, u"hr"_s,   u"i"_s,
+                             u"li"_s,  u"ol"_s,  u"p"_s,          u"s"_s,  u"pre"_s,  u"strong"_s,
+                             u"sub"_s, u"sup"_s, u"table"_s,      u"td"_s, u"th"_s,   u"tr"_s,
+                             u"tt"_s,  u"u"_s,   u"ul"_s};
+    return names;
+}
+
+const Names& elementsWithForeignContent()
+{
+    static const Names names{u"iframe"_s, u"noscript"_s, u"object"_s,   u"script"_s, u"style"_s,
+                             u"svg"_s,    u"template"_s, u"textarea"_s, u"title"_s};
+    return names;
+}
+
+/// The end tags that HTML allows to be left out: an element that begins ends the open one of
+/// @c ends, unless an element of @c inside was opened since.
+struct ImpliedEnd
+{
+    Names begins;
+    Names ends;
+    Names inside;
+};
+
+const QList<ImpliedEnd>& impliedEnds()
+{
+    static const QList<ImpliedEnd> all{
+        {{u"li"_s}, {u"li"_s}, {u"ul"_s, u"ol"_s}},
+        {{u"dt"_s, u"dd"_s}, {u"dt"_s, u"dd"_s}, {u"dl"_s}},
+        {{u"td"_s, u"th"_s}, {u"td"_s, u"th"_s}, {u"tr"_s, u"table"_s}},
+        {{u"tr"_s}, {u"tr"_s}, {u"table"_s}},
+        {{u"p"_s, u"div"_s, u"h1"_s, u"h2"_s, u"h3"_s, u"h4"_s, u"h5"_s, u"h6"_s, u"ul"_s, u"ol"_s,
+          u"dl"_s, u"pre"_s, u"table"_s, u"hr"_s, u"blockquote"_s},
+         {u"p"_s},
+         {u"td"_s, u"th"_s, u"li"_s, u"dd"_s, u"blockquote"_s, u"div"_s}}};
+    return all;
+}
+
+/// Reads HTML from begin to end, once.
+class Reducer
+{
+public:
+    explicit Reducer(QStringView html) : m_rest(html) {}
+
+    QString reduced()
+    {
+        while (!m_rest.isEmpty()) {
+            if (m_rest.front() != u'<')
+                takeText();
+            else if (!takeComment() && !takeTag())
+                takeLessThan();
+        }
+        while (!m_open.isEmpty())
+            endLast();
+        return m_result;
+    }
+
+private:
+    struct Element
+    {
+        QString name;
+        bool kept;
+    };
+
+    void takeText()
+    {
+        const qsizetype end = m_rest.indexOf(u'<');
+        const QStringView text = end < 0 ? m_rest : m_rest.left(end);
+        m_result += text;
+        m_rest = m_rest.mid(text.size());
+    }
+
+    void takeLessThan()
+    {
+        m_result += u"&lt;"_s;
+        m_rest = m_rest.mid(1);
+    }
+
+    bool takeComment()
+    {
+        if (!m_rest.startsWith(u"<!") && !m_rest.startsWith(u"<?"))
+            return false;
+        const QStringView close = m_rest.startsWith(u"<!--") ? u"-->" : u">";
+        skipBehind(m_rest.indexOf(close), close.size());
+        return true;
+    }
+
+    bool takeTag()
+    {
+        const bool isEnd = m_rest.startsWith(u"</");
+        QStringView tag = m_rest.mid(isEnd ? 2 : 1);
+        const qsizetype nameLength =
+            std::find_if_not(tag.begin(), tag.end(),
+                             [](QChar c) { return c.unicode() < 128 && c.isLetterOrNumber(); }) -
+            tag.begin();
+        if (nameLength == 0 || !tag.front().isLetter())
+            return false;
+        const QString name = tag.left(nameLength).toString().toLower();
+        const QString link = takeAttributes(tag.mid(nameLength));
+        if (isEnd)
+            end(name);
+        else if (elementsWithForeignContent().contains(name))
+            skipContent(name);
+        else
+            begin(name, link);
+        return true;
+    }
+
+    /// Moves behind the tag whose attributes begin with @p rest. Returns the value of its href.
+    QString takeAttributes(QStringView rest)
+    {
+        QString link;
+        while (true) {
+            rest = rest.trimmed();
+            if (rest.isEmpty() || rest.front() == u'>')
+                break;
+            const qsizetype nameEnd = lengthUntil(rest, u"=> \t\r\n");
+            const QStringView name = rest.left(std::max(nameEnd, qsizetype(1)));
+            rest = rest.mid(name.size());
+            const QStringView afterBlanks = rest.trimmed();
+            if (!afterBlanks.startsWith(u'='))
+                continue;
+            rest = afterBlanks.mid(1).trimmed();
+            const bool quoted = rest.startsWith(u'"') || rest.startsWith(u'\'');
+            const QChar quote = quoted ? rest.front() : QChar();
+            if (quoted)
+                rest = rest.mid(1);
+            const qsizetype length = quoted ? rest.indexOf(quote) : lengthUntil(rest, u"> \t\r\n");
+            const QStringView value = length < 0 ? rest : rest.left(length);
+            rest = rest.mid(value.size() + (quoted && length >= 0 ? 1 : 0));
+            if (name.compare(u"href", Qt::CaseInsensitive) == 0 && value.size() <= longestUrl)
+                link = value.toString();
+        }
+        m_rest = rest.mid(1);
+        return link;
+    }
+
+    static qsizetype lengthUntil(QStringView text, QStringView characters)
+    {
+        return std::find_if(text.begin(), text.end(),
+                            [characters](QChar c) { return characters.contains(c); }) -
+               text.begin();
+    }
+
+    void skipContent(const QString& name)
+    {
+        const QString close = u"</"_s + name;
+        skipBehind(m_rest.indexOf(close, 0, Qt::CaseInsensitive), close.size());
+        skipBehind(m_rest.indexOf(u'>'), 1);
+    }
+
+    void skipBehind(qsizetype position, qsizetype length)
+    {
+        m_rest = position < 0 ? QStringView() : m_rest.mid(position + length);
+    }
+
+    void begin(const QString& name, const QString& link)
+    {
+        if (!keptElements().contains(name))
+            return;
+        endImplied(name);
+        if (name == u"br" || name == u"hr") {
+            m_result += u'<' + name + u'>';
+            return;
+        }
+        if (m_open.size() >= deepestNesting)
+            return;
+        const QUrl target(link, QUrl::StrictMode);
+        const bool isKept =
+            name == u"a" ? leadsToTheWeb(target) : name != u"table" || !isOpen(name);
+        m_open.append({name, isKept});
+        if (name == u"a" && isKept)
+            m_result +=
+                u"<a href=\"%1\">"_s.arg(target.toString(QUrl::FullyEncoded).toHtmlEscaped());
+        else if (isKept)
+            m_result += u'<' + name + u'>';
+    }
+
+    void endImplied(const QString& beginning)
+    {
+        for (const ImpliedEnd& implied : impliedEnds()) {
+            if (!implied.begins.contains(beginning))
+                continue;
+            for (qsizetype i = m_open.size() - 1; i >= 0; --i) {
+                if (implied.inside.contains(m_open[i].name))
+                    break;
+                if (implied.ends.contains(m_open[i].name)) {
+                    endUntil(i);
+                    break;
+                }
+            }
+        }
+    }
+
+    void end(const QString& name)
+    {
+        for (qsizetype i = m_open.size() - 1; i >= 0; --i) {
+            if (m_open[i].name == name)
+                return endUntil(i);
+        }
+    }
+
+    void endUntil(qsizetype index)
+    {
+        while (m_open.size() > index)
+            endLast();
+    }
+
+    void endLast()
+    {
+        const Element element = m_open.takeLast();
+        if (element.kept)
+            m_result += u"</"_s + element.name + u'>';
+    }
+
+    bool isOpen(const QString& name) const
+    {
+        return std::ranges::any_of(m_open, [&](const Element& open) { return open.name == name; });
+    }
+
+    QStringView m_rest;
+    QList<Element> m_open;
+    QString m_result;
+};
+
+} // namespace
+
+QString harmlessHtml(const QString& html)
+{
+    QString text = html.left(longestText);
+    text.remove(QChar::Null);
+    if (html.size() > longestText)
+        text += u'…';
+    return Reducer(text).reduced();
+}
+
+} // namespace CorvelGui

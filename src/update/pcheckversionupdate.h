@@ -1,0 +1,95 @@
+#pragma once
+
+#include <CorvelGui/corvelgui_export.h>
+
+#include <Corvel/RequestLimits>
+
+#include <QObject>
+
+#include <memory>
+
+class QNetworkReply;
+class QUrl;
+
+namespace CorvelGui {
+
+/// Looks for a newer release of the application: in the version file of an internal release channel
+/// first and, if that cannot be had, in the one of the public update server. A newer release is
+/// offered with its release notes; its installer is downloaded to where the user wants it and is
+/// never started.
+///
+/// A version file "version.txt" is UTF-8 text with a line "key=value" for each of "version" and
+/// "updatefile" (the installer) and, if wanted, "readmefile" (release notes in HTML) and
+/// "releasedate" (any text). Files are relative to the base URL of their channel.
+///
+/// All requests go by Corvel::ProxyUserSettings::m_Settings as they are when the object is made.
+/// Messages are shown in nested event loops; the object may be deleted in any of them, and in any
+/// slot.
+class CORVELGUI_EXPORT PCheckVersionUpdate : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// File names are appended to the base URLs without a separator, so these end with a slash.
+    /// @p currentVersion is up to four numbers with dots between. With @p showRevision versions are
+    /// shown with all four of them, else with three. @p parent is the parent of the dialogs, too.
+    PCheckVersionUpdate(QWidget* parent, const QString& currentVersion, const QString& internetBase,
+                        const QString& intranetBase, bool showRevision);
+    ~PCheckVersionUpdate() override;
+
+    /// Starts a check. Only with @p showResult the user is told that the version is up to date, or
+    /// that the public server cannot be reached. A check that still runs is abandoned; a running
+    /// download is not.
+    void checkVersion(bool showResult);
+    /// Shows the release notes of the last check, or says that there are none.
+    void checkChangeLog();
+    void setCurrentVersion(const QString& version);
+
+    /// The release notes of the last check (HTML of the server), or why there are none.
+    QString GetReadMeFile() const;
+    /// Whether the last version file came from the internal release channel.
+    bool hasInternalReleaseChannelConnection() const;
+    /// Whether a request is on its way. False while a dialog waits for the user.
+    bool isBusy() const;
+
+    /// For requests from now on: those of version files and release notes (at first 30 seconds, 15
+    /// seconds of silence, 1 MiB), and those of installers (two hours, 30 seconds of silence, 1
+    /// GiB).
+    void setLimits(const Corvel::RequestLimits& texts, const Corvel::RequestLimits& installers);
+
+Q_SIGNALS:
+    /// The installer's download, in bytes: (-1, -1) when it begins, then as its parts arrive, with
+    /// a total of -1 when the server does not announce it. At its end both are the size, or 0 when
+    /// it failed.
+    void signalDownloadProgress(qint64 received, qint64 total);
+
+private:
+    void httpReadyReadVersionFileIntranet();
+    void httpFinishedVersionFileIntranet();
+    void httpReadyReadVersionFileInternet();
+    void httpFinishedVersionFileInternet();
+    void httpReadyReadReadMeFile();
+    void httpFinishedReadMeFile();
+    void httpReadyReadInstallFile();
+    void httpFinishedInstallFile();
+    void httpFileProgressInstallFile(qint64 received, qint64 total);
+
+    void requestVersionFileIntranet();
+    void requestVersionFileInternet();
+    void requestReadMeFile(const QString& url);
+    void requestInstallFile(const QString& url);
+    bool parseVersionInfo(const QByteArray& content);
+    void compareVersions();
+    void offer();
+    void saveInstaller(const QByteArray& content);
+    void tellUnreadable();
+    QWidget* parentWidget() const;
+
+    using Slot = void (PCheckVersionUpdate::*)();
+    struct Private;
+    QNetworkReply* get(const QUrl& url, const Corvel::RequestLimits& limits, Slot readyRead,
+                       Slot finished);
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace CorvelGui
