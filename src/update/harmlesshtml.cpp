@@ -15,6 +15,7 @@ namespace {
 
 constexpr qsizetype longestText = 200'000;
 constexpr qsizetype longestUrl = 2'000;
+constexpr qsizetype longestWord = 200;
 constexpr qsizetype deepestNesting = 24;
 
 using Names = QSet<QString>;
@@ -90,14 +91,40 @@ private:
     {
         const qsizetype end = m_rest.indexOf(u'<');
         const QStringView text = end < 0 ? m_rest : m_rest.left(end);
-        m_result += text;
+        for (qsizetype i = 0; i < text.size();)
+            i += append(text.mid(i, lengthOfCharacter(text, i)));
         m_rest = m_rest.mid(text.size());
     }
 
     void takeLessThan()
     {
-        m_result += u"&lt;"_s;
+        append(u"&lt;");
         m_rest = m_rest.mid(1);
+    }
+
+    // Appends one character, and a place to break the line where a word has none for long: laying
+    // out a line takes time that grows with the square of its length.
+    qsizetype append(QStringView character)
+    {
+        m_wordLength = character.front().isSpace() ? 0 : m_wordLength + 1;
+        if (m_wordLength > longestWord) {
+            m_result += QChar(0x200b);
+            m_wordLength = 1;
+        }
+        m_result += character;
+        return character.size();
+    }
+
+    /// Of the character at @p index, as HTML writes it: "&amp;" is one.
+    static qsizetype lengthOfCharacter(QStringView text, qsizetype index)
+    {
+        constexpr qsizetype longestEntity = 34;
+        if (text[index].isHighSurrogate() && index + 1 < text.size())
+            return 2;
+        if (text[index] != u'&')
+            return 1;
+        const qsizetype end = text.mid(index, longestEntity).indexOf(u';');
+        return end < 0 ? 1 : end + 1;
     }
 
     bool takeComment()
@@ -189,9 +216,8 @@ private:
         }
         if (m_open.size() >= deepestNesting)
             return;
-        const QUrl target(link, QUrl::StrictMode);
-        const bool isKept =
-            name == u"a" ? leadsToTheWeb(target) : name != u"table" || !isOpen(name);
+        const QUrl target(QString(link).replace(u"&amp;"_s, u"&"_s));
+        const bool isKept = name == u"a" ? leadsToTheWeb(target) : fitsTables(name);
         m_open.append({name, isKept});
         if (name == u"a" && isKept)
             m_result +=
@@ -237,13 +263,21 @@ private:
             m_result += u"</"_s + element.name + u'>';
     }
 
-    bool isOpen(const QString& name) const
+    // Tables inside tables go, with their rows and cells.
+    bool fitsTables(const QString& name) const
     {
-        return std::ranges::any_of(m_open, [&](const Element& open) { return open.name == name; });
+        const auto table = std::find_if(m_open.rbegin(), m_open.rend(), [](const Element& element) {
+            return element.name == u"table";
+        });
+        if (name == u"table")
+            return table == m_open.rend();
+        const bool isPart = name == u"tr" || name == u"td" || name == u"th";
+        return !isPart || (table != m_open.rend() && table->kept);
     }
 
     QStringView m_rest;
     QList<Element> m_open;
+    qsizetype m_wordLength = 0;
     QString m_result;
 };
 
