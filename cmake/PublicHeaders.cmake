@@ -5,7 +5,8 @@ set(CORVEL_PUBLIC_HEADERS
     ProxyNetworkAccessManager
     ProxyUserSettings
     RequestLimits
-    TimeZoneHelper)
+    TimeZoneHelper
+    UrlChecker)
 
 set(HUELOFT_PUBLIC_HEADERS
     PIconHelper
@@ -21,6 +22,17 @@ set(CORVELGUI_PUBLIC_HEADERS
     frame/PMainWindow
     frame/PWidget
     frame/ToolBarWithLabel
+    input/CheckDirLineEdit
+    input/CheckFileNameLineEdit
+    input/CountryCodeLineEdit
+    input/FileNameValidatingLineEdit
+    input/InputLengthLineEdit
+    input/IpLineEdit
+    input/NotEmptyLineEdit
+    input/PFileCheckLineEdit
+    input/PIpLineEdit
+    input/UrlLineEdit
+    input/ValidateBaseLineEdit
     settings/ISettingsPage
     settings/ISettingsPageProvider
     settings/IUserSettings

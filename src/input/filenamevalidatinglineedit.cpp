@@ -1,0 +1,76 @@
+#include "filenamevalidatinglineedit.h"
+
+#include "filenamerules.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+FileNameValidatingLineEdit::FileNameValidatingLineEdit(QWidget* parent)
+    : ValidateBaseLineEdit(parent)
+{}
+
+FileNameValidatingLineEdit::~FileNameValidatingLineEdit() = default;
+
+void FileNameValidatingLineEdit::addExtensionToCheck(const QString& extension)
+{
+    m_extensions.append(extension);
+}
+
+QString FileNameValidatingLineEdit::getErrorAsStrin() const
+{
+    return m_errorText;
+}
+
+void FileNameValidatingLineEdit::Validate()
+{
+    const QString path = text();
+    if (!validateDirExist(path)) {
+        setError(true);
+        return;
+    }
+    const std::optional<QString> name = checkedNamePart(path, hasDriveLetters());
+    setError(!name || !validateFileName(*name, true, m_errorText) ||
+             !validateFileNameExtension(*name, m_extensions, m_errorText));
+}
+
+bool FileNameValidatingLineEdit::validateDirExist(const QString& name)
+{
+    return !name.isEmpty() && QDir(QFileInfo(name).absolutePath()).exists();
+}
+
+bool FileNameValidatingLineEdit::validateFileName(const QString& name, bool strict,
+                                                  QString& errorText)
+{
+    if (name.isEmpty()) {
+        errorText = tr("Name is empty.");
+        return false;
+    }
+    if (const std::optional<QChar> character = forbiddenCharacter(name, strict)) {
+        errorText = character->isSpace() ? tr("Name contains white space.")
+                                         : tr("Invalid character '%1'.").arg(*character);
+        return false;
+    }
+    if (isDeviceName(name, strict)) {
+        errorText = tr("Name matches MS Windows device. (%1).").arg(deviceNamesForDisplay());
+        return false;
+    }
+    return true;
+}
+
+bool FileNameValidatingLineEdit::validateFileNameExtension(const QString& name,
+                                                           const QStringList& extensions,
+                                                           QString& errorText)
+{
+    if (hasExtension(name, extensions))
+        return true;
+    errorText = extensions.size() == 1
+                    ? tr("File extension %1 is required:").arg(extensions.first())
+                    : tr("File extensions %1 are required:").arg(extensions.join(", "_L1));
+    return false;
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "validatebaselineedit.h"
+
+namespace CorvelGui {
+
+/// A field for a text of bounded length. Until a range is set only the empty text is valid.
+class CORVELGUI_EXPORT InputLengthLineEdit : public ValidateBaseLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit InputLengthLineEdit(QWidget* parent = nullptr);
+    ~InputLengthLineEdit() override;
+
+    /// Both bounds are valid lengths, in characters of QString. The text is not judged again before
+    /// the next edit or show.
+    void setInputLengthRange(int minimum, int maximum);
+
+    void Validate() override;
+
+private:
+    int m_minimumLength = 0;
+    int m_maximumLength = 0;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,36 @@
+#include "piplineedit.h"
+
+#include "wrongentrysheet.h"
+
+#include <QRegularExpressionValidator>
+
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+namespace {
+
+QRegularExpression dottedAddress()
+{
+    const QString octet = u"(?:[0-1]?[0-9]?[0-9]|2[0-4][0-9]|25[0-5])"_s;
+    return QRegularExpression(u'^' + QStringList(4, octet).join("\\."_L1) + u'$');
+}
+
+} // namespace
+
+PIpLineEdit::PIpLineEdit(QWidget* parent)
+    : QLineEdit(parent), m_validator(new QRegularExpressionValidator(dottedAddress(), this))
+{
+    setValidator(m_validator);
+    connect(this, &QLineEdit::textChanged, this, &PIpLineEdit::checkEntry);
+    checkEntry({});
+}
+
+PIpLineEdit::~PIpLineEdit() = default;
+
+void PIpLineEdit::checkEntry(const QString&)
+{
+    markWrongEntry(this, !hasAcceptableInput());
+}
+
+} // namespace CorvelGui

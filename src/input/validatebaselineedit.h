@@ -1,0 +1,56 @@
+#pragma once
+
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QLineEdit>
+
+namespace CorvelGui {
+
+/// Base of the line edits that judge their own text and turn red while it is unacceptable.
+///
+/// The text is judged on textChanged(), on textEdited(), whenever the widget is shown, and by
+/// setValidationActive(true); so a keystroke judges twice, setText() once, and a new field is
+/// neither red nor wrong before it is first shown. The style sheet of the widget belongs to this
+/// class.
+///
+/// A receiver that wants to remove the field calls deleteLater(): QLineEdit still works on itself
+/// after its own signals.
+class CORVELGUI_EXPORT ValidateBaseLineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit ValidateBaseLineEdit(QWidget* parent = nullptr);
+    ~ValidateBaseLineEdit() override;
+
+    /// What the last judgement said; true while validation is not active.
+    virtual bool isValid() const;
+
+    /// Judges the text as it stands and says so by setError(). Emits nothing.
+    virtual void Validate() = 0;
+
+    /// Switches validation on or off. On judges at once and emits signalValidate(), also when it
+    /// was on before. Off makes isValid() true without a signal, and leaves a red field red.
+    void setValidationActive(bool active);
+    bool validationActive() const;
+
+Q_SIGNALS:
+    /// Emitted after every judgement, whether or not the verdict changed; not while validation is
+    /// off, and not by a direct call of Validate().
+    void signalValidate(bool valid);
+
+protected:
+    /// Stores the verdict; shows it when validation is active.
+    void setError(bool error);
+
+private Q_SLOTS:
+    void slotChanged();
+
+private:
+    void showEvent(QShowEvent* event) override;
+
+    bool m_error = false;
+    bool m_validationActive = true;
+};
+
+} // namespace CorvelGui
