@@ -33,6 +33,9 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/PIpLineEdit
     input/UrlLineEdit
     input/ValidateBaseLineEdit
+    input/FancyLineEdit
+    input/FilterLineEdit
+    input/IconButton
     settings/ISettingsPage
     settings/ISettingsPageProvider
     settings/IUserSettings

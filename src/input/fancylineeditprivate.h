@@ -1,0 +1,43 @@
+#pragma once
+
+#include "fancylineedit.h"
+#include "iconbutton.h"
+
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QMenu>
+#include <QObject>
+#include <QPixmap>
+#include <QPointer>
+
+#include <array>
+
+namespace CorvelGui {
+
+/// What a FancyLineEdit keeps of its two sides. It watches the buttons for the keyboard focus.
+class CORVELGUI_EXPORT FancyLineEditPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct SideState
+    {
+        QPixmap pixmap;
+        QPointer<QMenu> menu; // not owned
+        bool menuTabFocusTrigger = false;
+        IconButton* button = nullptr;
+        bool buttonEnabled = false;
+    };
+
+    explicit FancyLineEditPrivate(FancyLineEdit* lineEdit);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// The width of the side's icon per height, in whole numbers.
+    int aspectFactor(FancyLineEdit::Side side) const;
+
+    FancyLineEdit* const lineEdit;
+    std::array<SideState, 2> sides;
+};
+
+} // namespace CorvelGui
