@@ -25,7 +25,10 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/CheckDirLineEdit
     input/CheckFileNameLineEdit
     input/CountryCodeLineEdit
+    input/FancyLineEdit
     input/FileNameValidatingLineEdit
+    input/FilterLineEdit
+    input/IconButton
     input/InputLengthLineEdit
     input/IpLineEdit
     input/NotEmptyLineEdit
@@ -33,9 +36,6 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/PIpLineEdit
     input/UrlLineEdit
     input/ValidateBaseLineEdit
-    input/FancyLineEdit
-    input/FilterLineEdit
-    input/IconButton
     settings/ISettingsPage
     settings/ISettingsPageProvider
     settings/IUserSettings
