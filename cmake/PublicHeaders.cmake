@@ -18,6 +18,7 @@ set(HUELOFT_PUBLIC_HEADERS
     PTarvoPlayerIconHelper)
 
 set(CORVELGUI_PUBLIC_HEADERS
+    dialogs/PCsvDialog
     frame/PBaseDialog
     frame/PMainWindow
     frame/PWidget
@@ -51,6 +52,12 @@ set(CORVELGUI_PUBLIC_HEADERS
     itemviews/PStatusItem
     itemviews/PTableWidgetItem
     itemviews/PTextWidgetItem
+    settings/ISettingsPage
+    settings/ISettingsPageProvider
+    settings/IUserSettings
+    settings/OptionPageProvider
+    settings/SettingsBaseWidget
+    settings/SettingsManager
     timeline/Indicator
     timeline/Ruler
     timeline/RulerMarker

@@ -30,11 +30,7 @@ class CsvBody
 public:
     CsvBody(QTextStream& out, const QAbstractItemModel& list, const QItemSelection& selection,
             const CsvFormat& format)
-        : m_out(out)
-        , m_list(list)
-        , m_format(format)
-        , m_lastDelimited(int(format.columns.count(true)) - 1)
-        , m_columns(list.columnCount())
+        : m_out(out), m_list(list), m_format(format), m_columns(list.columnCount())
     {
         for (const QItemSelectionRange& range : selection)
             m_ranges.insert(range.topLeft(), &range);
@@ -75,7 +71,7 @@ private:
     void writeText(int column, const QString& text)
     {
         m_out << m_format.quote << text << m_format.quote;
-        if (column < m_lastDelimited)
+        if (column < m_format.columnCount - 1)
             m_out << m_format.delimiter;
     }
 
@@ -113,7 +109,6 @@ private:
     QTextStream& m_out;
     const QAbstractItemModel& m_list;
     const CsvFormat& m_format;
-    const int m_lastDelimited;
     const int m_columns;
     QMultiHash<QModelIndex, const QItemSelectionRange*> m_ranges; ///< by their first cell
 };

@@ -18,13 +18,14 @@ struct CsvFormat
     QChar quote;
     bool columnNames;  ///< a first line with the names of the columns
     QBitArray columns; ///< which columns of the list are written; those beyond its end are not
+    int columnCount;   ///< how many of them are written
 };
 
 /// Writes what is selected in a list, a line for each row with a selected cell in a written column:
 /// parents before their children, whether they are visible or not.
 ///
 /// Every text stands between quotes and is otherwise written as it is. A delimiter follows a text
-/// if the number of its column is less than the number of written columns minus one: where an
+/// if the number of its column is less than CsvFormat::columnCount minus one: where an
 /// unwritten column stands before written ones, delimiters are missing at the end of the line.
 /// Readers of these files count on that.
 ///

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <CorvelGui/PBaseDialog>
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QPointer>
+
+#include <memory>
+
+class QAbstractItemView;
+class QTableWidget;
+class QTextStream;
+class QTreeWidget;
+
+namespace CorvelGui {
+
+namespace Ui {
+class PCsvDialog;
+}
+
+/// Writes the selected cells of a list into a file of comma-separated values. The user chooses the
+/// file, the delimiter, the quotes, the columns, whether a line of column names comes first, and
+/// whether the file is opened at once in the program that the system has for it.
+///
+/// A file is written whole or not at all: when writing fails, a warning says why, the file is as it
+/// was before, and the dialog stays open.
+///
+/// The dialog does not own the list and notices when it is deleted.
+class CORVELGUI_EXPORT PCsvDialog : public PBaseDialog
+{
+    Q_OBJECT
+
+public:
+    /// Exports from @p parent if it is a table or a tree widget.
+    explicit PCsvDialog(QWidget* parent = nullptr);
+    ~PCsvDialog() override;
+
+    /// Exports from @p table, and offers its columns. A table goes before a tree.
+    void InitWithTableWidget(QTableWidget* table);
+    /// Exports from @p tree, and offers its columns, unless there is a table.
+    void InitWithTreeWidget(QTreeWidget* tree);
+
+    /// The chosen delimiter: a tab, a semicolon or a comma.
+    QChar GetDelimiter() const;
+    /// The chosen quotes: double or single ones.
+    QChar GetTextQuote() const;
+    /// Whether the column names come first.
+    bool AddColumnsAtTop() const;
+
+private Q_SLOTS:
+    void slotAccept();
+    void slotBrowsed();
+    void slotFileNameValidate(bool valid);
+
+private:
+    int GetCheckedColumnCount() const;
+    void CreateCsv(QTextStream& stream, QTableWidget* table) const;
+    void CreateCsv(QTextStream& stream, QTreeWidget* tree) const;
+
+    bool isChecked(int column) const;
+    void listColumns(const QAbstractItemView& list);
+    void writeSelection(QTextStream& stream, const QAbstractItemView& list) const;
+    QByteArray csv() const;
+
+    const std::unique_ptr<Ui::PCsvDialog> ui;
+    QPointer<QTableWidget> m_table;
+    QPointer<QTreeWidget> m_tree;
+};
+
+} // namespace CorvelGui
