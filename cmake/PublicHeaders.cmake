@@ -23,6 +23,7 @@ set(CORVELGUI_PUBLIC_HEADERS
     frame/PMainWindow
     frame/PWidget
     frame/ToolBarWithLabel
+    frame/ToolTipHelper
     input/CheckDirLineEdit
     input/CheckFileNameLineEdit
     input/CountryCodeLineEdit
@@ -37,13 +38,6 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/PIpLineEdit
     input/UrlLineEdit
     input/ValidateBaseLineEdit
-    settings/ISettingsPage
-    settings/ISettingsPageProvider
-    settings/IUserSettings
-    settings/OptionPageProvider
-    settings/SettingsBaseWidget
-    settings/SettingsManager
-    frame/ToolTipHelper
     itemviews/PDeviceItem
     itemviews/PFirmwareVersionItem
     itemviews/PIpItem
