@@ -1,8 +1,10 @@
 #include "checkappupdate.h"
 
-#include "transfer.h"
+#include "proxynetworkaccessmanager.h"
+#include "proxyusersettings.h"
 #include "updateanswer.h"
 
+#include <QNetworkReply>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -25,9 +27,8 @@ struct CheckAppUpdate::Private
     QString serverBase;
     RequestLimits limits{30s, 15s, 64 * 1024};
     // All of one query.
-    std::unique_ptr<Transfer> transfer;
+    std::unique_ptr<ProxyNetworkAccessManager> network;
     QVersionNumber current;
-    QByteArray answer;
 };
 
 CheckAppUpdate::CheckAppUpdate(const QString& serverBase, QObject* parent)
@@ -46,27 +47,27 @@ void CheckAppUpdate::setLimits(const RequestLimits& limits)
 void CheckAppUpdate::checkForUpdates(const QString& key, const QVersionNumber& current)
 {
     d->current = current;
-    d->answer.clear();
-    d->transfer =
-        std::make_unique<Transfer>(queryAddress(d->serverBase, key, current), d->limits, nullptr);
-    connect(d->transfer.get(), &Transfer::arrived, this,
-            [this](const QByteArray& piece) { d->answer += piece; });
-    connect(d->transfer.get(), &Transfer::finished, this, &CheckAppUpdate::complete);
+    d->network = std::make_unique<ProxyNetworkAccessManager>();
+    d->network->Init(ProxyUserSettings::m_Settings);
+    d->network->setLimits(d->limits);
+    QNetworkReply* reply =
+        d->network->get(QNetworkRequest(queryAddress(d->serverBase, key, current)));
+    connect(reply, &QNetworkReply::finished, this, [this, reply] { complete(*reply); });
 }
 
 bool CheckAppUpdate::isBusy() const
 {
-    return d->transfer != nullptr;
+    return d->network != nullptr;
 }
 
-void CheckAppUpdate::complete(const QString& transferFault)
+void CheckAppUpdate::complete(QNetworkReply& reply)
 {
-    d->transfer.reset();
-    if (!transferFault.isEmpty()) {
-        Q_EMIT appUpdateInfoError(transferFault);
-        return;
-    }
-    UpdateAnswer answer = parseUpdateAnswer(d->answer);
+    UpdateAnswer answer;
+    if (reply.error() == QNetworkReply::NoError)
+        answer = parseUpdateAnswer(reply.readAll());
+    else
+        answer.fault = reply.errorString();
+    d->network.reset(); // and the reply with it
     if (!answer.fault.isEmpty()) {
         Q_EMIT appUpdateInfoError(answer.fault);
         return;

@@ -11,6 +11,8 @@
 #include <memory>
 #include <optional>
 
+class QNetworkReply;
+
 namespace Corvel {
 
 /// Asks an update server whether a newer release of an application exists.
@@ -59,7 +61,7 @@ Q_SIGNALS:
     void appUpdateInfoError(const QString& text);
 
 private:
-    void complete(const QString& transferFault);
+    void complete(QNetworkReply& reply);
 
     struct Private;
     const std::unique_ptr<Private> d;

@@ -1,21 +1,18 @@
 #include "filedownloader.h"
 
-#include "transfer.h"
+#include "proxynetworkaccessmanager.h"
+#include "proxyusersettings.h"
 #include "webaddress.h"
 
-#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QNetworkReply>
 #include <QSaveFile>
-
-#include <optional>
 
 using namespace std::chrono_literals;
 
 namespace Corvel {
 
 namespace {
-
-constexpr qint64 progressInterval = 100; // milliseconds
 
 bool isReplaceable(const QString& path)
 {
@@ -32,11 +29,10 @@ struct FileDownloader::Private
     RequestLimits limits{2h, 30s, qint64(4) * 1024 * 1024 * 1024};
     bool busy = false;
     // All of one download.
-    std::unique_ptr<Transfer> transfer;
+    std::unique_ptr<ProxyNetworkAccessManager> network;
+    QNetworkReply* reply = nullptr;
     std::unique_ptr<QSaveFile> file;
     QString path;
-    qint64 received = 0;
-    QElapsedTimer sinceProgress;
 };
 
 FileDownloader::FileDownloader(QObject* parent) : QObject(parent), d(std::make_unique<Private>()) {}
@@ -59,17 +55,19 @@ bool FileDownloader::downloadFile(const QUrl& url, const QString& path)
     d->busy = true;
     d->file = std::move(file);
     d->path = path;
-    d->received = 0;
-    d->sinceProgress.invalidate();
-    d->transfer = std::make_unique<Transfer>(url, d->limits, nullptr);
-    connect(d->transfer.get(), &Transfer::arrived, this, &FileDownloader::takePiece);
-    connect(d->transfer.get(), &Transfer::finished, this, &FileDownloader::complete);
+    d->network = std::make_unique<ProxyNetworkAccessManager>();
+    d->network->Init(ProxyUserSettings::m_Settings);
+    d->network->setLimits(d->limits);
+    d->reply = d->network->get(QNetworkRequest(url));
+    connect(d->reply, &QNetworkReply::readyRead, this, &FileDownloader::save);
+    connect(d->reply, &QNetworkReply::downloadProgress, this, &FileDownloader::downloadProgress);
+    connect(d->reply, &QNetworkReply::finished, this, &FileDownloader::complete);
     return true;
 }
 
 void FileDownloader::cancelDownload()
 {
-    if (!d->transfer)
+    if (!d->network)
         return;
     abandon();
     QMetaObject::invokeMethod(
@@ -81,29 +79,25 @@ bool FileDownloader::isBusy() const
     return d->busy;
 }
 
-void FileDownloader::takePiece(const QByteArray& piece)
+void FileDownloader::save()
 {
-    if (d->file->write(piece) != piece.size()) {
+    const QByteArray piece = d->reply->readAll();
+    if (d->file->write(piece) != piece.size())
         fail(tr("The file cannot be written: %1").arg(d->file->errorString()));
-        return;
-    }
-    d->received += piece.size();
-    const qint64 total = d->transfer->announcedLength();
-    if (d->sinceProgress.isValid() && !d->sinceProgress.hasExpired(progressInterval) &&
-        d->received != total)
-        return;
-    d->sinceProgress.start();
-    Q_EMIT downloadProgress(d->received, total);
 }
 
-void FileDownloader::complete(const QString& transferFault)
+void FileDownloader::complete()
 {
-    if (!transferFault.isEmpty()) {
-        fail(transferFault);
+    if (d->reply->error() != QNetworkReply::NoError) {
+        fail(d->reply->errorString());
+        return;
+    }
+    if (!isReplaceable(d->path)) {
+        fail(tr("The file must not be replaced."));
         return;
     }
     // commit() alone would take a short write for a whole one.
-    if (!d->file->flush() || !isReplaceable(d->path) || !d->file->commit()) {
+    if (!d->file->flush() || !d->file->commit()) {
         fail(tr("The file cannot be written: %1").arg(d->file->errorString()));
         return;
     }
@@ -114,8 +108,8 @@ void FileDownloader::complete(const QString& transferFault)
 
 void FileDownloader::abandon()
 {
-    d->transfer.reset();
-    d->file.reset(); // removes what it wrote, unless that has become the target
+    d->network.reset(); // and the reply with it
+    d->file.reset();    // removes what it wrote, unless that has become the target
 }
 
 void FileDownloader::fail(const QString& text)

@@ -52,8 +52,8 @@ Q_SIGNALS:
     void downloadFinished(QString path);
 
 private:
-    void takePiece(const QByteArray& piece);
-    void complete(const QString& transferFault);
+    void save();
+    void complete();
     void abandon();
     void fail(const QString& text);
 

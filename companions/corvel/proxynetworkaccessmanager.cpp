@@ -1,19 +1,16 @@
 #include "proxynetworkaccessmanager.h"
 
+#include "limitedreply.h"
 #include "proxyusersettings.h"
-#include "replyguard.h"
 #include "webaddress.h"
 
 #include <QNetworkProxyFactory>
-#include <QNetworkReply>
 
 using namespace Qt::StringLiterals;
 
 namespace Corvel {
 
 namespace {
-
-constexpr int maximumRedirects = 5;
 
 class SystemProxies : public QNetworkProxyFactory
 {
@@ -75,40 +72,23 @@ void ProxyNetworkAccessManager::setLimits(const RequestLimits& limits)
     m_limits = limits;
 }
 
-QByteArray ProxyNetworkAccessManager::readArrived(QNetworkReply* reply)
-{
-    return ReplyGuard::of(reply)->readArrived();
-}
-
-QString ProxyNetworkAccessManager::errorText(const QNetworkReply* reply)
-{
-    if (const QString fault = ReplyGuard::of(reply)->fault(); !fault.isEmpty())
-        return fault;
-    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    // The server chooses the words that Qt would show here.
-    return status >= 400 ? tr("The server answered with error %1.").arg(status)
-                         : reply->errorString();
-}
-
 QNetworkReply* ProxyNetworkAccessManager::createRequest(Operation operation,
-                                                        const QNetworkRequest& request,
-                                                        QIODevice* outgoingData)
+                                                        const QNetworkRequest& request, QIODevice*)
 {
     QNetworkRequest kept(request);
+    // Followed by Qt, a redirect of a server that closes the connection may end as a good answer.
     kept.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                      QNetworkRequest::UserVerifiedRedirectPolicy);
-    kept.setMaximumRedirectsAllowed(maximumRedirects);
+                      QNetworkRequest::ManualRedirectPolicy);
     kept.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     kept.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     kept.setRawHeader("Accept-Encoding", "identity");
-
-    const bool leadsToServer = isWebAddress(request.url());
-    if (!leadsToServer)
-        kept.setUrl({}); // makes a reply that fails by itself, and reads no local file
-    QNetworkReply* reply = QNetworkAccessManager::createRequest(operation, kept, outgoingData);
-    new ReplyGuard(reply, m_limits,
-                   leadsToServer ? QString() : tr("This is not the address of a server."));
-    return reply;
+    const auto send = [this, operation](const QNetworkRequest& step) {
+        const bool allowed = operation == GetOperation && isWebAddress(step.url());
+        // Without an address the step fails by itself; a local one would be read.
+        return QNetworkAccessManager::createRequest(GetOperation,
+                                                    allowed ? step : QNetworkRequest(), nullptr);
+    };
+    return new LimitedReply(kept, m_limits, send, this);
 }
 
 } // namespace Corvel

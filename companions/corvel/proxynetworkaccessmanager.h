@@ -10,12 +10,14 @@ namespace Corvel {
 
 struct ProxyUserSettings;
 
-/// Makes requests by the user's proxy and keeps each of them within limits: a deadline for the
-/// whole, a longest silence of the server, at most five redirects, none of them from https to http
-/// or to anything but a web address. It takes web addresses only, asks for bodies as they are
-/// (uncompressed) and stores no cookies.
+/// Makes GET requests by the user's proxy and keeps each of them within limits: a deadline for the
+/// whole, a longest silence of the server, a size of the body, at most five redirects, none of them
+/// from https to http or to anything but a web address. It takes web addresses only, asks for
+/// bodies as they are (uncompressed) and stores no cookies. Requests other than GET fail.
 ///
-/// A request that breaks a limit is aborted; errorText() then says which one it was.
+/// A reply succeeds when the answer has status 200 and all of its body arrived. Its errorString()
+/// is for the user and holds no text of the server. Unlike with Qt's own replies, every slot of a
+/// reply may delete it and the manager.
 class CORVEL_EXPORT ProxyNetworkAccessManager : public QNetworkAccessManager
 {
     Q_OBJECT
@@ -31,14 +33,6 @@ public:
 
     /// For all requests made from now on.
     void setLimits(const RequestLimits& limits);
-
-    /// What has arrived of the body of @p reply and was not read yet. Once all that was read this
-    /// way is more than the size limit, the request is aborted and the rest comes back empty:
-    /// finished() is then emitted before this returns. @p reply is one of such a manager.
-    static QByteArray readArrived(QNetworkReply* reply);
-
-    /// Why @p reply failed, for the user. It holds no text of the server.
-    static QString errorText(const QNetworkReply* reply);
 
 protected:
     QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request,

@@ -17,10 +17,10 @@ struct CORVEL_EXPORT ProxyUserSettings
     };
 
     Mode mode = Mode::System;
-    QString host; ///< of Mode::Http and Mode::Socks5
+    QString host = {}; ///< of Mode::Http and Mode::Socks5
     quint16 port = 0;
-    QString user; ///< empty for a proxy that asks nobody; counts in every mode but Mode::None
-    QString password;
+    QString user = {}; ///< empty for a proxy that asks nobody; counts in every mode but Mode::None
+    QString password = {};
 
     bool operator==(const ProxyUserSettings&) const = default;
 
