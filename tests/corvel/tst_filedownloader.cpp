@@ -1,0 +1,304 @@
+#include "scriptedserver.h"
+#include "testsupport.h"
+
+#include <Corvel/FileDownloader>
+#include <Corvel/ProxyUserSettings>
+
+#include <QDir>
+#include <QEventLoop>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+using Corvel::FileDownloader;
+using LocalHttp::Answer;
+using LocalHttp::Misbehaviour;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QByteArray content(3'000'000, 'n');
+
+QByteArray read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+} // namespace
+
+using Act = std::function<void(QPointer<FileDownloader>&)>;
+Q_DECLARE_METATYPE(Act)
+
+class TestFileDownloader : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void complete_data();
+    void complete();
+    void faults_data();
+    void faults();
+    void refusals_data();
+    void refusals();
+    void interruptions_data();
+    void interruptions();
+#ifdef Q_OS_UNIX
+    void fullDisk();
+#endif
+
+private:
+    QStringList files() const
+    {
+        return QDir(m_folder->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<ScriptedServer> m_server;
+    QString m_target;
+};
+
+void TestFileDownloader::init()
+{
+    WarningFreeTest::init();
+    Corvel::ProxyUserSettings::m_Settings = {.mode = Corvel::ProxyUserSettings::Mode::None};
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_server = std::make_unique<ScriptedServer>();
+    m_target = m_folder->filePath(u"setup.exe"_s);
+    write(m_target, "old");
+}
+
+void TestFileDownloader::complete_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<qint64>("announced");
+
+    QTest::newRow("empty") << QByteArray() << qint64(0);
+    QTest::newRow("large") << content << qint64(content.size());
+    QTest::newRow("not announced") << content << qint64(-1);
+}
+
+void TestFileDownloader::complete()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(qint64, announced);
+    Answer answer = Answer::ok(body);
+    answer.announcedLength = announced;
+    m_server->script("/real", answer);
+    m_server->script("/file", Answer::redirect("/real"));
+
+    FileDownloader downloader;
+    QSignalSpy progress(&downloader, &FileDownloader::downloadProgress);
+    QSignalSpy finished(&downloader, &FileDownloader::downloadFinished);
+    connect(&downloader, &FileDownloader::downloadProgress, this,
+            [this] { QCOMPARE(read(m_target), "old"); });
+    QVERIFY(downloader.downloadFile(m_server->address(u"/file"_s), m_target));
+    QVERIFY(downloader.isBusy());
+    QVERIFY(!downloader.downloadFile(m_server->address(u"/file"_s), m_target));
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(finished.first().first().toString(), m_target);
+    QVERIFY(!downloader.isBusy());
+    QCOMPARE(read(m_target), body);
+    QCOMPARE(files(), QStringList{u"setup.exe"_s});
+    if (announced > 0)
+        QCOMPARE(progress.last(), (QVariantList{announced, announced}));
+    else if (announced < 0)
+        QCOMPARE(progress.last().last().toLongLong(), -1);
+}
+
+void TestFileDownloader::faults_data()
+{
+    QTest::addColumn<Answer>("answer");
+    QTest::addColumn<QString>("text");
+
+    const auto row = [](Misbehaviour how, const QString& text) {
+        QTest::addRow("%s", qPrintable(LocalHttp::misbehaviourNames().at(int(how))))
+            << misbehave(how, {.target = "/file"}, Answer::ok(content)) << text;
+    };
+    row(Misbehaviour::Never, u"The server does not answer."_s);
+    row(Misbehaviour::Slow, u"The server did not finish in time."_s);
+    row(Misbehaviour::Endless, u"The server sends more than 4.00 MiB."_s);
+    row(Misbehaviour::Cut, u"Connection closed"_s);
+    row(Misbehaviour::Length, u"Connection closed"_s);
+    row(Misbehaviour::NotFound, u"The server answered with status 404."_s);
+    row(Misbehaviour::ServerError, u"The server answered with status 500."_s);
+    row(Misbehaviour::RedirectLoop, u"The server leads in circles."_s);
+    row(Misbehaviour::RedirectFile, u"The server leads to an address that is not safe."_s);
+
+    Answer answer = Answer::ok("short");
+    answer.announcedLength = 1LL << 40;
+    QTest::newRow("announced too large") << answer << u"The server sends more than 4.00 MiB."_s;
+    answer = Answer::error(204, "No Content");
+    QTest::newRow("no content") << answer << u"The server answered with status 204."_s;
+    answer = Answer::ok("5\r\nhel");
+    answer.announcedLength = -1;
+    answer.headers.append(LocalHttp::Header{"Transfer-Encoding", "chunked"});
+    QTest::newRow("cut within a chunk") << answer << u"Connection closed"_s;
+}
+
+void TestFileDownloader::faults()
+{
+    QFETCH(Answer, answer);
+    m_server->script("/file", answer);
+
+    FileDownloader downloader;
+    const bool slow = answer.pace == Answer::Pace::Slow;
+    downloader.setLimits({.deadline = slow ? 300ms : 30s,
+                          .silence = answer.pace == Answer::Pace::Never ? 100ms : 30s,
+                          .size = 4 * 1024 * 1024});
+    QSignalSpy failed(&downloader, &FileDownloader::downloadError);
+    QSignalSpy finished(&downloader, &FileDownloader::downloadFinished);
+    QVERIFY(downloader.downloadFile(m_server->address(u"/file"_s), m_target));
+    QTRY_VERIFY(!downloader.isBusy());
+    QCOMPARE(failed.size(), 1);
+    QTEST(failed.first().first().toString(), "text");
+    QCOMPARE(finished.size(), 0);
+    QCOMPARE(read(m_target), "old");
+    QCOMPARE(files(), QStringList{u"setup.exe"_s});
+}
+
+void TestFileDownloader::refusals_data()
+{
+    QTest::addColumn<QString>("url");
+    QTest::addColumn<QString>("path");
+
+    const QString url = u"http://127.0.0.1/file"_s;
+    QTest::newRow("local file") << u"file:///etc/hostname"_s << u"new"_s;
+    QTest::newRow("no host") << u"http:///file"_s << u"new"_s;
+    QTest::newRow("no path") << url << QString();
+    QTest::newRow("target is a directory") << url << u"directory"_s;
+    QTest::newRow("no such folder") << url << u"nowhere/file"_s;
+    QTest::newRow("target is read-only") << url << u"read-only"_s;
+}
+
+void TestFileDownloader::refusals()
+{
+    QFETCH(QString, url);
+    QFETCH(QString, path);
+    QVERIFY(QDir(m_folder->path()).mkdir(u"directory"_s));
+    write(m_folder->filePath(u"read-only"_s), "kept");
+    QVERIFY(QFile::setPermissions(m_folder->filePath(u"read-only"_s), QFile::ReadOwner));
+    const QStringList before = files();
+
+    FileDownloader downloader;
+    QVERIFY(!downloader.downloadFile(QUrl(url), path.isEmpty() ? path : m_folder->filePath(path)));
+    QVERIFY(!downloader.isBusy());
+    QCOMPARE(files(), before);
+    QVERIFY(QFile::setPermissions(m_folder->filePath(u"read-only"_s),
+                                  QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void TestFileDownloader::interruptions_data()
+{
+    QTest::addColumn<QString>("at");
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<QStringList>("outcomes");
+
+    const Act cancel = [this](QPointer<FileDownloader>& downloader) {
+        downloader->cancelDownload();
+        downloader->cancelDownload();
+        QCOMPARE(files(), QStringList{u"setup.exe"_s});
+    };
+    const Act destroy = [](QPointer<FileDownloader>& downloader) {
+        delete downloader;
+    };
+    const Act quit = [](QPointer<FileDownloader>&) {
+        QCoreApplication::exit();
+    };
+    const Act startAnew = [this](QPointer<FileDownloader>& downloader) {
+        m_server->script("/file", content);
+        QVERIFY(downloader->downloadFile(m_server->address(u"/file"_s), m_target));
+    };
+    const Act protect = [this](QPointer<FileDownloader>&) {
+        QFile::setPermissions(m_target, QFile::ReadOwner);
+    };
+    const QString progress = u"progress"_s;
+    const QString finished = u"finished"_s;
+    const QString error = u"error"_s;
+
+    QTest::newRow("cancel in progress") << progress << cancel << QStringList{error};
+    QTest::newRow("cancel when finished") << finished << cancel << QStringList{finished};
+    QTest::newRow("cancel after an error") << error << cancel << QStringList{error};
+    QTest::newRow("delete in progress") << progress << destroy << QStringList{};
+    QTest::newRow("delete when finished") << finished << destroy << QStringList{finished};
+    QTest::newRow("delete after an error") << error << destroy << QStringList{error};
+    QTest::newRow("quit in progress") << progress << quit << QStringList{};
+    QTest::newRow("quit when finished") << finished << quit << QStringList{finished};
+    QTest::newRow("quit after an error") << error << quit << QStringList{error};
+    QTest::newRow("start when finished")
+        << finished << startAnew << QStringList{finished, finished};
+    QTest::newRow("start after an error") << error << startAnew << QStringList{error, finished};
+    QTest::newRow("target protected meanwhile") << progress << protect << QStringList{error};
+}
+
+void TestFileDownloader::interruptions()
+{
+    QFETCH(QString, at);
+    QFETCH(Act, act);
+    m_server->script("/file", content, at == "error"_L1 ? Misbehaviour::Cut : Misbehaviour::None);
+
+    QPointer<FileDownloader> downloader = new FileDownloader;
+    QStringList outcomes;
+    const auto happens = [&](const QString& what) {
+        if (what != "progress"_L1)
+            outcomes.append(what);
+        if (what == at && std::exchange(at, {}) == what)
+            act(downloader);
+        if (what != "progress"_L1 && (!downloader || !downloader->isBusy()))
+            QCoreApplication::exit();
+    };
+    connect(downloader, &FileDownloader::downloadProgress, this, [&] { happens(u"progress"_s); });
+    connect(downloader, &FileDownloader::downloadError, this, [&] { happens(u"error"_s); });
+    connect(downloader, &FileDownloader::downloadFinished, this, [&] { happens(u"finished"_s); });
+    connect(downloader, &QObject::destroyed, this, [] { QCoreApplication::exit(); });
+    QVERIFY(downloader->downloadFile(m_server->address(u"/file"_s), m_target));
+    QCoreApplication::exec();
+    delete downloader;
+
+    QTEST(outcomes, "outcomes");
+    QCOMPARE(read(m_target), outcomes.contains("finished"_L1) ? content : "old");
+    QCOMPARE(files(), QStringList{u"setup.exe"_s});
+    QFile::setPermissions(m_target, QFile::ReadOwner | QFile::WriteOwner);
+}
+
+#ifdef Q_OS_UNIX
+void TestFileDownloader::fullDisk()
+{
+    m_server->script("/file", content);
+    // A file that may grow no more fails like one on a full disk.
+    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit former;
+    getrlimit(RLIMIT_FSIZE, &former);
+    const rlimit tight{.rlim_cur = 1'000'000, .rlim_max = former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+
+    FileDownloader downloader;
+    QSignalSpy failed(&downloader, &FileDownloader::downloadError);
+    QVERIFY(downloader.downloadFile(m_server->address(u"/file"_s), m_target));
+    QTRY_VERIFY(!downloader.isBusy());
+    setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, formerHandler);
+    QCOMPARE(failed.size(), 1);
+    QVERIFY(failed.first().first().toString().startsWith("The file cannot be written: "_L1));
+    QCOMPARE(read(m_target), "old");
+    QCOMPARE(files(), QStringList{u"setup.exe"_s});
+}
+#endif
+
+QTEST_GUILESS_MAIN(TestFileDownloader)
+#include "tst_filedownloader.moc"
