@@ -87,7 +87,7 @@ struct PCheckVersionUpdate::Private
     static void take(QNetworkReply* reply, QByteArray& buffer)
     {
         if (reply)
-            buffer += ProxyNetworkAccessManager::readArrived(reply);
+            buffer += reply->readAll();
     }
 
     /// The reply of @p member if it is finished; it is not the member's any more, and deletes
@@ -211,7 +211,7 @@ void PCheckVersionUpdate::httpFinishedVersionFileIntranet()
     if (!reply)
         return;
     if (reply->error() != QNetworkReply::NoError || isCut(*reply, d->intranetData)) {
-        qDebug() << ProxyNetworkAccessManager::errorText(reply);
+        qDebug() << reply->errorString();
         requestVersionFileInternet();
     } else if (parseVersionInfo(d->intranetData)) {
         d->internalChannel = true;
@@ -242,7 +242,7 @@ void PCheckVersionUpdate::httpFinishedVersionFileInternet()
     if (!reply)
         return;
     if (reply->error() != QNetworkReply::NoError || isCut(*reply, d->internetData)) {
-        qDebug() << ProxyNetworkAccessManager::errorText(reply);
+        qDebug() << reply->errorString();
         if (d->showResult) {
             PMessageBox::Critical(nullptr, tr("Update check failed"),
                                   tr("Cannot connect to Orvane Software Update Server!\n"
@@ -379,7 +379,7 @@ void PCheckVersionUpdate::httpFinishedInstallFile()
     }
     const QString error = reply->error() == QNetworkReply::NoError
                               ? tr("The server sent less than it had announced.")
-                              : ProxyNetworkAccessManager::errorText(reply);
+                              : reply->errorString();
     qDebug() << error;
     if (!whileAlive(this, [this] { Q_EMIT signalDownloadProgress(0, 0); }))
         return;
