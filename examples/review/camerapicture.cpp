@@ -33,8 +33,8 @@ quint32 seedOf(const QString& name)
 /// From 0 at night to 1 at noon, with an hour of twilight at each end of the day.
 double daylight(double hour)
 {
-    const double height = std::cos((hour - 12) / 24 * 2 * std::numbers::pi);
-    return std::clamp((height + 0.15) / 0.6, 0.0, 1.0);
+    const double sunHeight = std::cos((hour - 12) / 24 * 2 * std::numbers::pi);
+    return std::clamp((sunHeight + 0.15) / 0.6, 0.0, 1.0);
 }
 
 QColor mixed(const QColor& dark, const QColor& bright, double share)

@@ -10,9 +10,8 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
-DevicePane::DevicePane(const QList<TrackDescription>& tracks, const TimeTexts& times,
-                       QWidget* parent)
-    : QWidget(parent), m_model(new TrackModel(tracks, times, this)), m_view(createList(m_model))
+DevicePane::DevicePane(const TimeTexts& times, QWidget* parent)
+    : QWidget(parent), m_model(new TrackModel(times, this)), m_view(createList(m_model))
 {
     m_view->header()->setSectionResizeMode(TrackModel::Name, QHeaderView::Stretch);
     auto* layout = new QVBoxLayout(this);
@@ -20,6 +19,11 @@ DevicePane::DevicePane(const QList<TrackDescription>& tracks, const TimeTexts& t
     layout->addWidget(m_view);
     connect(m_model, &TrackModel::checkedTracksChanged, this, &DevicePane::checkedTracksChanged);
     retranslate();
+}
+
+void DevicePane::setTracks(const QList<TrackDescription>& tracks)
+{
+    m_model->setTracks(tracks);
 }
 
 void DevicePane::setTimes(const TimeTexts& times)

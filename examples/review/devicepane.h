@@ -14,8 +14,10 @@ class DevicePane : public QWidget
     Q_OBJECT
 
 public:
-    DevicePane(const QList<CorvelGui::TrackDescription>& tracks, const TimeTexts& times,
-               QWidget* parent = nullptr);
+    explicit DevicePane(const TimeTexts& times, QWidget* parent = nullptr);
+
+    /// Replaces all tracks.
+    void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
 
     /// In the order of the rows. All tracks are checked at first.
     QList<CorvelGui::TrackDescription> checkedTracks() const { return m_model->checkedTracks(); }

@@ -8,11 +8,19 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
-EventModel::EventModel(const ReviewData& review, const TimeTexts& times, QObject* parent)
-    : QAbstractTableModel(parent), m_events(review.events), m_times(times)
+EventModel::EventModel(const TimeTexts& times, QObject* parent)
+    : QAbstractTableModel(parent), m_times(times)
+{}
+
+void EventModel::setReview(const ReviewData& review)
 {
+    beginResetModel();
+    m_events = review.events;
+    m_trackNames.clear();
     for (const TrackDescription& track : review.tracks)
         m_trackNames.insert(track.identifier, track.name);
+    m_rows.clear();
+    endResetModel();
     setHiddenTracks({});
 }
 

@@ -19,7 +19,10 @@ class EventModel : public QAbstractTableModel
 public:
     enum Column { Time, Kind, Text, Track, ColumnCount };
 
-    EventModel(const ReviewData& review, const TimeTexts& times, QObject* parent = nullptr);
+    explicit EventModel(const TimeTexts& times, QObject* parent = nullptr);
+
+    /// Replaces all events.
+    void setReview(const ReviewData& review);
 
     void setTimes(const TimeTexts& times);
     /// Leaves out the events of these tracks.
@@ -45,7 +48,7 @@ public:
 private:
     QString text(const QModelIndex& index) const;
 
-    const QList<Event> m_events;
+    QList<Event> m_events;
     QHash<QString, QString> m_trackNames;
     TimeTexts m_times;
     std::vector<qsizetype> m_rows;

@@ -8,8 +8,8 @@
 
 namespace Review {
 
-EventPane::EventPane(const ReviewData& review, const TimeTexts& times, QWidget* parent)
-    : QWidget(parent), m_model(new EventModel(review, times, this)), m_view(createList(m_model))
+EventPane::EventPane(const TimeTexts& times, QWidget* parent)
+    : QWidget(parent), m_model(new EventModel(times, this)), m_view(createList(m_model))
 {
     m_view->header()->setSectionResizeMode(EventModel::Text, QHeaderView::Stretch);
     auto* layout = new QVBoxLayout(this);
@@ -19,6 +19,11 @@ EventPane::EventPane(const ReviewData& review, const TimeTexts& times, QWidget* 
         Q_EMIT eventOpened(m_model->eventOfRow(index.row()).time);
     });
     retranslate();
+}
+
+void EventPane::setReview(const ReviewData& review)
+{
+    m_model->setReview(review);
 }
 
 void EventPane::setHiddenTracks(const QSet<QString>& identifiers)

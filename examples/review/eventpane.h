@@ -14,7 +14,10 @@ class EventPane : public QWidget
     Q_OBJECT
 
 public:
-    EventPane(const ReviewData& review, const TimeTexts& times, QWidget* parent = nullptr);
+    explicit EventPane(const TimeTexts& times, QWidget* parent = nullptr);
+
+    /// Replaces all events.
+    void setReview(const ReviewData& review);
 
     /// The events that are in the list, and what is known of them.
     const EventModel& events() const { return *m_model; }

@@ -1,13 +1,10 @@
 #include "commandline.h"
 #include "console.h"
 #include "picture.h"
-#include "reviewloader.h"
 #include "reviewwindow.h"
-#include "sampledata.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace Review;
@@ -51,12 +48,7 @@ int main(int argc, char* argv[])
     }
     const Arguments& arguments = commandLine.arguments();
 
-    ReviewLoader loader;
-    if (const QString error = loader.load(arguments.files); !error.isEmpty())
-        return fail(BadUsage, error);
-    const ReviewData data = arguments.files.isEmpty() ? SampleData::make() : loader.data();
-
-    ReviewWindow window(data, loader.problems(), arguments.zone, arguments.dark);
+    ReviewWindow window(arguments.zone, arguments.dark);
     if (!arguments.size.isEmpty())
         window.resize(arguments.size);
     else if (!arguments.picture.isEmpty())
@@ -65,12 +57,20 @@ int main(int argc, char* argv[])
         window.setCenterPosAndResize();
     window.show();
 
-    if (!arguments.picture.isEmpty()) {
-        // The sample looks best from close by; of a user's own files the picture shows everything.
-        if (arguments.files.isEmpty())
-            window.showMiddleDay();
-        QTimer::singleShot(0, &window,
-                           [&] { QApplication::exit(takePicture(window, arguments.picture)); });
-    }
+    QObject::connect(
+        &window, &ReviewWindow::loaded, &window,
+        [&](const QString& error) {
+            if (!error.isEmpty()) {
+                QApplication::exit(fail(BadUsage, error));
+            } else if (!arguments.picture.isEmpty()) {
+                // The sample looks best from close by; of a user's own files everything is shown.
+                if (arguments.files.isEmpty())
+                    window.showMiddleDay();
+                QApplication::processEvents();
+                QApplication::exit(takePicture(window, arguments.picture));
+            }
+        },
+        Qt::SingleShotConnection);
+    window.load(arguments.files);
     return QApplication::exec();
 }

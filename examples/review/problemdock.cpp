@@ -2,6 +2,7 @@
 
 #include "roomydelegate.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFileInfo>
 #include <QListWidget>
@@ -11,8 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace Review {
 
-ProblemDock::ProblemDock(const ProblemList& problems, QWidget* parent)
-    : QDockWidget(parent), m_problems(problems), m_list(new QListWidget(this))
+ProblemDock::ProblemDock(QWidget* parent) : QDockWidget(parent), m_list(new QListWidget(this))
 {
     setObjectName(u"problemDock"_s);
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea | Qt::RightDockWidgetArea);
@@ -20,7 +20,15 @@ ProblemDock::ProblemDock(const ProblemList& problems, QWidget* parent)
     m_list->setUniformItemSizes(true);
     m_list->setItemDelegate(new RoomyDelegate(m_list));
     setWidget(m_list);
+    setProblems({});
+}
+
+void ProblemDock::setProblems(const ProblemList& problems)
+{
+    m_problems = problems;
     retranslate();
+    setVisible(problems.count() > 0);
+    toggleViewAction()->setVisible(problems.count() > 0);
 }
 
 void ProblemDock::retranslate()

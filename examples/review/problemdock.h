@@ -14,13 +14,17 @@ class ProblemDock : public QDockWidget
     Q_OBJECT
 
 public:
-    explicit ProblemDock(const ProblemList& problems, QWidget* parent = nullptr);
+    /// Starts hidden and empty.
+    explicit ProblemDock(QWidget* parent = nullptr);
+
+    /// Replaces the list. The dock shows itself when there are problems, and hides without any.
+    void setProblems(const ProblemList& problems);
 
     /// Applies all translated texts again.
     void retranslate();
 
 private:
-    const ProblemList m_problems;
+    ProblemList m_problems;
     QListWidget* m_list;
 };
 

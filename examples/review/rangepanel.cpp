@@ -23,9 +23,8 @@ QCheckBox* createCheckBox(bool checked, QWidget* parent)
 
 } // namespace
 
-RangePanel::RangePanel(const TimeTexts& times, const TimeSpan& period, QWidget* parent)
+RangePanel::RangePanel(const TimeTexts& times, QWidget* parent)
     : QWidget(parent)
-    , m_period(period)
     , m_fromLabel(new QLabel(this))
     , m_from(new InstantEdit(times, this))
     , m_toLabel(new QLabel(this))
@@ -43,7 +42,6 @@ RangePanel::RangePanel(const TimeTexts& times, const TimeSpan& period, QWidget* 
     m_fromLabel->setBuddy(m_from);
     m_toLabel->setBuddy(m_to);
     m_message->setWordWrap(true);
-    setRange(period);
     createLayout();
 
     for (InstantEdit* edit : {m_from, m_to})
@@ -65,6 +63,12 @@ RangePanel::RangePanel(const TimeTexts& times, const TimeSpan& period, QWidget* 
         Q_EMIT clearWanted();
     });
     retranslate();
+}
+
+void RangePanel::setPeriod(const TimeSpan& period)
+{
+    m_period = period;
+    setRange(period);
 }
 
 TimeSpan RangePanel::range() const

@@ -29,9 +29,10 @@ class RangePanel : public QWidget
     Q_OBJECT
 
 public:
+    explicit RangePanel(const TimeTexts& times, QWidget* parent = nullptr);
+
     /// Ranges that do not touch @p period are not asked for.
-    RangePanel(const TimeTexts& times, const CorvelGui::TimeSpan& period,
-               QWidget* parent = nullptr);
+    void setPeriod(const CorvelGui::TimeSpan& period);
 
     CorvelGui::TimeSpan range() const;
     void setRange(const CorvelGui::TimeSpan& range);
@@ -50,7 +51,7 @@ private:
     void createLayout();
     bool checkRange();
 
-    const CorvelGui::TimeSpan m_period;
+    CorvelGui::TimeSpan m_period;
     QLabel* m_fromLabel;
     InstantEdit* m_from;
     QLabel* m_toLabel;

@@ -2,6 +2,8 @@
 
 #include "lineparser.h"
 
+#include <QDir>
+
 #include <algorithm>
 #include <limits>
 
@@ -23,6 +25,16 @@ void extend(TrackDescription& track, const TimeSpan& span)
 }
 
 } // namespace
+
+ReviewFiles ReviewFiles::inFolder(const QString& folder)
+{
+    const auto existing = [dir = QDir(folder)](const QString& name) {
+        return dir.exists(name) ? dir.filePath(name) : QString();
+    };
+    return {.recordings = existing(u"recordings.csv"_s),
+            .events = existing(u"events.csv"_s),
+            .deployments = existing(u"deployments.csv"_s)};
+}
 
 QString ReviewLoader::load(const ReviewFiles& files)
 {

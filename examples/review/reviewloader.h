@@ -16,6 +16,9 @@ struct ReviewFiles
     QString events;
     QString deployments;
 
+    /// Those of recordings.csv, events.csv and deployments.csv that are in @p folder.
+    static ReviewFiles inFolder(const QString& folder);
+
     bool isEmpty() const
     {
         return recordings.isEmpty() && events.isEmpty() && deployments.isEmpty();

@@ -3,6 +3,7 @@
 #include "devicepane.h"
 #include "eventmarkers.h"
 #include "eventpane.h"
+#include "loadjob.h"
 #include "previewcard.h"
 #include "problemdock.h"
 #include "rangepanel.h"
@@ -10,8 +11,12 @@
 #include "timelinetoolbar.h"
 #include "zonecombo.h"
 
+#include <Hueloft/PMessageBox>
+
 #include <QAction>
+#include <QDir>
 #include <QEvent>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -23,6 +28,7 @@
 #include <algorithm>
 
 using CorvelGui::TimeSpan;
+using Hueloft::PMessageBox;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -33,9 +39,8 @@ constexpr int problemDockHeight = 150;
 
 } // namespace
 
-ReviewWindow::ReviewWindow(const ReviewData& review, const ProblemList& problems,
-                           const QString& zoneName, bool dark, QWidget* parent)
-    : PMainWindow(parent), m_review(review), m_times(zoneName)
+ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
+    : PMainWindow(parent), m_times(zoneName)
 {
     createDarkFusionStyle(dark);
     setCentralWidget(createContent());
@@ -43,19 +48,67 @@ ReviewWindow::ReviewWindow(const ReviewData& review, const ProblemList& problems
     m_zone = new ZoneCombo(zoneName, this);
     createToolBar(dark);
     createStatusBar();
-    if (problems.count() > 0) {
-        m_problems = new ProblemDock(problems, this);
-        addDockWidget(Qt::BottomDockWidgetArea, m_problems);
-        resizeDocks({m_problems}, {problemDockHeight}, Qt::Vertical);
-        m_toolBar->insertAction(m_darkLook, m_problems->toggleViewAction());
-    }
+    m_problems = new ProblemDock(this);
+    addDockWidget(Qt::BottomDockWidgetArea, m_problems);
+    m_toolBar->insertAction(m_darkLook, m_problems->toggleViewAction());
     createMenus();
     connectParts();
-
     m_timeline->setZone(zoneName);
-    m_timeline->setPeriod(m_review.period());
-    showCheckedTracks();
     retranslate();
+}
+
+ReviewWindow::~ReviewWindow() = default;
+
+void ReviewWindow::setReview(const ReviewData& review, const ProblemList& problems)
+{
+    m_review = review;
+    m_devices->setTracks(m_review.tracks);
+    m_events->setReview(m_review);
+    m_ranges->setPeriod(m_review.period());
+    m_timeline->setPeriod(m_review.period());
+    m_problems->setProblems(problems);
+    resizeDocks({m_problems}, {problemDockHeight}, Qt::Vertical);
+    showCheckedTracks();
+    showCounts();
+    showView();
+    showCurrentTime();
+}
+
+void ReviewWindow::load(const ReviewFiles& files)
+{
+    m_loading = std::make_unique<LoadJob>(files);
+    connect(m_loading.get(), &LoadJob::loaded, this, &ReviewWindow::finishLoading);
+    m_open->setEnabled(false);
+    m_loading->start();
+}
+
+void ReviewWindow::finishLoading()
+{
+    LoadJob* job = m_loading.release();
+    job->deleteLater();
+    m_open->setEnabled(true);
+    if (job->error().isEmpty())
+        setReview(job->data(), job->problems());
+    Q_EMIT loaded(job->error());
+}
+
+void ReviewWindow::openFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open folder"));
+    if (folder.isEmpty())
+        return;
+    const ReviewFiles files = ReviewFiles::inFolder(folder);
+    if (files.isEmpty()) {
+        PMessageBox::Warning(this, tr("Open folder"),
+                             tr("There is no recordings.csv, events.csv or deployments.csv in %1.")
+                                 .arg(QDir::toNativeSeparators(folder)));
+        return;
+    }
+    load(files);
+    connect(m_loading.get(), &LoadJob::loaded, this, [this, job = m_loading.get()] {
+        if (!job->error().isEmpty())
+            PMessageBox::Warning(this, tr("Open folder"), job->error());
+    });
 }
 
 void ReviewWindow::showMiddleDay()
@@ -88,8 +141,8 @@ QWidget* ReviewWindow::createContent()
     auto* content = new QWidget(this);
     auto* tables = new QSplitter(content);
     tables->setChildrenCollapsible(false);
-    m_devices = new DevicePane(m_review.tracks, m_times, tables);
-    m_events = new EventPane(m_review, m_times, tables);
+    m_devices = new DevicePane(m_times, tables);
+    m_events = new EventPane(m_times, tables);
     // In proportion: the tracks have more columns that need their width.
     tables->setSizes({660, 540});
 
@@ -106,7 +159,7 @@ QWidget* ReviewWindow::createContent()
     times->addStretch();
     times->addWidget(m_viewLabel);
 
-    m_ranges = new RangePanel(m_times, m_review.period(), content);
+    m_ranges = new RangePanel(m_times, content);
     m_ranges->hide();
     m_timeline = new TimelinePane(m_times.zoneName(), content);
 
@@ -135,6 +188,9 @@ void ReviewWindow::createToolBar(bool dark)
 void ReviewWindow::createMenus()
 {
     m_fileMenu = menuBar()->addMenu(QString());
+    m_open = m_fileMenu->addAction(QString());
+    m_open->setShortcut(QKeySequence::Open);
+    m_fileMenu->addSeparator();
     m_quit = m_fileMenu->addAction(QString());
     m_quit->setShortcut(QKeySequence::Quit);
 
@@ -162,6 +218,7 @@ void ReviewWindow::createStatusBar()
 
 void ReviewWindow::connectParts()
 {
+    connect(m_open, &QAction::triggered, this, &ReviewWindow::openFolder);
     connect(m_quit, &QAction::triggered, this, &QWidget::close);
     connect(m_darkLook, &QAction::toggled, this, &ReviewWindow::createDarkFusionStyle);
     connect(m_toolBar->showRanges(), &QAction::toggled, m_ranges, &QWidget::setVisible);
@@ -198,21 +255,16 @@ void ReviewWindow::retranslate()
     m_events->retranslate();
     m_toolBar->retranslate();
     m_fileMenu->setTitle(tr("&File"));
+    m_open->setText(tr("&Open folder…"));
     m_quit->setText(tr("&Quit"));
     m_viewMenu->setTitle(tr("&View"));
     m_darkLook->setText(tr("Dark look"));
     m_zoneLabel->setText(tr("Time zone"));
-    if (m_problems)
-        m_problems->retranslate();
+    m_problems->retranslate();
     m_ranges->retranslate();
     m_timeline->retranslate();
     m_zone->retranslate();
-
-    const QLocale locale;
-    m_countsLabel->setText(tr("Tracks: %1    Recordings: %2    Events: %3")
-                               .arg(locale.toString(m_review.tracks.size()),
-                                    locale.toString(m_review.recordingCount()),
-                                    locale.toString(m_review.events.size())));
+    showCounts();
     showView();
     showCurrentTime();
 }
@@ -228,6 +280,15 @@ void ReviewWindow::setZone(const QString& name)
     statusBar()->clearMessage();
     showView();
     showCurrentTime();
+}
+
+void ReviewWindow::showCounts()
+{
+    const QLocale locale;
+    m_countsLabel->setText(tr("Tracks: %1    Recordings: %2    Events: %3")
+                               .arg(locale.toString(m_review.tracks.size()),
+                                    locale.toString(m_review.recordingCount()),
+                                    locale.toString(m_review.events.size())));
 }
 
 void ReviewWindow::showCheckedTracks()

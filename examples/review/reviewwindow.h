@@ -1,10 +1,11 @@
 #pragma once
 
-#include "problemlist.h"
-#include "reviewdata.h"
+#include "reviewloader.h"
 #include "timetexts.h"
 
 #include <CorvelGui/PMainWindow>
+
+#include <memory>
 
 class QAction;
 class QLabel;
@@ -14,6 +15,7 @@ namespace Review {
 
 class DevicePane;
 class EventPane;
+class LoadJob;
 class PreviewCard;
 class ProblemDock;
 class RangePanel;
@@ -29,11 +31,23 @@ class ReviewWindow : public CorvelGui::PMainWindow
 
 public:
     /// @p zoneName is the zone of all times; an empty one means the zone of this machine.
-    ReviewWindow(const ReviewData& review, const ProblemList& problems, const QString& zoneName,
-                 bool dark, QWidget* parent = nullptr);
+    ReviewWindow(const QString& zoneName, bool dark, QWidget* parent = nullptr);
+
+    /// Replaces all that is shown.
+    void setReview(const ReviewData& review, const ProblemList& problems = {});
+    /// Shows files, or the sample when none is named, as soon as they are loaded. Not while
+    /// another load is under way.
+    void load(const ReviewFiles& files);
+
+    ~ReviewWindow() override;
 
     /// Shows the day in the middle of the period, with the indicator on the first event after noon.
     void showMiddleDay();
+
+Q_SIGNALS:
+    /// Emitted when load() has come to its end. With an @p error, which tells the user why a file
+    /// cannot be read, the window shows what it did before.
+    void loaded(const QString& error);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -46,13 +60,16 @@ private:
     void connectParts();
     void retranslate();
 
+    void openFolder();
+    void finishLoading();
     void setZone(const QString& name);
+    void showCounts();
     void showCheckedTracks();
     void showView();
     void showCurrentTime();
     void showPreview(qint64 msecs, const QPoint& position, bool onMarker);
 
-    const ReviewData m_review;
+    ReviewData m_review;
     TimeTexts m_times;
     DevicePane* m_devices;
     EventPane* m_events;
@@ -61,11 +78,13 @@ private:
     RangePanel* m_ranges;
     TimelinePane* m_timeline;
     PreviewCard* m_preview;
-    ProblemDock* m_problems = nullptr;
+    ProblemDock* m_problems;
+    std::unique_ptr<LoadJob> m_loading;
 
     TimelineToolBar* m_toolBar;
     QAction* m_darkLook;
     QMenu* m_fileMenu;
+    QAction* m_open;
     QAction* m_quit;
     QMenu* m_viewMenu;
 

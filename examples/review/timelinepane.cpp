@@ -64,9 +64,12 @@ TimelinePane::TimelinePane(const QString& zoneName, QWidget* parent)
 void TimelinePane::setPeriod(const TimeSpan& period)
 {
     m_period = period;
-    if (period.isEmpty())
-        return;
     m_timeline->setTimeLimits(quint64(period.begin), quint64(period.end));
+    clearRanges();
+    if (period.isEmpty()) {
+        Q_EMIT viewChanged();
+        return;
+    }
     setCurrentTime(period.begin);
     showWholePeriod();
 }

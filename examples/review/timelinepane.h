@@ -23,7 +23,8 @@ public:
     /// @p zoneName is the zone of its labels; an empty one means the zone of this machine.
     explicit TimelinePane(const QString& zoneName, QWidget* parent = nullptr);
 
-    /// Sets the limits and shows the whole period. Without one, the timeline stays empty.
+    /// Sets the limits and shows the whole period, without ranges. Without a period, the timeline
+    /// is empty.
     void setPeriod(const CorvelGui::TimeSpan& period);
     void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
     /// Replaces the markers that were set before.

@@ -6,13 +6,18 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
-TrackModel::TrackModel(const QList<TrackDescription>& tracks, const TimeTexts& times,
-                       QObject* parent)
+TrackModel::TrackModel(const TimeTexts& times, QObject* parent)
     : QAbstractTableModel(parent), m_times(times)
+{}
+
+void TrackModel::setTracks(const QList<TrackDescription>& tracks)
 {
+    beginResetModel();
+    m_rows.clear();
     m_rows.reserve(tracks.size());
     for (const TrackDescription& track : tracks)
         m_rows.append({.track = track, .history = TrackHistory(track), .checked = true});
+    endResetModel();
 }
 
 QList<TrackDescription> TrackModel::checkedTracks() const

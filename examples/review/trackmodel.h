@@ -19,8 +19,10 @@ class TrackModel : public QAbstractTableModel
 public:
     enum Column { Name, DescribedFrom, DescribedTo, Recordings, RecordedTime, ColumnCount };
 
-    TrackModel(const QList<CorvelGui::TrackDescription>& tracks, const TimeTexts& times,
-               QObject* parent = nullptr);
+    explicit TrackModel(const TimeTexts& times, QObject* parent = nullptr);
+
+    /// Replaces all tracks.
+    void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
 
     /// In the order of the rows. All tracks are checked at first.
     QList<CorvelGui::TrackDescription> checkedTracks() const;

@@ -17,8 +17,9 @@ struct SampleWindow
 {
     explicit SampleWindow(const QString& zone, const Review::ProblemList& problems = {},
                           const Review::ReviewData& data = Review::SampleData::make())
-        : window(data, problems, zone, true)
+        : window(zone, true)
     {
+        window.setReview(data, problems);
         window.resize(1200, 700);
         window.show();
         // Offscreen, the mouse enters a window when it appears.
