@@ -1,8 +1,8 @@
 #include "csvbody.h"
 
 #include <QAbstractItemModel>
+#include <QHash>
 #include <QItemSelection>
-#include <QMultiHash>
 #include <QTextStream>
 
 #include <algorithm>
@@ -12,17 +12,23 @@ namespace CorvelGui {
 
 namespace {
 
+struct Range
+{
+    int top;
+    int left;
+    int bottom;
+    int right;
+};
+
 /// The rows below one parent, on the way down.
 struct Level
 {
-    explicit Level(const QModelIndex& parentIndex, int columns)
-        : parent(parentIndex), selectedTo(size_t(columns), -1)
-    {}
-
     QModelIndex parent;
-    int row = 0;
+    std::vector<Range> ranges; ///< sorted by their first row
     /// For each column the last row of the ranges that began above or in the present row.
     std::vector<int> selectedTo;
+    int row = 0;
+    size_t nextRange = 0;
 };
 
 class CsvBody
@@ -33,7 +39,8 @@ public:
         : m_out(out), m_list(list), m_format(format), m_columns(list.columnCount())
     {
         for (const QItemSelectionRange& range : selection)
-            m_ranges.insert(range.topLeft(), &range);
+            m_ranges[range.parent()].push_back(
+                {range.top(), range.left(), range.bottom(), range.right()});
     }
 
     void writeColumnNames()
@@ -47,7 +54,7 @@ public:
 
     void writeRows()
     {
-        std::vector<Level> levels{Level(QModelIndex(), m_columns)};
+        std::vector<Level> levels{levelBelow(QModelIndex())};
         while (!levels.empty()) {
             Level& level = levels.back();
             if (level.row == m_list.rowCount(level.parent)) {
@@ -58,11 +65,18 @@ public:
             const QModelIndex item = m_list.index(level.row, 0, level.parent);
             ++level.row;
             if (m_list.hasChildren(item))
-                levels.emplace_back(item, m_columns);
+                levels.push_back(levelBelow(item));
         }
     }
 
 private:
+    Level levelBelow(const QModelIndex& parent)
+    {
+        std::vector<Range> ranges = m_ranges.take(parent);
+        std::ranges::sort(ranges, {}, &Range::top);
+        return {parent, std::move(ranges), std::vector<int>(size_t(m_columns), -1)};
+    }
+
     bool isWritten(int column) const
     {
         return column < m_format.columns.size() && m_format.columns.testBit(column);
@@ -77,12 +91,12 @@ private:
 
     void writeRow(Level& level)
     {
+        beginRanges(level);
         bool anything = false;
         for (int column = 0; column < m_columns; ++column) {
-            const QModelIndex cell = m_list.index(level.row, column, level.parent);
-            beginRanges(level, cell);
             if (!isWritten(column) || level.selectedTo[size_t(column)] < level.row)
                 continue;
+            const QModelIndex cell = m_list.index(level.row, column, level.parent);
             // The selection may span cells that cannot be selected; they are not.
             constexpr Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
             if ((cell.flags() & selectable) != selectable)
@@ -94,14 +108,15 @@ private:
             m_out << '\n';
     }
 
-    void beginRanges(Level& level, const QModelIndex& topLeft) const
+    static void beginRanges(Level& level)
     {
-        const auto [begin, end] = m_ranges.equal_range(topLeft);
-        for (auto range = begin; range != end; ++range) {
-            const int right = std::min((*range)->right(), m_columns - 1);
-            for (int column = topLeft.column(); column <= right; ++column) {
+        for (; level.nextRange < level.ranges.size(); ++level.nextRange) {
+            const Range& range = level.ranges[level.nextRange];
+            if (range.top > level.row)
+                break;
+            for (int column = range.left; column <= range.right; ++column) {
                 int& last = level.selectedTo[size_t(column)];
-                last = std::max(last, (*range)->bottom());
+                last = std::max(last, range.bottom);
             }
         }
     }
@@ -110,7 +125,7 @@ private:
     const QAbstractItemModel& m_list;
     const CsvFormat& m_format;
     const int m_columns;
-    QMultiHash<QModelIndex, const QItemSelectionRange*> m_ranges; ///< by their first cell
+    QHash<QModelIndex, std::vector<Range>> m_ranges; ///< by their parent
 };
 
 } // namespace

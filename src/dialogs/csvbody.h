@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../frame/internalexport.h"
+#include "frame/internalexport.h"
 
 #include <QBitArray>
 #include <QChar>

@@ -43,12 +43,9 @@ private Q_SLOTS:
     void labelsToolTips();
     void textStaysText();
     void textsShowTheirColour();
-    void brushKeepsItsStyle();
     void sortsAddressesByValue();
     void copiesKeepTheirFields();
     void collectsStatus();
-    void maintenanceMonths_data();
-    void maintenanceMonths();
 };
 
 void TestTableItems::labelsToolTips()
@@ -96,17 +93,9 @@ void TestTableItems::textsShowTheirColour()
     item->SetNormalText(u"████"_s);
     QVERIFY(!painted(POrvGuiTheme::statusRed()));
     QVERIFY(painted(QApplication::palette().color(QPalette::Text)));
-}
-
-void TestTableItems::brushKeepsItsStyle()
-{
-    PTableWidgetItem item;
-    item.setForeground(QBrush(Qt::blue, Qt::Dense4Pattern));
-    item.SetRedText(u"a"_s);
-    QCOMPARE(item.foreground(), QBrush(POrvGuiTheme::statusRed(), Qt::Dense4Pattern));
-    item.SetNormalText(u"b"_s);
-    QCOMPARE(item.foreground(),
-             QBrush(QApplication::palette().color(QPalette::Text), Qt::Dense4Pattern));
+    item->setForeground(QBrush(Qt::blue, Qt::Dense4Pattern));
+    item->SetRedText(u"a"_s);
+    QCOMPARE(item->foreground(), QBrush(POrvGuiTheme::statusRed(), Qt::Dense4Pattern));
 }
 
 void TestTableItems::sortsAddressesByValue()
@@ -165,25 +154,14 @@ void TestTableItems::collectsStatus()
     QCOMPARE(item.toolTip(), table({{u"1"_s, u"No %2 <b>"_s},
                                     {u"2"_s, u"%2 h Application uptime"_s},
                                     {u"3"_s, u"3 d System uptime"_s}}));
-}
-
-void TestTableItems::maintenanceMonths_data()
-{
-    QTest::addColumn<QString>("months");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("none") << QString() << QString();
-    QTest::newRow("zero") << u"0"_s << QString();
-    QTest::newRow("some") << u"14"_s << u" (14 Month(s))"_s;
-    QTest::newRow("no number") << u"abc"_s << u" (abc Month(s))"_s;
-}
-
-void TestTableItems::maintenanceMonths()
-{
-    QFETCH(const QString, months);
-    QFETCH(const QString, shown);
-    PStatusItem item;
-    item.AddMaintenanceInfo(u"%1-31"_s, months);
-    QCOMPARE(item.text(), u"End of Software Maintenance %1-31"_s + shown);
+    const QStringList months[] = {{QString(), QString()},
+                                  {u"0"_s, QString()},
+                                  {u"14"_s, u" (14 Month(s))"_s},
+                                  {u"abc"_s, u" (abc Month(s))"_s}};
+    for (const QStringList& row : months) {
+        item.AddMaintenanceInfo(u"%1-31"_s, row[0]);
+        QCOMPARE(item.text(), u"End of Software Maintenance %1-31"_s + row[1]);
+    }
 }
 
 QTEST_MAIN(TestTableItems)
