@@ -46,6 +46,9 @@ set(CORVELGUI_PUBLIC_HEADERS
     itemviews/PStatusItem
     itemviews/PTableWidgetItem
     itemviews/PTextWidgetItem
+    playback/PPlaybar
+    playback/TarvoDateTimeView
+    playback/TarvoToolButton
     settings/ISettingsPage
     settings/ISettingsPageProvider
     settings/IUserSettings

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace CorvelGui {
+
+/// Lets assistive technology read every TarvoDateTimeView as one text, and press it.
+void installAccessibleDateTimeView();
+
+} // namespace CorvelGui

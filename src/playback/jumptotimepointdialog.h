@@ -1,0 +1,62 @@
+#pragma once
+
+#include "frame/internalexport.h"
+
+#include <QDateTime>
+#include <QDialog>
+#include <QList>
+
+#include <memory>
+
+namespace CorvelGui {
+
+namespace Ui {
+class JumpToTimepointDialog;
+}
+
+/// The pop-up of the date-time view in which the user picks a date and a time. It closes as
+/// rejected when another window becomes active.
+class CORVELGUI_INTERNAL_EXPORT JumpToTimepointDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit JumpToTimepointDialog(QWidget* parent = nullptr);
+    ~JumpToTimepointDialog() override;
+
+    void setDeviceName(const QString& name);
+
+    /// Shows @p moment on the clock of its own zone, in which moment() will be as well.
+    void setMoment(const QDateTime& moment);
+    /// What the user picked; invalid while the clocks skip the time that is shown.
+    QDateTime moment() const;
+
+    /// Whether it closed because another window became active.
+    bool wasLeft() const { return m_wasLeft; }
+
+public Q_SLOTS:
+    /// Does nothing while moment() is invalid; the dialog says why.
+    void accept() override;
+    void done(int result) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void moveDate(int days);
+    void findMoments();
+    void explainMoments();
+    void rejectWhenLeft();
+
+    const std::unique_ptr<Ui::JumpToTimepointDialog> m_ui;
+    QDateTime m_zone; ///< the moment that was shown first
+    QList<QDateTime> m_moments;
+    bool m_wasActive = false;
+    bool m_wasLeft = false;
+    bool m_isDone = false;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,34 @@
+#include "localmoments.h"
+
+namespace CorvelGui {
+
+QList<QDateTime> localMoments(QDate date, QTime time, const QDateTime& zone)
+{
+    constexpr qint64 day = 86'400'000;
+    const auto at = [&zone](qint64 msecs) {
+        QDateTime moment = zone;
+        moment.setMSecsSinceEpoch(msecs);
+        return moment;
+    };
+    const auto offset = [](const QDateTime& moment) {
+        return qint64(moment.offsetFromUtc()) * 1000;
+    };
+
+    // No zone is a day away from UTC, so these two see the offsets before and after a change.
+    const qint64 clock = QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch();
+    const qint64 before = offset(at(clock - day));
+    const qint64 after = offset(at(clock + day));
+
+    QList<QDateTime> moments;
+    const auto addIfShown = [&](qint64 candidate) {
+        const QDateTime moment = at(clock - candidate);
+        if (offset(moment) == candidate)
+            moments.append(moment);
+    };
+    addIfShown(before);
+    if (after != before)
+        addIfShown(after);
+    return moments;
+}
+
+} // namespace CorvelGui

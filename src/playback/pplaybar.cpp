@@ -1,0 +1,450 @@
+#include "pplaybar.h"
+
+#include "frame/whilealive.h"
+#include "ui_pplaybar.h"
+
+#include <Hueloft/PTarvoPlayerIconHelper>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWheelEvent>
+
+#include <array>
+#include <cmath>
+
+using Hueloft::PTarvoPlayerIconHelper;
+
+namespace CorvelGui {
+
+namespace {
+
+struct StateRule
+{
+    PPlaybar::PlaybackSpeed slowest;
+    PPlaybar::PlaybackSpeed fastest;
+    PPlaybar::PlaybackSpeed onEntry;
+    PPlaybar::PlaybackButton button;
+};
+
+constexpr std::array stateRules{
+    StateRule{PPlaybar::Speed2, PPlaybar::Speed1024, PPlaybar::Speed2,
+              PPlaybar::FastBackwardButton},
+    StateRule{PPlaybar::Speed1, PPlaybar::Speed1, PPlaybar::Speed1, PPlaybar::ReverseButton},
+    StateRule{PPlaybar::Speed1_8, PPlaybar::Speed1_2, PPlaybar::Speed1_2,
+              PPlaybar::SlowReverseButton},
+    StateRule{PPlaybar::SpeedZero, PPlaybar::SpeedZero, PPlaybar::SpeedZero, PPlaybar::PauseButton},
+    StateRule{PPlaybar::Speed1_8, PPlaybar::Speed1_2, PPlaybar::Speed1_2,
+              PPlaybar::SlowForwardButton},
+    StateRule{PPlaybar::Speed1, PPlaybar::Speed1, PPlaybar::Speed1, PPlaybar::PlayButton},
+    StateRule{PPlaybar::Speed2, PPlaybar::Speed1024, PPlaybar::Speed2, PPlaybar::FastForwardButton},
+};
+
+struct SpeedRule
+{
+    float factor;
+    const char* text;
+    PPlaybar::PlaybackSpeed next;
+    PPlaybar::PlaybackSpeed previous;
+};
+
+// The fast speeds go round in both directions, the slow ones end at 1x.
+constexpr std::array speedRules{
+    SpeedRule{0.0F, QT_TRANSLATE_NOOP("QObject", "0"), PPlaybar::SpeedZero, PPlaybar::SpeedZero},
+    SpeedRule{0.125F, QT_TRANSLATE_NOOP("QObject", "1/8"), PPlaybar::Speed1_4, PPlaybar::SpeedZero},
+    SpeedRule{0.25F, QT_TRANSLATE_NOOP("QObject", "1/4"), PPlaybar::Speed1_2, PPlaybar::Speed1_8},
+    SpeedRule{0.5F, QT_TRANSLATE_NOOP("QObject", "1/2"), PPlaybar::Speed1, PPlaybar::Speed1_4},
+    SpeedRule{1.0F, QT_TRANSLATE_NOOP("QObject", "1"), PPlaybar::Speed1, PPlaybar::Speed1_2},
+    SpeedRule{2.0F, QT_TRANSLATE_NOOP("QObject", "2"), PPlaybar::Speed4, PPlaybar::Speed1024},
+    SpeedRule{4.0F, QT_TRANSLATE_NOOP("QObject", "4"), PPlaybar::Speed8, PPlaybar::Speed2},
+    SpeedRule{8.0F, QT_TRANSLATE_NOOP("QObject", "8"), PPlaybar::Speed16, PPlaybar::Speed4},
+    SpeedRule{16.0F, QT_TRANSLATE_NOOP("QObject", "16"), PPlaybar::Speed32, PPlaybar::Speed8},
+    SpeedRule{32.0F, QT_TRANSLATE_NOOP("QObject", "32"), PPlaybar::Speed64, PPlaybar::Speed16},
+    SpeedRule{64.0F, QT_TRANSLATE_NOOP("QObject", "64"), PPlaybar::Speed128, PPlaybar::Speed32},
+    SpeedRule{128.0F, QT_TRANSLATE_NOOP("QObject", "128"), PPlaybar::Speed256, PPlaybar::Speed64},
+    SpeedRule{256.0F, QT_TRANSLATE_NOOP("QObject", "256"), PPlaybar::Speed512, PPlaybar::Speed128},
+    SpeedRule{512.0F, QT_TRANSLATE_NOOP("QObject", "512"), PPlaybar::Speed1024, PPlaybar::Speed256},
+    SpeedRule{1024.0F, QT_TRANSLATE_NOOP("QObject", "1024"), PPlaybar::Speed2, PPlaybar::Speed512},
+};
+
+/// Null for a value outside the table: clients hand in what their player says.
+template <typename Rules>
+const typename Rules::value_type* entryAt(const Rules& rules, int value)
+{
+    return value >= 0 && size_t(value) < rules.size() ? &rules[size_t(value)] : nullptr;
+}
+
+} // namespace
+
+struct PPlaybar::Private
+{
+    TarvoToolButton* button(PlaybackButton which) const
+    {
+        const std::array<TarvoToolButton*, 11> buttons{
+            ui.buttonTrackStart, ui.buttonFastReverse, ui.buttonReverse,      ui.buttonReverse,
+            ui.buttonFrameBack,  ui.buttonPause,       ui.buttonFrameForward, ui.buttonPlay,
+            ui.buttonPlay,       ui.buttonFastForward, ui.buttonTrackEnd};
+        TarvoToolButton* const* const found = entryAt(buttons, which);
+        return found ? *found : nullptr;
+    }
+
+    std::array<TarvoToolButton*, 9> buttons() const
+    {
+        return {ui.buttonTrackStart, ui.buttonFastReverse, ui.buttonReverse,
+                ui.buttonFrameBack,  ui.buttonPause,       ui.buttonFrameForward,
+                ui.buttonPlay,       ui.buttonFastForward, ui.buttonTrackEnd};
+    }
+
+    bool backwardChecked() const
+    {
+        return ui.buttonFastReverse->isChecked() || ui.buttonReverse->isChecked();
+    }
+    bool forwardChecked() const
+    {
+        return ui.buttonFastForward->isChecked() || ui.buttonPlay->isChecked();
+    }
+
+    Ui::PPlaybar ui;
+    PlaybackState state = Pause;
+    PlaybackSpeed speed = SpeedZero;
+    bool liveMode = false;
+    bool reverseEnabled = true;
+    int pendingReports = 0;
+};
+
+PPlaybar::PPlaybar(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
+{
+    d->ui.setupUi(this);
+    const auto prepare = [this](TarvoToolButton* button, const QIcon& icon,
+                                void (PPlaybar::*slot)()) {
+        button->setIcon(icon);
+        button->installEventFilter(this);
+        connect(button, &TarvoToolButton::clicked, this, slot);
+    };
+    using Icons = PTarvoPlayerIconHelper;
+    const Ui::PPlaybar& ui = d->ui;
+    prepare(ui.buttonTrackStart, Icons::GetStartDouble_32x32(), &PPlaybar::onTrackStartClicked);
+    prepare(ui.buttonFastReverse, Icons::GetFastRewind_32x32(), &PPlaybar::onFastBackwardClicked);
+    prepare(ui.buttonReverse, Icons::GetPlayReverse_32x32(), &PPlaybar::onReverseClicked);
+    prepare(ui.buttonFrameBack, Icons::GetStartSingle_32x32(), &PPlaybar::onFrameBackwardClicked);
+    prepare(ui.buttonPause, Icons::GetPause_32x32(), &PPlaybar::onPauseClicked);
+    prepare(ui.buttonFrameForward, Icons::GetEndSingle_32x32(), &PPlaybar::onFrameForwardClicked);
+    prepare(ui.buttonPlay, Icons::GetPlay_32x32(), &PPlaybar::onPlayClicked);
+    prepare(ui.buttonFastForward, Icons::GetFastForward_32x32(), &PPlaybar::onFastForwardClicked);
+    prepare(ui.buttonTrackEnd, Icons::GetEndDoubleIcon_32x32(), &PPlaybar::onTrackEndClicked);
+    refreshLabel();
+    checkStateButton();
+}
+
+PPlaybar::~PPlaybar()
+{
+    if (d->pendingReports == 0)
+        return;
+    // Deleted by a receiver: the button whose event is being handled still touches itself.
+    for (TarvoToolButton* button : d->buttons()) {
+        button->hide();
+        button->setParent(nullptr);
+        button->deleteLater();
+    }
+}
+
+PPlaybar::PlaybackState PPlaybar::playbackState() const
+{
+    return d->state;
+}
+
+PPlaybar::PlaybackSpeed PPlaybar::playbackSpeed() const
+{
+    return d->speed;
+}
+
+float PPlaybar::playbackSpeedToFloat(PlaybackSpeed speed)
+{
+    const SpeedRule* rule = entryAt(speedRules, speed);
+    return rule ? rule->factor : 0.0F;
+}
+
+PPlaybar::PlaybackSpeed PPlaybar::playbackSpeedFromFloat(float factor)
+{
+    for (size_t speed = 0; speed < speedRules.size(); ++speed) {
+        if (std::abs(speedRules[speed].factor - factor) < 1e-5F)
+            return PlaybackSpeed(speed);
+    }
+    return SpeedZero;
+}
+
+void PPlaybar::setShortcut(PlaybackButton playbackButton, const QKeySequence& shortcut)
+{
+    if (TarvoToolButton* button = d->button(playbackButton))
+        button->setShortcut(shortcut);
+}
+
+QKeySequence PPlaybar::shortcut(PlaybackButton playbackButton) const
+{
+    const TarvoToolButton* button = d->button(playbackButton);
+    return button ? button->shortcut() : QKeySequence();
+}
+
+void PPlaybar::setPlaybackState(PlaybackState playbackState)
+{
+    if (playbackState == d->state)
+        return;
+    d->state = playbackState;
+    const StateRule* rule = entryAt(stateRules, playbackState);
+    if (rule && (d->speed < rule->slowest || d->speed > rule->fastest))
+        d->speed = rule->onEntry;
+    // Also when the speed stays: the sign belongs to the state.
+    refreshLabel();
+    checkStateButton();
+}
+
+void PPlaybar::setPlaybackSpeed(PlaybackSpeed playbackSpeed)
+{
+    const StateRule* rule = entryAt(stateRules, d->state);
+    if (playbackSpeed == d->speed || !rule || playbackSpeed < rule->slowest ||
+        playbackSpeed > rule->fastest)
+        return;
+    d->speed = playbackSpeed;
+    refreshLabel();
+}
+
+void PPlaybar::setLiveMode(bool liveMode, bool enableReversePlayback)
+{
+    if (liveMode == d->liveMode && enableReversePlayback == d->reverseEnabled)
+        return;
+    d->liveMode = liveMode;
+    d->reverseEnabled = enableReversePlayback;
+
+    const Ui::PPlaybar& ui = d->ui;
+    for (TarvoToolButton* button : d->buttons())
+        button->setEnabled(!liveMode);
+    for (TarvoToolButton* button : {ui.buttonFastReverse, ui.buttonReverse, ui.buttonFrameBack})
+        button->setEnabled(!liveMode && enableReversePlayback);
+    ui.buttonPause->setEnabled(true);
+
+    if (liveMode && d->state != Play)
+        enter(Play);
+}
+
+void PPlaybar::setButtonEnabled(PlaybackButton playbackButton, bool enable)
+{
+    if (TarvoToolButton* button = d->button(playbackButton))
+        button->setEnabled(enable);
+}
+
+void PPlaybar::setIconSize(QSize size)
+{
+    const auto buttons = d->buttons();
+    for (TarvoToolButton* button : buttons)
+        button->setIconSize(size);
+    setMinimumSize(int(buttons.size()) * size.width(), size.height());
+}
+
+bool PPlaybar::eventFilter(QObject* watched, QEvent* event)
+{
+    const QPointer<PPlaybar> alive(this);
+    bool handled = false;
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto* release = static_cast<QMouseEvent*>(event);
+        const auto* button = static_cast<QWidget*>(watched);
+        const Ui::PPlaybar& ui = d->ui;
+        const bool backward = watched == ui.buttonFastReverse || watched == ui.buttonReverse;
+        const bool forward = watched == ui.buttonFastForward || watched == ui.buttonPlay;
+        // Disabled buttons get here too.
+        if (release->button() == Qt::RightButton && button->isEnabled() &&
+            button->rect().contains(release->position().toPoint()) &&
+            ((backward && d->backwardChecked()) || (forward && d->forwardChecked())))
+            gotoPauseState();
+    } else if (event->type() == QEvent::Wheel && !d->liveMode && isEnabled()) {
+        handled = stepByWheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
+        if (handled)
+            event->accept();
+    }
+    return handled || !alive || QWidget::eventFilter(watched, event);
+}
+
+void PPlaybar::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        d->ui.retranslateUi(this);
+        refreshLabel();
+    }
+}
+
+void PPlaybar::onTrackStartClicked()
+{
+    pauseAndReport(&PPlaybar::trackStartClicked);
+}
+
+void PPlaybar::onFastBackwardClicked()
+{
+    changeToFastState(FastBackward);
+}
+
+void PPlaybar::onReverseClicked()
+{
+    changePlaybackState(Reverse);
+}
+
+void PPlaybar::onFrameBackwardClicked()
+{
+    pauseAndReport(&PPlaybar::frameBackwardClicked);
+}
+
+void PPlaybar::onPauseClicked()
+{
+    if (!d->liveMode) {
+        gotoPauseState();
+        return;
+    }
+    // The click has checked the pause button.
+    checkStateButton();
+    report(&PPlaybar::pauseClickedInLiveMode);
+}
+
+void PPlaybar::gotoPauseState()
+{
+    changePlaybackState(Pause);
+}
+
+void PPlaybar::onFrameForwardClicked()
+{
+    pauseAndReport(&PPlaybar::frameForwardClicked);
+}
+
+void PPlaybar::onPlayClicked()
+{
+    changePlaybackState(Play);
+}
+
+void PPlaybar::onFastForwardClicked()
+{
+    changeToFastState(FastForward);
+}
+
+void PPlaybar::onTrackEndClicked()
+{
+    pauseAndReport(&PPlaybar::trackEndClicked);
+}
+
+void PPlaybar::enter(PlaybackState state)
+{
+    d->state = state;
+    d->speed = stateRules[size_t(state)].onEntry;
+    refreshLabel();
+    checkStateButton();
+}
+
+void PPlaybar::changePlaybackState(PlaybackState state)
+{
+    if (state == d->state)
+        return;
+    enter(state);
+    report(&PPlaybar::playbackStateChanged, state);
+}
+
+void PPlaybar::changeToFastState(PlaybackState state)
+{
+    if (state == d->state)
+        setNextPlaybackSpeed();
+    else
+        changePlaybackState(state);
+}
+
+void PPlaybar::setNextPlaybackSpeed()
+{
+    stepPlaybackSpeed(speedRules[size_t(d->speed)].next);
+}
+
+void PPlaybar::setPrevPlaybackSpeed()
+{
+    stepPlaybackSpeed(speedRules[size_t(d->speed)].previous);
+}
+
+void PPlaybar::stepPlaybackSpeed(PlaybackSpeed speed)
+{
+    // The state stays, so that the wheel slows down without leaving Play.
+    d->speed = speed;
+    refreshLabel();
+    report(&PPlaybar::playbackSpeedChanged, speed);
+}
+
+void PPlaybar::pauseAndReport(void (PPlaybar::*signal)())
+{
+    whileAlive(
+        this, [this] { gotoPauseState(); }, [this, signal] { report(signal); });
+}
+
+template <typename... Args>
+void PPlaybar::report(void (PPlaybar::*signal)(Args...), Args... args)
+{
+    const QPointer<PPlaybar> alive(this);
+    ++d->pendingReports;
+    Q_EMIT(this->*signal)(args...);
+    if (alive)
+        --d->pendingReports;
+}
+
+bool PPlaybar::stepByWheel(int delta)
+{
+    if (delta == 0)
+        return false;
+    const bool up = delta > 0;
+    const Ui::PPlaybar& ui = d->ui;
+    if (ui.buttonFastReverse->isChecked() || ui.buttonFastForward->isChecked())
+        return stepFastByWheel(up);
+    if (ui.buttonReverse->isChecked() || ui.buttonPlay->isChecked())
+        return stepSlowByWheel(up);
+    if (d->state != Pause)
+        return false;
+    report(up ? &PPlaybar::frameForwardClicked : &PPlaybar::frameBackwardClicked);
+    return true;
+}
+
+bool PPlaybar::stepFastByWheel(bool up)
+{
+    if (up) {
+        if (d->speed == Speed1024)
+            return false;
+        setNextPlaybackSpeed();
+    } else if (d->speed != Speed2) {
+        setPrevPlaybackSpeed();
+    } else if (d->ui.buttonFastReverse->isChecked()) {
+        changePlaybackState(Reverse);
+    } else {
+        onPlayClicked();
+    }
+    return true;
+}
+
+bool PPlaybar::stepSlowByWheel(bool up)
+{
+    if (!up) {
+        if (d->speed == Speed1_8)
+            return false;
+        setPrevPlaybackSpeed();
+    } else if (d->speed == Speed1) {
+        changeToFastState(d->ui.buttonReverse->isChecked() ? FastBackward : FastForward);
+    } else {
+        setNextPlaybackSpeed();
+    }
+    return true;
+}
+
+void PPlaybar::checkStateButton()
+{
+    const StateRule* rule = entryAt(stateRules, d->state);
+    if (rule)
+        d->button(rule->button)->setChecked(true);
+}
+
+void PPlaybar::refreshLabel()
+{
+    const QString sign(d->state < Pause ? QStringLiteral("-") : QString());
+    const QString speed = QCoreApplication::translate("QObject", speedRules[size_t(d->speed)].text);
+    d->ui.labelPlaybackSpeed->setText(tr("x %1%2").arg(sign, speed));
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QDateTime>
+#include <QFrame>
+
+#include <memory>
+
+namespace CorvelGui {
+
+/// The large read-out of a player's time: day and month, hours, minutes, seconds and milliseconds,
+/// on the clock of the zone that the shown moment is in.
+///
+/// A left click, the space bar or the enter key opens a pop-up in which the user picks a moment to
+/// jump to.
+class CORVELGUI_EXPORT TarvoDateTimeView : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit TarvoDateTimeView(QWidget* parent = nullptr);
+    ~TarvoDateTimeView() override;
+
+    /// Shows @p dateTime. An invalid one empties the view.
+    void updateDateTime(const QDateTime& dateTime);
+    /// Yellow digits in play mode, green ones otherwise.
+    void setPlayMode(bool play);
+    void setShowMilliseconds(bool show);
+    /// What the header of the pop-up says, from the next time it opens.
+    void setDeviceName(const QString& name);
+
+    /// What the view reads, to the second, in one line.
+    QString shownText() const;
+
+Q_SIGNALS:
+    /// Emitted when the user applied a moment in the pop-up, not when it was closed otherwise.
+    /// @p dateTime is in the zone of the moment that was shown.
+    void jumoToTime(QDateTime dateTime);
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Private;
+
+    void showNothing();
+    void applyStyle();
+    void translateTexts();
+    void updateMinimumWidth();
+    void followScreen();
+    void openJumpDialog();
+    void placeJumpDialog();
+    void onJumpDialogFinished(int result);
+
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,335 @@
+#include "jumptotimepointdialog.h"
+#include "localmoments.h"
+#include "testsupport.h"
+
+#include <CorvelGui/TarvoDateTimeView>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimeZone>
+#include <QToolButton>
+
+using namespace CorvelGui;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QTimeZone newYork("America/New_York");
+const QTimeZone brussels("Europe/Brussels");
+
+QDateTime at(const QString& utc, const QTimeZone& zone)
+{
+    return QDateTime::fromString(utc + u'Z', Qt::ISODateWithMs).toTimeZone(zone);
+}
+
+class View : public TarvoDateTimeView
+{
+public:
+    View()
+    {
+        show();
+        activateWindow();
+    }
+
+    QLabel* label(int row, int column) const
+    {
+        const auto* item = static_cast<QGridLayout*>(layout())->itemAtPosition(row, column);
+        return qobject_cast<QLabel*>(item->widget());
+    }
+    QString reads() const
+    {
+        QStringList texts;
+        for (const int column : {0, 2, 3, 4, 5})
+            texts << label(0, column)->text();
+        return texts.join(u'|');
+    }
+    QList<JumpToTimepointDialog*> dialogs() const
+    {
+        return findChildren<JumpToTimepointDialog*>(u"JumpToTimepointDialog"_s);
+    }
+    JumpToTimepointDialog* open()
+    {
+        QTest::mouseClick(this, Qt::LeftButton);
+        JumpToTimepointDialog* dialog = dialogs().value(0);
+        return dialog && QTest::qWaitForWindowActive(dialog) ? dialog : nullptr;
+    }
+};
+
+template <typename Widget>
+Widget* part(JumpToTimepointDialog* dialog, const QString& name)
+{
+    return dialog->findChild<Widget*>(name);
+}
+
+void enter(JumpToTimepointDialog* dialog, const QString& date, const QString& time)
+{
+    part<QDateEdit>(dialog, u"dateEdit"_s)->setDate(QDate::fromString(date, Qt::ISODate));
+    part<QTimeEdit>(dialog, u"timeEdit"_s)->setTime(QTime::fromString(time, Qt::ISODateWithMs));
+}
+
+} // namespace
+
+class TestDateTimeView : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsWhatIsShown();
+    void styles();
+    void localMoments_data();
+    void localMoments();
+    void dialogForm();
+    void waysToApply_data();
+    void waysToApply();
+    void closesWithoutASignal();
+    void clockChanges();
+    void deletionInTheSlot();
+};
+
+void TestDateTimeView::readsWhatIsShown()
+{
+    View view;
+    QCOMPARE(view.reads(), u"|--:|--:|--|"_s);
+    const QString moment = u"2026-08-18T12:15:30.250"_s;
+    const struct
+    {
+        QDateTime moment;
+        const char* reads;
+    } steps[]{
+        {at(moment, newYork), "18 Aug|08:|15:|30|250"},
+        {at(u"2026-08-18T12:15:30.990"_s, newYork), "18 Aug|08:|15:|30|990"},
+        {at(moment, newYork), "18 Aug|08:|15:|30|250"}, // one frame back
+        {at(moment, brussels), "18 Aug|14:|15:|30|250"},
+        {at(u"2026-08-19T12:15:30.250"_s, brussels), "19 Aug|14:|15:|30|250"},
+        {QDateTime(), "|--:|--:|--|"},
+        {QDateTime::fromSecsSinceEpoch(5, Qt::UTC), "01 Jan|00:|00:|05|000"},
+    };
+    for (const auto& [shown, reads] : steps) {
+        view.updateDateTime(shown);
+        QCOMPARE(view.reads(), QString::fromLatin1(reads));
+    }
+    view.setShowMilliseconds(false);
+    QVERIFY(!view.label(0, 5)->isVisible() && !view.label(1, 5)->isVisible());
+    view.updateDateTime(at(moment, brussels));
+    view.setShowMilliseconds(true);
+    QCOMPARE(view.reads(), u"18 Aug|14:|15:|30|250"_s);
+    auto* accessible = QAccessible::queryAccessibleInterface(&view);
+    QCOMPARE(accessible->text(QAccessible::Value), u"18 Aug 14:15:30"_s);
+
+    view.setEnabled(false);
+    QCOMPARE(view.reads(), u"|--:|--:|--|"_s);
+    view.setEnabled(true);
+    view.updateDateTime(at(moment, brussels));
+    QCOMPARE(view.reads(), u"18 Aug|14:|15:|30|250"_s);
+}
+
+void TestDateTimeView::styles()
+{
+    const QFont before = QApplication::font();
+    View view;
+    QFont font = before;
+    font.setPointSize(10);
+    QApplication::setFont(font);
+    view.setPlayMode(true);
+    const auto size = [&view](int row, int column) {
+        view.label(row, column)->ensurePolished();
+        return view.label(row, column)->font().pointSize();
+    };
+    QCOMPARE(QList({size(0, 0), size(0, 4), size(0, 5), size(1, 0)}), QList({18, 18, 10, 9}));
+    font.setPointSize(18);
+    font.setBold(true);
+    const QFontMetrics metrics(font);
+    QTRY_COMPARE(view.minimumWidth(),
+                 metrics.boundingRect(u"18 Aug    00:00:00.000"_s).width() + 2);
+    view.setShowMilliseconds(false);
+    QCOMPARE(view.minimumWidth(), metrics.boundingRect(u"18 Aug    00:00:00"_s).width() + 2);
+    const QString playing = view.label(0, 2)->styleSheet();
+    view.setPlayMode(false);
+    QVERIFY(view.label(0, 2)->styleSheet() != playing);
+    QApplication::setFont(before);
+}
+
+void TestDateTimeView::localMoments_data()
+{
+    QTest::addColumn<QString>("clock");
+    QTest::addColumn<QDateTime>("zone");
+    QTest::addColumn<QStringList>("utc");
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(1'800'000'000);
+    const auto row = [](const QByteArray& name, const char* clock, const QDateTime& zone,
+                        const QStringList& utc) {
+        QTest::newRow(name.constData()) << QString::fromLatin1(clock) << zone << utc;
+    };
+    for (const QDateTime& zone : {now, now.toTimeZone(brussels)}) {
+        const QByteArray tag = QByteArray::number(zone.timeSpec());
+        row(tag + " before the gap", "2026-03-29T01:59:59", zone, {u"2026-03-29T00:59:59"_s});
+        row(tag + " in the gap", "2026-03-29T02:00:00", zone, {});
+        row(tag + " after the gap", "2026-03-29T03:00:00", zone, {u"2026-03-29T01:00:00"_s});
+        row(tag + " twice", "2026-10-25T02:30:00", zone,
+            {u"2026-10-25T00:30:00"_s, u"2026-10-25T01:30:00"_s});
+        row(tag + " after", "2026-10-25T03:00:00", zone, {u"2026-10-25T02:00:00"_s});
+    }
+    row("UTC", "2026-03-29T02:00:00", now.toUTC(), {u"2026-03-29T02:00:00"_s});
+    row("offset", "2026-03-29T02:00:00", now.toOffsetFromUtc(-5400), {u"2026-03-29T03:30:00"_s});
+    const QDateTime apia = now.toTimeZone(QTimeZone("Pacific/Apia"));
+    row("a day that is skipped", "2011-12-30T12:00:00", apia, {});
+    row("the day before", "2011-12-29T23:00:00", apia, {u"2011-12-30T09:00:00"_s});
+}
+
+void TestDateTimeView::localMoments()
+{
+    QFETCH(const QString, clock);
+    QFETCH(const QDateTime, zone);
+    const QDateTime wanted = QDateTime::fromString(clock, Qt::ISODate);
+    QStringList utc;
+    for (const QDateTime& moment : CorvelGui::localMoments(wanted.date(), wanted.time(), zone)) {
+        QCOMPARE(moment.timeSpec(), zone.timeSpec());
+        QCOMPARE(moment.date(), wanted.date());
+        QCOMPARE(moment.time(), wanted.time());
+        utc << moment.toUTC().toString(u"yyyy-MM-ddTHH:mm:ss"_s);
+    }
+    QTEST(utc, "utc");
+}
+
+void TestDateTimeView::dialogForm()
+{
+    View view;
+    view.setDeviceName(u"<b>Gate</b>"_s);
+    view.updateDateTime(at(u"2026-01-01T04:59:58.750"_s, newYork));
+    JumpToTimepointDialog* dialog = view.open();
+    QVERIFY(dialog && !dialog->isModal());
+    QCOMPARE(view.open(), dialog);
+    QCOMPARE(view.dialogs().size(), 1);
+    QCOMPARE(part<QLabel>(dialog, u"labelName"_s)->text(), u"<b>Gate</b>"_s);
+    QCOMPARE(part<QTimeEdit>(dialog, u"timeEdit"_s)->text(), u"23:59:58.750"_s);
+    const auto* date = part<QDateEdit>(dialog, u"dateEdit"_s);
+    QVERIFY(date->text().contains(u"2025"_s));
+    QCOMPARE(date->date(), QDate(2025, 12, 31));
+    QTest::mouseClick(part<QToolButton>(dialog, u"buttonNextDay"_s), Qt::LeftButton);
+    QCOMPARE(date->date(), QDate(2026, 1, 1));
+    QTest::mouseClick(part<QToolButton>(dialog, u"buttonPrevDay"_s), Qt::LeftButton);
+    QCOMPARE(date->date(), QDate(2025, 12, 31));
+    for (const auto* button : dialog->findChildren<QToolButton*>())
+        QVERIFY(!QAccessible::queryAccessibleInterface(const_cast<QToolButton*>(button))
+                     ->text(QAccessible::Name)
+                     .isEmpty());
+}
+
+void TestDateTimeView::waysToApply_data()
+{
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<int>("key");
+    QTest::newRow("enter in the time") << u"timeEdit"_s << int(Qt::Key_Return);
+    QTest::newRow("enter in the date") << u"dateEdit"_s << int(Qt::Key_Enter);
+    QTest::newRow("enter on a button") << u"buttonNextDay"_s << int(Qt::Key_Return);
+    QTest::newRow("space on apply") << u"buttonApply"_s << int(Qt::Key_Space);
+}
+
+void TestDateTimeView::waysToApply()
+{
+    QFETCH(const QString, part);
+    QFETCH(const int, key);
+    View view;
+    view.updateDateTime(at(u"2026-08-18T12:15:30.250"_s, newYork));
+    QSignalSpy jumps(&view, &TarvoDateTimeView::jumoToTime);
+    auto* accessible = QAccessible::queryAccessibleInterface(&view);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    JumpToTimepointDialog* dialog = view.dialogs().value(0);
+    QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+    enter(dialog, u"2026-02-03"_s, u"04:05:06.007"_s);
+    QTest::keyClick(dialog->findChild<QWidget*>(part), Qt::Key(key));
+    QCOMPARE(jumps.size(), 1);
+    const QDateTime moment = jumps.at(0).at(0).toDateTime();
+    QCOMPARE(moment, at(u"2026-02-03T09:05:06.007"_s, newYork));
+    QCOMPARE(moment.timeZone(), newYork);
+    QTRY_VERIFY(view.dialogs().isEmpty());
+}
+
+void TestDateTimeView::closesWithoutASignal()
+{
+    View view;
+    QWidget other;
+    other.show();
+    QSignalSpy jumps(&view, &TarvoDateTimeView::jumoToTime);
+    const std::function<void(JumpToTimepointDialog*)> ways[]{
+        [&](auto*) { other.activateWindow(); },
+        [](auto* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); },
+        [](auto* dialog) {
+            QTest::mouseClick(part<QToolButton>(dialog, u"buttonClose"_s), Qt::LeftButton);
+        },
+        [&](auto*) { view.setEnabled(false); },
+    };
+    for (const auto& close : ways) {
+        JumpToTimepointDialog* dialog = view.open();
+        QVERIFY(dialog);
+        // The calendar belongs to the dialog.
+        auto* date = part<QDateEdit>(dialog, u"dateEdit"_s);
+        QTest::mouseClick(date, Qt::LeftButton, {}, QPoint(date->width() - 5, date->height() / 2));
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+        QVERIFY(dialog->isVisible());
+        dialog->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        close(dialog);
+        QTRY_VERIFY(view.dialogs().isEmpty());
+    }
+    QVERIFY(jumps.isEmpty());
+}
+
+void TestDateTimeView::clockChanges()
+{
+    View view;
+    const QDateTime second = at(u"2026-10-25T01:30:00"_s, brussels);
+    view.updateDateTime(second);
+    QSignalSpy jumps(&view, &TarvoDateTimeView::jumoToTime);
+    JumpToTimepointDialog* dialog = view.open();
+    QVERIFY(dialog);
+    const auto* note = part<QLabel>(dialog, u"labelClockChange"_s);
+    auto* choice = part<QComboBox>(dialog, u"comboOccurrence"_s);
+    const auto* apply = part<QPushButton>(dialog, u"buttonApply"_s);
+    QVERIFY(note->isVisible() && choice->isVisible());
+    QCOMPARE(choice->currentText(), u"The second (UTC+01:00)"_s);
+
+    enter(dialog, u"2026-03-29"_s, u"02:30:00"_s);
+    QVERIFY(note->text().contains(u"does not exist"_s));
+    QVERIFY(!choice->isVisible() && !apply->isEnabled());
+    QTest::keyClick(dialog, Qt::Key_Return);
+    QVERIFY(dialog->isVisible() && jumps.isEmpty());
+
+    enter(dialog, u"2026-03-29"_s, u"03:30:00"_s);
+    QVERIFY(!note->isVisible() && apply->isEnabled());
+    enter(dialog, u"2026-10-25"_s, u"02:45:00"_s);
+    QCOMPARE(choice->currentText(), u"The first (UTC+02:00)"_s);
+    choice->setCurrentIndex(1);
+    enter(dialog, u"2026-10-25"_s, u"02:30:00"_s);
+    QTest::keyClick(choice, Qt::Key_Return);
+    QCOMPARE(jumps.size(), 1);
+    QCOMPARE(jumps.at(0).at(0).toDateTime(), second);
+    QCOMPARE(jumps.at(0).at(0).toDateTime().offsetFromUtc(), 3600);
+}
+
+void TestDateTimeView::deletionInTheSlot()
+{
+    for (const bool byKey : {true, false}) {
+        QPointer<View> view = new View;
+        JumpToTimepointDialog* dialog = view->open();
+        QVERIFY(dialog);
+        connect(view.data(), &TarvoDateTimeView::jumoToTime, this, [&] { delete view.data(); });
+        if (byKey)
+            QTest::keyClick(part<QTimeEdit>(dialog, u"timeEdit"_s), Qt::Key_Return);
+        else
+            QTest::mouseClick(part<QPushButton>(dialog, u"buttonApply"_s), Qt::LeftButton);
+        QVERIFY(!view);
+    }
+}
+
+QTEST_MAIN(TestDateTimeView)
+#include "tst_datetimeview.moc"
