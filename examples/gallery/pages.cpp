@@ -1,9 +1,11 @@
 #include "pages.h"
 
 #include "colourspage.h"
+#include "datetimeviewpage.h"
 #include "iconspage.h"
 #include "lookspage.h"
 #include "overviewpage.h"
+#include "playbarpage.h"
 #include "rulerpage.h"
 #include "zoomtimelinepage.h"
 
@@ -34,6 +36,9 @@ const std::vector<Page>& pages()
         {u"Ruler"_s, create<RulerPage>},
         {u"Overview"_s, create<OverviewPage>},
         {u"Zoom timeline"_s, create<ZoomTimelinePage>},
+        // Playback
+        {u"Playbar"_s, create<PlaybarPage>},
+        {u"Date-time view"_s, create<DateTimeViewPage>},
     };
     return all;
 }
