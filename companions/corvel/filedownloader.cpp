@@ -26,7 +26,7 @@ bool isReplaceable(const QString& path)
 
 struct FileDownloader::Private
 {
-    RequestLimits limits{2h, 30s, qint64(4) * 1024 * 1024 * 1024};
+    RequestLimits limits{2h, 30s, qint64(2) * 1024 * 1024 * 1024};
     bool busy = false;
     // All of one download.
     std::unique_ptr<ProxyNetworkAccessManager> network;

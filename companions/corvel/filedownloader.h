@@ -29,7 +29,7 @@ public:
     ~FileDownloader() override;
 
     /// For downloads that start from now on. The defaults are two hours, 30 seconds of silence and
-    /// 4 GiB.
+    /// 2 GiB.
     void setLimits(const RequestLimits& limits);
 
     /// Starts saving the content of @p url as the file @p path. False, and no signal follows, when
