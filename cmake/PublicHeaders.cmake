@@ -2,9 +2,13 @@
 set(CORVEL_PUBLIC_HEADERS
     CheckAppUpdate
     FileDownloader
+    Host
+    NetworkInterfaceData
+    NetworkInterfaceDataList
     ProxyNetworkAccessManager
     ProxyUserSettings
     RequestLimits
+    SubNetMask
     TimeZoneHelper
     UrlChecker)
 
@@ -33,9 +37,11 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/IconButton
     input/InputLengthLineEdit
     input/IpLineEdit
+    input/NetworkInterfaceComboBox
     input/NotEmptyLineEdit
     input/PFileCheckLineEdit
     input/PIpLineEdit
+    input/SubNetMaskComboBox
     input/UrlLineEdit
     input/ValidateBaseLineEdit
     itemviews/PDeviceItem

@@ -1,0 +1,12 @@
+#include "host.h"
+
+#include "systemaddress.h"
+
+namespace Corvel {
+
+NetworkInterfaceDataList Host::getNetworkInterfaceList() const
+{
+    return NetworkInterfaceDataList(reachableAddresses(systemAddresses()));
+}
+
+} // namespace Corvel
