@@ -22,7 +22,10 @@ set(HUELOFT_PUBLIC_HEADERS
     PTarvoPlayerIconHelper)
 
 set(CORVELGUI_PUBLIC_HEADERS
+    dialogs/PAskRefreshDialog
     dialogs/PCsvDialog
+    dialogs/PIpRangeDialog
+    dialogs/PPasswordInputDialog
     frame/PBaseDialog
     frame/PMainWindow
     frame/PWidget

@@ -4,8 +4,7 @@ namespace Corvel {
 
 NetworkInterfaceDataList::NetworkInterfaceDataList(const QList<NetworkInterfaceData>& list)
     : m_list(list)
-{
-}
+{}
 
 QList<NetworkInterfaceData> NetworkInterfaceDataList::getList() const
 {

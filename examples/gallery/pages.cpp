@@ -2,8 +2,11 @@
 
 #include "colourspage.h"
 #include "datetimeviewpage.h"
+#include "dialogspage.h"
+#include "fancylineeditspage.h"
 #include "iconspage.h"
 #include "lookspage.h"
+#include "networkboxespage.h"
 #include "overviewpage.h"
 #include "playbarpage.h"
 #include "rulerpage.h"
@@ -39,6 +42,11 @@ const std::vector<Page>& pages()
         // Playback
         {u"Playbar"_s, create<PlaybarPage>},
         {u"Date-time view"_s, create<DateTimeViewPage>},
+        // Input
+        {u"Fancy line edits"_s, create<FancyLineEditsPage>},
+        {u"Network boxes"_s, create<NetworkBoxesPage>},
+        // Dialogs
+        {u"Dialogs"_s, create<DialogsPage>},
     };
     return all;
 }
