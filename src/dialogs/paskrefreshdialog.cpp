@@ -45,7 +45,7 @@ void PAskRefreshDialog::slotAccept()
 
 void PAskRefreshDialog::showLastUpdate()
 {
-    // An empty line would push the question out of the middle.
+    // Hidden, it leaves the question in the middle.
     m_ui->labelRefresh->setVisible(m_lastUpdate.isValid());
     if (m_lastUpdate.isValid()) {
         m_ui->labelRefresh->setText(

@@ -80,9 +80,9 @@ void FilterLineEdit::takeClearIcon()
 {
     QStyleOptionFrame option;
     initStyleOption(&option);
-    setButtonPixmap(Right, style()
-                               ->standardIcon(QStyle::SP_LineEditClearButton, &option, this)
-                               .pixmap(clearIconSize, devicePixelRatioF()));
+    const QIcon icon = style()->standardIcon(QStyle::SP_LineEditClearButton, &option, this);
+    // The button is larger than the icon, so take the finest that the style has.
+    setButtonPixmap(Right, icon.pixmap(clearIconSize, qMax(2.0, devicePixelRatioF())));
 }
 
 void FilterLineEdit::translateTexts()

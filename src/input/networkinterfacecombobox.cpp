@@ -3,6 +3,7 @@
 #include <Corvel/Host>
 
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
 
 using namespace Qt::StringLiterals;
 
@@ -51,6 +52,14 @@ QHostAddress NetworkInterfaceComboBox::getCurrentHostAddress() const
 QHostAddress NetworkInterfaceComboBox::getCurrentBroadCastAddress() const
 {
     return QHostAddress(currentData(BroadcastRole).toString());
+}
+
+void NetworkInterfaceComboBox::initStyleOption(QStyleOptionComboBox* option) const
+{
+    QComboBox::initStyleOption(option);
+    // Red is hard to read on the grey of a button in the dark look.
+    if (count() > 0 && !currentData(AddressRole).isValid())
+        option->palette.setColor(QPalette::Button, option->palette.color(QPalette::Base));
 }
 
 } // namespace CorvelGui

@@ -47,6 +47,7 @@ protected:
     /// As InitNetworkFilter(), with interfaces that the caller has found.
     bool showInterfaces(const QList<Corvel::NetworkInterfaceData>& interfaces,
                         const QString& preferredAddress);
+    void initStyleOption(QStyleOptionComboBox* option) const override;
 };
 
 } // namespace CorvelGui
