@@ -127,8 +127,9 @@ void TestQuestions::passwordStaysHidden()
     PPasswordInputDialog dialog(u"Secret"_s);
     auto* field = dialog.findChild<QLineEdit*>(u"lineEditEncryptPassword"_s);
     field->setText(u"Secret"_s);
+    const QList<QWidget*> widgets = dialog.findChildren<QWidget*>() << &dialog;
     QStringList told;
-    for (QWidget* widget : dialog.findChildren<QWidget*>() << &dialog) {
+    for (QWidget* widget : widgets) {
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
         for (int text = QAccessible::Name; text <= QAccessible::Accelerator; ++text)
             told << accessible->text(QAccessible::Text(text));
