@@ -1,6 +1,7 @@
 #include "pages.h"
 
 #include "colourspage.h"
+#include "csvdialogpage.h"
 #include "datetimeviewpage.h"
 #include "dialogspage.h"
 #include "fancylineeditspage.h"
@@ -10,6 +11,8 @@
 #include "overviewpage.h"
 #include "playbarpage.h"
 #include "rulerpage.h"
+#include "tableitemspage.h"
+#include "tooltipspage.h"
 #include "zoomtimelinepage.h"
 
 #include <algorithm>
@@ -35,6 +38,8 @@ const std::vector<Page>& pages()
         {u"Looks"_s, create<LooksPage>},
         {u"Colours"_s, create<ColoursPage>},
         {u"Icons"_s, create<IconsPage>},
+        // Frame
+        {u"Tooltips"_s, create<ToolTipsPage>},
         // Timeline
         {u"Ruler"_s, create<RulerPage>},
         {u"Overview"_s, create<OverviewPage>},
@@ -47,6 +52,9 @@ const std::vector<Page>& pages()
         {u"Network boxes"_s, create<NetworkBoxesPage>},
         // Dialogs
         {u"Dialogs"_s, create<DialogsPage>},
+        {u"CSV dialog"_s, create<CsvDialogPage>},
+        // Item views
+        {u"Table items"_s, create<TableItemsPage>},
     };
     return all;
 }
