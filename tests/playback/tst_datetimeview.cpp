@@ -87,7 +87,6 @@ private Q_SLOTS:
     void localMoments_data();
     void localMoments();
     void dialogForm();
-    void waysToApply_data();
     void waysToApply();
     void closesWithoutASignal();
     void clockChanges();
@@ -178,9 +177,6 @@ void TestDateTimeView::localMoments_data()
     }
     row("UTC", "2026-03-29T02:00:00", now.toUTC(), {u"2026-03-29T02:00:00"_s});
     row("offset", "2026-03-29T02:00:00", now.toOffsetFromUtc(-5400), {u"2026-03-29T03:30:00"_s});
-    const QDateTime apia = now.toTimeZone(QTimeZone("Pacific/Apia"));
-    row("a day that is skipped", "2011-12-30T12:00:00", apia, {});
-    row("the day before", "2011-12-29T23:00:00", apia, {u"2011-12-30T09:00:00"_s});
 }
 
 void TestDateTimeView::localMoments()
@@ -216,40 +212,35 @@ void TestDateTimeView::dialogForm()
     QCOMPARE(date->date(), QDate(2026, 1, 1));
     QTest::mouseClick(part<QToolButton>(dialog, u"buttonPrevDay"_s), Qt::LeftButton);
     QCOMPARE(date->date(), QDate(2025, 12, 31));
-    for (const auto* button : dialog->findChildren<QToolButton*>())
-        QVERIFY(!QAccessible::queryAccessibleInterface(const_cast<QToolButton*>(button))
-                     ->text(QAccessible::Name)
-                     .isEmpty());
-}
-
-void TestDateTimeView::waysToApply_data()
-{
-    QTest::addColumn<QString>("part");
-    QTest::addColumn<int>("key");
-    QTest::newRow("enter in the time") << u"timeEdit"_s << int(Qt::Key_Return);
-    QTest::newRow("enter in the date") << u"dateEdit"_s << int(Qt::Key_Enter);
-    QTest::newRow("enter on a button") << u"buttonNextDay"_s << int(Qt::Key_Return);
-    QTest::newRow("space on apply") << u"buttonApply"_s << int(Qt::Key_Space);
+    for (QWidget* widget : dialog->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
+            continue;
+        auto* accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(widget->objectName()));
+    }
 }
 
 void TestDateTimeView::waysToApply()
 {
-    QFETCH(const QString, part);
-    QFETCH(const int, key);
     View view;
-    view.updateDateTime(at(u"2026-08-18T12:15:30.250"_s, newYork));
     QSignalSpy jumps(&view, &TarvoDateTimeView::jumoToTime);
     auto* accessible = QAccessible::queryAccessibleInterface(&view);
-    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    JumpToTimepointDialog* dialog = view.dialogs().value(0);
-    QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
-    enter(dialog, u"2026-02-03"_s, u"04:05:06.007"_s);
-    QTest::keyClick(dialog->findChild<QWidget*>(part), Qt::Key(key));
-    QCOMPARE(jumps.size(), 1);
-    const QDateTime moment = jumps.at(0).at(0).toDateTime();
-    QCOMPARE(moment, at(u"2026-02-03T09:05:06.007"_s, newYork));
-    QCOMPARE(moment.timeZone(), newYork);
-    QTRY_VERIFY(view.dialogs().isEmpty());
+    for (const auto& [name, key] : {std::pair(u"timeEdit"_s, Qt::Key_Return),
+                                    {u"dateEdit"_s, Qt::Key_Enter},
+                                    {u"buttonNextDay"_s, Qt::Key_Return},
+                                    {u"buttonApply"_s, Qt::Key_Space}}) {
+        view.updateDateTime(at(u"2026-08-18T12:15:30.250"_s, newYork));
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        JumpToTimepointDialog* dialog = view.dialogs().value(0);
+        QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+        enter(dialog, u"2026-02-03"_s, u"04:05:06.007"_s);
+        QTest::keyClick(part<QWidget>(dialog, name), key);
+        QCOMPARE(jumps.size(), 1);
+        const QDateTime moment = jumps.takeFirst().at(0).toDateTime();
+        QCOMPARE(moment, at(u"2026-02-03T09:05:06.007"_s, newYork));
+        QCOMPARE(moment.timeZone(), newYork);
+        QTRY_VERIFY(view.dialogs().isEmpty());
+    }
 }
 
 void TestDateTimeView::closesWithoutASignal()

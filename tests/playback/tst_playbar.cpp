@@ -45,22 +45,37 @@ public:
     }
 
     /// "click Play" and "right Play" press a mouse button, "up Play" and "down Play" turn the
-    /// wheel.
+    /// wheel, the others call slots.
     void act(const QString& action)
     {
-        TarvoToolButton* target = button(action.section(u' ', 1));
         const QString way = action.section(u' ', 0, 0);
-        if (way == u"click" || way == u"right") {
-            QTest::mouseClick(target, way == u"click" ? Qt::LeftButton : Qt::RightButton);
-            return;
+        const int number = action.section(u' ', 1).toInt();
+        if (way == u"state") {
+            setPlaybackState(PlaybackState(number));
+        } else if (way == u"speed") {
+            setPlaybackSpeed(PlaybackSpeed(number));
+        } else if (way == u"live") {
+            setLiveMode(number / 10, number % 10);
+        } else if (way == u"enable") {
+            setEnabled(number);
+        } else if (way == u"click" || way == u"right") {
+            QTest::mouseClick(button(action.section(u' ', 1)),
+                              way == u"click" ? Qt::LeftButton : Qt::RightButton);
+        } else {
+            turnWheel(button(action.section(u' ', 1)), way == u"up"     ? 120
+                                                       : way == u"down" ? -120
+                                                                        : 0);
         }
+    }
+
+    void turnWheel(QWidget* target, int delta)
+    {
         const QPointF center = QRectF(target->rect()).center();
-        const int delta = way == u"up" ? 120 : way == u"down" ? -120 : 0;
         QWheelEvent wheel(center, target->mapToGlobal(center), {}, {120, delta}, {}, {},
                           Qt::NoScrollPhase, false);
         const QPointer<LoggedBar> alive(this);
         QCoreApplication::sendEvent(target, &wheel);
-        if (alive && !wheel.isAccepted())
+        if (alive && isEnabled() && !wheel.isAccepted())
             log << u"unhandled"_s;
     }
 
@@ -86,12 +101,10 @@ class TestPlaybar : public WarningFreeTest
 
 private Q_SLOTS:
     void form();
-    void userActions_data();
-    void userActions();
-    void silentSetters();
-    void liveMode();
-    void disabled();
-    void strangeValues();
+    void journeys_data();
+    void journeys();
+    void allowedSpeeds();
+    void enabledButtons();
     void hover();
     void deletionInAnySlot();
 };
@@ -120,95 +133,66 @@ void TestPlaybar::form()
     QTRY_COMPARE(bar.playbackState(), Bar::Reverse);
 }
 
-void TestPlaybar::userActions_data()
+void TestPlaybar::journeys_data()
 {
-    QTest::addColumn<Bar::PlaybackState>("state");
-    QTest::addColumn<Bar::PlaybackSpeed>("speed");
-    QTest::addColumn<QString>("story");
-    const struct
-    {
-        Bar::PlaybackState state;
-        Bar::PlaybackSpeed speed;
-        const char* action;
-        const char* story;
-    } rows[]{
-        {Bar::Pause, Bar::SpeedZero, "click TrackStart", "begin, x 0, Pause"},
-        {Bar::FastBackward, Bar::Speed8, "click TrackStart", "state 3, begin, x 0, Pause"},
-        {Bar::SlowForward, Bar::Speed1_8, "click TrackEnd", "state 3, end, x 0, Pause"},
-        {Bar::Play, Bar::Speed1, "click FrameForward", "state 3, frame on, x 0, Pause"},
-        {Bar::Reverse, Bar::Speed1, "click FrameBack", "state 3, frame back, x 0, Pause"},
-        {Bar::Pause, Bar::SpeedZero, "click FrameBack", "frame back, x 0, Pause"},
-        {Bar::Play, Bar::Speed1, "click Pause", "state 3, x 0, Pause"},
-        {Bar::Pause, Bar::SpeedZero, "click Pause", "x 0, Pause"},
-        {Bar::Pause, Bar::SpeedZero, "click Play", "state 5, x 1, Play"},
-        {Bar::SlowForward, Bar::Speed1_4, "click Play", "state 5, x 1, Play"},
-        {Bar::Play, Bar::Speed1, "click Play", "x 1, Play"},
-        {Bar::SlowReverse, Bar::Speed1_2, "click Reverse", "state 1, x -1, Reverse"},
-        {Bar::Reverse, Bar::Speed1, "click Reverse", "x -1, Reverse"},
-        {Bar::Play, Bar::Speed1, "click FastReverse", "state 0, x -2, FastReverse"},
-        {Bar::FastBackward, Bar::Speed512, "click FastReverse", "speed 14, x -1024, FastReverse"},
-        {Bar::FastForward, Bar::Speed1024, "click FastForward", "speed 5, x 2, FastForward"},
-        {Bar::FastBackward, Bar::Speed16, "click FastForward", "state 6, x 2, FastForward"},
-
-        {Bar::Play, Bar::Speed1, "right FastForward", "state 3, x 0, Pause"},
-        {Bar::FastForward, Bar::Speed4, "right Play", "state 3, x 0, Pause"},
-        {Bar::SlowReverse, Bar::Speed1_2, "right FastReverse", "state 3, x 0, Pause"},
-        {Bar::FastBackward, Bar::Speed2, "right Reverse", "state 3, x 0, Pause"},
-        {Bar::Play, Bar::Speed1, "right Reverse", "x 1, Play"},
-        {Bar::Play, Bar::Speed1, "right Pause", "x 1, Play"},
-        {Bar::Reverse, Bar::Speed1, "right Play", "x -1, Reverse"},
-
-        {Bar::FastForward, Bar::Speed1024, "up Pause", "unhandled, x 1024, FastForward"},
-        {Bar::FastForward, Bar::Speed512, "up TrackEnd", "speed 14, x 1024, FastForward"},
-        {Bar::FastForward, Bar::Speed4, "down FrameBack", "speed 5, x 2, FastForward"},
-        {Bar::FastForward, Bar::Speed2, "down FastForward", "state 5, x 1, Play"},
-        {Bar::FastBackward, Bar::Speed1024, "up Play", "unhandled, x -1024, FastReverse"},
-        {Bar::FastBackward, Bar::Speed2, "down Play", "state 1, x -1, Reverse"},
-        {Bar::Play, Bar::Speed1, "up TrackStart", "state 6, x 2, FastForward"},
-        {Bar::SlowForward, Bar::Speed1_2, "up Play", "speed 4, x 1, Play"},
-        {Bar::Play, Bar::Speed1, "down Play", "speed 3, x 1/2, Play"},
-        {Bar::SlowForward, Bar::Speed1_4, "down Play", "speed 1, x 1/8, Play"},
-        {Bar::SlowForward, Bar::Speed1_8, "down Play", "unhandled, x 1/8, Play"},
-        {Bar::Reverse, Bar::Speed1, "up FrameForward", "state 0, x -2, FastReverse"},
-        {Bar::SlowReverse, Bar::Speed1_8, "up Reverse", "speed 2, x -1/4, Reverse"},
-        {Bar::SlowReverse, Bar::Speed1_8, "down Reverse", "unhandled, x -1/8, Reverse"},
-        {Bar::Pause, Bar::SpeedZero, "up FastReverse", "frame on, x 0, Pause"},
-        {Bar::Pause, Bar::SpeedZero, "down FastForward", "frame back, x 0, Pause"},
-        {Bar::Pause, Bar::SpeedZero, "sideways Pause", "unhandled, x 0, Pause"},
-        {Bar::Play, Bar::Speed1, "sideways Play", "unhandled, x 1, Play"},
-    };
-    for (const auto& row : rows) {
-        QTest::addRow("%d %d|%s", row.state, row.speed, row.action)
-            << row.state << row.speed << QString::fromLatin1(row.story);
+    // Actions, each with the signals that follow, the label and the checked button.
+    const auto journeys = uR"(
+buttons > click TrackStart: begin, x 0, Pause > click FrameBack: frame back, x 0, Pause
+  > click Pause: x 0, Pause > click Play: state 5, x 1, Play > click Play: x 1, Play
+  > click FrameForward: state 3, frame on, x 0, Pause > click Reverse: state 1, x -1, Reverse
+  > click Reverse: x -1, Reverse > click FrameBack: state 3, frame back, x 0, Pause
+  > click FastForward: state 6, x 2, FastForward > click FastForward: speed 6, x 4, FastForward
+  > click FastForward: speed 7, x 8, FastForward > click TrackEnd: state 3, end, x 0, Pause
+  > click FastReverse: state 0, x -2, FastReverse > click FastReverse: speed 6, x -4, FastReverse
+  > click FastForward: state 6, x 2, FastForward > click Pause: state 3, x 0, Pause
+fast buttons go round > state 6: x 2, FastForward > speed 14: x 1024, FastForward
+  > click FastForward: speed 5, x 2, FastForward > click TrackStart: state 3, begin, x 0, Pause
+slow states count as others > state 4: x 1/2, Play > click Play: state 5, x 1, Play
+  > state 2: x -1/2, Reverse > click Reverse: state 1, x -1, Reverse
+right-clicks > state 5: x 1, Play > right Reverse: x 1, Play > right Pause: x 1, Play
+  > right FastForward: state 3, x 0, Pause > state 6: x 2, FastForward > right Play: state 3, x 0, Pause
+  > state 2: x -1/2, Reverse > right FastForward: x -1/2, Reverse > right FastReverse: state 3, x 0, Pause
+wheel forwards > state 4: x 1/2, Play > speed 1: x 1/8, Play > down Play: unhandled, x 1/8, Play
+  > up Play: speed 2, x 1/4, Play > up Pause: speed 3, x 1/2, Play > up Play: speed 4, x 1, Play
+  > down Play: speed 3, x 1/2, Play > up Play: speed 4, x 1, Play > sideways Play: unhandled, x 1, Play
+  > up TrackStart: state 6, x 2, FastForward > up TrackEnd: speed 6, x 4, FastForward
+  > down FrameBack: speed 5, x 2, FastForward > down FastForward: state 5, x 1, Play
+  > state 6: x 2, FastForward > speed 13: x 512, FastForward > up Play: speed 14, x 1024, FastForward
+  > up Play: unhandled, x 1024, FastForward > down Play: speed 13, x 512, FastForward
+wheel backwards > state 2: x -1/2, Reverse > up Reverse: speed 4, x -1, Reverse
+  > up Play: state 0, x -2, FastReverse > down Play: state 1, x -1, Reverse
+wheel in pause > up FastReverse: frame on, x 0, Pause > down FastForward: frame back, x 0, Pause
+  > sideways Pause: unhandled, x 0, Pause
+the sign follows > state 1: x -1, Reverse > state 5: x 1, Play > state 0: x -2, FastReverse
+  > speed 8: x -16, FastReverse > state 6: x 16, FastForward > state 2: x -1/2, Reverse > state 3: x 0, Pause
+unknown state > state 0: x -2, FastReverse > state 9: x 2, FastReverse > speed 8: x 2, FastReverse
+  > click Pause: state 3, x 0, Pause
+live > live 11: x 1, Play > click Pause: live, x 1, Play > right Play: x 1, Play
+  > up Pause: unhandled, x 1, Play > click FastForward: x 1, Play > live 1: x 1, Play
+  > click Pause: state 3, x 0, Pause > live 0: x 0, Pause > click FastReverse: x 0, Pause
+disabled > state 5: x 1, Play > enable 0: x 1, Play > up Play: x 1, Play > right Play: x 1, Play)"_s;
+    QTest::addColumn<QStringList>("steps");
+    for (const QString& journey :
+         QString(journeys).replace(u"\n  "_s, u" "_s).trimmed().split(u'\n')) {
+        QStringList steps = journey.split(u" > "_s);
+        QTest::newRow(qPrintable(steps.takeFirst())) << steps;
     }
 }
 
-void TestPlaybar::userActions()
+void TestPlaybar::journeys()
 {
-    QFETCH(const Bar::PlaybackState, state);
-    QFETCH(const Bar::PlaybackSpeed, speed);
+    QFETCH(const QStringList, steps);
     LoggedBar bar;
-    bar.setPlaybackState(state);
-    bar.setPlaybackSpeed(speed);
-    QCOMPARE(bar.log, QStringList());
-    bar.act(QString::fromLatin1(QTest::currentDataTag()).section(u'|', 1));
-    QTEST(bar.story(), "story");
+    for (const QString& step : steps) {
+        const QString action = step.section(u": "_s, 0, 0);
+        bar.act(action);
+        QCOMPARE(action + u": "_s + bar.story(), step);
+    }
 }
 
-void TestPlaybar::silentSetters()
+void TestPlaybar::allowedSpeeds()
 {
-    // Speeds that a state allows stay, others give way to that on entry; the sign always follows.
     LoggedBar bar;
-    for (const auto& [state, story] : {std::pair(Bar::Reverse, "x -1, Reverse"),
-                                       {Bar::Play, "x 1, Play"},
-                                       {Bar::FastForward, "x 2, FastForward"},
-                                       {Bar::FastBackward, "x -2, FastReverse"},
-                                       {Bar::SlowForward, "x 1/2, Play"},
-                                       {Bar::SlowReverse, "x -1/2, Reverse"},
-                                       {Bar::Pause, "x 0, Pause"}}) {
-        bar.setPlaybackState(state);
-        QCOMPARE(bar.story(), QString::fromLatin1(story));
-    }
     for (int state = Bar::FastBackward; state <= Bar::FastForward; ++state) {
         QString taken;
         for (int speed = Bar::SpeedZero; speed <= Bar::Speed1024; ++speed) {
@@ -220,59 +204,6 @@ void TestPlaybar::silentSetters()
                                   u"x--------------"_s};
         QCOMPARE(taken, allowed.at(state <= Bar::Pause ? state : 6 - state));
     }
-    QCOMPARE(bar.log, QStringList());
-}
-
-void TestPlaybar::liveMode()
-{
-    LoggedBar bar;
-    const auto enabled = [&bar] {
-        QString marks;
-        for (const auto* button : bar.findChildren<TarvoToolButton*>())
-            marks += button->isEnabled() ? u'x' : u'-';
-        return marks;
-    };
-    bar.setLiveMode(true, true);
-    QCOMPARE(enabled(), u"----x----"_s);
-    QCOMPARE(bar.story(), u"x 1, Play"_s);
-    for (const auto& [action, story] : {std::pair(u"click Pause"_s, u"live, x 1, Play"_s),
-                                        {u"right Play"_s, u"x 1, Play"_s},
-                                        {u"up Pause"_s, u"unhandled, x 1, Play"_s}}) {
-        bar.act(action);
-        QCOMPARE(bar.story(), story);
-    }
-    bar.setLiveMode(false, false);
-    QCOMPARE(enabled(), u"x---xxxxx"_s);
-    bar.setLiveMode(false, true);
-    QCOMPARE(enabled(), u"xxxxxxxxx"_s);
-    bar.setButtonEnabled(Bar::SlowForwardButton, false);
-    QCOMPARE(enabled(), u"xxxxxx-xx"_s);
-    QCOMPARE(bar.story(), u"x 1, Play"_s);
-}
-
-void TestPlaybar::disabled()
-{
-    LoggedBar bar;
-    bar.setPlaybackState(Bar::Play);
-    bar.setEnabled(false);
-    for (const QString& action : {u"up Play"_s, u"right Play"_s, u"click Pause"_s})
-        bar.act(action);
-    QCOMPARE(bar.story(), u"x 1, Play"_s);
-}
-
-void TestPlaybar::strangeValues()
-{
-    LoggedBar bar;
-    bar.setPlaybackState(Bar::FastBackward);
-    bar.setPlaybackState(Bar::PlaybackState(9));
-    bar.setPlaybackSpeed(Bar::Speed16);
-    QCOMPARE(bar.playbackState(), Bar::PlaybackState(9));
-    QCOMPARE(bar.story(), u"x 2, FastReverse"_s);
-    bar.act(u"click Pause"_s);
-    QCOMPARE(bar.story(), u"state 3, x 0, Pause"_s);
-    bar.setButtonEnabled(Bar::PlaybackButton(11), false);
-    bar.setShortcut(Bar::PlaybackButton(-1), Qt::Key_A);
-    QVERIFY(bar.shortcut(Bar::PlaybackButton(11)).isEmpty());
     QCOMPARE(Bar::playbackSpeedToFloat(Bar::PlaybackSpeed(15)), 0.0F);
     for (int speed = Bar::Speed1_8; speed <= Bar::Speed1024; ++speed) {
         const float factor = 0.125F * float(1 << (speed - 1));
@@ -281,6 +212,28 @@ void TestPlaybar::strangeValues()
     }
     for (const float none : {3.0F, -1.0F, std::nanf("")})
         QCOMPARE(Bar::playbackSpeedFromFloat(none), Bar::SpeedZero);
+}
+
+void TestPlaybar::enabledButtons()
+{
+    LoggedBar bar;
+    const auto enabled = [&bar] {
+        QString marks;
+        for (const auto* button : bar.findChildren<TarvoToolButton*>())
+            marks += button->isEnabled() ? u'x' : u'-';
+        return marks;
+    };
+    for (const auto& [mode, marks] : {std::pair(u"live 11"_s, u"----x----"_s),
+                                      {u"live 0"_s, u"x---xxxxx"_s},
+                                      {u"live 1"_s, u"xxxxxxxxx"_s}}) {
+        bar.act(mode);
+        QCOMPARE(enabled(), marks);
+    }
+    bar.setButtonEnabled(Bar::SlowForwardButton, false);
+    bar.setButtonEnabled(Bar::PlaybackButton(11), false);
+    bar.setShortcut(Bar::PlaybackButton(-1), Qt::Key_A);
+    QVERIFY(bar.shortcut(Bar::PlaybackButton(11)).isEmpty());
+    QCOMPARE(enabled(), u"xxxxxx-xx"_s);
 }
 
 void TestPlaybar::hover()
@@ -310,39 +263,34 @@ void TestPlaybar::hover()
 
 void TestPlaybar::deletionInAnySlot()
 {
-    const QStringList actions{
-        u"click TrackStart"_s, u"click TrackEnd"_s,    u"click FrameForward"_s,
-        u"click FrameBack"_s,  u"click FastForward"_s, u"click Pause"_s,
-        u"right Play"_s,       u"up Play"_s,           u"down Play"_s};
-    for (const QString& action : actions) {
-        for (int emission = 1; emission <= 2; ++emission) {
-            for (const bool inNestedLoop : {false, true}) {
-                QPointer<LoggedBar> bar = new LoggedBar;
-                bar->setPlaybackState(Bar::Play);
-                int left = emission;
-                const auto receive = [&] {
-                    if (--left != 0)
-                        return;
-                    if (!inNestedLoop) {
-                        delete bar.data();
-                        return;
-                    }
-                    QEventLoop loop;
-                    QTimer::singleShot(0, this, [&] {
-                        delete bar.data();
-                        QTimer::singleShot(0, &loop, &QEventLoop::quit);
-                    });
+    for (const char* action :
+         {"click TrackStart", "click TrackEnd", "click FrameForward", "click FrameBack",
+          "click FastForward", "click Pause", "right Play", "up Play", "down Play"}) {
+        for (int way = 0; way < 4; ++way) {
+            QPointer<LoggedBar> bar = new LoggedBar;
+            bar->setPlaybackState(Bar::Play);
+            int left = 1 + way / 2; // in the first emission or the second
+            const auto receive = [&] {
+                if (--left != 0)
+                    return;
+                QEventLoop loop;
+                QTimer::singleShot(0, &loop, [&] {
+                    delete bar.data();
+                    QTimer::singleShot(0, &loop, &QEventLoop::quit);
+                });
+                if (way % 2)
                     loop.exec();
-                };
-                connect(bar.data(), &Bar::playbackStateChanged, this, receive);
-                connect(bar.data(), &Bar::playbackSpeedChanged, this, receive);
-                for (const auto signal : {&Bar::trackStartClicked, &Bar::trackEndClicked,
-                                          &Bar::frameForwardClicked, &Bar::frameBackwardClicked})
-                    connect(bar.data(), signal, this, receive);
-                bar->act(action);
-                QCOMPARE(bar.isNull(), left <= 0);
-                delete bar.data();
-            }
+                else
+                    delete bar.data();
+            };
+            connect(bar.data(), &Bar::playbackStateChanged, this, receive);
+            connect(bar.data(), &Bar::playbackSpeedChanged, this, receive);
+            for (const auto signal : {&Bar::trackStartClicked, &Bar::trackEndClicked,
+                                      &Bar::frameForwardClicked, &Bar::frameBackwardClicked})
+                connect(bar.data(), signal, this, receive);
+            bar->act(QString::fromLatin1(action));
+            QCOMPARE(bar.isNull(), left <= 0);
+            delete bar.data();
         }
     }
 }
