@@ -49,15 +49,22 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/ValidateBaseLineEdit
     itemviews/PDeviceItem
     itemviews/PFirmwareVersionItem
+    itemviews/PHeaderCheckMenu
     itemviews/PIpItem
+    itemviews/PLineEditDelegate
+    itemviews/PNetworkItemDelegate
     itemviews/PPathItem
     itemviews/PSerialNumberItem
     itemviews/PStatusItem
+    itemviews/PTabWidget
+    itemviews/PTableWidget
     itemviews/PTableWidgetItem
     itemviews/PTextWidgetItem
     playback/PPlaybar
     playback/TarvoDateTimeView
     playback/TarvoToolButton
+    itemviews/PTreeWidget
+    itemviews/PTreeWidgetItem
     settings/ISettingsPage
     settings/ISettingsPageProvider
     settings/IUserSettings

@@ -13,6 +13,9 @@
 #include "rulerpage.h"
 #include "tableitemspage.h"
 #include "tooltipspage.h"
+#include "tablepage.h"
+#include "tabwidgetpage.h"
+#include "treepage.h"
 #include "zoomtimelinepage.h"
 
 #include <algorithm>
@@ -55,6 +58,10 @@ const std::vector<Page>& pages()
         {u"CSV dialog"_s, create<CsvDialogPage>},
         // Item views
         {u"Table items"_s, create<TableItemsPage>},
+        // Item views
+        {u"Tree widget"_s, create<TreePage>},
+        {u"Table widget"_s, create<TablePage>},
+        {u"Tab widget"_s, create<TabWidgetPage>},
     };
     return all;
 }

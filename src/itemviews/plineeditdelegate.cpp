@@ -1,0 +1,42 @@
+#include "plineeditdelegate.h"
+
+#include "input/wrongentrysheet.h"
+
+#include <QLineEdit>
+
+namespace CorvelGui {
+
+PLineEditDelegate::PLineEditDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
+
+void PLineEditDelegate::setValidator(const QValidator* validator)
+{
+    m_validator = validator;
+}
+
+QWidget* PLineEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                         const QModelIndex&) const
+{
+    auto* editor = new QLineEdit(parent);
+    editor->setFrame(false);
+    editor->setAutoFillBackground(true);
+    editor->setValidator(m_validator);
+    connect(editor, &QLineEdit::textChanged, editor,
+            [editor] { markWrongEntry(editor, !editor->hasAcceptableInput()); });
+    return editor;
+}
+
+void PLineEditDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    if (auto* edit = qobject_cast<QLineEdit*>(editor))
+        edit->setText(index.data(Qt::EditRole).toString());
+}
+
+void PLineEditDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                     const QModelIndex& index) const
+{
+    const auto* edit = qobject_cast<const QLineEdit*>(editor);
+    if (edit && edit->hasAcceptableInput())
+        model->setData(index, edit->text(), Qt::EditRole);
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,298 @@
+#include "ptablewidget.h"
+
+#include "copyactions.h"
+#include "dialogs/pcsvdialog.h"
+#include "frame/whilealive.h"
+#include "itemviewtools.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QHeaderView>
+#include <QPersistentModelIndex>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace CorvelGui {
+
+namespace {
+
+QItemSelectionModel::SelectionFlags flagsOf(QAbstractItemView::SelectionBehavior behavior)
+{
+    switch (behavior) {
+    case QAbstractItemView::SelectRows:
+        return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    case QAbstractItemView::SelectColumns:
+        return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Columns;
+    case QAbstractItemView::SelectItems:
+        break;
+    }
+    return QItemSelectionModel::ClearAndSelect;
+}
+
+} // namespace
+
+PTableWidget::PTableWidget(QWidget* parent) : PTableWidget(0, 0, parent) {}
+
+PTableWidget::PTableWidget(int rows, int columns, QWidget* parent)
+    : QTableWidget(rows, columns, parent), m_copyActions(std::make_unique<CopyActions>())
+{
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+}
+
+PTableWidget::~PTableWidget() = default;
+
+void PTableWidget::InitCopyMenus(bool withContextMenu)
+{
+    m_copyActions->create(this);
+    translateTexts();
+    if (!withContextMenu)
+        return;
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(this, &QWidget::customContextMenuRequested, this, &PTableWidget::slotContextMenuHeader,
+            Qt::UniqueConnection);
+    connect(m_copyActions->copy(), &QAction::triggered, this, &PTableWidget::slotCopy);
+    connect(m_copyActions->copyCell(), &QAction::triggered, this, &PTableWidget::slotCopyCell);
+}
+
+void PTableWidget::translateTexts()
+{
+    m_copyActions->setTexts(
+        {tr("Copy"), tr("Copy the current selection's contents to the clipboard"),
+         tr("Copy (Cell)"), tr("Copy the current contents of the cell to the clipboard")});
+}
+
+QString PTableWidget::cellText(int row, int column) const
+{
+    const QTableWidgetItem* cell = item(row, column);
+    return cell ? cell->text() : QString();
+}
+
+void PTableWidget::CsvExport()
+{
+    const QPointer<PCsvDialog> dialog = new PCsvDialog(this);
+    dialog->exec();
+    delete dialog;
+}
+
+void PTableWidget::CopyCellToClipBoard()
+{
+    const int column = std::max(0, currentColumn());
+    QStringList texts;
+    for (const int row : GetSelectedRows())
+        texts.append(cellText(row, column));
+    ItemViewTools::copyToClipboard(texts.join(u'\n'));
+}
+
+QString PTableWidget::getItemTextForCopy() const
+{
+    QString text;
+    for (const int row : GetSelectedRows()) {
+        for (int column = 0; column < columnCount(); ++column)
+            text += cellText(row, column) + u'\t';
+        text += u'\n';
+    }
+    return text;
+}
+
+QModelIndex PTableWidget::GetModelIndexFromItem(QTableWidgetItem* item) const
+{
+    return item && item->tableWidget() == this ? indexFromItem(item) : QModelIndex();
+}
+
+void PTableWidget::ScrollToItemAndSelect(QTableWidgetItem* item, bool select)
+{
+    // The receivers of what these steps emit may delete the item.
+    const QPersistentModelIndex index = GetModelIndexFromItem(item);
+    whileAlive(
+        this, [this] { clearSelection(); },
+        [this, &index] {
+            if (index.isValid())
+                scrollTo(index, QAbstractItemView::EnsureVisible);
+        },
+        [this, &index, select] {
+            if (select && index.isValid())
+                selectionModel()->select(index, flagsOf(selectionBehavior()));
+        });
+}
+
+void PTableWidget::DeleteWidgets(int column)
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        if (QWidget* widget = cellWidget(row, column)) {
+            widget->hide();
+            removeCellWidget(row, column);
+        }
+    }
+}
+
+bool PTableWidget::IsAlLeastOneSelected(int column) const
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        const QTableWidgetItem* cell = item(row, column);
+        if (cell && cell->checkState() == Qt::Checked)
+            return true;
+    }
+    return false;
+}
+
+QList<int> PTableWidget::GetSelectedRows() const
+{
+    // By ranges: asking each cell would search all ranges for each of them.
+    QList<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            if (isSelectable(row, range.left(), range.right()))
+                rows.append(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+QList<QTableWidgetItem*> PTableWidget::GetAllTableWidgetItems() const
+{
+    QList<QTableWidgetItem*> items;
+    for (int row = 0; row < rowCount(); ++row) {
+        for (int column = 0; column < columnCount(); ++column) {
+            if (QTableWidgetItem* cell = item(row, column))
+                items.append(cell);
+        }
+    }
+    return items;
+}
+
+int PTableWidget::GetSingleSelection() const
+{
+    const QList<int> rows = GetSelectedRows();
+    return rows.size() == 1 ? rows.front() : -1;
+}
+
+int PTableWidget::CalcNeededHeight()
+{
+    executeDelayedItemsLayout();
+    return ItemViewTools::neededHeight(verticalHeader()->length(), horizontalHeader());
+}
+
+int PTableWidget::GetMaxTextWidth(const QList<QTableWidgetItem*>& items) const
+{
+    int width = 0;
+    for (const QTableWidgetItem* item : items) {
+        if (item)
+            width = std::max(width, ItemViewTools::textWidth(item->text(), item->font(), font()));
+    }
+    return width;
+}
+
+int PTableWidget::GetTotalNumberOfRows() const
+{
+    return rowCount();
+}
+
+void PTableWidget::selectAll()
+{
+    if (selectionMode() == SingleSelection || selectionMode() == NoSelection)
+        return;
+    QItemSelection selection;
+    ItemViewTools::appendShownRows(selection, *model(), {}, 0, rowCount() - 1,
+                                   [this](int row) { return !isRowHidden(row); });
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void PTableWidget::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command)
+{
+    const QModelIndex one = indexAt(rect.topLeft());
+    const QModelIndex other = indexAt(rect.bottomRight());
+    const bool selectsRows = command.testFlag(QItemSelectionModel::Rows);
+    if (!selectsRows || !verticalHeader()->sectionsHidden() || !one.isValid() || !other.isValid())
+        return QTableWidget::setSelection(rect, command);
+    const auto [first, last] = std::minmax({one.row(), other.row()});
+    QItemSelection selection;
+    ItemViewTools::appendShownRows(selection, *model(), {}, first, last,
+                                   [this](int row) { return !isRowHidden(row); });
+    selectionModel()->select(selection, command.setFlag(QItemSelectionModel::Rows, false));
+}
+
+void PTableWidget::SelectFirstItemIfPossible()
+{
+    selectionModel()->select(model()->index(0, 0),
+                             QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void PTableWidget::setFontForHeaderBold()
+{
+    ItemViewTools::makeHeaderBold(horizontalHeader());
+}
+
+void PTableWidget::setHeaderTextAlignmentCenter()
+{
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
+}
+
+void PTableWidget::resizeColumnToContentsWithOffset(int column, int offset)
+{
+    if (column < 0 || column >= columnCount() || isColumnHidden(column))
+        return;
+    resizeColumnToContents(column);
+    ItemViewTools::widenSection(horizontalHeader(), column, offset);
+}
+
+void PTableWidget::resizeAllColumnToContentsWithOffset(int offset)
+{
+    for (int column = 0; column < columnCount() - 1; ++column)
+        resizeColumnToContentsWithOffset(column, offset);
+}
+
+bool PTableWidget::isSelectable(int row, int firstColumn, int lastColumn) const
+{
+    constexpr Qt::ItemFlags needed = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    for (int column = firstColumn; column <= lastColumn; ++column) {
+        const QTableWidgetItem* cell = item(row, column);
+        if (!cell || (cell->flags() & needed) == needed)
+            return true;
+    }
+    return false;
+}
+
+bool PTableWidget::isTextFound(int row, const QString& text) const
+{
+    for (int column = 0; column < columnCount(); ++column) {
+        if (cellText(row, column).toLower().contains(text))
+            return true;
+    }
+    return false;
+}
+
+void PTableWidget::FilterTable(const QString& text)
+{
+    // Otherwise the header would add up all rows again after each of them.
+    verticalHeader()->setUpdatesEnabled(false);
+    for (int row = 0; row < rowCount(); ++row)
+        setRowHidden(row, !isTextFound(row, text));
+    verticalHeader()->setUpdatesEnabled(true);
+}
+
+void PTableWidget::changeEvent(QEvent* event)
+{
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        translateTexts();
+}
+
+void PTableWidget::slotContextMenuHeader(const QPoint& pos)
+{
+    m_copyActions->runMenu(this, pos);
+}
+
+void PTableWidget::slotCopy()
+{
+    ItemViewTools::copyToClipboard(getItemTextForCopy());
+}
+
+void PTableWidget::slotCopyCell()
+{
+    CopyCellToClipBoard();
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,165 @@
+#include "ptabwidget.h"
+
+#include "frame/whilealive.h"
+#include "tabnameeditor.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QTabBar>
+
+#include <utility>
+
+using CorvelGui::TabNameEditor;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString withoutMnemonic(const QString& text)
+{
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'&' && ++i == text.size())
+            break;
+        plain += text[i];
+    }
+    return plain;
+}
+
+} // namespace
+
+PTabWidget::PTabWidget(QWidget* parent) : QTabWidget(parent)
+{
+    setTabsClosable(true);
+    setMovable(true);
+    // Long names must not make the window wider than the screen.
+    setUsesScrollButtons(true);
+    tabBar()->installEventFilter(this);
+    connect(this, &QTabWidget::tabCloseRequested, this, &PTabWidget::closeTab);
+    connect(this, &QTabWidget::tabBarDoubleClicked, this, [this](int index) {
+        if (m_renamable)
+            editTabName(index);
+    });
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        // The number of the current tab also changes when others come or move.
+        if (currentWidget() != m_editedPage)
+            takeName();
+    });
+    connect(tabBar(), &QTabBar::tabMoved, this, &PTabWidget::placeEditor);
+}
+
+void PTabWidget::setTabsRenamable(bool renamable)
+{
+    m_renamable = renamable;
+}
+
+QString PTabWidget::tabName(int index) const
+{
+    return withoutMnemonic(tabText(index));
+}
+
+void PTabWidget::setTabName(int index, const QString& name)
+{
+    QString text = name.trimmed();
+    if (!text.isEmpty())
+        setTabText(index, text.replace(u'&', u"&&"_s));
+}
+
+void PTabWidget::editTabName(int index)
+{
+    if (!widget(index) || !isTabEnabled(index))
+        return;
+    if (!CorvelGui::whileAlive(this, [this] { takeName(); }))
+        return;
+    m_editedPage = widget(index);
+    m_editor = new TabNameEditor(tabName(index), tabBar());
+    connect(m_editor, &TabNameEditor::nameEntered, this, &PTabWidget::takeName);
+    connect(m_editor, &TabNameEditor::cancelled, this, &PTabWidget::endEditing);
+    placeEditor();
+    m_editor->show();
+    m_editor->setFocus(Qt::OtherFocusReason);
+}
+
+void PTabWidget::placeEditor()
+{
+    if (!m_editor)
+        return;
+    const int index = indexOf(m_editedPage);
+    if (index < 0)
+        endEditing();
+    else
+        m_editor->setGeometry(tabBar()->tabRect(index));
+}
+
+void PTabWidget::takeName()
+{
+    if (!m_editor)
+        return;
+    const QString name = m_editor->text().trimmed();
+    const int index = indexOf(m_editedPage);
+    endEditing();
+    if (index < 0 || name.isEmpty() || name == tabName(index))
+        return;
+    setTabName(index, name);
+    Q_EMIT tabRenamed(index, name);
+}
+
+void PTabWidget::endEditing()
+{
+    // Forgotten first, because hiding it takes the focus from it.
+    TabNameEditor* editor = std::exchange(m_editor, nullptr);
+    if (!editor)
+        return;
+    const bool hadFocus = editor->hasFocus();
+    editor->hide();
+    editor->deleteLater();
+    if (hadFocus)
+        tabBar()->setFocus(Qt::OtherFocusReason);
+}
+
+void PTabWidget::closeTab(int index)
+{
+    const QPointer<QWidget> page = widget(index);
+    if (!page)
+        return;
+    const QPointer<PTabWidget> alive(this);
+    const bool mayGo = page->close();
+    // The page may have asked the user, and anything may have happened meanwhile.
+    if (!mayGo || !alive)
+        return;
+    const int place = page ? indexOf(page) : -1;
+    if (place < 0)
+        return;
+    removeTab(place);
+    if (page)
+        page->deleteLater();
+    if (alive)
+        Q_EMIT tabClosed(place);
+}
+
+bool PTabWidget::eventFilter(QObject* object, QEvent* event)
+{
+    // Tabs change their places with the size of the bar and with their texts and icons.
+    if (object == tabBar() && (event->type() == QEvent::Resize || event->type() == QEvent::Paint))
+        placeEditor();
+    return QTabWidget::eventFilter(object, event);
+}
+
+void PTabWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier && m_renamable)
+        editTabName(currentIndex());
+    else
+        QTabWidget::keyPressEvent(event);
+}
+
+void PTabWidget::tabInserted(int index)
+{
+    QTabWidget::tabInserted(index);
+    placeEditor();
+}
+
+void PTabWidget::tabRemoved(int index)
+{
+    QTabWidget::tabRemoved(index);
+    placeEditor();
+}

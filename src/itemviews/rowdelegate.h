@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace CorvelGui {
+
+/// Makes every row as high as one with a check box. In a list of uniform rows the first one sets
+/// the height of all, and it may be the only one without.
+class RowDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit RowDelegate(QObject* parent);
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+} // namespace CorvelGui

@@ -1,0 +1,300 @@
+#include "testsupport.h"
+
+#include <CorvelGui/PHeaderCheckMenu>
+#include <CorvelGui/PTableWidget>
+#include <CorvelGui/PTableWidgetItem>
+#include <Hueloft/POrvGuiTheme>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace CorvelGui;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Rows "d", "b", "a", "c" with "X" and their number; one cell is missing.
+class Table : public PTableWidget
+{
+public:
+    Table() : PTableWidget(4, 3)
+    {
+        setHorizontalHeaderLabels({u"Name"_s, u"R&D"_s, QString()});
+        const QString names = u"dbac"_s;
+        for (int row = 0; row < 4; ++row) {
+            setItem(row, 0, new PTableWidgetItem(names.mid(row, 1)));
+            if (row != 1)
+                setItem(row, 1, new PTableWidgetItem(u"X"_s));
+            setItem(row, 2, new PTableWidgetItem(QString::number(row)));
+        }
+        resize(500, 300);
+        show();
+    }
+    QString column(int column, bool hiddenToo = false) const
+    {
+        QString texts;
+        for (int row = 0; row < rowCount(); ++row)
+            if (hiddenToo || !isRowHidden(row))
+                texts += item(row, column)->text();
+        return texts;
+    }
+    using PTableWidget::slotCopy;
+    using PTableWidget::slotCopyCell;
+};
+
+QString clipboard()
+{
+    return QApplication::clipboard()->text();
+}
+
+QStringList texts(const QMenu& menu)
+{
+    QStringList result;
+    for (const QAction* action : menu.actions())
+        result << (action->isChecked() ? u"+"_s : u"-"_s) + action->text() +
+                      (action->isEnabled() ? u""_s : u"!"_s);
+    return result;
+}
+
+} // namespace
+
+class TestTableWidget : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void copies();
+    void filtersAndSelectsWhatIsShown();
+    void selects();
+    void measures();
+    void deletesWidgets();
+    void screenReader();
+    void headerMenu();
+    void headerMenuState();
+};
+
+void TestTableWidget::copies()
+{
+    Table table;
+    table.selectRow(3);
+    table.selectionModel()->select(table.model()->index(1, 0),
+                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    table.slotCopyCell();
+    QCOMPARE(clipboard(), u"b\nc"_s);
+    table.slotCopy();
+    QCOMPARE(clipboard(), u"b\t\t1\t\nc\tX\t3\t\n"_s);
+    table.clearSelection();
+    table.slotCopy();
+    QCOMPARE(clipboard(), QString());
+}
+
+void TestTableWidget::filtersAndSelectsWhatIsShown()
+{
+    Table table;
+    table.FilterTable(u"x"_s);
+    QCOMPARE(table.column(0), u"dac"_s);
+    table.sortItems(0);
+    QCOMPARE(table.column(0), u"acd"_s);
+    table.FilterTable(u"X"_s);
+    QCOMPARE(table.column(0), QString());
+    table.selectAll();
+    QCOMPARE(table.GetSelectedRows(), QList<int>());
+    table.FilterTable(QString());
+    QCOMPARE(table.column(0), u"abcd"_s);
+
+    table.setRowHidden(1, true);
+    table.selectAll();
+    QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2, 3}));
+    // From one row to another with the mouse, downwards and upwards.
+    for (const auto& [first, last] : {std::pair(0, 2), {2, 0}}) {
+        const auto at = [&](int row) {
+            return table.visualItemRect(table.item(row, 0)).center();
+        };
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, at(first));
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ShiftModifier, at(last));
+        QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2}));
+    }
+}
+
+void TestTableWidget::selects()
+{
+    Table table;
+    QCOMPARE(table.GetSingleSelection(), -1);
+    table.ScrollToItemAndSelect(table.item(2, 1), true);
+    QCOMPARE(table.GetSingleSelection(), 2);
+    QVERIFY(table.item(2, 0)->isSelected());
+    table.SelectFirstItemIfPossible();
+    QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2}));
+    table.ScrollToItemAndSelect(nullptr, true);
+    QCOMPARE(table.GetSelectedRows(), QList<int>());
+    table.setSelectionBehavior(QAbstractItemView::SelectItems);
+    table.ScrollToItemAndSelect(table.item(2, 1), true);
+    QVERIFY(!table.item(2, 0)->isSelected());
+    QVERIFY(!table.GetModelIndexFromItem(Table().item(0, 0)).isValid());
+    QCOMPARE(table.GetAllTableWidgetItems().size(), 11);
+
+    table.item(1, 0)->setCheckState(Qt::PartiallyChecked);
+    QVERIFY(!table.IsAlLeastOneSelected(0));
+    table.item(2, 0)->setCheckState(Qt::Checked);
+    QVERIFY(table.IsAlLeastOneSelected(0) && !table.IsAlLeastOneSelected(1));
+
+    // What cannot be selected is not, although the selection spans it.
+    for (int column : {0, 1, 2})
+        table.item(2, column)->setFlags(Qt::ItemIsEnabled);
+    table.selectAll();
+    QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 1, 3}));
+}
+
+void TestTableWidget::measures()
+{
+    Table table;
+    table.horizontalHeader()->setFixedHeight(25);
+    table.setRowHeight(0, 50);
+    table.setRowHeight(1, 20);
+    table.setRowHidden(2, true);
+    QCOMPARE(table.CalcNeededHeight(), 70 + table.rowHeight(3) + 25 + 16);
+    table.setRowCount(0);
+    QCOMPARE(table.CalcNeededHeight(), 16 + 25 + 16);
+
+    Table wide;
+    wide.item(0, 0)->setText(u"a long text that needs space"_s);
+    const QList<QTableWidgetItem*> items{wide.item(0, 0), nullptr, wide.item(1, 0)};
+    const int width = wide.GetMaxTextWidth(items);
+    QCOMPARE(width, QFontMetrics(wide.font()).boundingRect(items[0]->text()).width());
+    wide.resizeAllColumnToContentsWithOffset(20);
+    QVERIFY(wide.columnWidth(0) > width + 20);
+    QCOMPARE(wide.columnWidth(2), Table().columnWidth(2));
+}
+
+void TestTableWidget::deletesWidgets()
+{
+    Table table;
+    const QPointer<QPushButton> button = new QPushButton;
+    table.setCellWidget(1, 1, button);
+    connect(button, &QPushButton::clicked, &table, [&table] { table.DeleteWidgets(1); });
+    button->click();
+    QCOMPARE(table.cellWidget(1, 1), nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!button);
+}
+
+void TestTableWidget::screenReader()
+{
+    Table table;
+    table.setAccessibleName(u"Devices"_s);
+    auto* red = static_cast<PTableWidgetItem*>(table.item(0, 0));
+    red->SetRedText(u"No connection"_s);
+    red->setCheckState(Qt::Checked);
+    QFont bold;
+    bold.setBold(true);
+    table.item(2, 0)->setFont(bold);
+    table.item(2, 0)->setCheckState(Qt::Unchecked);
+    table.ScrollToItemAndSelect(table.item(2, 0), true);
+
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&table);
+    QCOMPARE(reader->text(QAccessible::Name), u"Devices"_s);
+    QCOMPARE(reader->role(), QAccessible::Table);
+    QAccessibleTableInterface* cells = reader->tableInterface();
+    QCOMPARE(cells->rowCount(), 4);
+    QCOMPARE(cells->columnDescription(0), u"Name"_s);
+    QAccessibleInterface* first = cells->cellAt(0, 0);
+    QCOMPARE(first->text(QAccessible::Name), u"No connection"_s);
+    QVERIFY(first->state().checkable && first->state().checked && !first->state().selected);
+    QAccessibleInterface* boldCell = cells->cellAt(2, 0);
+    QCOMPARE(boldCell->text(QAccessible::Name), u"a"_s);
+    QVERIFY(boldCell->state().checkable && !boldCell->state().checked);
+    QVERIFY(boldCell->state().selected);
+    QVERIFY(!cells->cellAt(2, 1)->state().checkable);
+    // What colour and weight say is in the texts, so that a reader misses nothing.
+    QCOMPARE(cells->selectedRows(), QList<int>{2});
+}
+
+void TestTableWidget::headerMenu()
+{
+    Table table;
+    auto* menu = new PHeaderCheckMenu(table.horizontalHeader());
+    QSignalSpy toggled(menu, &PHeaderCheckMenu::columnToggled);
+    table.horizontalHeader()->moveSection(0, 2);
+    table.setColumnHidden(2, true);
+    const auto open = [&] {
+        Q_EMIT table.horizontalHeader()->customContextMenuRequested({5, 5});
+        return menu->isVisible();
+    };
+    const auto choose = [&](int place) {
+        menu->setActiveAction(menu->actions().at(place));
+        QTest::keyClick(menu, Qt::Key_Return);
+    };
+    QVERIFY(open());
+    QCOMPARE(texts(*menu), (QStringList{u"+R&&D"_s, u"-Column 3"_s, u"+Name"_s}));
+    choose(2);
+    QVERIFY(table.isColumnHidden(0));
+    QCOMPARE(toggled.takeFirst(), (QVariantList{0, false}));
+    QVERIFY(open());
+    QCOMPARE(texts(*menu), (QStringList{u"+R&&D!"_s, u"-Column 3"_s, u"-Name"_s}));
+    choose(1);
+    QVERIFY(!table.isColumnHidden(2));
+    menu->setColumnVisible(2, false);
+    menu->setColumnVisible(1, false);
+    menu->setColumnVisible(7, false);
+    QVERIFY(!table.isColumnHidden(1));
+    QCOMPARE(toggled.count(), 1);
+
+    // The menu outlives its header.
+    QWidget owner;
+    auto* orphan = new QTableWidget(1, 1);
+    PHeaderCheckMenu left(orphan->horizontalHeader(), &owner);
+    delete orphan;
+    Q_EMIT left.aboutToShow();
+    QVERIFY(left.isEmpty());
+}
+
+void TestTableWidget::headerMenuState()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"state.ini"_s);
+    const auto hidden = [](const Table& table) {
+        QString result;
+        for (int column = 0; column < table.columnCount(); ++column)
+            if (table.isColumnHidden(column))
+                result += QString::number(column);
+        return result;
+    };
+    for (const QString& columns : {u"02"_s, u""_s}) {
+        Table written;
+        for (const QChar column : columns)
+            written.setColumnHidden(column.digitValue(), true);
+        {
+            QSettings settings(path, QSettings::IniFormat);
+            PHeaderCheckMenu(written.horizontalHeader()).writeUserSettings(settings);
+        }
+        QSettings settings(path, QSettings::IniFormat);
+        Table read;
+        read.setColumnHidden(1, true);
+        PHeaderCheckMenu(read.horizontalHeader()).readUserSettings(settings);
+        QCOMPARE(hidden(read), columns);
+    }
+    const std::pair<QVariant, QString> damaged[] = {
+        {u"2,9,-1,x"_s, u"2"_s}, {u"2,1,0"_s, u"12"_s}, {QByteArray(9, '\xff'), QString()}};
+    for (const auto& [value, expected] : damaged) {
+        QSettings settings(path, QSettings::IniFormat);
+        settings.setValue(u"HiddenColumns"_s, value);
+        Table table;
+        PHeaderCheckMenu(table.horizontalHeader()).readUserSettings(settings);
+        QCOMPARE(hidden(table), expected);
+    }
+    QSettings empty(folder.filePath(u"empty.ini"_s), QSettings::IniFormat);
+    Table table;
+    table.setColumnHidden(1, true);
+    PHeaderCheckMenu(table.horizontalHeader()).readUserSettings(empty);
+    QCOMPARE(hidden(table), u"1"_s);
+}
+
+QTEST_MAIN(TestTableWidget)
+#include "tst_tablewidget.moc"
