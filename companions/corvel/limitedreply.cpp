@@ -129,16 +129,18 @@ void LimitedReply::conclude()
     const QUrl target = m_step->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     // The server chooses the words that Qt would show for these.
     const QString badStatus = tr("The server answered with status %1.").arg(status());
+    // Qt takes some of the connections that close too early for good ones.
+    const bool cut = status() == 200 && m_announced >= 0 && m_received != m_announced;
     if (!isWebAddress(url()))
         end(ProtocolUnknownError, tr("This is not the address of a server."));
+    else if (m_step->error() == RemoteHostClosedError || (m_step->error() == NoError && cut))
+        end(RemoteHostClosedError, tr("The connection was closed too early."));
     else if (m_step->error() != NoError)
         end(m_step->error(), status() >= 400 ? badStatus : m_step->errorString());
     else if (target.isValid())
         followRedirect(url().resolved(target));
     else if (status() != 200)
         end(UnknownContentError, badStatus);
-    else if (m_announced >= 0 && m_received != m_announced)
-        end(RemoteHostClosedError, tr("The connection was closed too early."));
     else
         end(NoError, {});
 }
