@@ -141,12 +141,9 @@ PPlaybar::~PPlaybar()
 {
     if (d->pendingReports == 0)
         return;
-    // Deleted by a receiver: the button whose event is being handled still touches itself.
-    for (TarvoToolButton* button : d->buttons()) {
-        button->hide();
-        button->setParent(nullptr);
-        button->deleteLater();
-    }
+    // Deleted by a receiver: the button whose event is being handled must outlive it.
+    for (TarvoToolButton* button : d->buttons())
+        button->deleteAfterEvents();
 }
 
 PPlaybar::PlaybackState PPlaybar::playbackState() const
