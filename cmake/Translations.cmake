@@ -1,0 +1,49 @@
+# Only the tools are needed, those of the machine that builds, so that a cross-build takes the same ones.
+get_filename_component(qt_prefix "${Qt6_DIR}/../../.." ABSOLUTE)
+foreach(tool IN ITEMS lrelease lupdate)
+    string(TOUPPER "CORVELGUI_${tool}" variable)
+    find_program(${variable} NAMES ${tool} PATHS /usr/lib/qt6/bin "${qt_prefix}/bin"
+        NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH DOC "Qt's ${tool}")
+    find_program(${variable} NAMES ${tool}6 ${tool} NO_CMAKE_FIND_ROOT_PATH)
+endforeach()
+if(NOT CORVELGUI_LRELEASE)
+    message(FATAL_ERROR "Qt's lrelease is missing (Debian: qt6-l10n-tools); CORVELGUI_LRELEASE may name it")
+endif()
+
+# corvelgui_add_translations(<target> DESTINATION <folder> [COMPONENT <name>] SOURCES <file.ts>...)
+#
+# Compiles the translations with <target>, and installs them if there is a component. The build tree has them at the same place as an
+# installation, so that programs find them from their own folder in both.
+function(corvelgui_add_translations target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION;COMPONENT" "SOURCES")
+    set(folder "${PROJECT_BINARY_DIR}/${arg_DESTINATION}")
+    foreach(source IN LISTS arg_SOURCES)
+        get_filename_component(source "${source}" ABSOLUTE)
+        get_filename_component(name "${source}" NAME_WE)
+        set(compiled "${folder}/${name}.qm")
+        add_custom_command(OUTPUT "${compiled}"
+            COMMAND ${CMAKE_COMMAND} -E make_directory "${folder}"
+            COMMAND "${CORVELGUI_LRELEASE}" -silent "${source}" -qm "${compiled}"
+            DEPENDS "${source}"
+            COMMENT "Compiling the translation ${name}"
+            VERBATIM)
+        target_sources(${target} PRIVATE "${compiled}")
+        if(arg_COMPONENT)
+            install(FILES "${compiled}" DESTINATION "${arg_DESTINATION}" COMPONENT ${arg_COMPONENT})
+        endif()
+    endforeach()
+endfunction()
+
+# corvelgui_update_translations(<file.ts> FROM <folder>...)
+#
+# Makes the target update_translations, which brings the texts of the sources into the file and drops those that are
+# gone, and sets CORVELGUI_UPDATE_TRANSLATION to the command without the file, for the test that nothing is missing.
+function(corvelgui_update_translations source)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FROM")
+    if(NOT CORVELGUI_LUPDATE)
+        return()
+    endif()
+    set(command "${CORVELGUI_LUPDATE}" -silent -no-obsolete -locations none ${arg_FROM} -ts)
+    add_custom_target(update_translations COMMAND ${command} "${source}" VERBATIM)
+    set(CORVELGUI_UPDATE_TRANSLATION "${command}" PARENT_SCOPE)
+endfunction()
