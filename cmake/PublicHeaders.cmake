@@ -69,8 +69,12 @@ set(CORVELGUI_PUBLIC_HEADERS
     settings/ISettingsPageProvider
     settings/IUserSettings
     settings/OptionPageProvider
+    settings/OptionsDialog
+    settings/PLanguage
+    settings/PLanguageDialog
     settings/SettingsBaseWidget
     settings/SettingsManager
+    settings/TranslatorList
     timeline/Indicator
     timeline/Ruler
     timeline/RulerMarker

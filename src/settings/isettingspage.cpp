@@ -3,7 +3,6 @@
 #include "settingsmanager.h"
 
 #include <QCheckBox>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -41,8 +40,9 @@ QString ISettingsPage::displayCategory() const
 
 QIcon ISettingsPage::categoryIcon() const
 {
-    // An icon of a file that does not exist is empty without being null.
-    return QFile::exists(m_categoryIcon) ? QIcon(m_categoryIcon) : QIcon();
+    // The icon of a missing or broken picture can be empty without being null.
+    const QIcon icon(m_categoryIcon);
+    return icon.pixmap(QSize(16, 16)).isNull() ? QIcon() : icon;
 }
 
 void ISettingsPage::setId(const QString& id)

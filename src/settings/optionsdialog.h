@@ -1,0 +1,88 @@
+#pragma once
+
+#include "iusersettings.h"
+
+#include <CorvelGui/corvelgui_export.h>
+
+#include <QDialog>
+#include <QPointer>
+
+#include <memory>
+
+class QModelIndex;
+
+namespace CorvelGui {
+
+struct Category;
+class ISettingsPageProvider;
+
+/// The one options dialog of an application, made of the pages and providers in SettingsManager: a
+/// searchable list of categories, and a tab for each page of the chosen one.
+///
+/// A page is built when its category is first shown, or when the user searches. It is applied on OK
+/// only if the user has seen it. The dialog deletes the providers that it found, and the widgets of
+/// the pages; pages themselves only go with their providers.
+class CORVELGUI_EXPORT OptionsDialog : public QDialog, public IUserSettings
+{
+    Q_OBJECT
+
+public:
+    ~OptionsDialog() override;
+
+    /// The open dialog, or a new one with @p parent, showing that page. An id that does not exist
+    /// changes nothing. A caller that does not run the dialog owns it.
+    static OptionsDialog* getSettingsDialog(QWidget* parent, const QString& category,
+                                            const QString& page);
+
+    /// Runs the dialog and returns whether pages were applied. Afterwards the dialog deletes itself
+    /// as soon as control returns to the event loop. Called while the dialog runs already, waits
+    /// until it closes, and returns the same.
+    bool execDialog();
+
+    void done(int result) override;
+    QSize sizeHint() const override;
+
+    /// Stores category, page and size, in the group "UserSettings".
+    void writeUserSettings(QSettings& settings) const override;
+    /// Restores the size, and what was shown last unless a page was asked for. Centres the dialog
+    /// over its parent.
+    void readUserSettings(QSettings& settings) override;
+
+protected:
+    bool event(QEvent* event) override;
+
+private Q_SLOTS:
+    void currentChanged(const QModelIndex& proxyIndex);
+    void currentTabChanged(int tab);
+    void filter(const QString& text);
+    void slotAccept();
+    void slotReject();
+    void slotApply();
+    void ensureAllCategoryWidgets();
+
+private:
+    struct Private;
+
+    OptionsDialog(QWidget* parent, const QString& category, const QString& page, bool showApply);
+
+    void createGui(bool showApply);
+    void showPage(const QString& category, const QString& page);
+    void showCategory(int row);
+    void ensureCategoryWidget(Category* category);
+    void disconnectTabWidgets();
+    void updateEnabledTabs(Category* category, const QString& text);
+    Category* currentCategory() const;
+    QList<QPointer<ISettingsPageProvider>> providers() const;
+    void visit(const Category& category, int tab);
+    void chooseFirstCategory();
+    bool applyVisitedPages();
+    bool finishPages();
+    void fitToScreen();
+    void retranslate();
+
+    static QPointer<OptionsDialog> m_instance;
+
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace CorvelGui
