@@ -6,8 +6,10 @@
 #include "dialogspage.h"
 #include "fancylineeditspage.h"
 #include "iconspage.h"
+#include "languagespage.h"
 #include "lookspage.h"
 #include "networkboxespage.h"
+#include "optionspage.h"
 #include "overviewpage.h"
 #include "playbarpage.h"
 #include "rulerpage.h"
@@ -43,6 +45,9 @@ const std::vector<Page>& pages()
         {u"Icons"_s, create<IconsPage>},
         // Frame
         {u"Tooltips"_s, create<ToolTipsPage>},
+        // Settings
+        {u"Options dialog"_s, create<OptionsPage>},
+        {u"Languages"_s, create<LanguagesPage>},
         // Timeline
         {u"Ruler"_s, create<RulerPage>},
         {u"Overview"_s, create<OverviewPage>},
