@@ -471,6 +471,13 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PHeaderCheckMenu</name>
+    <message>
+        <source>Column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::PIpItem</name>
     <message>
         <source>IP</source>
@@ -615,6 +622,44 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PTableWidget</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the current selection&apos;s contents to the clipboard</source>
+        <translation>Den Inhalt der aktuellen Auswahl in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Copy (Cell)</source>
+        <translation>Kopieren (Zelle)</translation>
+    </message>
+    <message>
+        <source>Copy the current contents of the cell to the clipboard</source>
+        <translation>Den aktuellen Inhalt der Zelle in die Zwischenablage kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::PTreeWidget</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the current selection&apos;s contents to the clipboard</source>
+        <translation>Den Inhalt der aktuellen Auswahl in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Copy (Cell)</source>
+        <translation>Kopieren (Zelle)</translation>
+    </message>
+    <message>
+        <source>Copy the current contents of the cell to the clipboard</source>
+        <translation>Den aktuellen Inhalt der Zelle in die Zwischenablage kopieren</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::Ruler</name>
     <message>
         <source>Timeline</source>
@@ -640,6 +685,13 @@ Speicherort öffnen?</translation>
     <message>
         <source>Error: Network Mask Value Invalid (1 to 30)</source>
         <translation>Fehler: Ungültige Netzwerkmaske (1 bis 30)</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::TabNameEditor</name>
+    <message>
+        <source>Name of the tab</source>
+        <translation>Name der Registerkarte</translation>
     </message>
 </context>
 <context>
