@@ -7,7 +7,6 @@
 #include <Hueloft/PMessageBox>
 
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
 #include <QProgressDialog>
@@ -97,9 +96,8 @@ void AppUpdater::handleCheckAppUpdateResult(const CheckAppUpdate::AppUpdateInfoR
     delete dialog;
     if (!wanted || !self)
         return;
-    const QString path = QFileDialog::getSaveFileName(parentWidget(), tr("Save Software"),
-                                                      suggestedInstallerPath(offered.fileName),
-                                                      tr("Executable (*.exe)"));
+    const QString path = askForInstallerPath(parentWidget(), tr("Save Software"),
+                                             tr("Executable (*.exe)"), offered.fileName);
     if (path.isEmpty() || !self)
         return;
     d->expectedSize = offered.size;

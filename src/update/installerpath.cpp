@@ -1,7 +1,8 @@
 #include "installerpath.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QFileDialog>
+#include <QPointer>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -66,6 +67,20 @@ QString suggestedInstallerPath(const QString& serverName)
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
     return QDir::toNativeSeparators(folder + u'/' + safeFileName(serverName));
+}
+
+QString askForInstallerPath(QWidget* parent, const QString& caption, const QString& filter,
+                            const QString& serverName)
+{
+    // Qt's own functions for this cannot bear the loss of the parent.
+    const QPointer<QFileDialog> dialog(
+        new QFileDialog(parent, caption, suggestedInstallerPath(serverName), filter));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    const bool isChosen = dialog->exec() == QDialog::Accepted && dialog;
+    const QString path = isChosen ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return path;
 }
 
 } // namespace CorvelGui

@@ -13,7 +13,6 @@
 #include <QDebug>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QNetworkReply>
@@ -332,9 +331,8 @@ void PCheckVersionUpdate::offer()
     if (!wanted || !self)
         return;
 
-    const QString path = QFileDialog::getSaveFileName(nullptr, tr("Save Software"),
-                                                      suggestedInstallerPath(offered.updateFile),
-                                                      tr("Executable (*.exe)"));
+    const QString path = askForInstallerPath(nullptr, tr("Save Software"), tr("Executable (*.exe)"),
+                                             offered.updateFile);
     if (path.isEmpty() || !self)
         return;
     d->savePath = path;
