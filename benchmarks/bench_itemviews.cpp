@@ -2,6 +2,8 @@
 // expand, and remove. The time per row should not depend on the number of rows; sorting takes
 // n log n.
 
+#include "dialogs/csvbody.h"
+
 #include <CorvelGui/PTableWidget>
 #include <CorvelGui/PTreeWidget>
 #include <CorvelGui/PTreeWidgetItem>
@@ -9,6 +11,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QTextStream>
 
 #include <benchmark/benchmark.h>
 
@@ -85,6 +88,16 @@ void selectScattered(QAbstractItemView& view)
     view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
+/// What the CSV dialog writes, without the file.
+QString csv(const QAbstractItemView& view)
+{
+    QString text;
+    QTextStream out(&text);
+    writeCsv(out, *view.model(), view.selectionModel()->selection(),
+             {u';', u'"', true, QBitArray(columns, true), columns});
+    return text;
+}
+
 /// Measures @p act, and what it left to the event loop.
 template <typename View, typename Act>
 void measure(benchmark::State& state, View& view, const Act& act)
@@ -150,6 +163,13 @@ void treeCopy(benchmark::State& state)
         view.copyRows();
         view.CopyCellToClipBoard();
     });
+}
+
+void treeExport(benchmark::State& state)
+{
+    Tree tree(int(state.range(0)));
+    selectScattered(tree);
+    measure(state, tree, [](Tree& view) { benchmark::DoNotOptimize(csv(view)); });
 }
 
 void treeSort(benchmark::State& state)
@@ -253,6 +273,13 @@ void tableCopy(benchmark::State& state)
     });
 }
 
+void tableExport(benchmark::State& state)
+{
+    Table table(int(state.range(0)));
+    selectScattered(table);
+    measure(state, table, [](Table& view) { benchmark::DoNotOptimize(csv(view)); });
+}
+
 void tableSort(benchmark::State& state)
 {
     Table table(int(state.range(0)));
@@ -299,6 +326,7 @@ void withRows(benchmark::internal::Benchmark* benchmark)
 BENCHMARK(treeFilter)->Apply(withRows);
 BENCHMARK(treeSelectAll)->Apply(withRows);
 BENCHMARK(treeCopy)->Apply(withRows);
+BENCHMARK(treeExport)->Apply(withRows);
 BENCHMARK(treeSort)->Apply(withRows);
 BENCHMARK(treeExpandAndCollapse)->Apply(withRows);
 BENCHMARK(treeNeededHeight)->Apply(withRows);
@@ -308,6 +336,7 @@ BENCHMARK(treeDeleteChildren)->Apply(withRows)->Iterations(1);
 BENCHMARK(tableFilter)->Apply(withRows);
 BENCHMARK(tableSelectAll)->Apply(withRows);
 BENCHMARK(tableCopy)->Apply(withRows);
+BENCHMARK(tableExport)->Apply(withRows);
 BENCHMARK(tableSort)->Apply(withRows);
 BENCHMARK(tableDeleteWidgets)->Apply(withRows)->Iterations(1);
 BENCHMARK(tableRemoveAll)->Apply(withRows)->Iterations(1);
