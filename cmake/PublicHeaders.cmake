@@ -65,6 +65,10 @@ set(CORVELGUI_PUBLIC_HEADERS
     playback/TarvoToolButton
     itemviews/PTreeWidget
     itemviews/PTreeWidgetItem
+    imageviews/ZoomGraphicsView
+    progress/BusyIndicator
+    progress/PFractionalProgressBar
+    progress/TaskbarProgress
     settings/ISettingsPage
     settings/ISettingsPageProvider
     settings/IUserSettings

@@ -1,10 +1,12 @@
 #include "pages.h"
 
+#include "busyindicatorpage.h"
 #include "colourspage.h"
 #include "csvdialogpage.h"
 #include "datetimeviewpage.h"
 #include "dialogspage.h"
 #include "fancylineeditspage.h"
+#include "graphicsviewpage.h"
 #include "iconspage.h"
 #include "languagespage.h"
 #include "lookspage.h"
@@ -12,6 +14,7 @@
 #include "optionspage.h"
 #include "overviewpage.h"
 #include "playbarpage.h"
+#include "progresspage.h"
 #include "rulerpage.h"
 #include "tableitemspage.h"
 #include "tooltipspage.h"
@@ -67,6 +70,11 @@ const std::vector<Page>& pages()
         {u"Tree widget"_s, create<TreePage>},
         {u"Table widget"_s, create<TablePage>},
         {u"Tab widget"_s, create<TabWidgetPage>},
+        // Image views
+        {u"Graphics view"_s, create<GraphicsViewPage>},
+        // Progress
+        {u"Busy indicator"_s, create<BusyIndicatorPage>},
+        {u"Progress"_s, create<ProgressPage>},
     };
     return all;
 }

@@ -1,0 +1,19 @@
+#include "pfractionalprogressbar.h"
+
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+PFractionalProgressBar::PFractionalProgressBar(QWidget* parent) : QProgressBar(parent) {}
+
+QString PFractionalProgressBar::text() const
+{
+    // QProgressBar keeps a value below the minimum for no value; setValue() takes none.
+    if (minimum() == maximum() || value() < minimum())
+        return {};
+    const double percent =
+        (double(value()) - minimum()) * 100 / (double(maximum()) - double(minimum()));
+    return u"%1%"_s.arg(percent, 0, 'f', 1);
+}
+
+} // namespace CorvelGui

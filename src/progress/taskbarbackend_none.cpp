@@ -1,0 +1,10 @@
+#include "taskbarbackend.h"
+
+namespace CorvelGui {
+
+std::unique_ptr<TaskbarBackend> TaskbarBackend::create()
+{
+    return nullptr;
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,279 @@
+#include "testsupport.h"
+
+#include <CorvelGui/BusyIndicator>
+#include <CorvelGui/PFractionalProgressBar>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <climits>
+#include <cmath>
+#include <numbers>
+
+using namespace CorvelGui;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr QColor track(50, 50, 50);
+constexpr QColor arc(0, 191, 255);
+constexpr QColor dimmedWhite(194, 194, 194);
+
+struct Overlay : BusyIndicator
+{
+    using BusyIndicator::BusyIndicator;
+
+    /// By hand, while the timer stands still.
+    void step(int steps)
+    {
+        findChild<QTimer*>()->stop();
+        for (int i = 0; i < steps; ++i)
+            onTimeOut();
+    }
+    QColor colorAt(int degreesClockwise, double radius = 40) const
+    {
+        const double angle = degreesClockwise * std::numbers::pi / 180;
+        const QPointF at(width() / 2 + radius * std::cos(angle),
+                         height() / 2 + radius * std::sin(angle));
+        return parentWidget()->grab().toImage().pixelColor(at.toPoint());
+    }
+};
+
+/// A white panel with two line edits and a button, above another line edit.
+struct Window : QWidget
+{
+    Window()
+    {
+        auto* outer = new QVBoxLayout(this);
+        outer->addWidget(panel);
+        outer->addWidget(outside);
+        auto* inner = new QVBoxLayout(panel);
+        for (QWidget* widget : std::initializer_list<QWidget*>{first, second, button})
+            inner->addWidget(widget);
+        panel->setMinimumSize(201, 160);
+        panel->setPalette(Qt::white);
+        panel->setAutoFillBackground(true);
+        show();
+        first->setFocus();
+    }
+
+    QPointer<QWidget> panel = new QWidget(this);
+    QPointer<QLineEdit> first = new QLineEdit;
+    QLineEdit* second = new QLineEdit;
+    QPushButton* button = new QPushButton(u"&Go"_s);
+    QLineEdit* outside = new QLineEdit;
+};
+
+QWidget* focus()
+{
+    return QApplication::focusWidget();
+}
+
+} // namespace
+
+class TestBusyIndicator : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ring();
+    void background();
+    void delay();
+    void parents();
+    void keyboard();
+    void focusGoesBack();
+    void percentage();
+};
+
+void TestBusyIndicator::ring()
+{
+    QWidget white;
+    white.setPalette(Qt::white);
+    white.resize(201, 160);
+    white.show();
+    struct Phase
+    {
+        int steps, arcBegin, arcEnd; // in degrees, clockwise from three o'clock
+    };
+    for (const auto [steps, begin, end] :
+         {Phase{1, 0, 11}, {5, 0, 54}, {20, 144, 216}, {38, 338, 410}, {40, 0, 72}}) {
+        Overlay overlay(&white);
+        overlay.show();
+        overlay.step(steps);
+        for (const int radius : {37, 43}) {
+            QCOMPARE(overlay.colorAt(begin + 4, radius), arc);
+            QCOMPARE(overlay.colorAt(end - 4, radius), arc);
+            QCOMPARE(overlay.colorAt(begin - 4, radius), track);
+            QCOMPARE(overlay.colorAt(end + 4, radius), track);
+        }
+        for (const int degrees : {45, 135, 225, 315})
+            for (const int radius : {30, 50})
+                QCOMPARE(overlay.colorAt(degrees, radius), dimmedWhite);
+    }
+}
+
+void TestBusyIndicator::background()
+{
+    Window window;
+    Overlay overlay(window.panel);
+    overlay.show();
+    const auto corner = [&] {
+        return window.panel->grab().toImage().pixelColor(1, 1);
+    };
+    QCOMPARE(corner(), dimmedWhite);
+    QPixmap red(1, 1);
+    red.fill(Qt::red);
+    overlay.setBackgroundImage(red);
+    overlay.step(1);
+    QCOMPARE(corner(), QColor(243, 8, 8));
+    overlay.setBackgroundImage({});
+    overlay.step(2);
+    QCOMPARE(corner(), dimmedWhite);
+}
+
+void TestBusyIndicator::delay()
+{
+    Window window;
+    Overlay overlay(window.panel);
+    const auto hasRing = [&overlay] {
+        return overlay.colorAt(180) == track;
+    };
+    overlay.setDelay(300ms);
+    QElapsedTimer time;
+    time.start();
+    overlay.show();
+    QVERIFY(!hasRing() || time.hasExpired(300));
+    QTRY_VERIFY(hasRing());
+    QVERIFY(time.hasExpired(299));
+    overlay.hide();
+    overlay.show();
+    QVERIFY(hasRing());
+    overlay.setFinished();
+    QVERIFY(overlay.isHidden());
+    QCOMPARE(overlay.colorAt(180), QColor(Qt::white));
+}
+
+void TestBusyIndicator::parents()
+{
+    QWidget other;
+    other.show();
+    QPointer<BusyIndicator> overlay;
+    {
+        Window window;
+        QWidget* panel = window.panel;
+        overlay = new BusyIndicator(panel);
+        panel->resize(400, 250);
+        QCOMPARE(overlay->geometry(), panel->rect());
+        auto* late = new QLabel(panel);
+        QCOMPARE(panel->children().constLast(), overlay);
+
+        overlay->setParent(&other);
+        QCOMPARE(overlay->size(), other.size());
+        panel->resize(100, 90);
+        delete late;
+        other.resize(50, 60);
+        QCOMPARE(overlay->size(), QSize(50, 60));
+        new QLabel(&other);
+        QCOMPARE(other.children().constLast(), overlay);
+
+        overlay->setParent(panel);
+        overlay->show();
+        QCOMPARE(overlay->size(), panel->size());
+    }
+    QVERIFY(!overlay);
+}
+
+void TestBusyIndicator::keyboard()
+{
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    BusyIndicator overlay(window.panel);
+    BusyIndicator another(window.panel);
+    overlay.show();
+    QCOMPARE(focus(), &overlay);
+    QTest::keyClicks(focus(), u"ab"_s);
+    QTest::keyClicks(window.second, u"c"_s);
+    QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+    QCOMPARE(window.first->text() + window.second->text(), QString());
+    QVERIFY(!window.button->isDown());
+
+    // Tab leaves for what is not covered, and comes back to the overlay.
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        QTest::keyClick(focus(), key);
+        QCOMPARE(focus(), window.outside);
+        QTest::keyClick(focus(), key);
+        QCOMPARE(focus(), &overlay);
+    }
+    window.second->setFocus();
+    QCOMPARE(focus(), &overlay);
+    // Two of them hand the focus on instead of fighting for it.
+    another.show();
+    overlay.hide();
+    QCOMPARE(focus(), &another);
+    another.hide();
+    QCOMPARE(focus(), window.second);
+    QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+    QVERIFY(window.button->isDown());
+}
+
+void TestBusyIndicator::focusGoesBack()
+{
+    Window window;
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto* overlay = new BusyIndicator(window.panel);
+    overlay->show();
+    overlay->hide();
+    QCOMPARE(focus(), window.first);
+    // Not from where the user went, and not to what is gone.
+    overlay->show();
+    window.outside->setFocus();
+    overlay->hide();
+    QCOMPARE(focus(), window.outside);
+    window.first->setFocus();
+    overlay->show();
+    delete window.first;
+    overlay->hide();
+    QVERIFY(focus() != overlay);
+    // When the overlay moves away, when it is deleted, and when all of it is.
+    for (const bool moves : {true, false}) {
+        window.second->setFocus();
+        overlay->setParent(window.panel);
+        overlay->show();
+        QCOMPARE(focus(), overlay);
+        if (moves)
+            overlay->setParent(nullptr);
+        else
+            delete overlay;
+        QTRY_COMPARE(focus(), window.second);
+    }
+    (new BusyIndicator(window.panel))->show();
+    delete window.panel;
+    QCoreApplication::processEvents();
+}
+
+void TestBusyIndicator::percentage()
+{
+    PFractionalProgressBar bar;
+    for (const auto& [minimum, maximum, value, text] : {std::tuple(0, 3, -1, ""),
+                                                        {0, 3, 1, "33.3%"},
+                                                        {0, 3, 2, "66.7%"},
+                                                        {-7, -3, -3, "100.0%"},
+                                                        {INT_MIN, INT_MAX, 0, "50.0%"},
+                                                        {0, 0, 0, ""},
+                                                        {5, 5, 5, ""}}) {
+        bar.setRange(minimum, maximum);
+        bar.setValue(value);
+        QCOMPARE(bar.text(), QString::fromLatin1(text));
+    }
+}
+
+QTEST_MAIN(TestBusyIndicator)
+#include "tst_busyindicator.moc"
