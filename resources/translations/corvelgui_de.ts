@@ -145,6 +145,13 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::BusyIndicator</name>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::FileNameValidatingLineEdit</name>
     <message>
         <source>Name is empty.</source>
