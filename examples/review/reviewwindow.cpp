@@ -9,6 +9,7 @@
 #include "rangepanel.h"
 #include "timelinepane.h"
 #include "timelinetoolbar.h"
+#include "updatemenu.h"
 #include "zonecombo.h"
 
 #include <Hueloft/PMessageBox>
@@ -203,6 +204,9 @@ void ReviewWindow::createMenus()
     }
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(m_darkLook);
+
+    m_updateMenu = new UpdateMenu(this, statusBar());
+    menuBar()->addMenu(m_updateMenu);
 }
 
 void ReviewWindow::createStatusBar()
@@ -258,6 +262,7 @@ void ReviewWindow::retranslate()
     m_open->setText(tr("&Open folder…"));
     m_quit->setText(tr("&Quit"));
     m_viewMenu->setTitle(tr("&View"));
+    m_updateMenu->retranslate();
     m_darkLook->setText(tr("Dark look"));
     m_zoneLabel->setText(tr("Time zone"));
     m_problems->retranslate();

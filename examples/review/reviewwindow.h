@@ -21,6 +21,7 @@ class ProblemDock;
 class RangePanel;
 class TimelinePane;
 class TimelineToolBar;
+class UpdateMenu;
 class ZoneCombo;
 
 /// The client's window: cameras and events, the timeline that shows the checked ones, and the lines
@@ -87,6 +88,7 @@ private:
     QAction* m_open;
     QAction* m_quit;
     QMenu* m_viewMenu;
+    UpdateMenu* m_updateMenu;
 
     QLabel* m_countsLabel;
     QLabel* m_zoneLabel;

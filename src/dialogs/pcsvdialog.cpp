@@ -2,8 +2,8 @@
 
 #include "csvbody.h"
 #include "documentopener.h"
+#include "frame/wholefile.h"
 #include "ui_pcsvdialog.h"
-#include "wholefile.h"
 
 #include <Hueloft/PIconHelper>
 #include <Hueloft/PMessageBox>
@@ -81,7 +81,7 @@ bool PCsvDialog::AddColumnsAtTop() const
 void PCsvDialog::slotAccept()
 {
     const QString fileName = ui->lineEditExportToFile->text();
-    const QString failure = writeWholeFile(fileName, csv());
+    const QString failure = writeWholeFile(fileName, csv(), QIODevice::Text);
     if (!failure.isEmpty()) {
         PMessageBox::Warning(this, QCoreApplication::applicationName(),
                              tr("Cannot write file %1:\n%2.").arg(fileName, failure),

@@ -1,6 +1,7 @@
 #include "pcheckversionupdate.h"
 
 #include "frame/whilealive.h"
+#include "frame/wholefile.h"
 #include "installerpath.h"
 #include "pchangelogdialog.h"
 #include "pcheckversionupdatedialog.h"
@@ -17,7 +18,6 @@
 #include <QGuiApplication>
 #include <QNetworkReply>
 #include <QPointer>
-#include <QSaveFile>
 #include <QUrl>
 
 #include <utility>
@@ -36,20 +36,6 @@ const QString versionFileName = u"version.txt"_s;
 QString applicationName()
 {
     return QGuiApplication::applicationDisplayName();
-}
-
-bool isCut(const QNetworkReply& reply, const QByteArray& content)
-{
-    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
-    return announced.isValid() && announced.toLongLong() != content.size();
-}
-
-bool writeWhole(const QString& path, const QByteArray& content)
-{
-    QSaveFile file(path);
-    // A short write must not be taken for the whole.
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
-           file.flush() && file.commit();
 }
 
 } // namespace
@@ -209,7 +195,7 @@ void PCheckVersionUpdate::httpFinishedVersionFileIntranet()
     const QNetworkReply* reply = Private::finished(d->intranetReply);
     if (!reply)
         return;
-    if (reply->error() != QNetworkReply::NoError || isCut(*reply, d->intranetData)) {
+    if (reply->error() != QNetworkReply::NoError) {
         qDebug() << reply->errorString();
         requestVersionFileInternet();
     } else if (parseVersionInfo(d->intranetData)) {
@@ -240,7 +226,7 @@ void PCheckVersionUpdate::httpFinishedVersionFileInternet()
     const QNetworkReply* reply = Private::finished(d->internetReply);
     if (!reply)
         return;
-    if (reply->error() != QNetworkReply::NoError || isCut(*reply, d->internetData)) {
+    if (reply->error() != QNetworkReply::NoError) {
         qDebug() << reply->errorString();
         if (d->showResult) {
             PMessageBox::Critical(nullptr, tr("Update check failed"),
@@ -287,7 +273,7 @@ void PCheckVersionUpdate::httpFinishedReadMeFile()
     const QNetworkReply* reply = Private::finished(d->readmeReply);
     if (!reply)
         return;
-    if (reply->error() != QNetworkReply::NoError || isCut(*reply, d->readmeData)) {
+    if (reply->error() != QNetworkReply::NoError) {
         d->readmeText = u"Error reading %1"_s.arg(d->readmeUrl);
         return;
     }
@@ -371,13 +357,11 @@ void PCheckVersionUpdate::httpFinishedInstallFile()
         return;
     qDebug() << "PCheckVersionUpdate::httpFinishedDownloadFile()";
     const QByteArray content = std::exchange(d->installData, {});
-    if (reply->error() == QNetworkReply::NoError && !isCut(*reply, content)) {
+    if (reply->error() == QNetworkReply::NoError) {
         saveInstaller(content);
         return;
     }
-    const QString error = reply->error() == QNetworkReply::NoError
-                              ? tr("The server sent less than it had announced.")
-                              : reply->errorString();
+    const QString error = reply->errorString();
     qDebug() << error;
     if (!whileAlive(this, [this] { Q_EMIT signalDownloadProgress(0, 0); }))
         return;
@@ -390,7 +374,7 @@ void PCheckVersionUpdate::saveInstaller(const QByteArray& content)
     const QString path = d->savePath;
     if (!whileAlive(this, [&] { Q_EMIT signalDownloadProgress(content.size(), content.size()); }))
         return;
-    if (!writeWhole(path, content)) {
+    if (!writeWholeFile(path, content).isEmpty()) {
         PMessageBox::Critical(parentWidget(), tr("Download failed"),
                               tr("Error while saving file!"));
         return;

@@ -10,15 +10,13 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Text;
-
 /// A full disk shows late: the first write takes what still fits without a complaint, and closing
 /// the file does not complain at all.
-bool writeAll(QFileDevice& file, const QByteArray& text)
+bool writeAll(QFileDevice& file, const QByteArray& content)
 {
     qsizetype done = 0;
-    while (done < text.size()) {
-        const qint64 written = file.write(text.constData() + done, text.size() - done);
+    while (done < content.size()) {
+        const qint64 written = file.write(content.constData() + done, content.size() - done);
         if (written <= 0)
             return false;
         done += written;
@@ -35,15 +33,16 @@ bool isDevice(const QString& fileName)
 
 } // namespace
 
-QString writeWholeFile(const QString& fileName, const QByteArray& text)
+QString writeWholeFile(const QString& fileName, const QByteArray& content, QIODevice::OpenMode kind)
 {
+    const QIODevice::OpenMode mode = QIODevice::WriteOnly | kind;
     if (isDevice(fileName)) {
         QFile device(fileName);
-        return device.open(mode) && writeAll(device, text) ? QString() : device.errorString();
+        return device.open(mode) && writeAll(device, content) ? QString() : device.errorString();
     }
     QSaveFile file(fileName);
-    return file.open(mode) && writeAll(file, text) && file.commit() ? QString()
-                                                                    : file.errorString();
+    return file.open(mode) && writeAll(file, content) && file.commit() ? QString()
+                                                                       : file.errorString();
 }
 
 } // namespace CorvelGui
