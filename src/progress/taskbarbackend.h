@@ -21,7 +21,7 @@ public:
     virtual long setProgressState(WId window, State state) = 0;
 
     /// Called when the shell made the taskbar button of that window, for the first time or anew
-    /// because the shell restarted. A new button shows no progress.
+    /// because the shell restarted; sometimes twice for one. A new button shows no progress.
     std::function<void(WId window)> buttonCreated;
 
     /// The shell of this machine; null, after a warning where one was to be expected, if there is

@@ -52,7 +52,7 @@ void TestTaskbarShell::announcesButtons()
     const HWND handle = reinterpret_cast<HWND>(window.winId());
     PostMessageW(handle, RegisterWindowMessageW(L"TaskbarButtonCreated"), 0, 0);
     PostMessageW(handle, WM_NULL, 0, 0);
-    QTRY_COMPARE(announced, QList<WId>{window.winId()});
+    QTRY_VERIFY(announced.contains(window.winId()));
 }
 
 void TestTaskbarShell::missing()
