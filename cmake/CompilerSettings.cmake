@@ -15,8 +15,8 @@ target_compile_definitions(corvelgui_settings INTERFACE
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
-if(CORVELGUI_BUILD_TESTS OR CORVELGUI_BUILD_BENCHMARKS)
-    # Tests and benchmarks reach the internal classes of the shared library.
+if(CORVELGUI_BUILD_TESTS OR CORVELGUI_BUILD_BENCHMARKS OR CORVELGUI_BUILD_FUZZERS)
+    # Tests, benchmarks and fuzzers reach the internal classes of the shared library.
     target_compile_definitions(corvelgui_settings INTERFACE CORVELGUI_EXPORT_INTERNALS)
 endif()
 

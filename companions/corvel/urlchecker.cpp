@@ -28,6 +28,11 @@ bool isDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
+bool isHexDigit(QChar character)
+{
+    return isDigit(character) || (character >= u'a' && character <= u'f');
+}
+
 // As QUrl reads a host: before it, a user; after it, a port.
 struct Authority
 {
@@ -80,7 +85,8 @@ bool isIpv4(const QList<QStringView>& numbers)
 // Resolvers take such names for addresses.
 bool looksLikeIpv4(QStringView lastLabel)
 {
-    return std::ranges::all_of(lastLabel, isDigit) || lastLabel.startsWith("0x"_L1);
+    return std::ranges::all_of(lastLabel, isDigit) ||
+           (lastLabel.startsWith("0x"_L1) && std::ranges::all_of(lastLabel.mid(2), isHexDigit));
 }
 
 bool isLabel(QStringView label)

@@ -32,10 +32,12 @@ class CORVEL_EXPORT UrlChecker
 public:
     UrlChecker() = delete;
 
-    /// Whether @p url is accepted. Sets @p host to its host: an IPv6 address without brackets, a
-    /// name in lower case with international letters as such. Sets @p port to the typed port or
-    /// else to that of the scheme: 80, 443, 21 and 554, and 80 without a scheme. A refused text
-    /// gives an empty host and port 0. @p url may be the same object as @p host.
+    /// Whether @p url is accepted. Sets @p host to its host as QUrl::host() gives it: an IPv6
+    /// address without brackets; a name in lower case, with international letters as such only in
+    /// domains that are known to guard against look-alikes, otherwise in the form of name servers.
+    /// Sets @p port to the typed port or else to that of the scheme: 80, 443, 21 and 554, and 80
+    /// without a scheme. A refused text gives an empty host and port 0. @p url and @p host may be
+    /// the same object.
     static bool IsUrlValid(const QString& url, QString& host, int& port);
 };
 

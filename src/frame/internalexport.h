@@ -2,8 +2,8 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
-/// Marks internal classes that tests and benchmarks reach. A build without them keeps those classes
-/// hidden.
+/// Marks internal classes that tests, benchmarks and fuzzers reach. A build without them keeps
+/// those classes hidden.
 #ifdef CORVELGUI_EXPORT_INTERNALS
 #define CORVELGUI_INTERNAL_EXPORT CORVELGUI_EXPORT
 #else

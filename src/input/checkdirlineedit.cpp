@@ -1,6 +1,6 @@
 #include "checkdirlineedit.h"
 
-#include <QFileInfo>
+#include "typedfile.h"
 
 namespace CorvelGui {
 
@@ -10,7 +10,7 @@ CheckDirLineEdit::~CheckDirLineEdit() = default;
 
 void CheckDirLineEdit::Validate()
 {
-    setError(!QFileInfo(text()).isDir());
+    setError(!typedFile(text()).isDir());
 }
 
 } // namespace CorvelGui

@@ -1,6 +1,6 @@
 #include "checkfilenamelineedit.h"
 
-#include <QFileInfo>
+#include "typedfile.h"
 
 namespace CorvelGui {
 
@@ -10,7 +10,7 @@ CheckFileNameLineEdit::~CheckFileNameLineEdit() = default;
 
 void CheckFileNameLineEdit::Validate()
 {
-    setError(!QFileInfo::exists(text()));
+    setError(!typedFile(text()).exists());
 }
 
 } // namespace CorvelGui

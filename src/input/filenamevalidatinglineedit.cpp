@@ -1,9 +1,9 @@
 #include "filenamevalidatinglineedit.h"
 
 #include "filenamerules.h"
+#include "typedfile.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +39,8 @@ void FileNameValidatingLineEdit::Validate()
 
 bool FileNameValidatingLineEdit::validateDirExist(const QString& name)
 {
-    return !name.isEmpty() && QDir(QFileInfo(name).absolutePath()).exists();
+    const QFileInfo file = typedFile(name);
+    return !file.filePath().isEmpty() && QDir(file.absolutePath()).exists();
 }
 
 bool FileNameValidatingLineEdit::validateFileName(const QString& name, bool strict,

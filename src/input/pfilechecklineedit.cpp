@@ -1,9 +1,10 @@
 #include "pfilechecklineedit.h"
 
+#include "typedfile.h"
+
 #include <Hueloft/POrvGuiTheme>
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace CorvelGui {
 
@@ -18,7 +19,7 @@ PFileCheckLineEdit::~PFileCheckLineEdit() = default;
 
 void PFileCheckLineEdit::slotFileNameChanged(const QString& text)
 {
-    const QFileInfo file(text);
+    const QFileInfo file = typedFile(text);
     if (!file.isFile()) {
         setPalette(m_errorPalette);
         return;
