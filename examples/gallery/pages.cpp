@@ -9,6 +9,7 @@
 #include "graphicsviewpage.h"
 #include "iconspage.h"
 #include "languagespage.h"
+#include "lineeditspage.h"
 #include "lookspage.h"
 #include "networkboxespage.h"
 #include "optionspage.h"
@@ -75,6 +76,7 @@ const std::vector<Page>& pages()
         // Progress
         {u"Busy indicator"_s, create<BusyIndicatorPage>},
         {u"Progress"_s, create<ProgressPage>},
+        {u"Line edits"_s, create<LineEditsPage>},
     };
     return all;
 }
