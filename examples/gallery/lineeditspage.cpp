@@ -20,8 +20,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <functional>
-
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
 
@@ -32,25 +30,25 @@ namespace {
 struct Example
 {
     QString title;
-    std::function<ValidateBaseLineEdit*()> create;
+    ValidateBaseLineEdit* (*make)();
     QString accepted;
     QString refused;
 };
 
 template <typename Field>
-ValidateBaseLineEdit* create()
+ValidateBaseLineEdit* make()
 {
     return new Field;
 }
 
-ValidateBaseLineEdit* createInputLength()
+ValidateBaseLineEdit* makeInputLength()
 {
     auto* field = new InputLengthLineEdit;
     field->setInputLengthRange(3, 8);
     return field;
 }
 
-ValidateBaseLineEdit* createFileName()
+ValidateBaseLineEdit* makeFileName()
 {
     auto* field = new FileNameValidatingLineEdit;
     field->addExtensionToCheck(u"csv"_s);
@@ -85,14 +83,14 @@ LineEditsPage::LineEditsPage(QWidget* parent) : QWidget(parent)
 QGroupBox* LineEditsPage::createValidating()
 {
     const Example examples[] = {
-        {tr("IPv4 address"), create<IpLineEdit>, u"192.168.1.20"_s, u"192.168.001.020"_s},
-        {tr("Directory"), create<CheckDirLineEdit>, nativeRoot(), nativeRoot() + u"missing"_s},
-        {tr("File or directory"), create<CheckFileNameLineEdit>, nativeRoot(), u"missing.txt"_s},
-        {tr("Country code"), create<CountryCodeLineEdit>, u"DE"_s, u"Germany"_s},
-        {tr("Three to eight characters"), createInputLength, u"camera"_s, u"no"_s},
-        {tr("Anything"), create<NotEmptyLineEdit>, u"Entrance north"_s, u""_s},
-        {tr("Server"), create<UrlLineEdit>, u"rtsp://10.0.0.5/stream"_s, u"mailto:a@example.org"_s},
-        {tr("Name of a CSV file"), createFileName, nativeRoot() + u"report.csv"_s,
+        {tr("IPv4 address"), make<IpLineEdit>, u"192.168.1.20"_s, u"192.168.001.020"_s},
+        {tr("Directory"), make<CheckDirLineEdit>, nativeRoot(), nativeRoot() + u"missing"_s},
+        {tr("File or directory"), make<CheckFileNameLineEdit>, nativeRoot(), u"missing.txt"_s},
+        {tr("Country code"), make<CountryCodeLineEdit>, u"DE"_s, u"Germany"_s},
+        {tr("Three to eight characters"), makeInputLength, u"camera"_s, u"no"_s},
+        {tr("Anything"), make<NotEmptyLineEdit>, u"Entrance north"_s, u""_s},
+        {tr("Server"), make<UrlLineEdit>, u"rtsp://10.0.0.5/stream"_s, u"mailto:a@example.org"_s},
+        {tr("Name of a CSV file"), makeFileName, nativeRoot() + u"report.csv"_s,
          nativeRoot() + u"a+b.csv"_s},
     };
 
@@ -104,7 +102,7 @@ QGroupBox* LineEditsPage::createValidating()
         grid->addWidget(new QLabel(example.title), row, 0);
         int column = 1;
         for (const QString& text : {example.accepted, example.refused}) {
-            ValidateBaseLineEdit* field = example.create();
+            ValidateBaseLineEdit* field = example.make();
             field->setAccessibleName(example.title);
             field->setText(text);
             auto* said = new QLabel;
