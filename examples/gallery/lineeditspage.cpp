@@ -13,7 +13,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QEvent>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -131,33 +130,19 @@ QGroupBox* LineEditsPage::createValidating()
 QGroupBox* LineEditsPage::createOthers()
 {
     auto* group = new QGroupBox(tr("The older two"));
-    m_others = new QFormLayout(group);
-    fillOthers();
-    return group;
-}
-
-// A file field takes its colours from the look in which it is made.
-void LineEditsPage::fillOthers()
-{
-    while (m_others->rowCount() > 0)
-        m_others->removeRow(0);
+    auto* form = new QFormLayout(group);
+    form->setHorizontalSpacing(12);
     for (const QString& text : {u"10.0.0.1"_s, u"10.0.0."_s}) {
         auto* field = new PIpLineEdit;
         field->setText(text);
-        m_others->addRow(tr("Nothing but an IPv4 address"), field);
+        form->addRow(tr("Nothing but an IPv4 address"), field);
     }
     for (const QString& text : {QCoreApplication::applicationFilePath(), u"missing.txt"_s}) {
         auto* field = new PFileCheckLineEdit;
         field->setText(text);
-        m_others->addRow(tr("Regular file"), field);
+        form->addRow(tr("Regular file"), field);
     }
-}
-
-void LineEditsPage::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::StyleChange)
-        fillOthers();
+    return group;
 }
 
 void LineEditsPage::showEvent(QShowEvent* event)

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-class QFormLayout;
 class QGroupBox;
 
 namespace CorvelGui {
@@ -21,15 +20,12 @@ public:
     explicit LineEditsPage(QWidget* parent);
 
 protected:
-    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     QGroupBox* createValidating();
     QGroupBox* createOthers();
-    void fillOthers();
 
-    QFormLayout* m_others = nullptr;
     CorvelGui::ValidateBaseLineEdit* m_focused = nullptr;
 };
 

@@ -11,7 +11,10 @@ namespace CorvelGui {
 PFileCheckLineEdit::PFileCheckLineEdit(QWidget* parent)
     : QLineEdit(parent), m_normalPalette(palette())
 {
-    m_errorPalette.setColor(QPalette::Base, Hueloft::POrvGuiTheme::statusRed());
+    const QColor red = Hueloft::POrvGuiTheme::statusRed();
+    m_errorPalette.setColor(QPalette::Base, red);
+    // The text of the look need not stand out from a red that is made to stand out from its base.
+    m_errorPalette.setColor(QPalette::Text, qGray(red.rgb()) < 128 ? Qt::white : Qt::black);
     connect(this, &QLineEdit::textChanged, this, &PFileCheckLineEdit::slotFileNameChanged);
 }
 
