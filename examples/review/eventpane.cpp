@@ -1,53 +1,89 @@
 #include "eventpane.h"
 
-#include "listview.h"
+#include "eventtable.h"
+#include "listlook.h"
 
+#include <CorvelGui/FilterLineEdit>
+#include <CorvelGui/PHeaderCheckMenu>
+
+#include <QAction>
 #include <QHeaderView>
-#include <QTreeView>
 #include <QVBoxLayout>
+
+using CorvelGui::FilterLineEdit;
 
 namespace Review {
 
 EventPane::EventPane(const TimeTexts& times, QWidget* parent)
-    : QWidget(parent), m_model(new EventModel(times, this)), m_view(createList(m_model))
+    : QWidget(parent)
+    , m_texts(times)
+    , m_filter(new FilterLineEdit)
+    , m_table(new EventTable)
+    , m_export(new QAction(m_table))
 {
-    m_view->header()->setSectionResizeMode(EventModel::Text, QHeaderView::Stretch);
+    new CorvelGui::PHeaderCheckMenu(m_table->horizontalHeader());
+    m_table->addAction(m_export);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(m_view);
-    connect(m_view, &QTreeView::activated, this, [this](const QModelIndex& index) {
-        Q_EMIT eventOpened(m_model->eventOfRow(index.row()).time);
+    layout->setSpacing(0);
+    layout->addLayout(ListLook::place(m_filter));
+    layout->addWidget(m_table);
+
+    connect(m_filter, &FilterLineEdit::filterChanged, this, &EventPane::showRows);
+    connect(m_export, &QAction::triggered, m_table, &EventTable::exportRows);
+    connect(m_table, &QTableWidget::activated, this, [this](const QModelIndex& index) {
+        if (!m_table->isRowHidden(index.row()))
+            Q_EMIT eventOpened(m_list.event(m_table->eventOf(index.row())).time);
     });
     retranslate();
 }
 
 void EventPane::setReview(const ReviewData& review)
 {
-    m_model->setReview(review);
+    // The rows look at both.
+    m_table->setRowCount(0);
+    m_list = EventList(review);
+    m_texts.setEvents(m_list);
+    m_table->setEvents(m_list, m_texts);
+    showRows();
 }
 
 void EventPane::setHiddenTracks(const QSet<QString>& identifiers)
 {
-    m_model->setHiddenTracks(identifiers);
+    if (m_list.setHiddenTracks(identifiers))
+        showRows();
+}
+
+void EventPane::showRows()
+{
+    m_table->showRows(m_list, m_filter->text());
 }
 
 void EventPane::select(qsizetype index)
 {
-    const QModelIndex row = m_model->rowOf(index);
-    if (!row.isValid())
-        return;
-    m_view->setCurrentIndex(row);
-    m_view->scrollTo(row, QAbstractItemView::PositionAtCenter);
+    m_table->goTo(index);
 }
 
 void EventPane::setTimes(const TimeTexts& times)
 {
-    m_model->setTimes(times);
+    m_texts.setTimes(times);
+    m_table->showNewTexts();
+    if (!m_filter->text().isEmpty())
+        showRows();
 }
 
 void EventPane::retranslate()
 {
-    m_view->setAccessibleName(tr("Events"));
+    m_filter->setAccessibleName(tr("Filter events"));
+    m_table->setAccessibleName(tr("Events"));
+    m_table->setHorizontalHeaderLabels({tr("Time"), tr("Kind"), tr("Event"), tr("Track")});
+    m_export->setText(tr("Export events…"));
+    m_export->setStatusTip(
+        tr("Write the events in the table, or several selected ones, to a file"));
+    m_texts.setEvents(m_list);
+    m_table->showNewTexts();
+    if (!m_filter->text().isEmpty())
+        showRows();
 }
 
 } // namespace Review

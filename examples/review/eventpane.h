@@ -1,14 +1,21 @@
 #pragma once
 
-#include "eventmodel.h"
+#include "eventlist.h"
+#include "eventtexts.h"
 
 #include <QWidget>
 
-class QTreeView;
+class QAction;
+
+namespace CorvelGui {
+class FilterLineEdit;
+} // namespace CorvelGui
 
 namespace Review {
 
-/// The events in a list.
+class EventTable;
+
+/// The events in a table that sorts, copies and exports, below a field that filters it.
 class EventPane : public QWidget
 {
     Q_OBJECT
@@ -19,12 +26,14 @@ public:
     /// Replaces all events.
     void setReview(const ReviewData& review);
 
-    /// The events that are in the list, and what is known of them.
-    const EventModel& events() const { return *m_model; }
+    /// All events. The filter field does not matter here.
+    const EventList& events() const { return m_list; }
     /// Leaves out the events of these tracks.
     void setHiddenTracks(const QSet<QString>& identifiers);
-    /// Makes an event the current one and brings it into view, if it is in the list.
+    /// Makes an event the current one and brings it into view, if it is in the table.
     void select(qsizetype index);
+    /// Writes the events that are in the table, or several selected ones, into a file.
+    QAction* exportAction() const { return m_export; }
 
     void setTimes(const TimeTexts& times);
     /// Applies all translated texts again.
@@ -35,8 +44,13 @@ Q_SIGNALS:
     void eventOpened(qint64 msecs);
 
 private:
-    EventModel* m_model;
-    QTreeView* m_view;
+    void showRows();
+
+    EventList m_list;
+    EventTexts m_texts;
+    CorvelGui::FilterLineEdit* m_filter;
+    EventTable* m_table;
+    QAction* m_export;
 };
 
 } // namespace Review

@@ -191,6 +191,7 @@ void ReviewWindow::createMenus()
     m_fileMenu = menuBar()->addMenu(QString());
     m_open = m_fileMenu->addAction(QString());
     m_open->setShortcut(QKeySequence::Open);
+    m_fileMenu->addAction(m_events->exportAction());
     m_fileMenu->addSeparator();
     m_quit = m_fileMenu->addAction(QString());
     m_quit->setShortcut(QKeySequence::Quit);
@@ -302,7 +303,7 @@ void ReviewWindow::showCheckedTracks()
     m_events->setHiddenTracks(m_devices->uncheckedTracks());
 
     QList<CorvelGui::RulerMarker> markers;
-    const EventModel& events = m_events->events();
+    const EventList& events = m_events->events();
     markers.reserve(qsizetype(events.shownEvents().size()));
     for (const qsizetype index : events.shownEvents())
         markers.append(EventMarkers::marker(events.event(index), index, events.trackName(index)));

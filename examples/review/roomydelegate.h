@@ -2,6 +2,8 @@
 
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace Review {
 
 /// Gives the rows of lists and tables room above and below their text.
@@ -12,11 +14,17 @@ class RoomyDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    /// The height of a row whose content has that height.
+    static int heightFor(int content)
     {
         constexpr int lowestContent = 18; // rows with and without icons are equally high
+        return std::max(content, lowestContent) + 10;
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
         const QSize content = QStyledItemDelegate::sizeHint(option, index);
-        return content.expandedTo(QSize(0, lowestContent)) + QSize(12, 10);
+        return {content.width() + 12, heightFor(content.height())};
     }
 };
 

@@ -3,6 +3,7 @@
 #include "reviewwindow.h"
 #include "sampledata.h"
 
+#include <CorvelGui/PTableWidget>
 #include <CorvelGui/Ruler>
 
 #include <QAction>
@@ -50,6 +51,17 @@ struct SampleWindow
         if (found == tables.end())
             qFatal("There is no table: %s", qPrintable(accessibleName));
         return *found;
+    }
+    CorvelGui::PTableWidget* events() const { return window.findChild<CorvelGui::PTableWidget*>(); }
+    /// What a column of the event table says, in the rows that are shown.
+    QStringList shownEvents(int column) const
+    {
+        QStringList texts;
+        for (int row = 0; row < events()->rowCount(); ++row) {
+            if (!events()->isRowHidden(row))
+                texts.append(events()->item(row, column)->text());
+        }
+        return texts;
     }
 
     Review::ReviewWindow window;
