@@ -18,10 +18,11 @@
 #include "progresspage.h"
 #include "rulerpage.h"
 #include "tableitemspage.h"
-#include "tooltipspage.h"
 #include "tablepage.h"
 #include "tabwidgetpage.h"
+#include "tooltipspage.h"
 #include "treepage.h"
+#include "updatespage.h"
 #include "zoomtimelinepage.h"
 
 #include <algorithm>
@@ -49,9 +50,6 @@ const std::vector<Page>& pages()
         {u"Icons"_s, create<IconsPage>},
         // Frame
         {u"Tooltips"_s, create<ToolTipsPage>},
-        // Settings
-        {u"Options dialog"_s, create<OptionsPage>},
-        {u"Languages"_s, create<LanguagesPage>},
         // Timeline
         {u"Ruler"_s, create<RulerPage>},
         {u"Overview"_s, create<OverviewPage>},
@@ -60,23 +58,27 @@ const std::vector<Page>& pages()
         {u"Playbar"_s, create<PlaybarPage>},
         {u"Date-time view"_s, create<DateTimeViewPage>},
         // Input
+        {u"Line edits"_s, create<LineEditsPage>},
         {u"Fancy line edits"_s, create<FancyLineEditsPage>},
         {u"Network boxes"_s, create<NetworkBoxesPage>},
         // Dialogs
         {u"Dialogs"_s, create<DialogsPage>},
         {u"CSV dialog"_s, create<CsvDialogPage>},
         // Item views
-        {u"Table items"_s, create<TableItemsPage>},
-        // Item views
         {u"Tree widget"_s, create<TreePage>},
         {u"Table widget"_s, create<TablePage>},
+        {u"Table items"_s, create<TableItemsPage>},
         {u"Tab widget"_s, create<TabWidgetPage>},
         // Image views
         {u"Graphics view"_s, create<GraphicsViewPage>},
         // Progress
         {u"Busy indicator"_s, create<BusyIndicatorPage>},
         {u"Progress"_s, create<ProgressPage>},
-        {u"Line edits"_s, create<LineEditsPage>},
+        // Settings
+        {u"Options dialog"_s, create<OptionsPage>},
+        {u"Languages"_s, create<LanguagesPage>},
+        // Updates
+        {u"Updates"_s, create<UpdatesPage>},
     };
     return all;
 }

@@ -5,7 +5,9 @@
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -36,10 +38,9 @@ void openWebPage(const QUrl& url)
 PChangeLogDialog::PChangeLogDialog(QWidget* parent)
     : PBaseDialog(parent), m_browser(new OfflineBrowser(this))
 {
-    setWindowTitle(tr("Change Log"));
     setSizeGripEnabled(true);
     resize(640, 480);
-    m_browser->setAccessibleName(tr("Change Log"));
+    retranslate();
     m_browser->setOpenLinks(false);
     connect(m_browser, &QTextBrowser::anchorClicked, this, &openWebPage);
 
@@ -54,12 +55,44 @@ PChangeLogDialog::PChangeLogDialog(QWidget* parent)
 
 void PChangeLogDialog::setHtml(const QString& html)
 {
-    if (html.contains(u'<'))
-        m_browser->setHtml(harmlessHtml(html));
-    else
-        m_browser->setPlainText(html);
+    m_hasMarkup = html.contains(u'<');
+    m_log = m_hasMarkup ? harmlessHtml(html) : html;
+    showLog();
     m_browser->moveCursor(QTextCursor::Start);
     m_browser->ensureCursorVisible();
+}
+
+void PChangeLogDialog::changeEvent(QEvent* event)
+{
+    PBaseDialog::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::PaletteChange: {
+        // A document keeps the colour of links that it was read with.
+        const int position = m_browser->verticalScrollBar()->value();
+        showLog();
+        m_browser->verticalScrollBar()->setValue(position);
+        break;
+    }
+    case QEvent::LanguageChange:
+        retranslate();
+        break;
+    default:
+        break;
+    }
+}
+
+void PChangeLogDialog::retranslate()
+{
+    setWindowTitle(tr("Change Log"));
+    m_browser->setAccessibleName(tr("Change Log"));
+}
+
+void PChangeLogDialog::showLog()
+{
+    if (m_hasMarkup)
+        m_browser->setHtml(m_log);
+    else
+        m_browser->setPlainText(m_log);
 }
 
 QString PChangeLogDialog::toPlainText() const

@@ -2,8 +2,6 @@
 
 #include <CorvelGui/PBaseDialog>
 
-#include <memory>
-
 class QTextBrowser;
 
 namespace CorvelGui {
@@ -25,8 +23,16 @@ public:
     /// What is shown, without its markup.
     QString toPlainText() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
+    void showLog();
+
     QTextBrowser* m_browser;
+    QString m_log;
+    bool m_hasMarkup = false;
 };
 
 } // namespace CorvelGui

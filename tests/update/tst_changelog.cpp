@@ -120,6 +120,8 @@ void TestChangeLog::plainTextKeepsItsLines()
     PChangeLogDialog dialog;
     dialog.setHtml(u"2.1 & more\n- a\n- b"_s);
     QCOMPARE(dialog.toPlainText(), u"2.1 & more\n- a\n- b"_s);
+    dialog.setHtml(u"1 < 2"_s);
+    QCOMPARE(dialog.toPlainText(), u"1 < 2"_s);
 }
 
 void TestChangeLog::linksAreFollowedOnAClick()
