@@ -32,6 +32,8 @@ int takePicture(QWidget& window, const QString& path)
 
 int main(int argc, char* argv[])
 {
+    // The busy indicator has a native window; what it covers needs none.
+    QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"corvel-review"_s);
     QApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));

@@ -4,21 +4,27 @@
 #include "eventmarkers.h"
 #include "eventpane.h"
 #include "loadjob.h"
+#include "playbackpane.h"
+#include "player.h"
 #include "previewcard.h"
 #include "problemdock.h"
 #include "rangepanel.h"
 #include "timelinepane.h"
 #include "timelinetoolbar.h"
+#include "transportbar.h"
 #include "updatemenu.h"
 #include "zonecombo.h"
 
+#include <CorvelGui/BusyIndicator>
+#include <CorvelGui/PPlaybar>
+#include <CorvelGui/TarvoDateTimeView>
 #include <Hueloft/PMessageBox>
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
@@ -27,7 +33,10 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 
+using CorvelGui::BusyIndicator;
+using CorvelGui::TarvoDateTimeView;
 using CorvelGui::TimeSpan;
 using Hueloft::PMessageBox;
 using namespace Qt::StringLiterals;
@@ -37,6 +46,8 @@ namespace Review {
 namespace {
 
 constexpr int problemDockHeight = 150;
+constexpr int readingTime = 8'000; // milliseconds
+constexpr std::chrono::milliseconds quickLoad(200);
 
 } // namespace
 
@@ -65,6 +76,9 @@ void ReviewWindow::setReview(const ReviewData& review, const ProblemList& proble
     m_review = review;
     m_devices->setTracks(m_review.tracks);
     m_events->setReview(m_review);
+    m_playback->setEvents(m_review.events);
+    m_player->setPeriod(m_review.period());
+    m_transport->setPlayable(!m_review.period().isEmpty());
     m_ranges->setPeriod(m_review.period());
     m_timeline->setPeriod(m_review.period());
     m_problems->setProblems(problems);
@@ -78,6 +92,13 @@ void ReviewWindow::setReview(const ReviewData& review, const ProblemList& proble
 void ReviewWindow::load(const ReviewFiles& files)
 {
     m_loading = std::make_unique<LoadJob>(files);
+    auto* busy = new BusyIndicator(centralWidget());
+    busy->setDelay(quickLoad);
+    busy->show();
+    connect(m_loading.get(), &LoadJob::loaded, busy, [busy] {
+        busy->hide();
+        busy->deleteLater();
+    });
     connect(m_loading.get(), &LoadJob::loaded, this, &ReviewWindow::finishLoading);
     m_open->setEnabled(false);
     m_loading->start();
@@ -140,38 +161,33 @@ void ReviewWindow::changeEvent(QEvent* event)
 QWidget* ReviewWindow::createContent()
 {
     auto* content = new QWidget(this);
-    auto* tables = new QSplitter(content);
-    tables->setChildrenCollapsible(false);
-    m_devices = new DevicePane(m_times, tables);
-    m_events = new EventPane(m_times, tables);
-    // In proportion: the tracks have more columns that need their width.
-    tables->setSizes({660, 540});
-
-    auto* times = new QHBoxLayout;
-    times->setContentsMargins(8, 5, 8, 5);
-    m_timeLabel = new QLabel(content);
-    QFont bold = m_timeLabel->font();
-    bold.setBold(true);
-    m_timeLabel->setFont(bold);
-    m_viewLabel = new QLabel(content);
-    for (QLabel* label : {m_timeLabel, m_viewLabel})
-        label->setTextFormat(Qt::PlainText);
-    times->addWidget(m_timeLabel);
-    times->addStretch();
-    times->addWidget(m_viewLabel);
-
+    QWidget* tables = createTables(content);
     m_ranges = new RangePanel(m_times, content);
     m_ranges->hide();
+    m_transport = new TransportBar(content);
     m_timeline = new TimelinePane(m_times.zoneName(), content);
+    m_player = new Player(m_timeline, m_transport->playbar(), this);
 
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(tables, 1);
     layout->addWidget(m_ranges);
-    layout->addLayout(times);
+    layout->addWidget(m_transport);
     layout->addWidget(m_timeline);
     return content;
+}
+
+QWidget* ReviewWindow::createTables(QWidget* parent)
+{
+    auto* tables = new QSplitter(parent);
+    tables->setChildrenCollapsible(false);
+    m_devices = new DevicePane(m_times, tables);
+    m_playback = new PlaybackPane(m_times, tables);
+    m_events = new EventPane(m_times, tables);
+    // In proportion.
+    tables->setSizes({380, 500, 320});
+    return tables;
 }
 
 void ReviewWindow::createToolBar(bool dark)
@@ -238,6 +254,8 @@ void ReviewWindow::connectParts()
             [this](const QUuid& marker) { m_events->select(EventMarkers::indexOf(marker)); });
     connect(m_timeline, &TimelinePane::previewChanged, this, &ReviewWindow::showPreview);
 
+    connectPlayer();
+
     connect(m_ranges, &RangePanel::viewWanted, this,
             [this] { m_ranges->setRange(m_timeline->view()); });
     connect(m_ranges, &RangePanel::searchWanted, m_timeline, &TimelinePane::setSearchRange);
@@ -246,10 +264,26 @@ void ReviewWindow::connectParts()
 
     connect(m_zone, &ZoneCombo::zoneChanged, this, &ReviewWindow::setZone);
     connect(m_zone, &ZoneCombo::zoneRefused, this, [this](const QString& text) {
-        constexpr int readingTime = 8'000;
         statusBar()->showMessage(
             tr("There is no time zone “%1”. Times stay in %2.").arg(text, m_times.zoneName()),
             readingTime);
+    });
+}
+
+void ReviewWindow::connectPlayer()
+{
+    connect(m_playback, &PlaybackPane::feedChanged, this, [this] {
+        const CameraFeed* feed = m_playback->feed();
+        m_player->setTrack(feed ? &feed->history() : nullptr);
+        m_transport->timeView()->setDeviceName(feed ? feed->camera() : QString());
+    });
+    connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
+    connect(m_transport->timeView(), &TarvoDateTimeView::jumoToTime, m_timeline,
+            [this](const QDateTime& time) { m_timeline->goTo(time.toMSecsSinceEpoch()); });
+    connect(m_player, &Player::playingChanged, m_transport->timeView(),
+            &TarvoDateTimeView::setPlayMode);
+    connect(m_player, &Player::ranOutOfRecordings, this, [this] {
+        statusBar()->showMessage(tr("There are no more recordings of this camera."), readingTime);
     });
 }
 
@@ -257,6 +291,8 @@ void ReviewWindow::retranslate()
 {
     setWindowTitle(tr("Recording review"));
     m_devices->retranslate();
+    m_playback->retranslate();
+    m_transport->retranslate();
     m_events->retranslate();
     m_toolBar->retranslate();
     m_fileMenu->setTitle(tr("&File"));
@@ -279,6 +315,7 @@ void ReviewWindow::setZone(const QString& name)
 {
     m_times = TimeTexts(name);
     m_devices->setTimes(m_times);
+    m_playback->setTimes(m_times);
     m_events->setTimes(m_times);
     m_ranges->setTimes(m_times);
     m_timeline->setZone(name);
@@ -300,6 +337,7 @@ void ReviewWindow::showCounts()
 void ReviewWindow::showCheckedTracks()
 {
     m_timeline->setTracks(m_devices->checkedTracks());
+    m_playback->setTracks(m_devices->checkedTracks());
     m_events->setHiddenTracks(m_devices->uncheckedTracks());
 
     QList<CorvelGui::RulerMarker> markers;
@@ -313,16 +351,19 @@ void ReviewWindow::showCheckedTracks()
 void ReviewWindow::showView()
 {
     const TimeSpan view = m_timeline->view();
-    m_viewLabel->setText(view.isEmpty() ? tr("There is nothing to show.")
-                                        : tr("%1 – %2 (%3)")
-                                              .arg(m_times.dateTime(view.begin),
-                                                   m_times.dateTime(view.end), m_times.zoneName()));
+    m_transport->setViewText(view.isEmpty()
+                                 ? tr("There is nothing to show.")
+                                 : tr("%1 – %2 (%3)")
+                                       .arg(m_times.dateTime(view.begin),
+                                            m_times.dateTime(view.end), m_times.zoneName()));
 }
 
 void ReviewWindow::showCurrentTime()
 {
     const qint64 msecs = m_timeline->currentTime();
-    m_timeLabel->setText(msecs > 0 ? m_times.exactDateTime(msecs) : QString());
+    m_playback->setTime(msecs);
+    m_transport->timeView()->updateDateTime(
+        msecs > 0 ? QDateTime::fromMSecsSinceEpoch(msecs, m_times.zone()) : QDateTime());
 }
 
 void ReviewWindow::showPreview(qint64 msecs, const QPoint& position, bool onMarker)

@@ -16,16 +16,19 @@ namespace Review {
 class DevicePane;
 class EventPane;
 class LoadJob;
+class PlaybackPane;
+class Player;
 class PreviewCard;
 class ProblemDock;
 class RangePanel;
 class TimelinePane;
 class TimelineToolBar;
+class TransportBar;
 class UpdateMenu;
 class ZoneCombo;
 
-/// The client's window: cameras and events, the timeline that shows the checked ones, and the lines
-/// that could not be loaded.
+/// The client's window: cameras, the picture of one of them, and events; the timeline that shows
+/// the checked ones, and what plays it; the lines that could not be loaded.
 class ReviewWindow : public CorvelGui::PMainWindow
 {
     Q_OBJECT
@@ -55,10 +58,12 @@ protected:
 
 private:
     QWidget* createContent();
+    QWidget* createTables(QWidget* parent);
     void createToolBar(bool dark);
     void createMenus();
     void createStatusBar();
     void connectParts();
+    void connectPlayer();
     void retranslate();
 
     void openFolder();
@@ -74,10 +79,11 @@ private:
     TimeTexts m_times;
     DevicePane* m_devices;
     EventPane* m_events;
-    QLabel* m_timeLabel;
-    QLabel* m_viewLabel;
+    PlaybackPane* m_playback;
     RangePanel* m_ranges;
+    TransportBar* m_transport;
     TimelinePane* m_timeline;
+    Player* m_player;
     PreviewCard* m_preview;
     ProblemDock* m_problems;
     std::unique_ptr<LoadJob> m_loading;

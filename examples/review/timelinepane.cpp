@@ -1,14 +1,17 @@
 #include "timelinepane.h"
 
+#include <CorvelGui/Indicator>
 #include <CorvelGui/Ruler>
 #include <CorvelGui/TimelineScroll>
 #include <CorvelGui/ZoomTimeline>
 
+#include <QMouseEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using CorvelGui::Ruler;
 using CorvelGui::RulerMarker;
@@ -56,6 +59,10 @@ TimelinePane::TimelinePane(const QString& zoneName, QWidget* parent)
             });
     connect(m_ruler, &Ruler::previewPositionChanged, this, &TimelinePane::showPreview);
 
+    for (QWidget* part : QList<QWidget*>{m_ruler, m_ruler->findChild<CorvelGui::Indicator*>(),
+                                         m_timeline->timelineScroll()})
+        part->installEventFilter(this);
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_timeline);
@@ -67,6 +74,7 @@ void TimelinePane::setPeriod(const TimeSpan& period)
     m_timeline->setTimeLimits(quint64(period.begin), quint64(period.end));
     clearRanges();
     if (period.isEmpty()) {
+        setCurrentTime(0);
         Q_EMIT viewChanged();
         return;
     }
@@ -124,6 +132,41 @@ void TimelinePane::setCurrentTime(qint64 msecs)
     Q_EMIT currentTimeChanged();
 }
 
+void TimelinePane::playTo(qint64 msecs)
+{
+    if (m_period.isEmpty())
+        return;
+    const TimeSpan shown = view();
+    if (!isInView(msecs)) {
+        if (isInView(m_currentTime)) {
+            changeView([&] { turnPagesTo(msecs); });
+        } else {
+            // The ruler follows its indicator wherever it is set.
+            m_ruler->blockSignalTimeLineViewChanged(true);
+            m_timeline->setIndicatorPosition(quint64(msecs));
+            beginViewAt(shown.begin);
+            m_timeline->timelineScroll()->onCenterPositionChanged(
+                m_ruler->getCurrentCenterPosition());
+            m_ruler->blockSignalTimeLineViewChanged(false);
+        }
+    }
+    setCurrentTime(msecs);
+}
+
+void TimelinePane::showCurrentTime()
+{
+    if (!m_period.isEmpty() && !isInView(m_currentTime))
+        changeView([this] { turnPagesTo(m_currentTime); });
+}
+
+void TimelinePane::goTo(qint64 msecs)
+{
+    if (isInView(msecs))
+        setCurrentTime(msecs);
+    else
+        jumpTo(msecs);
+}
+
 void TimelinePane::jumpTo(qint64 msecs)
 {
     if (m_period.isEmpty())
@@ -150,16 +193,45 @@ void TimelinePane::jumpTo(qint64 msecs, qint64 span)
 void TimelinePane::centreOn(qint64 msecs)
 {
     const TimeSpan shown = view();
-    const qint64 span = shown.end - shown.begin;
-    const qint64 begin =
-        std::clamp(msecs - span / 2, m_period.begin, std::max(m_period.begin, m_period.end - span));
-    const qint64 middle = begin + span / 2;
-    m_ruler->onTimelineOffsetChanged(double(middle - m_period.begin) /
+    beginViewWithin(msecs - (shown.end - shown.begin) / 2);
+}
+
+void TimelinePane::turnPagesTo(qint64 msecs)
+{
+    const TimeSpan shown = view();
+    const qint64 page = shown.end - shown.begin;
+    const qint64 distance = msecs - shown.begin;
+    const qint64 pages = distance / page - (distance % page < 0 ? 1 : 0);
+    beginViewWithin(shown.begin + pages * page);
+}
+
+void TimelinePane::beginViewWithin(qint64 msecs)
+{
+    const TimeSpan shown = view();
+    const qint64 latest = m_period.end - (shown.end - shown.begin);
+    beginViewAt(std::clamp(msecs, m_period.begin, std::max(m_period.begin, latest)));
+}
+
+void TimelinePane::beginViewAt(qint64 msecs)
+{
+    const TimeSpan shown = view();
+    const qint64 middle = msecs + (shown.end - shown.begin) / 2;
+    // The ruler cuts off what is less than a millisecond.
+    constexpr double half = 0.5;
+    m_ruler->onTimelineOffsetChanged((double(middle - m_period.begin) + half) /
                                      double(m_period.end - m_period.begin));
+}
+
+// As the ruler sees it, which lets an indicator stand on both ends.
+bool TimelinePane::isInView(qint64 msecs) const
+{
+    const TimeSpan shown = view();
+    return shown.begin <= msecs && msecs <= shown.end;
 }
 
 void TimelinePane::setSearchRange(const TimeSpan& range)
 {
+    m_searchRange = range;
     m_timeline->onZoomTimeLineOperation({.code = ZoomTimelineOperation::setSearchRange,
                                          .from = inZone(range.begin),
                                          .to = inZone(range.end)});
@@ -173,6 +245,7 @@ void TimelinePane::setResultRange(const TimeSpan& range, const ResultLook& look)
 
 void TimelinePane::clearRanges()
 {
+    m_searchRange = {};
     m_timeline->onZoomTimeLineOperation({.code = ZoomTimelineOperation::clearSearchRange});
     m_ruler->setResultTimeRange({}, {}, false, false, false, false);
 }
@@ -187,6 +260,38 @@ void TimelinePane::showPreview(quint64 msecs, const QPoint& position, bool onMar
     m_ruler->setPreviewIndicatorPosition(msecs);
     m_ruler->onPreviewVisible(msecs > 0, false);
     Q_EMIT previewChanged(qint64(msecs), m_ruler->mapTo(this, QPoint(position.x(), 0)), onMarker);
+}
+
+bool TimelinePane::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto isLeft = [event] {
+        return static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    };
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        if (isLeft())
+            setHeld(true);
+        break;
+    case QEvent::MouseButtonRelease:
+        if (isLeft())
+            setHeld(false);
+        break;
+    case QEvent::Hide:
+    case QEvent::WindowDeactivate:
+        // The release may go elsewhere, such as to a dialog.
+        setHeld(false);
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void TimelinePane::setHeld(bool held)
+{
+    if (std::exchange(m_held, held) != held)
+        Q_EMIT heldChanged(held);
 }
 
 TimeSpan TimelinePane::view() const

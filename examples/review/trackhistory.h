@@ -19,6 +19,10 @@ public:
     TrackState stateAt(qint64 msecs) const;
     /// Milliseconds that are recorded. What overlaps counts once.
     qint64 recordedTime() const;
+    /// Empty if nothing is known.
+    const CorvelGui::TimeSpan& described() const { return m_described; }
+    /// Sorted, none empty, with a gap between any two.
+    const QList<CorvelGui::TimeSpan>& recorded() const { return m_recorded; }
 
 private:
     CorvelGui::TimeSpan m_described;

@@ -5,6 +5,7 @@
 
 #include <CorvelGui/PTableWidget>
 #include <CorvelGui/Ruler>
+#include <CorvelGui/TarvoDateTimeView>
 
 #include <QAction>
 #include <QLabel>
@@ -42,6 +43,10 @@ struct SampleWindow
     bool says(const QString& text) const
     {
         return std::ranges::count(window.findChildren<QLabel*>(), text, &QLabel::text) > 0;
+    }
+    bool showsTime(const QString& text) const
+    {
+        return window.findChild<CorvelGui::TarvoDateTimeView*>()->shownText() == text;
     }
     CorvelGui::Ruler* ruler() const { return window.findChild<CorvelGui::Ruler*>(); }
     QTreeView* table(const QString& accessibleName) const

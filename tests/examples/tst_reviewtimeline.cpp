@@ -178,7 +178,7 @@ void TestReviewTimeline::markersOfCheckedTracks()
     QTest::mouseClick(shownMarkers(ruler).last(), Qt::LeftButton);
     QCOMPARE(events->currentRow(), 0);
     QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[2].time);
-    QVERIFY(sample.says(u"Mon 02.03.2026 18:00:00.000 UTC"_s));
+    QVERIFY(sample.showsTime(u"02 Mar 18:00:00"_s));
     QCOMPARE(viewSpan(ruler), span);
     QTest::mouseDClick(shownMarkers(ruler).first(), Qt::LeftButton);
     QCOMPARE(events->currentRow(), 1);
@@ -219,7 +219,7 @@ void TestReviewTimeline::eventsAreOpened()
 void TestReviewTimeline::indicatorIsPlaced()
 {
     const SampleWindow sample(u"UTC"_s, {}, smallReview());
-    QVERIFY(sample.says(u"Mon 02.03.2026 00:00:00.000 UTC"_s));
+    QVERIFY(sample.showsTime(u"02 Mar 00:00:00"_s));
     Ruler* ruler = sample.ruler();
     QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(ruler->width() / 3, 5));
     QVERIFY(std::abs(qint64(ruler->getIndicatorMSecs()) - monday - 8 * hour) < 10 * minute);
@@ -231,7 +231,7 @@ void TestReviewTimeline::indicatorIsPlaced()
     QTRY_VERIFY(qint64(ruler->getIndicatorMSecs()) > before + 3 * hour);
     const QDateTime time =
         QDateTime::fromMSecsSinceEpoch(qint64(ruler->getIndicatorMSecs()), Qt::UTC);
-    QVERIFY(sample.says(time.toString(u"'Mon' dd.MM.yyyy HH:mm:ss.zzz 'UTC'"_s)));
+    QVERIFY(sample.showsTime(time.toString(u"dd MMM HH:mm:ss"_s)));
     QTest::mouseRelease(indicator, Qt::LeftButton);
     QVERIFY(!sample.events()->currentIndex().isValid());
 }

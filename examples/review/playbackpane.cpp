@@ -1,0 +1,134 @@
+#include "playbackpane.h"
+
+#include <CorvelGui/ZoomGraphicsView>
+
+#include <QComboBox>
+#include <QGraphicsPixmapItem>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using CorvelGui::TrackDescription;
+using CorvelGui::ZoomGraphicsView;
+
+namespace Review {
+
+namespace {
+
+// As dark as the picture of a camera without a recording, in both looks.
+constexpr QColor background(28, 30, 32);
+constexpr QSize smallestPicture(320, 180);
+
+} // namespace
+
+PlaybackPane::PlaybackPane(const TimeTexts& times, QWidget* parent)
+    : QWidget(parent)
+    , m_cameras(new QComboBox(this))
+    , m_scene(QRectF({}, CameraPicture::size))
+    , m_view(new ZoomGraphicsView(&m_scene, QVariant(), this))
+    , m_item(m_scene.addPixmap({}))
+    , m_times(times)
+{
+    // Leaves the space bar to the player after a choice with the mouse.
+    m_cameras->setFocusPolicy(Qt::TabFocus);
+    m_cameras->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_item->setTransformationMode(Qt::SmoothTransformation);
+    m_scene.setBackgroundBrush(background);
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setMinimumSize(smallestPicture);
+
+    connect(m_cameras, &QComboBox::currentIndexChanged, this, &PlaybackPane::makeFeed);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_cameras);
+    layout->addWidget(m_view, 1);
+    retranslate();
+}
+
+void PlaybackPane::setTracks(const QList<TrackDescription>& tracks)
+{
+    const QString chosen = m_cameras->currentData().toString();
+    {
+        const QSignalBlocker blocker(m_cameras);
+        m_tracks = tracks;
+        m_cameras->clear();
+        for (const TrackDescription& track : tracks)
+            m_cameras->addItem(track.name.simplified(), track.identifier);
+        m_cameras->setCurrentIndex(
+            std::max(m_cameras->findData(chosen), tracks.isEmpty() ? -1 : 0));
+        m_cameras->setEnabled(!tracks.isEmpty());
+    }
+    makeFeed();
+}
+
+void PlaybackPane::setEvents(const QList<Event>& events)
+{
+    m_events = events;
+    makeFeed();
+}
+
+void PlaybackPane::setTimes(const TimeTexts& times)
+{
+    m_times = times;
+    makeFeed();
+}
+
+void PlaybackPane::setCamera(const QString& identifier)
+{
+    const int index = m_cameras->findData(identifier);
+    if (index >= 0)
+        m_cameras->setCurrentIndex(index);
+}
+
+void PlaybackPane::setTime(qint64 msecs)
+{
+    m_time = msecs;
+    showPicture();
+}
+
+void PlaybackPane::retranslate()
+{
+    m_cameras->setAccessibleName(tr("Camera"));
+    m_cameras->setToolTip(tr("The camera whose picture is shown"));
+    m_cameras->setPlaceholderText(tr("No camera"));
+    m_view->setAccessibleName(tr("Picture of the camera"));
+    m_shown.reset();
+    showPicture();
+}
+
+void PlaybackPane::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    showPicture();
+}
+
+void PlaybackPane::makeFeed()
+{
+    const int index = m_cameras->currentIndex();
+    m_feed.reset();
+    if (index >= 0)
+        m_feed.emplace(m_tracks.at(index), m_events, m_times);
+    showPicture();
+    Q_EMIT feedChanged();
+}
+
+void PlaybackPane::showPicture()
+{
+    if (!isVisible())
+        return;
+    if (!m_feed || m_time == 0) {
+        m_item->setPixmap({});
+        m_shown.reset();
+        return;
+    }
+    const CameraScene scene = m_feed->sceneAt(m_time);
+    if (m_shown == scene)
+        return;
+    m_item->setPixmap(QPixmap::fromImage(m_picture.draw(scene)));
+    m_shown = scene;
+}
+
+} // namespace Review

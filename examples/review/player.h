@@ -1,0 +1,79 @@
+#pragma once
+
+#include "playerclock.h"
+#include "playerkeys.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+namespace Review {
+
+class TimelinePane;
+class TrackHistory;
+
+/// Plays the time of a timeline as a playbar says.
+///
+/// The time is always the timeline's: whatever places the indicator is a seek, and playing goes on
+/// from there. While the user holds the timeline with the mouse, the time stands still.
+class Player : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Milliseconds of a clock that never goes back.
+    using MonotonicClock = std::function<qint64()>;
+
+    /// @p now replaces the clock of this machine.
+    Player(TimelinePane* timeline, CorvelGui::PPlaybar* bar, QObject* parent = nullptr,
+           MonotonicClock now = {});
+
+    /// Pauses, and plays from begin to end of @p period from now on.
+    void setPeriod(const CorvelGui::TimeSpan& period);
+    /// The track whose begin and end have buttons, and whose gaps can be skipped; null for none.
+    void setTrack(const TrackHistory* track);
+    void setSkippingGaps(bool skip);
+
+    /// See PlayerKeys.
+    void setShortcuts(const PlayerKeys::Shortcuts& shortcuts) { m_keys.setShortcuts(shortcuts); }
+    const PlayerKeys::Shortcuts& shortcuts() const { return m_keys.shortcuts(); }
+
+    bool isPlaying() const { return m_playing; }
+
+public Q_SLOTS:
+    void pause();
+    /// Plays up to now. Called every 40 ms while playing.
+    void advance();
+
+Q_SIGNALS:
+    /// Emitted whenever isPlaying() changed.
+    void playingChanged(bool playing);
+    /// Emitted when playing or a step ended early, because gaps are skipped and nothing is recorded
+    /// further on.
+    void ranOutOfRecordings();
+
+private:
+    void followBar();
+    void followTimeline();
+    void hold(bool held);
+    void step(int frames);
+    void show();
+    void applyGaps();
+    void report(PlayerClock::Stop stop);
+
+    TimelinePane* m_timeline;
+    CorvelGui::PPlaybar* m_bar;
+    PlayerKeys m_keys;
+    MonotonicClock m_now;
+    QTimer m_timer;
+    PlayerClock m_clock;
+    CorvelGui::TimeSpan m_period;
+    CorvelGui::TimeSpan m_track;
+    bool m_hasTrack = false;
+    bool m_skippingGaps = false;
+    bool m_held = false;
+    bool m_playing = false;
+};
+
+} // namespace Review

@@ -1,0 +1,225 @@
+#include "player.h"
+#include "samplewindow.h"
+#include "testsupport.h"
+#include "timelinepane.h"
+#include "times.h"
+#include "trackhistory.h"
+
+#include <CorvelGui/Indicator>
+#include <CorvelGui/TarvoDateTimeView>
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+using CorvelGui::PPlaybar;
+using CorvelGui::Ruler;
+using CorvelGui::TimeSpan;
+
+namespace {
+
+/// A player in the hand of a test, at the begin of three days of which hours 1, 2 and 30 are
+/// recorded.
+struct Playing
+{
+    Playing() : player(&timeline, &bar, nullptr, [this] { return now; })
+    {
+        timeline.resize(1000, 120);
+        timeline.show();
+        player.setPeriod(period);
+        player.setTrack(&history);
+        timeline.setPeriod(period);
+        timeline.jumpTo(monday, hour);
+    }
+    /// As the user does, with as many clicks as it takes.
+    void setSpeed(PPlaybar::PlaybackState state, PPlaybar::PlaybackSpeed speed)
+    {
+        bar.setPlaybackState(state);
+        bar.setPlaybackSpeed(speed);
+        Q_EMIT bar.playbackStateChanged(state);
+    }
+    void tick(qint64 msecs)
+    {
+        now += msecs;
+        player.advance();
+    }
+
+    const TimeSpan period{monday, monday + 3 * day};
+    const TrackHistory history{{u"a"_s,
+                                u"Gate"_s,
+                                monday,
+                                monday + 2 * day,
+                                {{monday + hour, monday + 2 * hour},
+                                 {monday + 2 * hour, monday + 3 * hour},
+                                 {monday + 30 * hour, monday + 31 * hour}}}};
+    qint64 now = 500;
+    TimelinePane timeline{u"UTC"_s};
+    PPlaybar bar;
+    Player player;
+};
+
+} // namespace
+
+class TestReviewPlayback : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
+    void aDayTurnsPages();
+    void viewStaysWhereTheUserLooks();
+    void handHoldsTheTime();
+    void endsPause();
+    void spaceBarIsShared();
+};
+
+void TestReviewPlayback::aDayTurnsPages()
+{
+    for (const bool forwards : {true, false}) {
+        Playing playing;
+        const qint64 start = forwards ? monday + 90'001 : monday + 2 * day;
+        playing.timeline.goTo(start);
+        playing.setSpeed(forwards ? PPlaybar::FastForward : PPlaybar::FastBackward,
+                         PPlaybar::Speed1024);
+        int pages = 0;
+        for (qint64 elapsed = 0; elapsed * 1024 < day;) {
+            const TimeSpan before = playing.timeline.view();
+            const qint64 interval = 33 + elapsed % 17;
+            playing.tick(interval);
+            elapsed += interval;
+
+            const qint64 position = start + (forwards ? 1024 : -1024) * elapsed;
+            QCOMPARE(playing.timeline.currentTime(), position);
+            const TimeSpan after = playing.timeline.view();
+            QVERIFY(after.begin <= position && position <= after.end);
+            if (after == before)
+                continue;
+            QVERIFY(position < before.begin || position > before.end);
+            QCOMPARE(after.begin - before.begin, forwards ? hour : -hour);
+            ++pages;
+        }
+        QCOMPARE(pages, 24);
+    }
+}
+
+void TestReviewPlayback::viewStaysWhereTheUserLooks()
+{
+    Playing playing;
+    playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed64);
+    for (int i = 0; i < 5; ++i)
+        playing.timeline.stepLater();
+    const TimeSpan elsewhere = playing.timeline.view();
+    const QSignalSpy views(&playing.timeline, &TimelinePane::viewChanged);
+    for (int i = 0; i < 50; ++i) {
+        playing.tick(1'000);
+        QCOMPARE(playing.timeline.view(), elsewhere);
+        QCOMPARE(playing.timeline.currentTime(), monday + (i + 1) * 64'000);
+    }
+    QVERIFY(views.isEmpty());
+    // It counts as followed again once it has come into view, and when the user starts to play.
+    playing.tick(elsewhere.end - playing.timeline.currentTime());
+    QVERIFY(playing.timeline.view() == elsewhere);
+    playing.player.pause();
+    playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
+    QVERIFY(playing.timeline.view() != elsewhere);
+}
+
+void TestReviewPlayback::handHoldsTheTime()
+{
+    Playing playing;
+    playing.timeline.goTo(monday + 10 * minute);
+    playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
+    playing.tick(1'000);
+    auto* ruler = playing.timeline.findChild<Ruler*>();
+    auto* indicator = ruler->findChild<CorvelGui::Indicator*>();
+    const QPoint grip(indicator->hotSpot(), 10);
+    QTest::mousePress(indicator, Qt::LeftButton, {}, grip);
+    playing.tick(60'000);
+    QCOMPARE(playing.timeline.currentTime(), monday + 10 * minute + 1'000);
+
+    QTest::mouseMove(indicator, grip + QPoint(200, 0));
+    const qint64 dragged = playing.timeline.currentTime();
+    QVERIFY(dragged > monday + 20 * minute);
+    playing.tick(60'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged);
+    QTest::mouseRelease(indicator, Qt::LeftButton, {}, QPoint(indicator->hotSpot(), 10));
+    playing.tick(2'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged + 2'000);
+
+    // Dragging the scale moves the view only; the release goes to a dialog.
+    const TimeSpan view = playing.timeline.view();
+    QTest::mousePress(ruler, Qt::LeftButton, {}, QPoint(700, 50));
+    playing.tick(60'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged + 2'000);
+    QCOMPARE(playing.timeline.view(), view);
+    QEvent deactivate(QEvent::WindowDeactivate);
+    QApplication::sendEvent(ruler, &deactivate);
+    playing.tick(3'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged + 5'000);
+}
+
+void TestReviewPlayback::endsPause()
+{
+    struct Case
+    {
+        bool skip;
+        PPlaybar::PlaybackState state;
+        qint64 from;
+        qint64 to;
+    };
+    using enum PPlaybar::PlaybackState;
+    for (const Case& end :
+         {Case{false, FastForward, 71 * hour, 72 * hour}, Case{false, FastBackward, 1 * hour, 0},
+          Case{true, FastForward, 30 * hour + 1, 31 * hour},
+          Case{true, FastBackward, 3 * hour - 1, 1 * hour}}) {
+        Playing playing;
+        playing.player.setSkippingGaps(end.skip);
+        playing.timeline.goTo(monday + end.from);
+        const QSignalSpy states(&playing.bar, &PPlaybar::playbackStateChanged);
+        const QSignalSpy ranOut(&playing.player, &Player::ranOutOfRecordings);
+        playing.setSpeed(end.state, PPlaybar::Speed2);
+        playing.tick(2 * hour);
+        QCOMPARE(playing.timeline.currentTime(), monday + end.to);
+        QCOMPARE(playing.bar.playbackState(), Pause);
+        QVERIFY(!playing.player.isPlaying());
+        QCOMPARE(states.size(), 1); // the user's own
+        QCOMPARE(ranOut.size(), end.skip ? 1 : 0);
+    }
+
+    Playing playing;
+    playing.player.setSkippingGaps(true);
+    playing.setSpeed(SlowForward, PPlaybar::Speed1_8);
+    playing.tick(8);
+    QCOMPARE(playing.timeline.currentTime(), monday + hour);
+    playing.tick(8'001);
+    Q_EMIT playing.bar.frameForwardClicked();
+    QCOMPARE(playing.timeline.currentTime(), monday + hour + 1'040);
+    Q_EMIT playing.bar.trackEndClicked();
+    QCOMPARE(playing.timeline.currentTime(), monday + 2 * day);
+}
+
+void TestReviewPlayback::spaceBarIsShared()
+{
+    const SampleWindow sample(u"UTC"_s);
+    auto* bar = sample.window.findChild<PPlaybar*>();
+    auto* view = sample.window.findChild<CorvelGui::TarvoDateTimeView*>();
+    sample.ruler()->setFocus();
+    QTest::keyClick(sample.ruler(), Qt::Key_Space);
+    QTRY_COMPARE(bar->playbackState(), PPlaybar::Play);
+    QTRY_VERIFY(sample.ruler()->getIndicatorMSecs() >= monday);
+    QTest::keyClick(sample.ruler(), Qt::Key_Space);
+    QTRY_COMPARE(bar->playbackState(), PPlaybar::Pause);
+    QCOMPARE(view->shownText().left(6), u"02 Mar"_s);
+
+    // A check box keeps it.
+    QAbstractItemView* tracks = sample.table(u"Tracks"_s);
+    tracks->setCurrentIndex(tracks->model()->index(1, 0));
+    tracks->setFocus();
+    QTest::keyClick(tracks, Qt::Key_Space);
+    QCOMPARE(tracks->model()->index(1, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+}
+
+QTEST_MAIN(TestReviewPlayback)
+#include "tst_reviewplayback.moc"
