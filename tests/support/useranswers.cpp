@@ -1,8 +1,5 @@
 #include "useranswers.h"
 
-#include <CorvelGui/AppUpdaterDialog>
-#include <CorvelGui/PCheckVersionUpdateDialog>
-
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
