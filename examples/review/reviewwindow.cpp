@@ -3,6 +3,7 @@
 #include "devicepane.h"
 #include "eventmarkers.h"
 #include "eventpane.h"
+#include "exportpanel.h"
 #include "loadjob.h"
 #include "playbackpane.h"
 #include "player.h"
@@ -84,6 +85,7 @@ void ReviewWindow::setReview(const ReviewData& review, const ProblemList& proble
     m_problems->setProblems(problems);
     resizeDocks({m_problems}, {problemDockHeight}, Qt::Vertical);
     showCheckedTracks();
+    enableExport();
     showCounts();
     showView();
     showCurrentTime();
@@ -208,6 +210,8 @@ void ReviewWindow::createMenus()
     m_open = m_fileMenu->addAction(QString());
     m_open->setShortcut(QKeySequence::Open);
     m_fileMenu->addAction(m_events->exportAction());
+    m_export = m_fileMenu->addAction(QString());
+    m_export->setShortcut(Qt::CTRL | Qt::Key_E);
     m_fileMenu->addSeparator();
     m_quit = m_fileMenu->addAction(QString());
     m_quit->setShortcut(QKeySequence::Quit);
@@ -233,6 +237,8 @@ void ReviewWindow::createStatusBar()
     m_zoneLabel = new QLabel(this);
     m_zoneLabel->setBuddy(m_zone);
     statusBar()->addWidget(m_countsLabel);
+    m_exportPanel = new ExportPanel(this);
+    statusBar()->addPermanentWidget(m_exportPanel);
     statusBar()->addPermanentWidget(m_zoneLabel);
     statusBar()->addPermanentWidget(m_zone);
 }
@@ -240,6 +246,10 @@ void ReviewWindow::createStatusBar()
 void ReviewWindow::connectParts()
 {
     connect(m_open, &QAction::triggered, this, &ReviewWindow::openFolder);
+    connect(m_export, &QAction::triggered, this, &ReviewWindow::exportPictures);
+    connect(m_exportPanel, &ExportPanel::exportingChanged, this, &ReviewWindow::enableExport);
+    connect(m_exportPanel, &ExportPanel::reported, this,
+            [this](const QString& text) { statusBar()->showMessage(text, readingTime); });
     connect(m_quit, &QAction::triggered, this, &QWidget::close);
     connect(m_darkLook, &QAction::toggled, this, &ReviewWindow::createDarkFusionStyle);
     connect(m_toolBar->showRanges(), &QAction::toggled, m_ranges, &QWidget::setVisible);
@@ -276,6 +286,7 @@ void ReviewWindow::connectPlayer()
         const CameraFeed* feed = m_playback->feed();
         m_player->setTrack(feed ? &feed->history() : nullptr);
         m_transport->timeView()->setDeviceName(feed ? feed->camera() : QString());
+        enableExport();
     });
     connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
     connect(m_transport->timeView(), &TarvoDateTimeView::jumoToTime, m_timeline,
@@ -297,6 +308,8 @@ void ReviewWindow::retranslate()
     m_toolBar->retranslate();
     m_fileMenu->setTitle(tr("&File"));
     m_open->setText(tr("&Open folder…"));
+    m_export->setText(tr("Export &pictures…"));
+    m_exportPanel->retranslate();
     m_quit->setText(tr("&Quit"));
     m_viewMenu->setTitle(tr("&View"));
     m_updateMenu->retranslate();
@@ -309,6 +322,18 @@ void ReviewWindow::retranslate()
     showCounts();
     showView();
     showCurrentTime();
+}
+
+void ReviewWindow::exportPictures()
+{
+    if (const CameraFeed* feed = m_playback->feed())
+        m_exportPanel->ask(*feed, m_timeline->view(), m_timeline->searchRange());
+}
+
+void ReviewWindow::enableExport()
+{
+    m_export->setEnabled(m_playback->feed() && !m_timeline->view().isEmpty() &&
+                         !m_exportPanel->isExporting());
 }
 
 void ReviewWindow::setZone(const QString& name)

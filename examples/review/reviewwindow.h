@@ -15,6 +15,7 @@ namespace Review {
 
 class DevicePane;
 class EventPane;
+class ExportPanel;
 class LoadJob;
 class PlaybackPane;
 class Player;
@@ -69,6 +70,8 @@ private:
     void openFolder();
     void finishLoading();
     void setZone(const QString& name);
+    void exportPictures();
+    void enableExport();
     void showCounts();
     void showCheckedTracks();
     void showView();
@@ -92,10 +95,12 @@ private:
     QAction* m_darkLook;
     QMenu* m_fileMenu;
     QAction* m_open;
+    QAction* m_export;
     QAction* m_quit;
     QMenu* m_viewMenu;
     UpdateMenu* m_updateMenu;
 
+    ExportPanel* m_exportPanel;
     QLabel* m_countsLabel;
     QLabel* m_zoneLabel;
     ZoneCombo* m_zone;
