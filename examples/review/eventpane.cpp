@@ -33,7 +33,7 @@ EventPane::EventPane(const TimeTexts& times, QWidget* parent)
     connect(m_export, &QAction::triggered, m_table, &EventTable::exportRows);
     connect(m_table, &QTableWidget::activated, this, [this](const QModelIndex& index) {
         if (!m_table->isRowHidden(index.row()))
-            Q_EMIT eventOpened(m_list.event(m_table->eventOf(index.row())).time);
+            Q_EMIT eventOpened(m_table->eventOf(index.row()));
     });
     retranslate();
 }

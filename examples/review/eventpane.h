@@ -41,7 +41,7 @@ public:
 
 Q_SIGNALS:
     /// Emitted when the user opens an event: with a double click, or with Return.
-    void eventOpened(qint64 msecs);
+    void eventOpened(qsizetype index);
 
 private:
     void showRows();

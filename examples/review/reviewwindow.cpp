@@ -148,6 +148,7 @@ void ReviewWindow::showMiddleDay()
 
     const auto event = std::ranges::lower_bound(m_review.events, time, {}, &Event::time);
     if (event != m_review.events.end() && event->time < time + day / 2) {
+        showCameraOf(event - m_review.events.begin());
         m_timeline->setCurrentTime(event->time);
         m_events->select(event - m_review.events.begin());
     }
@@ -255,16 +256,22 @@ void ReviewWindow::connectParts()
     connect(m_toolBar->showRanges(), &QAction::toggled, m_ranges, &QWidget::setVisible);
 
     connect(m_devices, &DevicePane::checkedTracksChanged, this, &ReviewWindow::showCheckedTracks);
-    connect(m_events, &EventPane::eventOpened, this,
-            [this](qint64 msecs) { m_timeline->jumpTo(msecs); });
+    connect(m_events, &EventPane::eventOpened, this, [this](qsizetype event) {
+        showCameraOf(event);
+        m_timeline->jumpTo(m_review.events.at(event).time);
+    });
 
     connect(m_timeline, &TimelinePane::viewChanged, this, &ReviewWindow::showView);
     connect(m_timeline, &TimelinePane::currentTimeChanged, this, &ReviewWindow::showCurrentTime);
-    connect(m_timeline, &TimelinePane::markerChosen, this,
-            [this](const QUuid& marker) { m_events->select(EventMarkers::indexOf(marker)); });
+    connect(m_timeline, &TimelinePane::markerChosen, this, [this](const QUuid& marker) {
+        const qsizetype event = EventMarkers::indexOf(marker);
+        m_events->select(event);
+        showCameraOf(event);
+    });
     connect(m_timeline, &TimelinePane::previewChanged, this, &ReviewWindow::showPreview);
 
     connectPlayer();
+    enableExport();
 
     connect(m_ranges, &RangePanel::viewWanted, this,
             [this] { m_ranges->setRange(m_timeline->view()); });
@@ -381,6 +388,12 @@ void ReviewWindow::showView()
                                  : tr("%1 – %2 (%3)")
                                        .arg(m_times.dateTime(view.begin),
                                             m_times.dateTime(view.end), m_times.zoneName()));
+}
+
+void ReviewWindow::showCameraOf(qsizetype event)
+{
+    if (event >= 0 && event < m_review.events.size())
+        m_playback->setCamera(m_review.events.at(event).track);
 }
 
 void ReviewWindow::showCurrentTime()

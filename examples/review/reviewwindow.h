@@ -75,6 +75,7 @@ private:
     void showCounts();
     void showCheckedTracks();
     void showView();
+    void showCameraOf(qsizetype event);
     void showCurrentTime();
     void showPreview(qint64 msecs, const QPoint& position, bool onMarker);
 

@@ -34,6 +34,7 @@ TransportBar::TransportBar(QWidget* parent)
     layout->addWidget(m_playbar);
     layout->addWidget(m_skipGaps);
     layout->addWidget(m_view, 1);
+    setPlayable(false);
     retranslate();
 }
 
