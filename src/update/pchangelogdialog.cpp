@@ -56,7 +56,7 @@ PChangeLogDialog::PChangeLogDialog(QWidget* parent)
 void PChangeLogDialog::setHtml(const QString& html)
 {
     m_hasMarkup = html.contains(u'<');
-    m_log = m_hasMarkup ? harmlessHtml(html) : html;
+    m_log = harmlessHtml(html); // a plain text can be too long, too
     showLog();
     m_browser->moveCursor(QTextCursor::Start);
     m_browser->ensureCursorVisible();

@@ -4,6 +4,21 @@
 
 namespace CorvelGui {
 
+namespace {
+
+// A window would be busy for minutes with a line of a million.
+constexpr qsizetype longestDate = 100;
+
+QString shortened(QString date)
+{
+    date.truncate(longestDate);
+    if (date.size() == longestDate && date.back().isHighSurrogate())
+        date.chop(1);
+    return date.trimmed();
+}
+
+} // namespace
+
 std::optional<VersionFile> VersionFile::parse(QByteArrayView content)
 {
     const QString text = QString::fromUtf8(content);
@@ -24,7 +39,7 @@ std::optional<VersionFile> VersionFile::parse(QByteArrayView content)
     return VersionFile{.version = *version,
                        .updateFile = updateFile,
                        .readmeFile = value(u"readmefile"),
-                       .releaseDate = value(u"releasedate")};
+                       .releaseDate = shortened(value(u"releasedate"))};
 }
 
 } // namespace CorvelGui

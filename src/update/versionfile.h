@@ -23,7 +23,7 @@ struct VersionFile
     QString updateFile = {};
     /// "readmefile": the name of the release notes; may be empty.
     QString readmeFile = {};
-    /// "releasedate": any text; may be empty.
+    /// "releasedate": any text of up to 100 characters, the others are left out; may be empty.
     QString releaseDate = {};
 
     /// Nothing unless there are an update file and a version that begins with a number.

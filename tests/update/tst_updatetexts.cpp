@@ -85,6 +85,8 @@ void TestUpdateTexts::versionFilesAreRead_data()
         "a\nreleasedate=\xc3",
         "1.0.0.0|\ufffd"
         "a||\ufffd");
+    row("long date", "version=1\nupdatefile=a\nreleasedate=" + QByteArray(1 << 20, 'x'),
+        ("1.0.0.0|a||" + QByteArray(100, 'x')).constData());
     row("NUL in a line", QByteArray("x\0=1\nversion=1\nupdatefile=a", 27), "1.0.0.0|a||");
     row("key with a blank", "version =2.1.0.5\nupdatefile=a", "none");
     row("key in capitals", "Version=2.1.0.5\nupdatefile=a", "none");
