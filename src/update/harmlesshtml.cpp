@@ -106,9 +106,11 @@ private:
     // out a line takes time that grows with the square of its length.
     qsizetype append(QStringView character)
     {
-        m_wordLength = character.front().isSpace() ? 0 : m_wordLength + 1;
+        constexpr QChar breakPlace(0x200b);
+        const bool isBreak = character.front().isSpace() || character.front() == breakPlace;
+        m_wordLength = isBreak ? 0 : m_wordLength + 1;
         if (m_wordLength > longestWord) {
-            m_result += QChar(0x200b);
+            m_result += breakPlace;
             m_wordLength = 1;
         }
         m_result += character;
@@ -162,16 +164,16 @@ private:
     {
         QString link;
         while (true) {
-            rest = rest.trimmed();
+            rest = withoutBlanks(rest);
             if (rest.isEmpty() || rest.front() == u'>')
                 break;
             const qsizetype nameEnd = lengthUntil(rest, u"=> \t\r\n");
             const QStringView name = rest.left(std::max(nameEnd, qsizetype(1)));
             rest = rest.mid(name.size());
-            const QStringView afterBlanks = rest.trimmed();
+            const QStringView afterBlanks = withoutBlanks(rest);
             if (!afterBlanks.startsWith(u'='))
                 continue;
-            rest = afterBlanks.mid(1).trimmed();
+            rest = withoutBlanks(afterBlanks.mid(1));
             const bool quoted = rest.startsWith(u'"') || rest.startsWith(u'\'');
             const QChar quote = quoted ? rest.front() : QChar();
             if (quoted)
@@ -184,6 +186,14 @@ private:
         }
         m_rest = rest.mid(1);
         return link;
+    }
+
+    // At its begin only: at the end there is the text behind the tag.
+    static QStringView withoutBlanks(QStringView text)
+    {
+        return text.mid(
+            std::find_if_not(text.begin(), text.end(), [](QChar c) { return c.isSpace(); }) -
+            text.begin());
     }
 
     static qsizetype lengthUntil(QStringView text, QStringView characters)
@@ -209,21 +219,29 @@ private:
     {
         if (!keptElements().contains(name))
             return;
-        endImplied(name);
+        const QString target = name == u"a" ? harmlessTarget(link) : QString();
+        const bool isKept = name == u"a" ? !target.isEmpty() : fitsTables(name);
+        if (isKept)
+            endImplied(name);
         if (name == u"br" || name == u"hr") {
             m_result += u'<' + name + u'>';
             return;
         }
         if (m_open.size() >= deepestNesting)
             return;
-        const QUrl target(QString(link).replace(u"&amp;"_s, u"&"_s));
-        const bool isKept = name == u"a" ? leadsToTheWeb(target) : fitsTables(name);
         m_open.append({name, isKept});
-        if (name == u"a" && isKept)
-            m_result +=
-                u"<a href=\"%1\">"_s.arg(target.toString(QUrl::FullyEncoded).toHtmlEscaped());
+        if (!target.isEmpty())
+            m_result += u"<a href=\"%1\">"_s.arg(target);
         else if (isKept)
             m_result += u'<' + name + u'>';
+    }
+
+    /// The address as an attribute holds it. Empty if it must not be followed.
+    static QString harmlessTarget(const QString& link)
+    {
+        const QUrl url(QString(link).replace(u"&amp;"_s, u"&"_s));
+        const QString target = url.toString(QUrl::FullyEncoded).toHtmlEscaped();
+        return leadsToTheWeb(url) && target.size() <= longestUrl ? target : QString();
     }
 
     void endImplied(const QString& beginning)
@@ -232,7 +250,7 @@ private:
             if (!implied.begins.contains(beginning))
                 continue;
             for (qsizetype i = m_open.size() - 1; i >= 0; --i) {
-                if (implied.inside.contains(m_open[i].name))
+                if (m_open[i].kept && implied.inside.contains(m_open[i].name))
                     break;
                 if (implied.ends.contains(m_open[i].name)) {
                     endUntil(i);
