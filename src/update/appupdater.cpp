@@ -12,6 +12,8 @@
 #include <QProgressDialog>
 #include <QUrl>
 
+#include <algorithm>
+
 using Corvel::CheckAppUpdate;
 using Corvel::FileDownloader;
 using Hueloft::PMessageBox;
@@ -128,6 +130,7 @@ void AppUpdater::createProgressDialog()
             &FileDownloader::cancelDownload);
     d->progress->setLabelText(u"Downloading Software Update..."_s);
     d->progress->setRange(0, 100);
+    d->progress->setAutoReset(false); // more than the release says may come
     d->progress->setValue(0);
     d->progress->setMinimumDuration(0);
 }
@@ -146,7 +149,7 @@ void AppUpdater::handleDownloadProgress(qint64 received, qint64 total)
 {
     const qint64 whole = total == -1 ? d->expectedSize : total;
     if (d->progress && whole > 0)
-        d->progress->setValue(int(received * 100 / whole));
+        d->progress->setValue(int(std::min(received * 100 / whole, qint64(100))));
 }
 
 void AppUpdater::handleDownloadError(const QString& text)
