@@ -29,8 +29,9 @@ class CORVELGUI_EXPORT OptionsDialog : public QDialog, public IUserSettings
 public:
     ~OptionsDialog() override;
 
-    /// The open dialog, or a new one with @p parent, showing that page. An id that does not exist
-    /// changes nothing. A caller that does not run the dialog owns it.
+    /// The open dialog, or a new one with @p parent, showing that page. A category that does not
+    /// exist changes nothing, an unknown page leaves the category's current one. A caller that does
+    /// not run the dialog owns it.
     static OptionsDialog* getSettingsDialog(QWidget* parent, const QString& category,
                                             const QString& page);
 

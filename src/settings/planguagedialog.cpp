@@ -101,7 +101,7 @@ void PLanguageDialog::addLanguage(const QString& fileName)
         return;
     const QString name = fileName.first(suffix);
     // A key may hold an underscore itself (en_US), and so may what stands before it (app_extra_de).
-    QString key = name.sliced(m_prefix.size() + 1);
+    QString key = name.mid(m_prefix.size() + 1);
     if (!m_supportedKeys.contains(key))
         key = name.sliced(name.lastIndexOf(u'_') + 1);
     if (!m_supportedKeys.contains(key))

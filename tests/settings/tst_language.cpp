@@ -162,6 +162,8 @@ void TestLanguage::dialogListsSupportedLanguages_data()
     QTest::newRow("with and without a country")
         << u"app"_s << List{u"de"_s, u"en_US"_s} << List{u"German"_s, u"English"_s} << u"en_US"_s;
     QTest::newRow("longer prefix") << u"app"_s << List{u"fr"_s} << List{u"French"_s} << u"fr"_s;
+    QTest::newRow("pattern for a prefix") // longer than the names that it finds
+        << u"[a][p][p]"_s << List{u"de"_s} << List{u"German"_s} << u"de"_s;
     QTest::newRow("one per language")
         << u"app"_s << List{u"de"_s, u"de_AT"_s} << List{u"German"_s} << u"de"_s;
     QTest::newRow("none supported") << u"app"_s << List() << List() << QString();
@@ -188,7 +190,7 @@ void TestLanguage::dialogListsSupportedLanguages()
     QTEST(items, "items");
     QTEST(dialog.getCurrentKey(), "chosen");
     const auto* buttons = dialog.findChild<QDialogButtonBox*>();
-    QCOMPARE(buttons->button(QDialogButtonBox::Ok)->isEnabled(), prefix == u"app"_s);
+    QCOMPARE(buttons->button(QDialogButtonBox::Ok)->isEnabled(), prefix != u"missing"_s);
 }
 
 void TestLanguage::dialogAppliesTheChoice()
