@@ -347,10 +347,6 @@ Möchten Sie diese Version herunterladen?</translation>
         <translation>Programmdatei (*.exe)</translation>
     </message>
     <message>
-        <source>The server sent less than it had announced.</source>
-        <translation>Der Server hat weniger gesendet als angekündigt.</translation>
-    </message>
-    <message>
         <source>Download failed</source>
         <translation>Download fehlgeschlagen</translation>
     </message>
