@@ -5,7 +5,6 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QTest>
-#include <QTextDocument>
 #include <QVariant>
 
 #include <functional>
@@ -45,7 +44,6 @@ class TestToolTipHelper : public WarningFreeTest
 private Q_SLOTS:
     void appends_data();
     void appends();
-    void markupStaysText();
 };
 
 void TestToolTipHelper::appends_data()
@@ -121,23 +119,6 @@ void TestToolTipHelper::appends()
     QCOMPARE(tip.GetToolTip(),
              u"<img src=\"data:image/png;base64,iVBO\">"_s + opening + u"</table>"_s);
     QCOMPARE(ToolTipHelper::GetAsteriks(u"äbc"_s), u"●●●"_s);
-}
-
-void TestToolTipHelper::markupStaysText()
-{
-    for (const QString& markup : {u"<b>bold</b>"_s, u"&amp;"_s, u"<img src=\"/etc/passwd\">"_s}) {
-        ToolTipHelper tip;
-        tip.AddRow(markup, markup);
-        tip.AddRow(markup, markup, Qt::red, true);
-        tip.AddRow(markup, 1, markup);
-        tip.AddRowNoBold(markup, markup, true);
-        tip.AddRowSpan2(markup);
-        tip.AddRowSpan2(markup, Qt::red, true);
-        tip.AddRowVariant(markup, markup);
-        QTextDocument shown;
-        shown.setHtml(tip.GetToolTip());
-        QCOMPARE(shown.toPlainText().count(markup), 12);
-    }
 }
 
 QTEST_MAIN(TestToolTipHelper)

@@ -103,7 +103,6 @@ private Q_SLOTS:
     void cancelEndsTheDownload();
     void goesAtAnyMoment_data();
     void goesAtAnyMoment();
-    void notesAreOpenedInTheBrowserOnly_data();
     void notesAreOpenedInTheBrowserOnly();
 
 public Q_SLOTS:
@@ -203,6 +202,7 @@ void TestAppUpdater::progressIsShown_data()
     QTest::addColumn<int>("value");
     QTest::newRow("of the transfer") << qint64(200) << 10 << 0;
     QTest::newRow("of the release") << qint64(-1) << 10 << 10;
+    QTest::newRow("more than of the release") << qint64(-1) << 1 << 100;
     QTest::newRow("nothing to divide by") << qint64(-1) << 0 << 0;
 }
 
@@ -266,29 +266,21 @@ void TestAppUpdater::goesAtAnyMoment()
     QCOMPARE(bench.saved(), moment == u"Question"_s ? installer : QByteArray());
 }
 
-void TestAppUpdater::notesAreOpenedInTheBrowserOnly_data()
-{
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("web") << u"https://example.org/notes?a=1"_s << true;
-    QTest::newRow("none") << QString() << false;
-    QTest::newRow("no address") << u"http://"_s << false;
-    QTest::newRow("program") << u"file:///C:/Windows/system32/calc.exe"_s << false;
-}
-
 void TestAppUpdater::notesAreOpenedInTheBrowserOnly()
 {
-    QFETCH(QString, address);
     QDesktopServices::setUrlHandler(u"https"_s, this, "open");
     m_opened.clear();
-    AppUpdaterDialog dialog(u"Client"_s, QVersionNumber(1), QVersionNumber(2), address, {});
-    dialog.show();
-    auto* notes = dialog.findChild<QPushButton*>(u"buttonReleaseNotes"_s);
-    QTEST(notes->isVisible(), "shown");
-    if (notes->isVisible()) {
-        notes->click();
-        QCOMPARE(m_opened, QList<QUrl>{QUrl(address)});
+    const QString web = u"https://example.org/notes?a=1"_s;
+    for (const QString& address :
+         {web, QString(), u"http://"_s, u"file:///C:/Windows/system32/calc.exe"_s}) {
+        AppUpdaterDialog dialog(u"Client"_s, QVersionNumber(1), QVersionNumber(2), address, {});
+        dialog.show();
+        auto* notes = dialog.findChild<QPushButton*>(u"buttonReleaseNotes"_s);
+        QCOMPARE(notes->isVisible(), address == web);
+        if (notes->isVisible())
+            notes->click();
     }
+    QCOMPARE(m_opened, QList<QUrl>{QUrl(web)});
     QDesktopServices::unsetUrlHandler(u"https"_s);
 }
 
