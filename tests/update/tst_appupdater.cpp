@@ -5,6 +5,8 @@
 #include <CorvelGui/AppUpdater>
 #include <CorvelGui/AppUpdaterDialog>
 
+#include <Corvel/FileDownloader>
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -12,10 +14,12 @@
 #include <QJsonObject>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace CorvelGui;
+using Corvel::FileDownloader;
 using namespace Qt::StringLiterals;
 using LocalHttp::Answer;
 using LocalHttp::Misbehaviour;
@@ -98,7 +102,6 @@ private Q_SLOTS:
     void installerIsDownloaded();
     void faultsEndWithOneMessage_data();
     void faultsEndWithOneMessage();
-    void progressIsShown_data();
     void progressIsShown();
     void cancelEndsTheDownload();
     void goesAtAnyMoment_data();
@@ -195,36 +198,29 @@ void TestAppUpdater::faultsEndWithOneMessage()
     QTRY_VERIFY(!bench.parent.findChild<QProgressDialog*>());
 }
 
-void TestAppUpdater::progressIsShown_data()
-{
-    QTest::addColumn<qint64>("announced");
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("value");
-    QTest::newRow("of the transfer") << qint64(200) << 10 << 0;
-    QTest::newRow("of the release") << qint64(-1) << 10 << 10;
-    QTest::newRow("more than of the release") << qint64(-1) << 1 << 100;
-    QTest::newRow("nothing to divide by") << qint64(-1) << 0 << 0;
-}
-
 void TestAppUpdater::progressIsShown()
 {
-    QFETCH(qint64, announced);
-    QFETCH(int, size);
-    QFETCH(int, value);
-    QJsonObject answer = release();
-    answer[u"size"_s] = size;
-    Bench bench(answer);
-    Answer slow = Answer::ok("xxxxxxxxxx");
-    slow.announcedLength = announced;
-    slow.pace = Answer::Pace::Slow;
-    bench.server.script("/software", slow);
-    bench.check(false);
-    QTRY_VERIFY(bench.parent.findChild<QProgressDialog*>());
-    const auto* progress = bench.parent.findChild<QProgressDialog*>();
-    QTRY_VERIFY(progress->isVisible());
-    QCOMPARE(progress->labelText(), u"Downloading Software Update..."_s);
-    QTRY_VERIFY(!bench.server.targets().isEmpty());
-    QTRY_COMPARE(progress->value(), value);
+    // The length announced by the transfer, the size of the release, and what one byte is of them.
+    for (const auto& [announced, size, value] :
+         {std::tuple(200, 10, 0), {-1, 10, 10}, {-1, 1, 100}, {-1, 0, 0}}) {
+        QJsonObject answer = release();
+        answer[u"size"_s] = size;
+        Bench bench(answer);
+        Answer slow = Answer::ok("xxxxxxxxxx");
+        slow.announcedLength = announced;
+        slow.pace = Answer::Pace::Slow;
+        bench.server.script("/software", slow);
+        QSignalSpy progressed(bench.updater->findChild<FileDownloader*>(),
+                              &FileDownloader::downloadProgress);
+        bench.check(false);
+        QTRY_VERIFY(bench.parent.findChild<QProgressDialog*>());
+        const auto* progress = bench.parent.findChild<QProgressDialog*>();
+        QTRY_VERIFY(progress->isVisible());
+        QCOMPARE(progress->labelText(), u"Downloading Software Update..."_s);
+        QTRY_VERIFY(!progressed.isEmpty());
+        QCOMPARE(progress->value(), value);
+        QVERIFY(progress->isVisible());
+    }
 }
 
 void TestAppUpdater::cancelEndsTheDownload()

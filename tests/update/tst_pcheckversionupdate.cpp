@@ -99,12 +99,12 @@ private Q_SLOTS:
     void initTestCase();
     void channelsAreAskedInOrder_data();
     void channelsAreAskedInOrder();
-    void faultyVersionFileMeansNextChannel_data();
+    void faultyVersionFileMeansNextChannel_data() { faults(); }
     void faultyVersionFileMeansNextChannel();
     void versionsAreCompared_data();
     void versionsAreCompared();
     void installerIsSaved();
-    void faultyDownloadKeepsTheFile_data();
+    void faultyDownloadKeepsTheFile_data() { faults(); }
     void faultyDownloadKeepsTheFile();
     void unwritableTargetIsTold();
     void checksStandAlone();
@@ -117,6 +117,8 @@ public Q_SLOTS:
     void open(const QUrl& url) { m_opened.append(url); }
 
 private:
+    static void faults();
+
     QList<QUrl> m_opened;
 };
 
@@ -165,17 +167,11 @@ void TestPCheckVersionUpdate::channelsAreAskedInOrder()
     QCOMPARE(bench.update->GetReadMeFile().toUtf8(), channels.isEmpty() ? QByteArray() : notes);
 }
 
-void TestPCheckVersionUpdate::faultyVersionFileMeansNextChannel_data()
+void TestPCheckVersionUpdate::faults()
 {
     QTest::addColumn<Misbehaviour>("how");
-    QTest::addColumn<QStringList>("said");
-    for (const QString& name : LocalHttp::misbehaviourNames()) {
-        const Misbehaviour how = *LocalHttp::misbehaviourNamed(name);
-        if (how == Misbehaviour::None)
-            continue;
-        QTest::newRow(qPrintable(name))
-            << how << QStringList{how == Misbehaviour::Portal ? unreadable : unreachable};
-    }
+    for (const QString& name : LocalHttp::misbehaviourNames().mid(1)) // the first is none
+        QTest::newRow(qPrintable(name)) << *LocalHttp::misbehaviourNamed(name);
 }
 
 void TestPCheckVersionUpdate::faultyVersionFileMeansNextChannel()
@@ -187,8 +183,7 @@ void TestPCheckVersionUpdate::faultyVersionFileMeansNextChannel()
     bench.server.script("/in/version.txt", versionFile, how);
     bench.server.script("/out/version.txt", versionFile, how);
     bench.update->checkVersion(true);
-    QFETCH(QStringList, said);
-    settle(bench, said);
+    settle(bench, {how == Misbehaviour::Portal ? unreadable : unreachable});
     QVERIFY(!bench.server.targets().contains("/out/notes.html"));
     QCOMPARE(bench.server.targets().contains("/out/version.txt"), how != Misbehaviour::Portal);
 }
@@ -258,19 +253,11 @@ void TestPCheckVersionUpdate::installerIsSaved()
     QDesktopServices::unsetUrlHandler(u"file"_s);
 }
 
-void TestPCheckVersionUpdate::faultyDownloadKeepsTheFile_data()
-{
-    QTest::addColumn<Misbehaviour>("how");
-    for (const QString& name : LocalHttp::misbehaviourNames()) {
-        const Misbehaviour how = *LocalHttp::misbehaviourNamed(name);
-        if (how != Misbehaviour::None && how != Misbehaviour::Portal)
-            QTest::newRow(qPrintable(name)) << how;
-    }
-}
-
 void TestPCheckVersionUpdate::faultyDownloadKeepsTheFile()
 {
     QFETCH(Misbehaviour, how);
+    if (how == Misbehaviour::Portal)
+        return; // whose page is as good a file as any
     Bench bench;
     bench.script("/in/");
     bench.server.script("/in/setup.exe", installer, how);
