@@ -101,6 +101,7 @@ void ExportDialog::createLayout(const QString& camera)
     folder->addWidget(m_folder, 1);
     folder->addWidget(choose);
     auto* ranges = new QVBoxLayout;
+    ranges->setSpacing(6);
     ranges->addWidget(m_view);
     ranges->addWidget(m_search);
 

@@ -189,7 +189,7 @@ QWidget* ReviewWindow::createTables(QWidget* parent)
     m_playback = new PlaybackPane(m_times, tables);
     m_events = new EventPane(m_times, tables);
     // In proportion.
-    tables->setSizes({380, 500, 320});
+    tables->setSizes({300, 560, 440});
     return tables;
 }
 

@@ -7,12 +7,14 @@
 #include "trackhistory.h"
 #include "whenshown.h"
 
+#include <CorvelGui/BusyIndicator>
 #include <CorvelGui/Indicator>
 #include <CorvelGui/TarvoDateTimeView>
 
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -82,6 +84,7 @@ private Q_SLOTS:
     void handHoldsTheTime();
     void endsPause();
     void spaceBarIsShared();
+    void loadingIsCovered();
     void visitorsComeAndGo();
     void exportEnds_data();
     void exportEnds();
@@ -233,6 +236,23 @@ void TestReviewPlayback::spaceBarIsShared()
     QTest::keyClick(tracks, Qt::Key_Space);
     QCOMPARE(tracks->model()->index(1, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
     QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+}
+
+void TestReviewPlayback::loadingIsCovered()
+{
+    SampleWindow sample(u"UTC"_s);
+    auto* bar = sample.window.findChild<PPlaybar*>();
+    QTest::keyClick(sample.ruler(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_COMPARE(bar->playbackState(), PPlaybar::FastForward);
+    const QSignalSpy loaded(&sample.window, &ReviewWindow::loaded);
+    sample.window.load({});
+    const QPointer busy = sample.window.findChild<CorvelGui::BusyIndicator*>();
+    QVERIFY(busy && busy->isVisible());
+    QCOMPARE(busy->geometry(), sample.window.centralWidget()->rect());
+    QTRY_COMPARE(loaded.size(), 1);
+    QTRY_VERIFY(!busy);
+    QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+    QVERIFY(sample.showsTime(u"02 Mar 00:00:00"_s));
 }
 
 void TestReviewPlayback::visitorsComeAndGo()

@@ -128,7 +128,7 @@ void TestReviewWindow::lookIsSwitched()
 {
     SampleWindow sample(u"UTC"_s);
     const auto tableLightness = [&sample] {
-        return sample.window.grab().toImage().pixelColor(300, 400).lightness();
+        return sample.window.grab().toImage().pixelColor(100, 400).lightness();
     };
     QVERIFY(tableLightness() < 60);
     sample.action(u"Dark look"_s)->trigger();
