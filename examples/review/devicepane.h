@@ -1,14 +1,21 @@
 #pragma once
 
-#include "trackmodel.h"
+#include "deviceitem.h"
 
+#include <QSet>
 #include <QWidget>
 
-class QTreeView;
+class QAction;
+
+namespace CorvelGui {
+class FilterLineEdit;
+} // namespace CorvelGui
 
 namespace Review {
 
-/// The cameras, each with a check box that says whether its track is shown.
+class DeviceTree;
+
+/// The cameras in a tree, below a field that filters it.
 class DevicePane : public QWidget
 {
     Q_OBJECT
@@ -17,26 +24,41 @@ public:
     explicit DevicePane(const TimeTexts& times, QWidget* parent = nullptr);
 
     /// Replaces all tracks.
-    void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
+    void setReview(const ReviewData& review);
 
     /// In the order of the rows. All tracks are checked at first.
-    QList<CorvelGui::TrackDescription> checkedTracks() const { return m_model->checkedTracks(); }
+    QList<CorvelGui::TrackDescription> checkedTracks() const;
     /// Identifiers of the others.
-    QSet<QString> uncheckedTracks() const { return m_model->uncheckedTracks(); }
+    QSet<QString> uncheckedTracks() const;
     /// What is known of the checked tracks at a time, in the order of the rows.
-    QList<TrackModel::NamedState> statesAt(qint64 msecs) const { return m_model->statesAt(msecs); }
+    QList<NamedState> statesAt(qint64 msecs) const;
+
+    /// What can be done with the cameras, for menus.
+    QList<QAction*> treeActions() const;
 
     void setTimes(const TimeTexts& times);
+    /// The states in the tree are those of this time.
+    void setCurrentTime(qint64 msecs);
     /// Applies all translated texts again.
     void retranslate();
 
 Q_SIGNALS:
     /// Emitted when a check box was changed.
     void checkedTracksChanged();
+    /// Emitted after cameras were added, with a sentence for the user that says how many.
+    void camerasAdded(const QString& text);
 
 private:
-    TrackModel* m_model;
-    QTreeView* m_view;
+    void askForRange();
+    void addRange(quint32 address, int prefix);
+
+    CorvelGui::FilterLineEdit* m_filter;
+    DeviceTree* m_tree;
+    QAction* m_addRange;
+    QAction* m_remove;
+    QAction* m_separator;
+    QAction* m_expand;
+    QAction* m_collapse;
 };
 
 } // namespace Review

@@ -1,6 +1,7 @@
 #include "previewcard.h"
 
 #include "eventicons.h"
+#include "statesign.h"
 
 #include <QPainter>
 
@@ -25,26 +26,6 @@ constexpr QColor background(28, 31, 35);
 constexpr QColor edge(96, 104, 116);
 constexpr QColor textColor(236, 239, 242);
 constexpr QColor remarkColor(168, 176, 186);
-constexpr QColor recordedColor(12, 160, 130);
-
-// A full bar, an empty frame, and a dotted line: told apart without colour.
-void paintSwatch(QPainter& painter, const QRectF& area, TrackState state)
-{
-    switch (state) {
-    case TrackState::Recorded:
-        painter.fillRect(area, recordedColor);
-        break;
-    case TrackState::Gap:
-        painter.setPen(QPen(remarkColor, 1));
-        painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));
-        break;
-    case TrackState::NotDescribed:
-        painter.setPen(QPen(remarkColor, 1, Qt::DotLine));
-        painter.drawLine(QPointF(area.left(), area.center().y()),
-                         QPointF(area.right(), area.center().y()));
-        break;
-    }
-}
 
 } // namespace
 
@@ -159,7 +140,7 @@ void PreviewCard::paintLine(QPainter& painter, const Line& line, const QRect& ar
         if (line.sign == Line::Sign::Event)
             EventIcons::onTimeline(line.kind).paint(&painter, sign);
         else
-            paintSwatch(painter, QRectF(sign).adjusted(1, 4, -1, -4), line.state);
+            StateSign::paint(painter, QRectF(sign).adjusted(1, 4, -1, -4), line.state, remarkColor);
         rest.setLeft(area.left() + signWidth);
     }
     painter.setFont(fontOf(line));

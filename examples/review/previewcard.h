@@ -1,7 +1,7 @@
 #pragma once
 
 #include "eventkind.h"
-#include "trackmodel.h"
+#include "trackhistory.h"
 
 #include <QWidget>
 
@@ -20,7 +20,7 @@ struct PreviewContent
 
     QString time;
     QList<Occurrence> events;
-    QList<TrackModel::NamedState> tracks;
+    QList<NamedState> tracks;
 };
 
 /// The card that appears above the timeline where the mouse rests. It is as dark as the timeline in

@@ -75,7 +75,7 @@ ReviewWindow::~ReviewWindow() = default;
 void ReviewWindow::setReview(const ReviewData& review, const ProblemList& problems)
 {
     m_review = review;
-    m_devices->setTracks(m_review.tracks);
+    m_devices->setReview(m_review);
     m_events->setReview(m_review);
     m_playback->setEvents(m_review.events);
     m_player->setPeriod(m_review.period());
@@ -217,6 +217,9 @@ void ReviewWindow::createMenus()
     m_quit = m_fileMenu->addAction(QString());
     m_quit->setShortcut(QKeySequence::Quit);
 
+    m_devicesMenu = menuBar()->addMenu(QString());
+    m_devicesMenu->addActions(m_devices->treeActions());
+
     m_viewMenu = menuBar()->addMenu(QString());
     for (QAction* action : m_toolBar->viewActions()) {
         if (action)
@@ -256,6 +259,8 @@ void ReviewWindow::connectParts()
     connect(m_toolBar->showRanges(), &QAction::toggled, m_ranges, &QWidget::setVisible);
 
     connect(m_devices, &DevicePane::checkedTracksChanged, this, &ReviewWindow::showCheckedTracks);
+    connect(m_devices, &DevicePane::camerasAdded, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text, readingTime); });
     connect(m_events, &EventPane::eventOpened, this, [this](qsizetype event) {
         showCameraOf(event);
         m_timeline->jumpTo(m_review.events.at(event).time);
@@ -318,6 +323,7 @@ void ReviewWindow::retranslate()
     m_export->setText(tr("Export &pictures…"));
     m_exportPanel->retranslate();
     m_quit->setText(tr("&Quit"));
+    m_devicesMenu->setTitle(tr("&Devices"));
     m_viewMenu->setTitle(tr("&View"));
     m_updateMenu->retranslate();
     m_darkLook->setText(tr("Dark look"));
@@ -400,6 +406,7 @@ void ReviewWindow::showCurrentTime()
 {
     const qint64 msecs = m_timeline->currentTime();
     m_playback->setTime(msecs);
+    m_devices->setCurrentTime(msecs);
     m_transport->timeView()->updateDateTime(
         msecs > 0 ? QDateTime::fromMSecsSinceEpoch(msecs, m_times.zone()) : QDateTime());
 }

@@ -98,6 +98,7 @@ private:
     QAction* m_open;
     QAction* m_export;
     QAction* m_quit;
+    QMenu* m_devicesMenu;
     QMenu* m_viewMenu;
     UpdateMenu* m_updateMenu;
 

@@ -10,6 +10,15 @@ enum class TrackState {
     NotDescribed
 };
 
+/// A track by its name.
+struct NamedState
+{
+    QString name;
+    TrackState state;
+
+    bool operator==(const NamedState&) const = default;
+};
+
 /// Answers what is known of a track at any time.
 class TrackHistory
 {

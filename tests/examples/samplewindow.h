@@ -4,13 +4,13 @@
 #include "sampledata.h"
 
 #include <CorvelGui/PTableWidget>
+#include <CorvelGui/PTreeWidget>
 #include <CorvelGui/Ruler>
 #include <CorvelGui/TarvoDateTimeView>
 
 #include <QAction>
 #include <QLabel>
 #include <QTest>
-#include <QTreeView>
 
 #include <algorithm>
 
@@ -49,13 +49,14 @@ struct SampleWindow
         return window.findChild<CorvelGui::TarvoDateTimeView*>()->shownText() == text;
     }
     CorvelGui::Ruler* ruler() const { return window.findChild<CorvelGui::Ruler*>(); }
-    QTreeView* table(const QString& accessibleName) const
+    CorvelGui::PTreeWidget* devices() const { return window.findChild<CorvelGui::PTreeWidget*>(); }
+    /// The only one of the name.
+    QTreeWidgetItem* device(const QString& name) const
     {
-        const auto tables = window.findChildren<QTreeView*>();
-        const auto found = std::ranges::find(tables, accessibleName, &QTreeView::accessibleName);
-        if (found == tables.end())
-            qFatal("There is no table: %s", qPrintable(accessibleName));
-        return *found;
+        const auto found = devices()->findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+        if (found.size() != 1)
+            qFatal("There is no such camera: %s", qPrintable(name));
+        return found.first();
     }
     CorvelGui::PTableWidget* events() const { return window.findChild<CorvelGui::PTableWidget*>(); }
     /// What a column of the event table says, in the rows that are shown.

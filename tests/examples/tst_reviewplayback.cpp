@@ -230,11 +230,12 @@ void TestReviewPlayback::spaceBarIsShared()
     QCOMPARE(view->shownText().left(6), u"02 Mar"_s);
 
     // A check box keeps it.
-    QAbstractItemView* tracks = sample.table(u"Tracks"_s);
-    tracks->setCurrentIndex(tracks->model()->index(1, 0));
-    tracks->setFocus();
-    QTest::keyClick(tracks, Qt::Key_Space);
-    QCOMPARE(tracks->model()->index(1, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    QTreeWidget* cameras = sample.devices();
+    QTreeWidgetItem* camera = cameras->topLevelItem(0)->child(1);
+    cameras->setCurrentItem(camera);
+    cameras->setFocus();
+    QTest::keyClick(cameras, Qt::Key_Space);
+    QCOMPARE(camera->checkState(0), Qt::Unchecked);
     QCOMPARE(bar->playbackState(), PPlaybar::Pause);
 }
 

@@ -1,3 +1,4 @@
+#include "deviceitem.h"
 #include "eventicons.h"
 #include "eventmarkers.h"
 #include "eventtexts.h"
@@ -165,8 +166,8 @@ void TestReviewTimeline::markersOfCheckedTracks()
     QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
     QCOMPARE(sample.shownEvents(EventTexts::Kind).size(), 3);
 
-    QAbstractItemModel* tracks = sample.table(u"Tracks"_s)->model();
-    tracks->setData(tracks->index(1, 0), Qt::Unchecked, Qt::CheckStateRole);
+    QTreeWidgetItem* fence = sample.device(u"Fence"_s);
+    fence->setCheckState(DeviceItem::Name, Qt::Unchecked);
     QCOMPARE(shownEvents(), QList<qsizetype>({1, 2}));
     QCOMPARE(sample.shownEvents(EventTexts::Kind), QStringList({u"Vehicle"_s, u"ghost"_s}));
     QCOMPARE(sample.shownEvents(EventTexts::Track), QStringList({u"<b>Gate</b>"_s, QString()}));
@@ -189,7 +190,7 @@ void TestReviewTimeline::markersOfCheckedTracks()
     sample.action(u"Whole period"_s)->trigger();
     sample.action(u"Events"_s)->trigger();
     QCOMPARE(shownEvents(), QList<qsizetype>());
-    tracks->setData(tracks->index(1, 0), Qt::Checked, Qt::CheckStateRole);
+    fence->setCheckState(DeviceItem::Name, Qt::Checked);
     sample.action(u"Events"_s)->trigger();
     QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
 }
@@ -285,7 +286,7 @@ void TestReviewTimeline::zoneChangesAllTexts()
     sample.action(u"Ranges"_s)->trigger();
     const auto texts = [&] {
         QStringList all;
-        all.append(sample.table(u"Tracks"_s)->model()->index(0, 1).data().toString());
+        all.append(sample.device(u"Fence"_s)->text(DeviceItem::DescribedFrom));
         all.append(sample.events()->item(0, EventTexts::Time)->text());
         for (const InstantEdit* edit : sample.window.findChildren<InstantEdit*>())
             all.append(edit->text());
@@ -392,8 +393,7 @@ void TestReviewTimeline::manyEventsLoad()
     timer.start();
     const SampleWindow sample(u"Europe/Brussels"_s, {}, data);
     sample.ruler()->grab();
-    QAbstractItemModel* tracks = sample.table(u"Tracks"_s)->model();
-    tracks->setData(tracks->index(0, 0), Qt::Unchecked, Qt::CheckStateRole);
+    sample.device(u"Fence"_s)->setCheckState(DeviceItem::Name, Qt::Unchecked);
     enterZone(sample, u"Asia/Kathmandu"_s);
     QCOMPARE(sample.shownEvents(EventTexts::Time).size(), count / 2);
     QVERIFY(timer.elapsed() < 20'000);

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "deviceitem.h"
+
+#include <CorvelGui/PTreeWidget>
+
+#include <QSet>
+
+namespace Review {
+
+/// The cameras in groups: those with tracks, each with a check box that says whether the timeline
+/// shows it, and those that were added by their addresses.
+class DeviceTree : public CorvelGui::PTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DeviceTree(const TimeTexts& times, QWidget* parent = nullptr);
+
+    /// Replaces all cameras with tracks; all are checked. What was added by address stays, unless
+    /// one of the tracks has the address.
+    void setReview(const ReviewData& review);
+    /// Adds a camera for each address that has none. Returns how many were added.
+    int addCameras(const QList<quint32>& addresses);
+    /// Of the selected cameras only those that were added can be removed.
+    bool canRemoveSelected() const;
+    void removeSelected();
+
+    /// In the order of the rows.
+    QList<CorvelGui::TrackDescription> checkedTracks() const;
+    /// Identifiers of the others.
+    QSet<QString> uncheckedTracks() const;
+    /// What is known of the checked tracks at a time, in the order of the rows.
+    QList<NamedState> statesAt(qint64 msecs) const;
+
+    void setTimes(const TimeTexts& times);
+    /// The states are those of this time.
+    void setCurrentTime(qint64 msecs);
+    /// Shows the cameras that say @p filter in some column, and the groups that have any.
+    void showRows(const QString& filter);
+    /// Applies all translated texts again.
+    void retranslate();
+
+Q_SIGNALS:
+    /// Emitted once after the user has changed a check box, whether of a camera or of a group.
+    void checkedTracksChanged();
+
+private:
+    QList<DeviceItem*> devices() const;
+    QList<DeviceItem*> devicesOf(const QTreeWidgetItem* group) const;
+    QList<DeviceItem*> removable() const;
+    void followCheck(const QTreeWidgetItem* item, int column);
+    void showChecksOfGroup();
+    void sortGroups();
+    void showTexts();
+
+    DeviceMoment m_moment;
+    CorvelGui::PTreeWidgetItem* m_cameras;
+    CorvelGui::PTreeWidgetItem* m_added;
+    QString m_filter;
+};
+
+} // namespace Review
