@@ -126,7 +126,10 @@ void ZoomGraphicsView::mouseReleaseEvent(QMouseEvent* event)
 void ZoomGraphicsView::keyPressEvent(QKeyEvent* event)
 {
     const QRectF before = visibleRect();
+    const QPointer<ZoomGraphicsView> alive(this);
     QGraphicsView::keyPressEvent(event);
+    if (!alive)
+        return;
     if (!event->isAccepted() && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
         event->accept();
         zoom(QRectF(viewport()->rect()).center(),

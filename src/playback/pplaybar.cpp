@@ -1,5 +1,6 @@
 #include "pplaybar.h"
 
+#include "frame/controlemissions.h"
 #include "frame/whilealive.h"
 #include "ui_pplaybar.h"
 
@@ -110,7 +111,7 @@ struct PPlaybar::Private
     PlaybackSpeed speed = SpeedZero;
     bool liveMode = false;
     bool reverseEnabled = true;
-    int pendingReports = 0;
+    ControlEmissions emissions;
 };
 
 PPlaybar::PPlaybar(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
@@ -139,11 +140,8 @@ PPlaybar::PPlaybar(QWidget* parent) : QWidget(parent), d(std::make_unique<Privat
 
 PPlaybar::~PPlaybar()
 {
-    if (d->pendingReports == 0)
-        return;
-    // Deleted by a receiver: the button whose event is being handled must outlive it.
-    for (TarvoToolButton* button : d->buttons())
-        button->deleteAfterEvents();
+    const auto buttons = d->buttons();
+    d->emissions.release({buttons.begin(), buttons.end()});
 }
 
 PPlaybar::PlaybackState PPlaybar::playbackState() const
@@ -377,11 +375,7 @@ void PPlaybar::pauseAndReport(void (PPlaybar::*signal)())
 template <typename... Args>
 void PPlaybar::report(void (PPlaybar::*signal)(Args...), Args... args)
 {
-    const QPointer<PPlaybar> alive(this);
-    ++d->pendingReports;
-    Q_EMIT(this->*signal)(args...);
-    if (alive)
-        --d->pendingReports;
+    d->emissions.run([&] { Q_EMIT(this->*signal)(args...); });
 }
 
 bool PPlaybar::stepByWheel(int delta)

@@ -93,7 +93,7 @@ public Q_SLOTS:
     void setPlaybackState(CorvelGui::PPlaybar::PlaybackState playbackState);
     /// Takes the speed of the player; ignored if the state does not allow it.
     void setPlaybackSpeed(CorvelGui::PPlaybar::PlaybackSpeed playbackSpeed);
-    /// Live mode plays at 1x and leaves the pause button only, which then reports instead of
+    /// Live mode enters Play and leaves the pause button only, which then reports instead of
     /// pausing. Without @p enableReversePlayback the backward buttons stay disabled outside it too.
     void setLiveMode(bool liveMode, bool enableReversePlayback);
     /// Lasts until the next change by setLiveMode(), which enables and disables all buttons.

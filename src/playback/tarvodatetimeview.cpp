@@ -122,10 +122,9 @@ void TarvoDateTimeView::updateDateTime(const QDateTime& dateTime)
         showNothing();
         return;
     }
-    const bool first = d->showsNothing();
-    if (first && dateTime == d->shown)
+    if (dateTime == d->shown && (d->showsNothing() || sameZone(dateTime, d->shown)))
         return;
-    // Not only for another moment than the shown one, which is the first of its second that came.
+    const bool first = d->showsNothing();
     if (d->showMilliseconds)
         d->values[Millisecond]->setText(dateTime.toString(u"zzz"_s));
     if (dateTime.toSecsSinceEpoch() == d->shown.toSecsSinceEpoch() && sameZone(dateTime, d->shown))
@@ -135,6 +134,7 @@ void TarvoDateTimeView::updateDateTime(const QDateTime& dateTime)
     d->values[Hour]->setText(dateTime.toString(u"HH:"_s));
     d->values[Minute]->setText(dateTime.toString(u"mm:"_s));
     d->values[Second]->setText(dateTime.toString(u"ss"_s));
+    // Stays that of the first call within a second.
     d->shown = dateTime;
     update();
     if (first)

@@ -22,7 +22,8 @@ public:
     explicit TarvoDateTimeView(QWidget* parent = nullptr);
     ~TarvoDateTimeView() override;
 
-    /// Shows @p dateTime. An invalid one empties the view.
+    /// Shows @p dateTime. An invalid one empties the view. Within one second only the milliseconds
+    /// follow; going back to exactly the moment that the second began with changes nothing.
     void updateDateTime(const QDateTime& dateTime);
     /// Yellow digits in play mode, green ones otherwise.
     void setPlayMode(bool play);

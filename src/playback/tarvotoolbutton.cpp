@@ -2,7 +2,6 @@
 
 #include <QCursor>
 #include <QEnterEvent>
-#include <QPointer>
 
 namespace CorvelGui {
 
@@ -23,26 +22,6 @@ void TarvoToolButton::setIcon(const QIcon& icon)
     if (m_normalIcon.isNull())
         m_normalIcon = icon;
     QToolButton::setIcon(icon);
-}
-
-void TarvoToolButton::deleteAfterEvents()
-{
-    hide();
-    setParent(nullptr);
-    m_isLeftOver = true;
-    // deleteLater() alone would not wait for us if a receiver runs an event loop.
-    if (m_eventDepth == 0)
-        deleteLater();
-}
-
-bool TarvoToolButton::event(QEvent* event)
-{
-    const QPointer<TarvoToolButton> alive(this);
-    ++m_eventDepth;
-    const bool handled = QToolButton::event(event);
-    if (alive && --m_eventDepth == 0 && m_isLeftOver)
-        deleteLater();
-    return handled;
 }
 
 void TarvoToolButton::enterEvent(QEnterEvent* event)

@@ -22,12 +22,7 @@ public:
     /// of the mouse it is shown again, whatever was set since.
     void setIcon(const QIcon& icon);
 
-    /// Hides, leaves the parent, and deletes itself once no event is being handled any more: Qt's
-    /// tool buttons touch themselves after their signals.
-    void deleteAfterEvents();
-
 protected:
-    bool event(QEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
@@ -39,8 +34,6 @@ private:
     void refreshHover();
 
     QIcon m_normalIcon;
-    int m_eventDepth = 0;
-    bool m_isLeftOver = false;
 };
 
 } // namespace CorvelGui

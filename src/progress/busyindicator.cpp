@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -51,7 +52,7 @@ struct BusyIndicator::Private
     bool imageDrawnLast = false;
     std::chrono::milliseconds delay{0};
     Clock::time_point ringStart;
-    // The background changed since the whole of it was painted.
+    // The next step paints the background, not only the ring.
     bool backgroundIsStale = false;
     KeyboardGuard keyboard;
 };
@@ -97,8 +98,8 @@ void BusyIndicator::onTimeOut()
         d->progress = longestArc;
     // What lies below is painted with it, so only where something moves.
     constexpr int border = penWidth / 2 + 1;
-    repaint(d->backgroundIsStale ? rect()
-                                 : ringRect(this).adjusted(-border, -border, border, border));
+    const QRect moving = ringRect(this).adjusted(-border, -border, border, border);
+    repaint(std::exchange(d->backgroundIsStale, false) ? rect() : moving);
 }
 
 bool BusyIndicator::eventFilter(QObject* watched, QEvent* event)
@@ -169,11 +170,8 @@ bool BusyIndicator::focusNextPrevChild(bool next)
 void BusyIndicator::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
-    const bool erases = d->image.isNull() && d->imageDrawnLast;
     QPainter painter(this);
     paintBackground(painter);
-    if (event->rect().contains(rect()))
-        d->backgroundIsStale = erases;
 
     if (d->delay > 0ms && Clock::now() < d->ringStart)
         d->progress = 0;
@@ -184,8 +182,10 @@ void BusyIndicator::paintEvent(QPaintEvent* event)
 void BusyIndicator::paintBackground(QPainter& painter)
 {
     if (d->image.isNull()) {
-        if (d->imageDrawnLast)
+        if (d->imageDrawnLast) {
             painter.eraseRect(rect());
+            d->backgroundIsStale = true; // what lies below is not in it
+        }
         painter.fillRect(rect(), dimming);
     } else {
         painter.drawPixmap(rect(), d->image);

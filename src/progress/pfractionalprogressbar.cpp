@@ -8,8 +8,7 @@ PFractionalProgressBar::PFractionalProgressBar(QWidget* parent) : QProgressBar(p
 
 QString PFractionalProgressBar::text() const
 {
-    // QProgressBar keeps a value below the minimum for no value; setValue() takes none.
-    if (minimum() == maximum() || value() < minimum())
+    if (minimum() == maximum())
         return {};
     const double percent =
         (double(value()) - minimum()) * 100 / (double(maximum()) - double(minimum()));

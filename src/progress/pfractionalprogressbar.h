@@ -6,9 +6,9 @@
 
 namespace CorvelGui {
 
-/// A progress bar whose text is the percentage with one decimal, such as "33.3%". The text is empty
-/// while minimum and maximum are the same, and while the bar has no value: before the first
-/// setValue() and after reset().
+/// A progress bar whose text is the percentage with one decimal, such as "33.3%", or empty while
+/// minimum and maximum are the same. Unlike QProgressBar's it is not empty before the first
+/// setValue() and after reset(), but counts the value of those states, such as "-1.0%".
 class CORVELGUI_EXPORT PFractionalProgressBar : public QProgressBar
 {
     Q_OBJECT

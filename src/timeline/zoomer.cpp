@@ -1,5 +1,7 @@
 #include "zoomer.h"
 
+#include "frame/controlemissions.h"
+
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -8,7 +10,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <initializer_list>
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +34,10 @@ QToolButton* createButton(const QString& iconPath, QWidget* parent)
 
 } // namespace
 
-Zoomer::Zoomer(int maximumLevel, QWidget* parent) : QWidget(parent), m_maximumLevel(maximumLevel)
+Zoomer::Zoomer(int maximumLevel, QWidget* parent)
+    : QWidget(parent)
+    , m_maximumLevel(maximumLevel)
+    , m_emissions(std::make_unique<ControlEmissions>())
 {
     setFixedWidth(zoomerWidth);
     setMaximumHeight(zoomerHeight);
@@ -50,15 +54,7 @@ Zoomer::Zoomer(int maximumLevel, QWidget* parent) : QWidget(parent), m_maximumLe
 
 Zoomer::~Zoomer()
 {
-    if (m_pendingReports == 0)
-        return;
-    // Deleted by a receiver: Qt's sliders and tool buttons still touch themselves after their
-    // signal.
-    for (QWidget* control : std::initializer_list<QWidget*>{m_zoomIn, m_slider, m_zoomOut}) {
-        control->hide();
-        control->setParent(nullptr);
-        control->deleteLater();
-    }
+    m_emissions->release({m_zoomIn, m_slider, m_zoomOut});
 }
 
 void Zoomer::initializeControls()
@@ -121,11 +117,7 @@ void Zoomer::onChangeSliderPosition(int level)
 
 void Zoomer::report(void (Zoomer::*signal)(int, double), int level)
 {
-    const QPointer<Zoomer> alive(this);
-    ++m_pendingReports;
-    Q_EMIT(this->*signal)(level, viewCenter);
-    if (alive)
-        --m_pendingReports;
+    m_emissions->run([&] { Q_EMIT(this->*signal)(level, viewCenter); });
 }
 
 void Zoomer::changeEvent(QEvent* event)

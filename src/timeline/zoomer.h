@@ -4,10 +4,14 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class QSlider;
 class QToolButton;
 
 namespace CorvelGui {
+
+class ControlEmissions;
 
 /// The zoom control of the timeline: a zoom-in button, a slider over the zoom levels and a zoom-out
 /// button. Level 0 is the closest zoom, the maximum the widest view.
@@ -52,7 +56,7 @@ private:
 
     const int m_maximumLevel;
     int m_currentLevel = 1;
-    int m_pendingReports = 0;
+    const std::unique_ptr<ControlEmissions> m_emissions;
     QToolButton* m_zoomIn = nullptr;
     QSlider* m_slider = nullptr;
     QToolButton* m_zoomOut = nullptr;

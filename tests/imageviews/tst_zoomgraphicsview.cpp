@@ -1,50 +1,37 @@
+#include "pointer.h"
 #include "testsupport.h"
 
 #include <CorvelGui/ZoomGraphicsView>
 
 #include <QGraphicsRectItem>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
-#include <QWheelEvent>
 
 using namespace CorvelGui;
 
 namespace {
 
 constexpr QRectF sceneRect(-400, -300, 1600, 1200);
+constexpr QRectF part(300, 200, 160, 120);
 
-void turnWheel(QWidget* target, QPointF position, int delta, Qt::KeyboardModifiers modifiers = {})
-{
-    QWheelEvent event(position, target->mapToGlobal(position), {}, {0, delta}, {}, modifiers,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(target, &event);
-}
-
-void move(QWidget* target, QPoint position)
-{
-    QMouseEvent event(QEvent::MouseMove, position, target->mapToGlobal(position), Qt::NoButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &event);
-}
-
-bool isNear(QPointF a, QPointF b, qreal distance)
+bool isNear(QPointF a, QPointF b, qreal distance = 1)
 {
     return QLineF(a, b).length() <= distance;
 }
 
 bool isNear(const QRectF& a, const QRectF& b)
 {
-    return isNear(a.topLeft(), b.topLeft(), 1) && isNear(a.bottomRight(), b.bottomRight(), 1);
+    return isNear(a.topLeft(), b.topLeft()) && isNear(a.bottomRight(), b.bottomRight());
 }
 
-/// A view that has started with @p rect.
+/// A view that has started with @p rect. Positions count from the viewport or, on the frame, from
+/// the corner of the view.
 struct View
 {
-    explicit View(const QVariant& rect = {}, int frameWidth = 1)
-        : view(new ZoomGraphicsView(&scene, rect, nullptr))
+    explicit View(const QVariant& rect = part, int frameWidth = 1)
+        : view(new ZoomGraphicsView(&scene, rect, nullptr)), target(view->viewport())
     {
         view->setFrameStyle(QFrame::Box);
         view->setLineWidth(frameWidth);
@@ -55,6 +42,19 @@ struct View
     }
     ~View() { delete view; }
 
+    void wheel(QPointF at, int delta, Qt::KeyboardModifiers held = {})
+    {
+        turnWheel(target, at, {0, delta}, held);
+    }
+    void press(QPoint at) { QTest::mousePress(target, Qt::LeftButton, {}, at); }
+    void release(QPoint at) { QTest::mouseRelease(target, Qt::LeftButton, {}, at); }
+    void move(QPointF at) { dragTo(target, at); }
+    QPointF sceneUnder(QPointF at) const
+    {
+        return view->viewportTransform().inverted().map(
+            at - (target == view ? view->viewport()->pos() : QPoint()));
+    }
+    qreal scale() const { return view->transform().m11(); }
     bool showsWholeScene() const
     {
         const QRect shown = view->mapFromScene(sceneRect).boundingRect();
@@ -63,6 +63,7 @@ struct View
 
     QGraphicsScene scene{sceneRect};
     QPointer<ZoomGraphicsView> view;
+    QWidget* target;
     std::unique_ptr<QSignalSpy> changes;
 };
 
@@ -73,8 +74,7 @@ class TestZoomGraphicsView : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void wheelKeepsThePointUnderTheMouse();
-    void zoomingOutStopsAtTheWholeScene();
+    void wheel();
     void panning();
     void itemsKeepTheirMouse();
     void startRectangle();
@@ -83,66 +83,57 @@ private Q_SLOTS:
     void deletionWithinTheSignal();
 };
 
-void TestZoomGraphicsView::wheelKeepsThePointUnderTheMouse()
-{
-    View v(QRectF(300, 200, 160, 120));
-    QRandomGenerator random(11);
-    const QPointF position(311, 97);
-    const QPointF held = v.view->viewportTransform().inverted().map(position);
-    for (int i = 0; i < 50; ++i) {
-        const qreal scale = v.view->transform().m11();
-        const bool in = scale < 2 || (scale < 20 && random.bounded(2));
-        turnWheel(v.view->viewport(), position, in ? 120 : -120);
-        QVERIFY(isNear(v.view->viewportTransform().map(held), position, 1));
-        QCOMPARE(v.view->transform().m11() / scale, in ? 1.1 : 0.9);
-    }
-    QCOMPARE(v.changes->size(), 50);
-    turnWheel(v.view->viewport(), position, 120, Qt::ControlModifier);
-    QCOMPARE(v.changes->size(), 50);
-}
-
-void TestZoomGraphicsView::zoomingOutStopsAtTheWholeScene()
+void TestZoomGraphicsView::wheel()
 {
     View v;
-    QVERIFY(v.showsWholeScene());
-    const QPointF aside(20, 350);
-    turnWheel(v.view->viewport(), aside, 120);
-    QVERIFY(!v.view->visibleRect().contains(sceneRect));
-    for (int i = 1; i <= 3; ++i) {
-        turnWheel(v.view->viewport(), aside, -120);
-        QVERIFY(v.showsWholeScene());
-        QCOMPARE(v.changes->size(), 1 + i);
+    QRandomGenerator random(11);
+    for (int i = 0; i < 50; ++i) {
+        const QPointF at(random.bounded(500), random.bounded(400));
+        const QPointF held = v.sceneUnder(at);
+        const qreal before = v.scale();
+        const bool in = before < 2 || (before < 20 && random.bounded(2));
+        v.wheel(at, in ? 120 : -120);
+        QVERIFY(isNear(v.view->viewportTransform().map(held), at));
+        QCOMPARE(v.scale() / before, in ? 1.1 : 0.9);
     }
-    // Neither panning nor endless zooming in take it apart.
-    QTest::mousePress(v.view->viewport(), Qt::LeftButton, {}, {100, 100});
-    move(v.view->viewport(), {150, 120});
-    QCOMPARE(v.changes->size(), 4);
+    v.wheel({9, 9}, 120, Qt::ControlModifier);
+    QCOMPARE(v.changes->size(), 50);
+
+    // The whole scene is the widest view, which neither panning nor endless zooming takes apart.
+    View whole{QVariant()};
+    whole.wheel({20, 350}, 120);
+    QVERIFY(!whole.view->visibleRect().contains(sceneRect));
+    for (const int delta : {-120, -120, 0}) {
+        whole.wheel({20, 350}, delta);
+        QVERIFY(whole.showsWholeScene());
+    }
+    whole.press({100, 100});
+    whole.move({150, 120});
+    QCOMPARE(whole.changes->size(), 4);
     for (int i = 0; i < 400; ++i)
-        turnWheel(v.view->viewport(), aside, 120);
-    QVERIFY(sceneRect.contains(v.view->visibleRect().center()));
+        whole.wheel({20, 350}, 120);
+    QVERIFY(sceneRect.contains(whole.view->visibleRect().center()));
 }
 
 void TestZoomGraphicsView::panning()
 {
     for (const auto& [frameWidth, onFrame] : {std::pair(0, false), {30, false}, {30, true}}) {
         View v(QRectF(0, 0, 320, 240), frameWidth);
-        QWidget* target = onFrame ? static_cast<QWidget*>(v.view) : v.view->viewport();
-        const auto sceneUnder = [&](QPoint position) {
-            return v.view->mapToScene(position - (onFrame ? v.view->viewport()->pos() : QPoint()));
-        };
-        QPoint position(20, 200);
-        const QPointF held = sceneUnder(position);
-        QTest::mousePress(target, Qt::LeftButton, {}, position);
+        if (onFrame)
+            v.target = v.view;
+        QPoint at(20, 200);
+        const QPointF held = v.sceneUnder(at);
+        v.press(at);
         for (const QPoint step : {QPoint(43, -20), {78, 70}, {-134, -139}}) {
-            position += step;
-            move(target, position);
-            QVERIFY(isNear(sceneUnder(position), held, 1e-6));
+            at += step;
+            v.move(at);
+            QVERIFY(isNear(v.sceneUnder(at), held, 1e-6));
         }
-        QTest::mouseRelease(target, Qt::LeftButton, {}, position);
-        move(target, {60, 60});
+        v.release(at);
+        v.move({60, 60});
         QCOMPARE(v.changes->size(), 3);
-        turnWheel(target, position, 120);
-        QVERIFY(isNear(sceneUnder(position), held, 1));
+        v.wheel(at, 120);
+        QVERIFY(isNear(v.sceneUnder(at), held));
     }
 }
 
@@ -155,9 +146,9 @@ void TestZoomGraphicsView::itemsKeepTheirMouse()
                             QGraphicsItem::ItemIsFocusable, QGraphicsItem::GraphicsItemFlag(0)}) {
         item->setFlags(flag);
         v.changes->clear();
-        QTest::mousePress(v.view->viewport(), Qt::LeftButton, {}, on);
-        move(v.view->viewport(), on + QPoint(30, 0));
-        QTest::mouseRelease(v.view->viewport(), Qt::LeftButton, {}, on + QPoint(30, 0));
+        v.press(on);
+        v.move(on + QPoint(30, 0));
+        v.release(on + QPoint(30, 0));
         QCOMPARE(v.changes->size(), flag ? 0 : 1);
         QCOMPARE(item->x() > 0, flag == QGraphicsItem::ItemIsMovable);
         QCOMPARE(item->isSelected(), flag == QGraphicsItem::ItemIsSelectable);
@@ -169,11 +160,10 @@ void TestZoomGraphicsView::startRectangle()
 {
     for (const QVariant& rect : {QVariant(), QVariant(7), QVariant(QRectF(5, 5, 0, 9))})
         QVERIFY(View(rect).showsWholeScene());
-
     // Saving and restoring does not creep.
-    QRectF saved = View(QRectF(300, 200, 160, 120)).view->visibleRect();
-    const QRectF first = saved;
-    QVERIFY(saved.contains(QRectF(300, 200, 160, 120)));
+    const QRectF first = View().view->visibleRect();
+    QVERIFY(first.contains(part));
+    QRectF saved = first;
     for (int i = 0; i < 20; ++i)
         saved = View(saved).view->visibleRect();
     QVERIFY(isNear(saved, first));
@@ -193,7 +183,7 @@ void TestZoomGraphicsView::startRectangle()
 
 void TestZoomGraphicsView::resizing()
 {
-    View v(QRectF(300, 200, 160, 120));
+    View v;
     const QRectF first = v.view->visibleRect();
     for (const QSize size : {QSize(900, 300), {200, 700}, {500, 400}}) {
         v.view->resize(size);
@@ -201,27 +191,25 @@ void TestZoomGraphicsView::resizing()
     }
     QCOMPARE(v.changes->size(), 3);
     QVERIFY(isNear(v.view->visibleRect(), first));
-
     // Scroll bars that come with a zoom must not undo it.
-    View whole;
+    View whole{QVariant()};
     whole.view->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     whole.view->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    const qreal scale = whole.view->transform().m11();
+    const qreal scale = whole.scale();
     for (int i = 0; i < 5; ++i)
-        turnWheel(whole.view->viewport(), {250, 200}, 120);
-    QVERIFY(whole.view->transform().m11() > 1.5 * scale);
+        whole.wheel({250, 200}, 120);
+    QVERIFY(whole.scale() > 1.5 * scale);
 }
 
 void TestZoomGraphicsView::keys()
 {
-    View v(QRectF(300, 200, 160, 120));
+    View v;
     const QRectF first = v.view->visibleRect();
     QTest::keyClick(v.view, Qt::Key_Plus);
-    QVERIFY(isNear(v.view->visibleRect().center(), first.center(), 1));
-    QVERIFY(v.view->visibleRect().width() < first.width() / 1.05);
-    const QRectF before = v.view->visibleRect();
+    const QRectF zoomed = v.view->visibleRect();
+    QVERIFY(isNear(zoomed.center(), first.center()) && zoomed.width() < first.width() / 1.05);
     QTest::keyClick(v.view, Qt::Key_Right);
-    QVERIFY(v.view->visibleRect().left() > before.left() + 5);
+    QVERIFY(v.view->visibleRect().left() > zoomed.left() + 5);
     QTest::keyClick(v.view, Qt::Key_A);
     QCOMPARE(v.changes->size(), 2);
 }
@@ -229,14 +217,13 @@ void TestZoomGraphicsView::keys()
 void TestZoomGraphicsView::deletionWithinTheSignal()
 {
     for (int way = 0; way < 3; ++way) {
-        View v(QRectF(300, 200, 160, 120));
-        QWidget* viewport = v.view->viewport();
-        QTest::mousePress(viewport, Qt::LeftButton, {}, {100, 100});
+        View v;
+        v.press({100, 100});
         connect(v.view, &ZoomGraphicsView::viewPortChanged, this, [&] { delete v.view; });
         if (way == 0)
-            turnWheel(viewport, {100, 100}, 120);
+            v.wheel({100, 100}, 120);
         else if (way == 1)
-            move(viewport, {150, 150});
+            v.move({150, 150});
         else
             QTest::keyClick(v.view, Qt::Key_Minus);
         QVERIFY(!v.view);

@@ -1,5 +1,6 @@
 #include "jumptotimepointdialog.h"
 #include "localmoments.h"
+#include "pointer.h"
 #include "testsupport.h"
 
 #include <CorvelGui/TarvoDateTimeView>
@@ -84,8 +85,7 @@ class TestDateTimeView : public WarningFreeTest
 private Q_SLOTS:
     void readsWhatIsShown();
     void styles();
-    void localMoments_data();
-    void localMoments();
+    void moments();
     void dialogForm();
     void waysToApply();
     void closesWithoutASignal();
@@ -105,7 +105,7 @@ void TestDateTimeView::readsWhatIsShown()
     } steps[]{
         {at(moment, newYork), "18 Aug|08:|15:|30|250"},
         {at(u"2026-08-18T12:15:30.990"_s, newYork), "18 Aug|08:|15:|30|990"},
-        {at(moment, newYork), "18 Aug|08:|15:|30|250"}, // one frame back
+        {at(moment, newYork), "18 Aug|08:|15:|30|990"}, // counts as shown already
         {at(moment, brussels), "18 Aug|14:|15:|30|250"},
         {at(u"2026-08-19T12:15:30.250"_s, brussels), "19 Aug|14:|15:|30|250"},
         {QDateTime(), "|--:|--:|--|"},
@@ -145,53 +145,48 @@ void TestDateTimeView::styles()
     QCOMPARE(QList({size(0, 0), size(0, 4), size(0, 5), size(1, 0)}), QList({18, 18, 10, 9}));
     font.setPointSize(18);
     font.setBold(true);
-    const QFontMetrics metrics(font);
-    QTRY_COMPARE(view.minimumWidth(),
-                 metrics.boundingRect(u"18 Aug    00:00:00.000"_s).width() + 2);
+    const auto needed = [&font](const QString& sample) {
+        return QFontMetrics(font).boundingRect(sample).width() + 2;
+    };
+    QTRY_COMPARE(view.minimumWidth(), needed(u"18 Aug    00:00:00.000"_s));
     view.setShowMilliseconds(false);
-    QCOMPARE(view.minimumWidth(), metrics.boundingRect(u"18 Aug    00:00:00"_s).width() + 2);
+    QCOMPARE(view.minimumWidth(), needed(u"18 Aug    00:00:00"_s));
     const QString playing = view.label(0, 2)->styleSheet();
     view.setPlayMode(false);
     QVERIFY(view.label(0, 2)->styleSheet() != playing);
     QApplication::setFont(before);
 }
 
-void TestDateTimeView::localMoments_data()
+void TestDateTimeView::moments()
 {
-    QTest::addColumn<QString>("clock");
-    QTest::addColumn<QDateTime>("zone");
-    QTest::addColumn<QStringList>("utc");
     const QDateTime now = QDateTime::fromSecsSinceEpoch(1'800'000'000);
-    const auto row = [](const QByteArray& name, const char* clock, const QDateTime& zone,
-                        const QStringList& utc) {
-        QTest::newRow(name.constData()) << QString::fromLatin1(clock) << zone << utc;
+    const QList<QDateTime> summerTime{now, now.toTimeZone(brussels)};
+    const struct
+    {
+        QList<QDateTime> zones;
+        QString clock;
+        QString utc;
+    } cases[]{
+        {summerTime, u"2026-03-29T01:59:59"_s, u"00:59:59"_s},
+        {summerTime, u"2026-03-29T02:00:00"_s, {}},
+        {summerTime, u"2026-03-29T03:00:00"_s, u"01:00:00"_s},
+        {summerTime, u"2026-10-25T02:30:00"_s, u"00:30:00 01:30:00"_s},
+        {summerTime, u"2026-10-25T03:00:00"_s, u"02:00:00"_s},
+        {{now.toUTC()}, u"2026-03-29T02:00:00"_s, u"02:00:00"_s},
+        {{now.toOffsetFromUtc(-5400)}, u"2026-03-29T02:00:00"_s, u"03:30:00"_s},
     };
-    for (const QDateTime& zone : {now, now.toTimeZone(brussels)}) {
-        const QByteArray tag = QByteArray::number(zone.timeSpec());
-        row(tag + " before the gap", "2026-03-29T01:59:59", zone, {u"2026-03-29T00:59:59"_s});
-        row(tag + " in the gap", "2026-03-29T02:00:00", zone, {});
-        row(tag + " after the gap", "2026-03-29T03:00:00", zone, {u"2026-03-29T01:00:00"_s});
-        row(tag + " twice", "2026-10-25T02:30:00", zone,
-            {u"2026-10-25T00:30:00"_s, u"2026-10-25T01:30:00"_s});
-        row(tag + " after", "2026-10-25T03:00:00", zone, {u"2026-10-25T02:00:00"_s});
+    for (const auto& [zones, clock, utc] : cases) {
+        for (const QDateTime& zone : zones) {
+            const QDateTime wanted = QDateTime::fromString(clock, Qt::ISODate);
+            QStringList found;
+            for (const QDateTime& moment : localMoments(wanted.date(), wanted.time(), zone)) {
+                QCOMPARE(moment.timeSpec(), zone.timeSpec());
+                QCOMPARE(moment.toString(u"yyyy-MM-ddTHH:mm:ss"_s), clock);
+                found << moment.toUTC().time().toString();
+            }
+            QCOMPARE(found.join(u' '), utc);
+        }
     }
-    row("UTC", "2026-03-29T02:00:00", now.toUTC(), {u"2026-03-29T02:00:00"_s});
-    row("offset", "2026-03-29T02:00:00", now.toOffsetFromUtc(-5400), {u"2026-03-29T03:30:00"_s});
-}
-
-void TestDateTimeView::localMoments()
-{
-    QFETCH(const QString, clock);
-    QFETCH(const QDateTime, zone);
-    const QDateTime wanted = QDateTime::fromString(clock, Qt::ISODate);
-    QStringList utc;
-    for (const QDateTime& moment : CorvelGui::localMoments(wanted.date(), wanted.time(), zone)) {
-        QCOMPARE(moment.timeSpec(), zone.timeSpec());
-        QCOMPARE(moment.date(), wanted.date());
-        QCOMPARE(moment.time(), wanted.time());
-        utc << moment.toUTC().toString(u"yyyy-MM-ddTHH:mm:ss"_s);
-    }
-    QTEST(utc, "utc");
 }
 
 void TestDateTimeView::dialogForm()
@@ -309,15 +304,20 @@ void TestDateTimeView::clockChanges()
 
 void TestDateTimeView::deletionInTheSlot()
 {
-    for (const bool byKey : {true, false}) {
+    for (const auto& [name, nested] : {std::pair(u"timeEdit"_s, false),
+                                       {u"buttonApply"_s, false},
+                                       {u"timeEdit"_s, true},
+                                       {u"buttonApply"_s, true}}) {
         QPointer<View> view = new View;
         JumpToTimepointDialog* dialog = view->open();
         QVERIFY(dialog);
-        connect(view.data(), &TarvoDateTimeView::jumoToTime, this, [&] { delete view.data(); });
-        if (byKey)
-            QTest::keyClick(part<QTimeEdit>(dialog, u"timeEdit"_s), Qt::Key_Return);
+        connect(view.data(), &TarvoDateTimeView::jumoToTime, this,
+                [&, nested = nested] { deleteWithin(view, nested); });
+        auto* widget = part<QWidget>(dialog, name);
+        if (name == u"timeEdit")
+            QTest::keyClick(widget, Qt::Key_Return);
         else
-            QTest::mouseClick(part<QPushButton>(dialog, u"buttonApply"_s), Qt::LeftButton);
+            QTest::mouseClick(widget, Qt::LeftButton);
         QVERIFY(!view);
     }
 }

@@ -1,3 +1,4 @@
+#include "pointer.h"
 #include "testsupport.h"
 
 #include <CorvelGui/PPlaybar>
@@ -5,37 +6,32 @@
 
 #include <QButtonGroup>
 #include <QCursor>
-#include <QEventLoop>
 #include <QLabel>
 #include <QPointer>
 #include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class LoggedBar : public PPlaybar
+using Bar = PPlaybar;
+
+class LoggedBar : public Bar
 {
 public:
     LoggedBar()
     {
-        const auto logs = [this](const QString& text) {
-            return [=, this] {
-                log << text;
-            };
-        };
-        connect(this, &PPlaybar::playbackStateChanged, this,
+        connect(this, &Bar::playbackStateChanged, this,
                 [this](PlaybackState state) { log << u"state %1"_s.arg(state); });
-        connect(this, &PPlaybar::playbackSpeedChanged, this,
+        connect(this, &Bar::playbackSpeedChanged, this,
                 [this](PlaybackSpeed speed) { log << u"speed %1"_s.arg(speed); });
-        connect(this, &PPlaybar::trackStartClicked, this, logs(u"begin"_s));
-        connect(this, &PPlaybar::trackEndClicked, this, logs(u"end"_s));
-        connect(this, &PPlaybar::frameForwardClicked, this, logs(u"frame on"_s));
-        connect(this, &PPlaybar::frameBackwardClicked, this, logs(u"frame back"_s));
-        connect(this, &PPlaybar::pauseClickedInLiveMode, this, logs(u"live"_s));
+        for (const auto& [signal, text] : {std::pair(&Bar::trackStartClicked, u"begin"_s),
+                                           {&Bar::trackEndClicked, u"end"_s},
+                                           {&Bar::frameForwardClicked, u"frame on"_s},
+                                           {&Bar::frameBackwardClicked, u"frame back"_s},
+                                           {&Bar::pauseClickedInLiveMode, u"live"_s}})
+            connect(this, signal, this, [this, text = text] { log << text; });
         show();
     }
 
@@ -49,7 +45,8 @@ public:
     void act(const QString& action)
     {
         const QString way = action.section(u' ', 0, 0);
-        const int number = action.section(u' ', 1).toInt();
+        const QString name = action.section(u' ', 1);
+        const int number = name.toInt();
         if (way == u"state") {
             setPlaybackState(PlaybackState(number));
         } else if (way == u"speed") {
@@ -59,39 +56,32 @@ public:
         } else if (way == u"enable") {
             setEnabled(number);
         } else if (way == u"click" || way == u"right") {
-            QTest::mouseClick(button(action.section(u' ', 1)),
-                              way == u"click" ? Qt::LeftButton : Qt::RightButton);
+            QTest::mouseClick(button(name), way == u"click" ? Qt::LeftButton : Qt::RightButton);
         } else {
-            turnWheel(button(action.section(u' ', 1)), way == u"up"     ? 120
-                                                       : way == u"down" ? -120
-                                                                        : 0);
+            const QPointer<LoggedBar> alive(this);
+            const int delta = way == u"up" ? 120 : way == u"down" ? -120 : 0;
+            if (!turnWheel(button(name), {9, 9}, {120, delta}) && alive && isEnabled())
+                log << u"unhandled"_s;
         }
-    }
-
-    void turnWheel(QWidget* target, int delta)
-    {
-        const QPointF center = QRectF(target->rect()).center();
-        QWheelEvent wheel(center, target->mapToGlobal(center), {}, {120, delta}, {}, {},
-                          Qt::NoScrollPhase, false);
-        const QPointer<LoggedBar> alive(this);
-        QCoreApplication::sendEvent(target, &wheel);
-        if (alive && isEnabled() && !wheel.isAccepted())
-            log << u"unhandled"_s;
     }
 
     /// What was emitted, the label, and the checked button.
     QString story()
     {
-        const QAbstractButton* checked =
-            findChild<QButtonGroup*>(u"buttonGroup"_s)->checkedButton();
-        log << findChild<QLabel*>(u"labelPlaybackSpeed"_s)->text() << checked->objectName().mid(6);
+        log << findChild<QLabel*>(u"labelPlaybackSpeed"_s)->text()
+            << findChild<QButtonGroup*>(u"buttonGroup"_s)->checkedButton()->objectName().mid(6);
         return std::exchange(log, {}).join(u", "_s);
+    }
+    QString enabledButtons() const
+    {
+        QString marks;
+        for (const auto* button : findChildren<TarvoToolButton*>())
+            marks += button->isEnabled() ? u'x' : u'-';
+        return marks;
     }
 
     QStringList log;
 };
-
-using Bar = PPlaybar;
 
 } // namespace
 
@@ -217,78 +207,60 @@ void TestPlaybar::allowedSpeeds()
 void TestPlaybar::enabledButtons()
 {
     LoggedBar bar;
-    const auto enabled = [&bar] {
-        QString marks;
-        for (const auto* button : bar.findChildren<TarvoToolButton*>())
-            marks += button->isEnabled() ? u'x' : u'-';
-        return marks;
-    };
     for (const auto& [mode, marks] : {std::pair(u"live 11"_s, u"----x----"_s),
                                       {u"live 0"_s, u"x---xxxxx"_s},
                                       {u"live 1"_s, u"xxxxxxxxx"_s}}) {
         bar.act(mode);
-        QCOMPARE(enabled(), marks);
+        QCOMPARE(bar.enabledButtons(), marks);
     }
     bar.setButtonEnabled(Bar::SlowForwardButton, false);
     bar.setButtonEnabled(Bar::PlaybackButton(11), false);
     bar.setShortcut(Bar::PlaybackButton(-1), Qt::Key_A);
     QVERIFY(bar.shortcut(Bar::PlaybackButton(11)).isEmpty());
-    QCOMPARE(enabled(), u"xxxxxx-xx"_s);
+    QCOMPARE(bar.enabledButtons(), u"xxxxxx-xx"_s);
 }
 
 void TestPlaybar::hover()
 {
     LoggedBar bar;
     TarvoToolButton* button = bar.button(u"Play"_s);
+    const auto looks = [](const QIcon& icon, QIcon::Mode mode = QIcon::Normal) {
+        return icon.pixmap(QSize(1000, 1000), 1.0, mode).toImage();
+    };
     const QIcon normal = button->icon();
-    const auto shown = [button] {
-        return button->icon().pixmap(QSize(1000, 1000), 1.0, QIcon::Normal).toImage();
-    };
-    const auto looks = [&normal](QIcon::Mode mode) {
-        return normal.pixmap(QSize(1000, 1000), 1.0, mode).toImage();
-    };
-    QVERIFY(looks(QIcon::Active) != looks(QIcon::Normal));
+    QVERIFY(looks(normal, QIcon::Active) != looks(normal));
     const QPointF inside(5, 5);
     QEnterEvent enter(inside, inside, button->mapToGlobal(inside));
     QCoreApplication::sendEvent(button, &enter);
-    QCOMPARE(shown(), looks(QIcon::Active));
+    QCOMPARE(looks(button->icon()), looks(normal, QIcon::Active));
     QCursor::setPos(button->mapToGlobal(inside.toPoint()));
     bar.setPlaybackState(Bar::Play);
-    QCOMPARE(shown(), looks(QIcon::Selected));
+    QCOMPARE(looks(button->icon()), looks(normal, QIcon::Selected));
     button->setIcon(bar.button(u"Pause"_s)->icon());
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(button, &leave);
-    QCOMPARE(shown(), looks(QIcon::Normal));
+    QCOMPARE(looks(button->icon()), looks(normal));
 }
 
 void TestPlaybar::deletionInAnySlot()
 {
-    for (const char* action :
-         {"click TrackStart", "click TrackEnd", "click FrameForward", "click FrameBack",
-          "click FastForward", "click Pause", "right Play", "up Play", "down Play"}) {
+    for (const auto& action : {u"click TrackStart"_s, u"click TrackEnd"_s, u"click FrameForward"_s,
+                               u"click FrameBack"_s, u"click FastForward"_s, u"click Pause"_s,
+                               u"right Play"_s, u"up Play"_s, u"down Play"_s}) {
         for (int way = 0; way < 4; ++way) {
             QPointer<LoggedBar> bar = new LoggedBar;
             bar->setPlaybackState(Bar::Play);
             int left = 1 + way / 2; // in the first emission or the second
             const auto receive = [&] {
-                if (--left != 0)
-                    return;
-                QEventLoop loop;
-                QTimer::singleShot(0, &loop, [&] {
-                    delete bar.data();
-                    QTimer::singleShot(0, &loop, &QEventLoop::quit);
-                });
-                if (way % 2)
-                    loop.exec();
-                else
-                    delete bar.data();
+                if (--left == 0)
+                    deleteWithin(bar, way % 2);
             };
             connect(bar.data(), &Bar::playbackStateChanged, this, receive);
             connect(bar.data(), &Bar::playbackSpeedChanged, this, receive);
             for (const auto signal : {&Bar::trackStartClicked, &Bar::trackEndClicked,
                                       &Bar::frameForwardClicked, &Bar::frameBackwardClicked})
                 connect(bar.data(), signal, this, receive);
-            bar->act(QString::fromLatin1(action));
+            bar->act(action);
             QCOMPARE(bar.isNull(), left <= 0);
             delete bar.data();
         }

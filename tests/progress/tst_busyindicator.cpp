@@ -99,20 +99,17 @@ void TestBusyIndicator::ring()
     white.setPalette(Qt::white);
     white.resize(201, 160);
     white.show();
-    struct Phase
-    {
-        int steps, arcBegin, arcEnd; // in degrees, clockwise from three o'clock
-    };
-    for (const auto [steps, begin, end] :
-         {Phase{1, 0, 11}, {5, 0, 54}, {20, 144, 216}, {38, 338, 410}, {40, 0, 72}}) {
+    // Steps, and where the arc begins and ends in degrees, clockwise from three o'clock.
+    for (const auto& [steps, begin, end] :
+         {std::tuple(1, 0, 11), {5, 0, 54}, {20, 144, 216}, {38, 338, 410}, {40, 0, 72}}) {
         Overlay overlay(&white);
         overlay.show();
         overlay.step(steps);
         for (const int radius : {37, 43}) {
-            QCOMPARE(overlay.colorAt(begin + 4, radius), arc);
-            QCOMPARE(overlay.colorAt(end - 4, radius), arc);
-            QCOMPARE(overlay.colorAt(begin - 4, radius), track);
-            QCOMPARE(overlay.colorAt(end + 4, radius), track);
+            for (const int degrees : {begin + 4, end - 4})
+                QCOMPARE(overlay.colorAt(degrees, radius), arc);
+            for (const int degrees : {begin - 4, end + 4})
+                QCOMPARE(overlay.colorAt(degrees, radius), track);
         }
         for (const int degrees : {45, 135, 225, 315})
             for (const int radius : {30, 50})
@@ -262,7 +259,7 @@ void TestBusyIndicator::focusGoesBack()
 void TestBusyIndicator::percentage()
 {
     PFractionalProgressBar bar;
-    for (const auto& [minimum, maximum, value, text] : {std::tuple(0, 3, -1, ""),
+    for (const auto& [minimum, maximum, value, text] : {std::tuple(0, 100, -1, "-1.0%"),
                                                         {0, 3, 1, "33.3%"},
                                                         {0, 3, 2, "66.7%"},
                                                         {-7, -3, -3, "100.0%"},

@@ -1,3 +1,4 @@
+#include "pointer.h"
 #include "testsupport.h"
 
 #include <CorvelGui/Zoomer>
@@ -147,15 +148,16 @@ void TestZoomer::textsFollowTheLanguage()
 
 void TestZoomer::deletionWithinASignal()
 {
-    // Both emissions of a click, a press on the groove, and a key.
-    for (const int way : {1, 2, 3, 4}) {
+    // Both emissions of a click, a press on the groove, and a key; at once and later.
+    for (int i = 0; i < 8; ++i) {
+        const int way = 1 + i % 4;
         QPointer<LoggedZoomer> zoomer = new LoggedZoomer;
         zoomer->onChangeSliderPosition(2);
         QSlider* slider = zoomer->slider();
         int left = way == 2 ? 2 : 1;
         connect(zoomer.data(), &Zoomer::zoomerOut, this, [&] {
             if (--left == 0)
-                delete zoomer.data();
+                deleteWithin(zoomer, i >= 4);
         });
         if (way <= 2)
             zoomer->clickOut();
