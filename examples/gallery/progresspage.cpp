@@ -31,7 +31,6 @@ QGroupBox* createBars()
         int minimum, maximum, value;
     };
     const std::array states{
-        State{ProgressPage::tr("Not begun"), 0, 3, -1},
         State{ProgressPage::tr("0 of 3"), 0, 3, 0},
         State{ProgressPage::tr("1 of 3"), 0, 3, 1},
         State{ProgressPage::tr("1234 of 2000"), 0, 2000, 1234},

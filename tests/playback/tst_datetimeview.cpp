@@ -244,15 +244,7 @@ void TestDateTimeView::closesWithoutASignal()
     QWidget other;
     other.show();
     QSignalSpy jumps(&view, &TarvoDateTimeView::jumoToTime);
-    const std::function<void(JumpToTimepointDialog*)> ways[]{
-        [&](auto*) { other.activateWindow(); },
-        [](auto* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); },
-        [](auto* dialog) {
-            QTest::mouseClick(part<QToolButton>(dialog, u"buttonClose"_s), Qt::LeftButton);
-        },
-        [&](auto*) { view.setEnabled(false); },
-    };
-    for (const auto& close : ways) {
+    for (const QString& way : {u"other"_s, u"escape"_s, u"buttonClose"_s, u"disabled"_s}) {
         JumpToTimepointDialog* dialog = view.open();
         QVERIFY(dialog);
         // The calendar belongs to the dialog.
@@ -264,7 +256,14 @@ void TestDateTimeView::closesWithoutASignal()
         QVERIFY(dialog->isVisible());
         dialog->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(dialog));
-        close(dialog);
+        if (way == u"other")
+            other.activateWindow();
+        else if (way == u"escape")
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        else if (way == u"disabled")
+            view.setEnabled(false);
+        else
+            QTest::mouseClick(part<QToolButton>(dialog, way), Qt::LeftButton);
         QTRY_VERIFY(view.dialogs().isEmpty());
     }
     QVERIFY(jumps.isEmpty());
@@ -304,20 +303,16 @@ void TestDateTimeView::clockChanges()
 
 void TestDateTimeView::deletionInTheSlot()
 {
-    for (const auto& [name, nested] : {std::pair(u"timeEdit"_s, false),
-                                       {u"buttonApply"_s, false},
-                                       {u"timeEdit"_s, true},
-                                       {u"buttonApply"_s, true}}) {
+    for (int way = 0; way < 4; ++way) {
         QPointer<View> view = new View;
         JumpToTimepointDialog* dialog = view->open();
         QVERIFY(dialog);
         connect(view.data(), &TarvoDateTimeView::jumoToTime, this,
-                [&, nested = nested] { deleteWithin(view, nested); });
-        auto* widget = part<QWidget>(dialog, name);
-        if (name == u"timeEdit")
-            QTest::keyClick(widget, Qt::Key_Return);
+                [&] { deleteWithin(view, way / 2); });
+        if (way % 2)
+            QTest::keyClick(part<QTimeEdit>(dialog, u"timeEdit"_s), Qt::Key_Return);
         else
-            QTest::mouseClick(widget, Qt::LeftButton);
+            QTest::mouseClick(part<QPushButton>(dialog, u"buttonApply"_s), Qt::LeftButton);
         QVERIFY(!view);
     }
 }

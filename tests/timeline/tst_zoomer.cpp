@@ -153,11 +153,14 @@ void TestZoomer::deletionWithinASignal()
         const int way = 1 + i % 4;
         QPointer<LoggedZoomer> zoomer = new LoggedZoomer;
         zoomer->onChangeSliderPosition(2);
-        QSlider* slider = zoomer->slider();
+        const QPointer<QSlider> slider = zoomer->slider();
+        bool outlives = false;
         int left = way == 2 ? 2 : 1;
         connect(zoomer.data(), &Zoomer::zoomerOut, this, [&] {
-            if (--left == 0)
+            if (--left == 0) {
                 deleteWithin(zoomer, i >= 4);
+                outlives = slider;
+            }
         });
         if (way <= 2)
             zoomer->clickOut();
@@ -165,7 +168,7 @@ void TestZoomer::deletionWithinASignal()
             QTest::mousePress(slider, Qt::LeftButton, {}, slider->rect().center());
         else
             QTest::keyPress(slider, Qt::Key_End);
-        QVERIFY(!zoomer);
+        QVERIFY(!zoomer && outlives);
     }
 }
 
