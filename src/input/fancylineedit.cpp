@@ -80,7 +80,7 @@ void FancyLineEdit::setMenuTabFocusTrigger(Side side, bool on)
     if (d->sides[side].menuTabFocusTrigger == on)
         return;
     d->sides[side].menuTabFocusTrigger = on;
-    d->sides[side].button->setFocusPolicy(on ? Qt::TabFocus : Qt::NoFocus);
+    setButtonFocusPolicy(side, on ? Qt::TabFocus : Qt::NoFocus);
 }
 
 bool FancyLineEdit::hasMenuTabFocusTrigger(Side side) const
@@ -108,6 +108,7 @@ void FancyLineEdit::setButtonToolTip(Side side, const QString& text)
 
 void FancyLineEdit::setButtonFocusPolicy(Side side, Qt::FocusPolicy policy)
 {
+    d->sides[side].usualFocusPolicy.reset();
     d->sides[side].button->setFocusPolicy(policy);
 }
 

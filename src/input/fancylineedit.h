@@ -41,7 +41,8 @@ public:
     QMenu* buttonMenu(Side side) const;
 
     /// Whether the menu also drops down when the button is reached with the Tab key. The focus then
-    /// returns to the field. Sets the button's focus policy when it changes.
+    /// returns to the field, and the next Tab passes the button by. Sets the button's focus policy
+    /// when it changes.
     void setMenuTabFocusTrigger(Side side, bool on);
     bool hasMenuTabFocusTrigger(Side side) const;
 

@@ -11,10 +11,14 @@
 #include <QPointer>
 
 #include <array>
+#include <optional>
+
+class QFocusEvent;
 
 namespace CorvelGui {
 
-/// What a FancyLineEdit keeps of its two sides. It watches the buttons for the keyboard focus.
+/// What a FancyLineEdit keeps of its two sides. It watches the keyboard focus of the buttons and of
+/// the line edit.
 class CORVELGUI_EXPORT FancyLineEditPrivate : public QObject
 {
     Q_OBJECT
@@ -27,6 +31,8 @@ public:
         bool menuTabFocusTrigger = false;
         IconButton* button = nullptr;
         bool buttonEnabled = false;
+        /// Of a button that Tab passes by, because it showed its menu already.
+        std::optional<Qt::FocusPolicy> usualFocusPolicy;
     };
 
     explicit FancyLineEditPrivate(FancyLineEdit* lineEdit);
@@ -38,6 +44,9 @@ public:
 
     FancyLineEdit* const lineEdit;
     std::array<SideState, 2> sides;
+
+private:
+    void noteFocusOut(const QFocusEvent& event);
 };
 
 } // namespace CorvelGui
