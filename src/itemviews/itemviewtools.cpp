@@ -21,6 +21,14 @@ void copyToClipboard(const QString& text)
     QGuiApplication::clipboard()->setText(text, QClipboard::Clipboard);
 }
 
+void hideAll(const QList<QPointer<QWidget>>& widgets)
+{
+    for (const QPointer<QWidget>& widget : widgets) {
+        if (widget)
+            widget->hide();
+    }
+}
+
 void makeHeaderBold(QHeaderView* header)
 {
     QFont font = header->font();

@@ -3,7 +3,10 @@
 #include <QAbstractItemModel>
 #include <QFont>
 #include <QItemSelection>
+#include <QList>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 class QHeaderView;
 
@@ -12,6 +15,10 @@ namespace CorvelGui::ItemViewTools {
 
 /// Leaves the other clipboard modes alone.
 void copyToClipboard(const QString& text);
+
+/// Hides widgets that a view has given up. When one of them had the focus, receivers may change the
+/// view and delete other widgets.
+void hideAll(const QList<QPointer<QWidget>>& widgets);
 
 void makeHeaderBold(QHeaderView* header);
 /// Widens a section by @p offset pixels; a negative one narrows it, down to nothing.

@@ -118,12 +118,14 @@ void PTableWidget::ScrollToItemAndSelect(QTableWidgetItem* item, bool select)
 
 void PTableWidget::DeleteWidgets(int column)
 {
+    QList<QPointer<QWidget>> widgets;
     for (int row = 0; row < rowCount(); ++row) {
         if (QWidget* widget = cellWidget(row, column)) {
-            widget->hide();
+            widgets.append(widget);
             removeCellWidget(row, column);
         }
     }
+    ItemViewTools::hideAll(widgets);
 }
 
 bool PTableWidget::IsAlLeastOneSelected(int column) const

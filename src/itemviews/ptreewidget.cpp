@@ -116,7 +116,7 @@ void PTreeWidget::ScrollToItemAndSelect(QTreeWidgetItem* item, bool select)
     // The receivers of what these steps emit may delete the item.
     const QPersistentModelIndex index = GetModelIndexFromItem(item, 0);
     const bool isThere = whileAlive(
-        this, [this] { clearSelection(); },
+        this, [this] { clearSelection(); }, [this, &index] { expandAbove(index); },
         [this, &index] {
             if (index.isValid())
                 scrollTo(index, QAbstractItemView::EnsureVisible);
@@ -133,14 +133,16 @@ void PTreeWidget::ScrollToItemAndSelect(QTreeWidgetItem* item, bool select)
 
 void PTreeWidget::DeleteWidgets(int column)
 {
-    anyIndexBelow(*model(), {}, [this, column](const QModelIndex& index) {
+    QList<QPointer<QWidget>> widgets;
+    anyIndexBelow(*model(), {}, [this, column, &widgets](const QModelIndex& index) {
         const QModelIndex cell = index.siblingAtColumn(column);
         if (QWidget* widget = indexWidget(cell)) {
-            widget->hide();
+            widgets.append(widget);
             setIndexWidget(cell, nullptr);
         }
         return false;
     });
+    ItemViewTools::hideAll(widgets);
 }
 
 bool PTreeWidget::IsAlLeastOneSelected(int column) const
@@ -281,8 +283,24 @@ void PTreeWidget::expandBelow(const QModelIndex& parent, bool expand)
             changing.append(index);
         return false;
     });
+    noteAllExpanded(changing, expand);
+}
+
+void PTreeWidget::expandAbove(const QModelIndex& index)
+{
+    // scrollTo() would do it, too, but works on the tree after its signals.
+    QList<QPersistentModelIndex> closed;
+    for (QModelIndex parent = index.parent(); parent.isValid(); parent = parent.parent()) {
+        if (itemsExpandable() && !isExpanded(parent))
+            closed.append(parent);
+    }
+    noteAllExpanded(closed, true);
+}
+
+void PTreeWidget::noteAllExpanded(const QList<QPersistentModelIndex>& indexes, bool expand)
+{
     const QPointer<PTreeWidget> alive(this);
-    for (const QPersistentModelIndex& index : changing) {
+    for (const QPersistentModelIndex& index : indexes) {
         if (!index.isValid())
             continue;
         noteExpanded(index, expand);

@@ -2,6 +2,7 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
+#include <QPersistentModelIndex>
 #include <QPoint>
 #include <QTreeWidget>
 
@@ -115,6 +116,8 @@ private:
     bool hasSubtree(const QModelIndex& index, bool expanded) const;
     bool anySubtreeBelow(const QModelIndex& parent, bool expanded) const;
     void expandBelow(const QModelIndex& parent, bool expand);
+    void expandAbove(const QModelIndex& index);
+    void noteAllExpanded(const QList<QPersistentModelIndex>& indexes, bool expand);
     void noteExpanded(const QModelIndex& index, bool expand);
     void appendShownBelow(const QModelIndex& parent, QItemSelection& selection) const;
     int rowHeightsBelow(const QModelIndex& parent) const;
