@@ -15,7 +15,7 @@ PAskRefreshDialog::PAskRefreshDialog(QWidget* parent, const QVariant& lastUpdate
 {
     m_ui->setupUi(this);
     const QIcon icon = Hueloft::PIconHelper::GetRefreshIcon_256x256(true);
-    m_ui->labelRefreshIcon->setPixmap(icon.pixmap(icon.availableSizes().constFirst()));
+    m_ui->labelRefreshIcon->setPixmap(icon.pixmap(icon.availableSizes().value(0)));
     m_ui->checkBoxShowNextTime->setChecked(showNextTime);
     showLastUpdate();
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &PAskRefreshDialog::slotAccept);

@@ -4,8 +4,8 @@
 
 #include <Hueloft/PMessageBox>
 
+#include <QCoreApplication>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QPointer>
 
 namespace CorvelGui {
@@ -65,8 +65,8 @@ void PPasswordInputDialog::slotAccept()
         return;
     }
     const QPointer<PPasswordInputDialog> alive(this);
-    Hueloft::PMessageBox::Warning(this, QGuiApplication::applicationDisplayName(),
-                                  tr("Wrong Password!"), QMessageBox::Ok, QMessageBox::Ok);
+    Hueloft::PMessageBox::Warning(this, QCoreApplication::applicationName(), tr("Wrong Password!"),
+                                  QMessageBox::Ok, QMessageBox::Ok);
     if (!alive)
         return;
     // The next try replaces this one.

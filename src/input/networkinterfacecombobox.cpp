@@ -19,6 +19,7 @@ bool NetworkInterfaceComboBox::InitNetworkFilter(const QString& preferredAddress
 bool NetworkInterfaceComboBox::showInterfaces(const QList<Corvel::NetworkInterfaceData>& interfaces,
                                               const QString& preferredAddress)
 {
+    const bool connected = !interfaces.isEmpty();
     {
         const QSignalBlocker blocker(this);
         clear();
@@ -30,18 +31,18 @@ bool NetworkInterfaceComboBox::showInterfaces(const QList<Corvel::NetworkInterfa
             setItemData(index, networkInterface.getBroadcast(), BroadcastRole);
             setItemData(index, networkInterface.getNetmask(), NetmaskRole);
         }
-        if (interfaces.isEmpty()) {
+        if (connected) {
+            setStyleSheet(QString());
+        } else {
             setStyleSheet(u"QComboBox{color: red;font: bold;}"_s);
             addItem(tr("No Network Connection"));
             setCurrentIndex(0);
-        } else {
-            setStyleSheet(QString());
         }
     }
     // Not silent any more; the selection is the last that is touched, as a slot may delete the box.
     const int preferred = findData(preferredAddress, AddressRole);
     setCurrentIndex(qMax(preferred, 0));
-    return !interfaces.isEmpty();
+    return connected;
 }
 
 QHostAddress NetworkInterfaceComboBox::getCurrentHostAddress() const
