@@ -67,7 +67,7 @@ void TestToolTipHelper::appends_data()
     };
     const QDateTime time(QDate(2026, 3, 29), QTime(2, 30), Qt::UTC);
     const QString shortTime = QLocale::system().toString(time, QLocale::ShortFormat);
-    const QString megabyte = u"<b>&"_s.repeated(1 << 18);
+    const QString megabyte = u"<b>&amp;<img src=\"/etc/passwd\">"_s.repeated(1 << 15);
     const QString line = u"<tr><th colspan=\"2\"><hr noshade%1</hr></th></tr>"_s;
     const std::pair<Build, QString> rows[] = {
         {with(u"%1>"_s), bold(u"%1&gt;"_s)},

@@ -1,5 +1,7 @@
 #include "testsupport.h"
+#include "whenshown.h"
 
+#include <CorvelGui/PCsvDialog>
 #include <CorvelGui/PHeaderCheckMenu>
 #include <CorvelGui/PTableWidget>
 #include <CorvelGui/PTableWidgetItem>
@@ -9,6 +11,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -41,16 +45,14 @@ public:
     {
         QString texts;
         for (int row = 0; row < rowCount(); ++row)
-            if (!isRowHidden(row))
-                texts += item(row, 0)->text();
+            texts += isRowHidden(row) ? QString() : item(row, 0)->text();
         return texts;
     }
     QString hiddenColumns() const
     {
         QString result;
         for (int column = 0; column < columnCount(); ++column)
-            if (isColumnHidden(column))
-                result += QString::number(column);
+            result += isColumnHidden(column) ? QString::number(column) : QString();
         return result;
     }
     using PTableWidget::slotCopy;
@@ -78,6 +80,7 @@ class TestTableWidget : public WarningFreeTest
 
 private Q_SLOTS:
     void copies();
+    void deletesWidgets();
     void filtersAndSelectsWhatIsShown();
     void selects();
     void measures();
@@ -96,6 +99,31 @@ void TestTableWidget::copies()
     QCOMPARE(clipboard(), u"b\nc"_s);
     table.slotCopy();
     QCOMPARE(clipboard(), u"b\t\t1\t\nc\tX\t3\t\n"_s);
+
+    QStringList columns;
+    whenShown<PCsvDialog>(&table, [&columns](PCsvDialog& dialog) {
+        for (int column : {0, 1, 2})
+            columns << dialog.findChild<QListWidget*>()->item(column)->text();
+        dialog.reject();
+    });
+    table.CsvExport();
+    QCOMPARE(columns, (QStringList{u"Name"_s, u"R&D"_s, QString()}));
+    QCOMPARE(table.findChild<PCsvDialog*>(), nullptr);
+}
+
+void TestTableWidget::deletesWidgets()
+{
+    Table table;
+    const QPointer<QWidget> kept = new QWidget;
+    const QPointer<QPushButton> button = new QPushButton;
+    table.setCellWidget(1, 0, kept);
+    table.setCellWidget(1, 1, button); // in the cell without an item
+    // It asks for it itself.
+    connect(button, &QPushButton::clicked, &table, [&table] { table.DeleteWidgets(1); });
+    button->click();
+    QCOMPARE(table.cellWidget(1, 1), nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!button && kept);
 }
 
 void TestTableWidget::filtersAndSelectsWhatIsShown()
@@ -182,14 +210,15 @@ void TestTableWidget::screenReader()
     QAccessibleTableInterface* cells = reader->tableInterface();
     QCOMPARE(cells->rowCount(), 4);
     QCOMPARE(cells->columnDescription(0), u"Name"_s);
-    QAccessibleInterface* first = cells->cellAt(0, 0);
-    QCOMPARE(first->text(QAccessible::Name), u"No connection"_s);
-    QVERIFY(first->state().checkable && first->state().checked && !first->state().selected);
-    QAccessibleInterface* boldCell = cells->cellAt(2, 0);
-    QCOMPARE(boldCell->text(QAccessible::Name), u"a"_s);
-    QVERIFY(boldCell->state().checkable && !boldCell->state().checked);
-    QVERIFY(boldCell->state().selected);
-    QVERIFY(!cells->cellAt(2, 1)->state().checkable);
+    const std::tuple<int, int, QString, QList<quint64>> told[] = {
+        {0, 0, u"No connection"_s, {true, true, false}},
+        {2, 0, u"a"_s, {true, false, true}},
+        {2, 1, u"X"_s, {false, false, true}}};
+    for (const auto& [row, column, name, states] : told) {
+        const QAccessible::State state = cells->cellAt(row, column)->state();
+        QCOMPARE(cells->cellAt(row, column)->text(QAccessible::Name), name);
+        QCOMPARE((QList<quint64>{state.checkable, state.checked, state.selected}), states);
+    }
     QCOMPARE(cells->selectedRows(), QList<int>{2});
 }
 
@@ -222,6 +251,15 @@ void TestTableWidget::headerMenu()
     menu->setColumnVisible(7, false);
     QVERIFY(!table.isColumnHidden(1));
     QCOMPARE(toggled.count(), 1);
+
+    // Outlives its header, also while it is open.
+    auto gone = std::make_unique<Table>();
+    PHeaderCheckMenu orphan(gone->horizontalHeader(), &table);
+    Q_EMIT gone->horizontalHeader()->customContextMenuRequested({5, 5});
+    gone.reset();
+    orphan.actions().constFirst()->trigger();
+    orphan.popup({});
+    QVERIFY(orphan.isEmpty());
 }
 
 void TestTableWidget::headerMenuState()
