@@ -11,11 +11,11 @@
 #include <Corvel/ProxyUserSettings>
 #include <Hueloft/PMessageBox>
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QNetworkReply>
 #include <QPointer>
 #include <QUrl>
@@ -32,11 +32,6 @@ namespace CorvelGui {
 namespace {
 
 const QString versionFileName = u"version.txt"_s;
-
-QString applicationName()
-{
-    return QGuiApplication::applicationDisplayName();
-}
 
 } // namespace
 
@@ -288,8 +283,9 @@ void PCheckVersionUpdate::compareVersions()
         qDebug() << "New version found!";
         offer();
     } else if (d->showResult) {
-        PMessageBox::Information(parentWidget(), applicationName(),
-                                 tr("Your %1 Version is up to date").arg(applicationName()));
+        PMessageBox::Information(
+            parentWidget(), QCoreApplication::applicationName(),
+            tr("Your %1 Version is up to date").arg(QCoreApplication::applicationName()));
     }
 }
 
@@ -299,7 +295,7 @@ void PCheckVersionUpdate::offer()
     const VersionFile offered = d->offered;
     const QString base = d->internalChannel ? d->intranetBase : d->internetBase;
     const auto current = ReleaseVersion::parse(d->currentVersion).value_or(ReleaseVersion());
-    QString heading = applicationName();
+    QString heading = QCoreApplication::applicationName();
     if (d->internalChannel)
         heading += tr(" ") + tr("(Internal Release Channel)");
     const QString message =
@@ -311,7 +307,7 @@ void PCheckVersionUpdate::offer()
     const QPointer<PCheckVersionUpdate> self(this);
     const QPointer<PCheckVersionUpdateDialog> dialog(
         new PCheckVersionUpdateDialog(message, d->readmeText, parentWidget()));
-    dialog->setWindowTitle(applicationName());
+    dialog->setWindowTitle(QCoreApplication::applicationName());
     const bool wanted = dialog->exec() == QDialog::Accepted;
     delete dialog;
     if (!wanted || !self)
@@ -380,7 +376,7 @@ void PCheckVersionUpdate::saveInstaller(const QByteArray& content)
         return;
     }
     const int answer = PMessageBox::Question(
-        parentWidget(), applicationName(),
+        parentWidget(), QCoreApplication::applicationName(),
         tr("Downloading of new version was finished successfully!\n\nLocation: %1\n\n"
            "Open download file location?")
             .arg(QDir::toNativeSeparators(path)),

@@ -125,7 +125,7 @@ private:
 void TestPCheckVersionUpdate::initTestCase()
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QGuiApplication::setApplicationDisplayName(title);
+    QCoreApplication::setApplicationName(title);
 }
 
 void TestPCheckVersionUpdate::channelsAreAskedInOrder_data()
@@ -349,6 +349,8 @@ void TestPCheckVersionUpdate::goesAtAnyMoment()
                 if (now == moment)
                     delete parent;
             });
+    if (moment == u"request"_s)
+        bench.server.script("/in/version.txt", versionFile, Misbehaviour::Never);
     bench.update->checkVersion(false);
     if (moment == u"request") {
         QTRY_VERIFY(!bench.server.targets().isEmpty());
