@@ -124,8 +124,8 @@ void TestReviewProgram::pictures()
     QVERIFY2(run(request + arguments) == 0, qPrintable(m_errors));
     const QImage picture(m_dir.filePath(u"window.png"_s));
     QTEST(picture.size(), "size");
-    // The body of the track table, below its few rows.
-    QCOMPARE(picture.pixelColor(picture.width() / 4, 250).lightness() < 128, dark);
+    // The body of the cameras, below their few rows.
+    QCOMPARE(picture.pixelColor(picture.width() / 4, 280).lightness() < 128, dark);
 }
 
 void TestReviewProgram::pictureThatCannotBeWritten()
