@@ -1,5 +1,7 @@
 #pragma once
 
+#include "frame/internalexport.h"
+
 #include <QtGlobal>
 #include <qwindowdefs.h>
 
@@ -26,7 +28,7 @@ public:
 
     /// The shell of this machine; null, after a warning where one was to be expected, if there is
     /// none.
-    static std::unique_ptr<TaskbarBackend> create();
+    CORVELGUI_INTERNAL_EXPORT static std::unique_ptr<TaskbarBackend> create();
 };
 
 } // namespace CorvelGui

@@ -46,7 +46,8 @@ public:
     explicit ShellTaskbar(ITaskbarList3* taskbar)
         : m_taskbar(taskbar), m_buttonCreated(RegisterWindowMessageW(L"TaskbarButtonCreated"))
     {
-        QCoreApplication::instance()->installNativeEventFilter(this);
+        if (QCoreApplication* application = QCoreApplication::instance())
+            application->installNativeEventFilter(this);
     }
 
     // The button keeps what it shows.
