@@ -125,7 +125,7 @@ void TestReviewProgram::pictures()
     const QImage picture(m_dir.filePath(u"window.png"_s));
     QTEST(picture.size(), "size");
     // The body of the cameras, below their few rows.
-    QCOMPARE(picture.pixelColor(picture.width() / 4, 280).lightness() < 128, dark);
+    QCOMPARE(picture.pixelColor(picture.width() / 10, 280).lightness() < 128, dark);
 }
 
 void TestReviewProgram::pictureThatCannotBeWritten()
