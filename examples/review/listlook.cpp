@@ -43,8 +43,6 @@ int ListLook::rowHeight(const QAbstractItemView* list)
 
 QLayout* ListLook::place(QLineEdit* filter)
 {
-    // Before it is laid out, the field is high, and wants as much room for its button.
-    filter->setMinimumWidth(120);
     auto* layout = new QHBoxLayout;
     layout->setContentsMargins(8, 6, 8, 6);
     layout->addWidget(filter);

@@ -163,10 +163,12 @@ void FancyLineEdit::iconClicked(Side side)
 
 void FancyLineEdit::updateMargins()
 {
-    const auto space = [this](Side side) {
+    // Before it gets its first size, a widget has one that is far from what it will be.
+    const int height = testAttribute(Qt::WA_Resized) ? this->height() : sizeHint().height();
+    const auto space = [this, height](Side side) {
         if (!d->sides[side].buttonEnabled)
             return 0;
-        const int width = height() * d->aspectFactor(side) + 2 * buttonOffset;
+        const int width = height * d->aspectFactor(side) + 2 * buttonOffset;
         return style()->inherits("OxygenStyle") ? qMax(width, oxygenSpace) : width;
     };
     const QMargins margins(space(sideAt(Left)), 0, space(sideAt(Right)), 0);
