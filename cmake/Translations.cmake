@@ -34,16 +34,27 @@ function(corvelgui_add_translations target)
     endforeach()
 endfunction()
 
-# corvelgui_update_translations(<file.ts> FROM <folder>...)
+# corvelgui_update_translations(<file.ts> [ONLY_PLURALS] FROM <folder>...)
 #
-# Makes the target update_translations, which brings the texts of the sources into the file and drops those that are
-# gone, and sets CORVELGUI_UPDATE_TRANSLATION to the command without the file, for the test that nothing is missing.
+# Lets the target update_translations bring the texts of the sources into the file and drop those that are gone; with
+# ONLY_PLURALS, for the language of the sources, just the texts that depend on a number. The command, without the file,
+# is in the global property CORVELGUI_UPDATE_<name of the file>, for the test that nothing is missing.
 function(corvelgui_update_translations source)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FROM")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "ONLY_PLURALS" "" "FROM")
     if(NOT CORVELGUI_LUPDATE)
         return()
     endif()
-    set(command "${CORVELGUI_LUPDATE}" -silent -no-obsolete -locations none ${arg_FROM} -ts)
-    add_custom_target(update_translations COMMAND ${command} "${source}" VERBATIM)
-    set(CORVELGUI_UPDATE_TRANSLATION "${command}" PARENT_SCOPE)
+    if(arg_ONLY_PLURALS)
+        set(plurals -pluralonly)
+    else()
+        set(plurals)
+    endif()
+    set(command "${CORVELGUI_LUPDATE}" -silent -no-obsolete ${plurals} -locations none ${arg_FROM} -ts)
+    get_filename_component(name "${source}" NAME_WE)
+    if(NOT TARGET update_translations)
+        add_custom_target(update_translations)
+    endif()
+    add_custom_target(update_${name} COMMAND ${command} "${source}" VERBATIM)
+    add_dependencies(update_translations update_${name})
+    set_property(GLOBAL PROPERTY CORVELGUI_UPDATE_${name} "${command}")
 endfunction()

@@ -1,5 +1,7 @@
 #include "commandline.h"
 
+#include "languages.h"
+
 #include <Corvel/TimeZoneHelper>
 
 #include <QCommandLineParser>
@@ -27,16 +29,20 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
         tr("Periods in which the tracks are described, in the columns track, begin, end. A track "
            "without one is described from its first to its last recording."),
         tr("file"));
-    const QCommandLineOption zone(
-        u"zone"_s, tr("Time zone, such as Europe/Brussels. Default: the one of this machine."),
-        tr("name"));
-    const QCommandLineOption look(u"look"_s, tr("Look of the window: dark or light."), tr("look"),
-                                  u"dark"_s);
+    const QCommandLineOption zone(u"zone"_s, tr("Time zone, such as Europe/Brussels."), tr("name"));
+    const QCommandLineOption look(u"look"_s, tr("Look of the window: dark or light."), tr("look"));
+    const QCommandLineOption language(u"language"_s, tr("Language of the window: de or en."),
+                                      tr("key"));
+    const QCommandLineOption settings(
+        u"settings"_s, tr("File that keeps the settings. Default: the one of this user."),
+        tr("file"));
     const QCommandLineOption picture(
         u"picture"_s, tr("Writes a PNG picture of the window and exits."), tr("file"));
     const QCommandLineOption size(u"size"_s, tr("Size of the window, such as 1200x700."),
                                   tr("size"));
-    parser.addOptions({recordings, events, deployments, zone, look, picture, size});
+    const QList<QCommandLineOption> options{recordings, events,   deployments, zone, look,
+                                            language,   settings, picture,     size};
+    parser.addOptions(options);
 
     const auto refuse = [this](const QString& message) {
         m_message = message;
@@ -56,7 +62,7 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
         return refuse(parser.errorText());
     if (const QStringList extra = parser.positionalArguments(); !extra.isEmpty())
         return refuse(tr("Unexpected argument “%1”.").arg(extra.first()));
-    for (const auto& option : {recordings, events, deployments, zone, look, picture, size}) {
+    for (const QCommandLineOption& option : options) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return refuse(tr("The option --%1 needs a value.").arg(option.names().first()));
     }
@@ -65,12 +71,22 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
                          .events = parser.value(events),
                          .deployments = parser.value(deployments)};
     m_arguments.picture = parser.value(picture);
-    m_arguments.zone = parser.value(zone);
-    if (parser.isSet(zone) && Corvel::TimeZoneHelper::getTimeZone(m_arguments.zone).isEmpty())
-        return refuse(tr("Unknown time zone “%1”.").arg(m_arguments.zone));
-    m_arguments.dark = parser.value(look) == "dark"_L1;
-    if (!m_arguments.dark && parser.value(look) != "light"_L1)
-        return refuse(tr("Unknown look “%1”: it is dark or light.").arg(parser.value(look)));
+    m_arguments.settings = parser.value(settings);
+    if (parser.isSet(zone)) {
+        m_arguments.zone = parser.value(zone);
+        if (Corvel::TimeZoneHelper::getTimeZone(*m_arguments.zone).isEmpty())
+            return refuse(tr("Unknown time zone “%1”.").arg(*m_arguments.zone));
+    }
+    if (parser.isSet(look)) {
+        m_arguments.dark = parser.value(look) == "dark"_L1;
+        if (!*m_arguments.dark && parser.value(look) != "light"_L1)
+            return refuse(tr("Unknown look “%1”: it is dark or light.").arg(parser.value(look)));
+    }
+    if (parser.isSet(language)) {
+        m_arguments.language = parser.value(language);
+        if (!Languages::keys().contains(*m_arguments.language))
+            return refuse(tr("Unknown language “%1”: it is de or en.").arg(*m_arguments.language));
+    }
     if (parser.isSet(size)) {
         if (const QString fault = readSize(parser.value(size)); !fault.isEmpty())
             return refuse(fault);

@@ -6,15 +6,20 @@
 #include <QSize>
 #include <QString>
 
+#include <optional>
+
 namespace Review {
 
 /// What the program was asked to do.
 struct Arguments
 {
     ReviewFiles files;
-    /// Empty for the zone of this machine.
-    QString zone;
-    bool dark = true;
+    /// Empty for the settings of this user, or for none when a picture is written.
+    QString settings;
+    /// What holds instead of the settings.
+    std::optional<QString> zone;
+    std::optional<bool> dark;
+    std::optional<QString> language;
     /// Empty to show the window until it is closed.
     QString picture;
     /// Empty for what fits the screen.

@@ -3,15 +3,13 @@
 #include <QCalendarWidget>
 #include <QSignalBlocker>
 
-using namespace Qt::StringLiterals;
-
 namespace Review {
 
 InstantEdit::InstantEdit(const TimeTexts& times, QWidget* parent)
     : QDateTimeEdit(parent), m_times(times)
 {
     setTimeSpec(Qt::UTC);
-    setDisplayFormat(u"dd.MM.yyyy HH:mm:ss"_s);
+    setDisplayFormat(m_times.format().pattern());
     setCalendarPopup(true);
     connect(this, &QDateTimeEdit::dateTimeChanged, this,
             [this](const QDateTime& shown) { m_instant = m_times.fromWallClock(shown); });
@@ -26,6 +24,10 @@ void InstantEdit::setInstant(qint64 msecs)
 void InstantEdit::setTimes(const TimeTexts& times)
 {
     m_times = times;
+    {
+        const QSignalBlocker silent(this);
+        setDisplayFormat(m_times.format().pattern());
+    }
     showInstant();
 }
 

@@ -1,7 +1,10 @@
+#include "clientoptions.h"
 #include "commandline.h"
 #include "console.h"
+#include "languages.h"
 #include "picture.h"
 #include "reviewwindow.h"
+#include "settingsstore.h"
 
 #include <QApplication>
 #include <QDir>
@@ -17,6 +20,14 @@ int fail(ExitCode code, const QString& message)
 {
     Console::printError(QCoreApplication::applicationName() + u": "_s + message + u'\n');
     return code;
+}
+
+// A picture shows the same on every machine.
+QString settingsFile(const Arguments& arguments)
+{
+    if (!arguments.settings.isEmpty() || !arguments.picture.isEmpty())
+        return arguments.settings;
+    return SettingsStore::userFile();
 }
 
 int takePicture(QWidget& window, const QString& path)
@@ -38,6 +49,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(u"corvel-review"_s);
     QApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));
 
+    Languages::use(nullptr, Languages::keyFor({}));
     CommandLine commandLine;
     switch (commandLine.parse(QApplication::arguments())) {
     case CommandLine::Outcome::Answered:
@@ -50,13 +62,20 @@ int main(int argc, char* argv[])
     }
     const Arguments& arguments = commandLine.arguments();
 
-    ReviewWindow window(arguments.zone, arguments.dark);
+    SettingsStore store(settingsFile(arguments));
+    ReviewSettings settings = store.settings();
+    settings.zone = arguments.zone.value_or(settings.zone);
+    settings.dark = arguments.dark.value_or(settings.dark);
+    settings.language = arguments.language.value_or(settings.language);
+    store.assume(settings);
+
+    ReviewWindow window(settings.zone, settings.dark);
+    window.setCenterPosAndResize();
+    const ClientOptions options(store, window);
     if (!arguments.size.isEmpty())
         window.resize(arguments.size);
     else if (!arguments.picture.isEmpty())
         window.resize(1200, 700);
-    else
-        window.setCenterPosAndResize();
     window.show();
 
     QObject::connect(

@@ -10,6 +10,7 @@
 #include "previewcard.h"
 #include "problemdock.h"
 #include "rangepanel.h"
+#include "reviewsettings.h"
 #include "timelinepane.h"
 #include "timelinetoolbar.h"
 #include "transportbar.h"
@@ -29,6 +30,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
+#include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -49,6 +51,10 @@ namespace {
 constexpr int problemDockHeight = 150;
 constexpr int readingTime = 8'000; // milliseconds
 constexpr std::chrono::milliseconds quickLoad(200);
+
+const QString geometryKey = u"Window/Geometry"_s;
+const QString stateKey = u"Window/State"_s;
+const QString tablesKey = u"Window/Tables"_s;
 
 } // namespace
 
@@ -184,6 +190,7 @@ QWidget* ReviewWindow::createContent()
 QWidget* ReviewWindow::createTables(QWidget* parent)
 {
     auto* tables = new QSplitter(parent);
+    m_tables = tables;
     tables->setChildrenCollapsible(false);
     m_devices = new DevicePane(m_times, tables);
     m_playback = new PlaybackPane(m_times, tables);
@@ -229,6 +236,9 @@ void ReviewWindow::createMenus()
     }
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(m_darkLook);
+
+    m_toolsMenu = menuBar()->addMenu(QString());
+    m_toolsMenu->menuAction()->setVisible(false);
 
     m_updateMenu = new UpdateMenu(this, statusBar());
     menuBar()->addMenu(m_updateMenu);
@@ -284,7 +294,11 @@ void ReviewWindow::connectParts()
     connect(m_ranges, &RangePanel::resultWanted, m_timeline, &TimelinePane::setResultRange);
     connect(m_ranges, &RangePanel::clearWanted, m_timeline, &TimelinePane::clearRanges);
 
-    connect(m_zone, &ZoneCombo::zoneChanged, this, &ReviewWindow::setZone);
+    connect(m_zone, &ZoneCombo::zoneChanged, this, [this](const QString& zone) {
+        setTimes(TimeTexts(zone, m_times.format()), zone);
+        Q_EMIT settingsTouched();
+    });
+    connect(m_darkLook, &QAction::triggered, this, &ReviewWindow::settingsTouched);
     connect(m_zone, &ZoneCombo::zoneRefused, this, [this](const QString& text) {
         statusBar()->showMessage(
             tr("There is no time zone “%1”. Times stay in %2.").arg(text, m_times.zoneName()),
@@ -301,6 +315,7 @@ void ReviewWindow::connectPlayer()
         enableExport();
     });
     connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
+    connect(m_transport->skipGaps(), &QCheckBox::clicked, this, &ReviewWindow::settingsTouched);
     connect(m_transport->timeView(), &TarvoDateTimeView::jumoToTime, m_timeline,
             [this](const QDateTime& time) { m_timeline->goTo(time.toMSecsSinceEpoch()); });
     connect(m_player, &Player::playingChanged, m_transport->timeView(),
@@ -327,6 +342,7 @@ void ReviewWindow::retranslate()
     m_viewMenu->setTitle(tr("&View"));
     m_updateMenu->retranslate();
     m_darkLook->setText(tr("Dark look"));
+    m_toolsMenu->setTitle(tr("&Tools"));
     m_zoneLabel->setText(tr("Time zone"));
     m_problems->retranslate();
     m_ranges->retranslate();
@@ -349,14 +365,47 @@ void ReviewWindow::enableExport()
                          !m_exportPanel->isExporting());
 }
 
-void ReviewWindow::setZone(const QString& name)
+void ReviewWindow::applySettings(const ReviewSettings& settings)
 {
-    m_times = TimeTexts(name);
+    m_darkLook->setChecked(settings.dark);
+    if (settings.zone != m_zone->zone() || settings.timeFormat != m_times.format()) {
+        m_zone->setZone(settings.zone);
+        setTimes(TimeTexts(settings.zone, settings.timeFormat), settings.zone);
+    }
+    m_transport->skipGaps()->setChecked(settings.skipGaps);
+    m_player->setShortcuts(settings.shortcuts);
+    m_updateMenu->setServers(settings.servers);
+}
+
+void ReviewWindow::takeSettings(ReviewSettings& settings) const
+{
+    settings.dark = m_darkLook->isChecked();
+    settings.zone = m_zone->zone();
+    settings.skipGaps = m_transport->skipGaps()->isChecked();
+}
+
+void ReviewWindow::writeUserSettings(QSettings& settings) const
+{
+    settings.setValue(geometryKey, saveGeometry());
+    settings.setValue(stateKey, saveState());
+    settings.setValue(tablesKey, m_tables->saveState());
+}
+
+void ReviewWindow::readUserSettings(QSettings& settings)
+{
+    restoreGeometry(settings.value(geometryKey).toByteArray());
+    restoreState(settings.value(stateKey).toByteArray());
+    m_tables->restoreState(settings.value(tablesKey).toByteArray());
+}
+
+void ReviewWindow::setTimes(const TimeTexts& times, const QString& zoneName)
+{
+    m_times = times;
     m_devices->setTimes(m_times);
     m_playback->setTimes(m_times);
     m_events->setTimes(m_times);
     m_ranges->setTimes(m_times);
-    m_timeline->setZone(name);
+    m_timeline->setZone(zoneName);
     m_preview->hide();
     statusBar()->clearMessage();
     showView();

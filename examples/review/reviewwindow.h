@@ -3,6 +3,7 @@
 #include "reviewloader.h"
 #include "timetexts.h"
 
+#include <CorvelGui/IUserSettings>
 #include <CorvelGui/PMainWindow>
 
 #include <memory>
@@ -10,6 +11,7 @@
 class QAction;
 class QLabel;
 class QMenu;
+class QSplitter;
 
 namespace Review {
 
@@ -22,6 +24,7 @@ class Player;
 class PreviewCard;
 class ProblemDock;
 class RangePanel;
+struct ReviewSettings;
 class TimelinePane;
 class TimelineToolBar;
 class TransportBar;
@@ -30,7 +33,7 @@ class ZoneCombo;
 
 /// The client's window: cameras, the picture of one of them, and events; the timeline that shows
 /// the checked ones, and what plays it; the lines that could not be loaded.
-class ReviewWindow : public CorvelGui::PMainWindow
+class ReviewWindow : public CorvelGui::PMainWindow, public IUserSettings
 {
     Q_OBJECT
 
@@ -49,7 +52,21 @@ public:
     /// Shows the day in the middle of the period, with the indicator on the first event after noon.
     void showMiddleDay();
 
+    /// For what belongs to the whole program; hidden as long as it is empty.
+    QMenu* toolsMenu() const { return m_toolsMenu; }
+
+    /// Puts the settings into effect as far as they concern the window.
+    void applySettings(const ReviewSettings& settings);
+    /// Takes what the user can set in the window itself into @p settings.
+    void takeSettings(ReviewSettings& settings) const;
+
+    /// Place and size, docks and tool bars, and the widths of the panes.
+    void writeUserSettings(QSettings& settings) const override;
+    void readUserSettings(QSettings& settings) override;
+
 Q_SIGNALS:
+    /// Emitted when the user changed something that takeSettings() takes.
+    void settingsTouched();
     /// Emitted when load() has come to its end. With an @p error, which tells the user why a file
     /// cannot be read, the window shows what it did before.
     void loaded(const QString& error);
@@ -69,9 +86,9 @@ private:
 
     void openFolder();
     void finishLoading();
-    void setZone(const QString& name);
     void exportPictures();
     void enableExport();
+    void setTimes(const TimeTexts& times, const QString& zoneName);
     void showCounts();
     void showCheckedTracks();
     void showView();
@@ -81,6 +98,7 @@ private:
 
     ReviewData m_review;
     TimeTexts m_times;
+    QSplitter* m_tables;
     DevicePane* m_devices;
     EventPane* m_events;
     PlaybackPane* m_playback;
@@ -100,6 +118,7 @@ private:
     QAction* m_quit;
     QMenu* m_devicesMenu;
     QMenu* m_viewMenu;
+    QMenu* m_toolsMenu;
     UpdateMenu* m_updateMenu;
 
     ExportPanel* m_exportPanel;

@@ -9,9 +9,23 @@ using namespace Qt::StringLiterals;
 
 namespace Review {
 
-TimeTexts::TimeTexts(const QString& zoneName)
+QString TimeFormat::pattern() const
+{
+    switch (order) {
+    case Order::YearFirst:
+        return u"yyyy-MM-dd HH:mm:ss"_s;
+    case Order::MonthFirst:
+        return u"MM/dd/yyyy HH:mm:ss"_s;
+    case Order::DayFirst:
+        break;
+    }
+    return u"dd.MM.yyyy HH:mm:ss"_s;
+}
+
+TimeTexts::TimeTexts(const QString& zoneName, const TimeFormat& format)
     : m_zone(zoneName.isEmpty() ? QTimeZone::systemTimeZone()
                                 : QTimeZone(TimeZoneHelper::getTimeZone(zoneName).toUtf8()))
+    , m_format(format)
 {}
 
 QString TimeTexts::zoneName() const
@@ -21,15 +35,16 @@ QString TimeTexts::zoneName() const
 
 QString TimeTexts::dateTime(qint64 msecs) const
 {
-    return TimeZoneHelper::fromMSecsSinceEpoch(msecs, m_zone).toString(u"dd.MM.yyyy HH:mm:ss"_s);
+    return TimeZoneHelper::fromMSecsSinceEpoch(msecs, m_zone).toString(m_format.pattern());
 }
 
 QString TimeTexts::exactDateTime(qint64 msecs) const
 {
     const QDateTime time = TimeZoneHelper::fromMSecsSinceEpoch(msecs, m_zone);
-    return u"%1 %2 %3"_s.arg(QLocale().dayName(time.date().dayOfWeek(), QLocale::ShortFormat),
-                             time.toString(u"dd.MM.yyyy HH:mm:ss.zzz"_s),
-                             m_zone.abbreviation(time));
+    return u"%1 %2 %3"_s.arg(
+        QLocale().dayName(time.date().dayOfWeek(), QLocale::ShortFormat),
+        time.toString(m_format.milliseconds ? m_format.pattern() + u".zzz"_s : m_format.pattern()),
+        m_zone.abbreviation(time));
 }
 
 QString TimeTexts::duration(qint64 msecs)

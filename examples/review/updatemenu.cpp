@@ -11,8 +11,6 @@
 
 using CorvelGui::AppUpdater;
 using CorvelGui::PCheckVersionUpdate;
-using namespace Qt::StringLiterals;
-
 namespace Review {
 
 UpdateMenu::UpdateMenu(QWidget* window, QStatusBar* statusBar)
@@ -39,9 +37,7 @@ UpdateMenu::UpdateMenu(QWidget* window, QStatusBar* statusBar)
                 QCoreApplication::applicationName(),
                 QVersionNumber::fromString(QCoreApplication::applicationVersion()), true);
     });
-    setServers({.internalChannel = u"http://127.0.0.1:8480/internal/"_s,
-                .publicServer = u"http://127.0.0.1:8480/"_s,
-                .queryServer = u"http://127.0.0.1:8480"_s});
+    setServers({});
     retranslate();
 }
 
@@ -49,7 +45,7 @@ UpdateMenu::~UpdateMenu() = default;
 
 void UpdateMenu::setServers(const UpdateServers& servers)
 {
-    if (m_servers == servers)
+    if (m_updater && m_servers == servers)
         return;
     m_servers = servers;
     m_progress->hide();

@@ -18,10 +18,10 @@ namespace Review {
 struct UpdateServers
 {
     /// Folders with a version file each, with a slash at their end.
-    QString internalChannel;
-    QString publicServer;
+    QString internalChannel = QStringLiteral("http://127.0.0.1:8480/internal/");
+    QString publicServer = QStringLiteral("http://127.0.0.1:8480/");
     /// Answers update queries.
-    QString queryServer;
+    QString queryServer = QStringLiteral("http://127.0.0.1:8480");
 
     bool operator==(const UpdateServers&) const = default;
 };

@@ -29,11 +29,15 @@ QStringList zoneNames()
     return names;
 }
 
+QString known(const QString& zoneName)
+{
+    return zoneName.isEmpty() ? QString() : Corvel::TimeZoneHelper::getTimeZone(zoneName);
+}
+
 } // namespace
 
 ZoneCombo::ZoneCombo(const QString& zoneName, QWidget* parent)
-    : QComboBox(parent)
-    , m_zone(zoneName.isEmpty() ? QString() : Corvel::TimeZoneHelper::getTimeZone(zoneName))
+    : QComboBox(parent), m_zone(known(zoneName))
 {
     setEditable(true);
     setInsertPolicy(NoInsert);
@@ -49,6 +53,12 @@ ZoneCombo::ZoneCombo(const QString& zoneName, QWidget* parent)
     connect(this, &QComboBox::activated, this, &ZoneCombo::takeEntry);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &ZoneCombo::takeEntry);
     retranslate();
+}
+
+void ZoneCombo::setZone(const QString& zoneName)
+{
+    m_zone = known(zoneName);
+    showZone();
 }
 
 void ZoneCombo::retranslate()

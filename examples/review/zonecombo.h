@@ -13,6 +13,10 @@ public:
     /// @p zoneName is an IANA or Windows name; an empty one stands for the zone of this machine.
     explicit ZoneCombo(const QString& zoneName, QWidget* parent = nullptr);
 
+    /// Named as for the constructor.
+    QString zone() const { return m_zone; }
+    /// Emits nothing.
+    void setZone(const QString& zoneName);
     /// Applies all translated texts again.
     void retranslate();
 

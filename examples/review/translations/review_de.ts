@@ -1,0 +1,772 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>Review</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Review::CameraPicture</name>
+    <message>
+        <source>No recording at this time</source>
+        <translation>Keine Aufzeichnung zu dieser Zeit</translation>
+    </message>
+    <message>
+        <source>Nothing is known of this time</source>
+        <translation>Über diese Zeit ist nichts bekannt</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ClientOptions</name>
+    <message>
+        <source>&amp;Options…</source>
+        <translation>&amp;Optionen …</translation>
+    </message>
+    <message>
+        <source>&amp;Language…</source>
+        <translation>&amp;Sprache …</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>The settings cannot be written to %1. They hold until the program ends.</source>
+        <translation>Die Einstellungen können nicht nach %1 geschrieben werden. Sie gelten, bis das Programm endet.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::CommandLine</name>
+    <message>
+        <source>Shows recordings on a timeline. Without files it shows a sample.
+Files are CSV with a header line; times are ISO 8601 with Z or an offset.</source>
+        <translation>Zeigt Aufzeichnungen auf einer Zeitleiste. Ohne Dateien wird ein Beispiel gezeigt.
+Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abstand zu UTC.</translation>
+    </message>
+    <message>
+        <source>Recorded spans, in the columns track, begin, end.</source>
+        <translation>Aufgezeichnete Zeiträume in den Spalten track, begin, end.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Events, in the columns time, kind, text and, if there is one, track.</source>
+        <translation>Ereignisse in den Spalten time, kind, text und, falls vorhanden, track.</translation>
+    </message>
+    <message>
+        <source>Periods in which the tracks are described, in the columns track, begin, end. A track without one is described from its first to its last recording.</source>
+        <translation>Zeiträume, in denen die Spuren beschrieben sind, in den Spalten track, begin, end. Eine Spur ohne Zeitraum ist von ihrer ersten bis zu ihrer letzten Aufzeichnung beschrieben.</translation>
+    </message>
+    <message>
+        <source>Time zone, such as Europe/Brussels.</source>
+        <translation>Zeitzone, zum Beispiel Europe/Brussels.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Look of the window: dark or light.</source>
+        <translation>Aussehen des Fensters: dark (dunkel) oder light (hell).</translation>
+    </message>
+    <message>
+        <source>look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Language of the window: de or en.</source>
+        <translation>Sprache des Fensters: de oder en.</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>File that keeps the settings. Default: the one of this user.</source>
+        <translation>Datei mit den Einstellungen. Vorgabe: die dieses Benutzers.</translation>
+    </message>
+    <message>
+        <source>Writes a PNG picture of the window and exits.</source>
+        <translation>Schreibt ein PNG-Bild des Fensters und beendet das Programm.</translation>
+    </message>
+    <message>
+        <source>Size of the window, such as 1200x700.</source>
+        <translation>Größe des Fensters, zum Beispiel 1200x700.</translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Unexpected argument “%1”.</source>
+        <translation>Unerwartetes Argument „%1“.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>Die Option --%1 braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>Unknown time zone “%1”.</source>
+        <translation>Unbekannte Zeitzone „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown look “%1”: it is dark or light.</source>
+        <translation>Unbekanntes Aussehen „%1“: Möglich sind dark und light.</translation>
+    </message>
+    <message>
+        <source>Unknown language “%1”: it is de or en.</source>
+        <translation>Unbekannte Sprache „%1“: Möglich sind de und en.</translation>
+    </message>
+    <message>
+        <source>Bad size “%1”: it is WIDTHxHEIGHT, from %2x%3 to %4x%5.</source>
+        <translation>Ungültige Größe „%1“: BREITExHÖHE, von %2x%3 bis %4x%5.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::CsvTable</name>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>it has no header line that names its columns</source>
+        <translation>Eine Kopfzeile mit den Namen der Spalten fehlt</translation>
+    </message>
+    <message>
+        <source>it has no column “%1”</source>
+        <translation>Die Spalte „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>it has more than one column “%1”</source>
+        <translation>Die Spalte „%1“ kommt mehrmals vor</translation>
+    </message>
+    <message>
+        <source>the line is not UTF-8</source>
+        <translation>die Zeile ist nicht in UTF-8 geschrieben</translation>
+    </message>
+    <message>
+        <source>a quote is not closed</source>
+        <translation>ein Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>there is text behind a closing quote</source>
+        <translation>hinter einem schließenden Anführungszeichen steht Text</translation>
+    </message>
+    <message>
+        <source>%1 fields instead of %2</source>
+        <translation>%1 Felder statt %2</translation>
+    </message>
+</context>
+<context>
+    <name>Review::DevicePane</name>
+    <message>
+        <source>Tracks</source>
+        <translation>Spuren</translation>
+    </message>
+</context>
+<context>
+    <name>Review::EventKinds</name>
+    <message>
+        <source>Person</source>
+        <translation>Person</translation>
+    </message>
+    <message>
+        <source>Vehicle</source>
+        <translation>Fahrzeug</translation>
+    </message>
+    <message>
+        <source>Animal</source>
+        <translation>Tier</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Bookmark</source>
+        <translation>Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Blank</source>
+        <translation>Leer</translation>
+    </message>
+</context>
+<context>
+    <name>Review::EventModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Spur</translation>
+    </message>
+</context>
+<context>
+    <name>Review::EventPane</name>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+</context>
+<context>
+    <name>Review::KeyboardPage</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1: %2 is also set for “%3”.</source>
+        <translation>%1: %2 ist auch für „%3“ eingestellt.</translation>
+    </message>
+    <message>
+        <source>%1: %2 belongs to “%3”.</source>
+        <translation>%1: %2 gehört zu „%3“.</translation>
+    </message>
+    <message>
+        <source>Such shortcuts are not taken over.</source>
+        <translation>Solche Tastenkürzel werden nicht übernommen.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::LineParser</name>
+    <message>
+        <source>“%1” is not an ISO 8601 date and time</source>
+        <translation>„%1“ ist kein Zeitpunkt nach ISO 8601</translation>
+    </message>
+    <message>
+        <source>“%1” has neither an offset from UTC nor a Z</source>
+        <translation>„%1“ hat weder einen Abstand zu UTC noch ein Z</translation>
+    </message>
+    <message>
+        <source>“%1” lies before the year 1970</source>
+        <translation>„%1“ liegt vor dem Jahr 1970</translation>
+    </message>
+    <message>
+        <source>the track has no name</source>
+        <translation>die Spur hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>the end lies before the begin</source>
+        <translation>das Ende liegt vor dem Anfang</translation>
+    </message>
+    <message>
+        <source>begin and end are the same instant</source>
+        <translation>Anfang und Ende sind derselbe Zeitpunkt</translation>
+    </message>
+</context>
+<context>
+    <name>Review::LookPage</name>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>&amp;Look:</source>
+        <translation>&amp;Aussehen:</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>La&amp;nguage:</source>
+        <translation>S&amp;prache:</translation>
+    </message>
+    <message>
+        <source>Language of this computer</source>
+        <translation>Sprache dieses Computers</translation>
+    </message>
+</context>
+<context>
+    <name>Review::NetworkProvider</name>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+</context>
+<context>
+    <name>Review::PlaybackPage</name>
+    <message>
+        <source>Playback</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>&amp;Skip what is not recorded</source>
+        <translation>Lücken ohne Aufzeichnung ü&amp;berspringen</translation>
+    </message>
+</context>
+<context>
+    <name>Review::PlaybarShortcuts</name>
+    <message>
+        <source>To the begin</source>
+        <translation>Zum Anfang</translation>
+    </message>
+    <message>
+        <source>Fast backward</source>
+        <translation>Schneller Rücklauf</translation>
+    </message>
+    <message>
+        <source>Play backward</source>
+        <translation>Rückwärts wiedergeben</translation>
+    </message>
+    <message>
+        <source>Previous frame</source>
+        <translation>Voriges Einzelbild</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Next frame</source>
+        <translation>Nächstes Einzelbild</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergeben</translation>
+    </message>
+    <message>
+        <source>Fast forward</source>
+        <translation>Schneller Vorlauf</translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation>Zum Ende</translation>
+    </message>
+</context>
+<context>
+    <name>Review::PreviewCard</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiteres</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>recorded</source>
+        <translation>aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>no recording</source>
+        <translation>keine Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>not described</source>
+        <translation>nicht beschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ProblemDock</name>
+    <message>
+        <source>Lines left out: %1</source>
+        <translation>Ausgelassene Zeilen: %1</translation>
+    </message>
+    <message>
+        <source>Lines left out</source>
+        <translation>Ausgelassene Zeilen</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ProxyPage</name>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Verbindung:</translation>
+    </message>
+    <message>
+        <source>Without a proxy</source>
+        <translation>Ohne Proxy</translation>
+    </message>
+    <message>
+        <source>As set for this computer</source>
+        <translation>Wie für diesen Computer eingestellt</translation>
+    </message>
+    <message>
+        <source>HTTP proxy</source>
+        <translation>HTTP-Proxy</translation>
+    </message>
+    <message>
+        <source>SOCKS5 proxy</source>
+        <translation>SOCKS5-Proxy</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>&amp;Rechner:</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>P&amp;ort:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Benutzer:</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>&amp;Remember the password</source>
+        <translation>Kennwort &amp;speichern</translation>
+    </message>
+    <message>
+        <source>A remembered password is stored in the settings file, where everybody who may read the file can read it. Otherwise it is forgotten when the program ends.</source>
+        <translation>Ein gespeichertes Kennwort steht lesbar in der Datei mit den Einstellungen: Wer die Datei lesen darf, kann auch das Kennwort lesen. Andernfalls wird es vergessen, wenn das Programm endet.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::RangePanel</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>From view</source>
+        <translation>Aus Ansicht</translation>
+    </message>
+    <message>
+        <source>Search range</source>
+        <translation>Suchbereich</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Mark begin</source>
+        <translation>Anfang markieren</translation>
+    </message>
+    <message>
+        <source>Mark end</source>
+        <translation>Ende markieren</translation>
+    </message>
+    <message>
+        <source>Only markers inside</source>
+        <translation>Nur Marker darin</translation>
+    </message>
+    <message>
+        <source>Zoom to it</source>
+        <translation>Darauf zoomen</translation>
+    </message>
+    <message>
+        <source>Show result</source>
+        <translation>Ergebnis zeigen</translation>
+    </message>
+    <message>
+        <source>The range must end after it begins.</source>
+        <translation>Der Bereich muss nach seinem Anfang enden.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of this range.</source>
+        <translation>Über diesen Bereich ist nichts bekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ReviewLoader</name>
+    <message>
+        <source>the event has no kind</source>
+        <translation>das Ereignis hat keine Art</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ReviewWindow</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>There is no recordings.csv, events.csv or deployments.csv in %1.</source>
+        <translation>In %1 gibt es weder recordings.csv noch events.csv oder deployments.csv.</translation>
+    </message>
+    <message>
+        <source>There is no time zone “%1”. Times stay in %2.</source>
+        <translation>Es gibt keine Zeitzone „%1“. Die Zeiten bleiben in %2.</translation>
+    </message>
+    <message>
+        <source>Recording review</source>
+        <translation>Aufzeichnungen sichten</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open folder…</source>
+        <translation>Ordner &amp;öffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Dark look</source>
+        <translation>Dunkles Aussehen</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>Tracks: %1    Recordings: %2    Events: %3</source>
+        <translation>Spuren: %1    Aufzeichnungen: %2    Ereignisse: %3</translation>
+    </message>
+    <message>
+        <source>There is nothing to show.</source>
+        <translation>Es gibt nichts zu zeigen.</translation>
+    </message>
+    <message>
+        <source>%1 – %2 (%3)</source>
+        <translation>%1 – %2 (%3)</translation>
+    </message>
+</context>
+<context>
+    <name>Review::SampleData</name>
+    <message>
+        <source>Main gate</source>
+        <translation>Haupttor</translation>
+    </message>
+    <message>
+        <source>Car park</source>
+        <translation>Parkplatz</translation>
+    </message>
+    <message>
+        <source>Loading dock</source>
+        <translation>Laderampe</translation>
+    </message>
+    <message>
+        <source>North fence</source>
+        <translation>Nordzaun</translation>
+    </message>
+    <message>
+        <source>Person outside working hours</source>
+        <translation>Person außerhalb der Arbeitszeit</translation>
+    </message>
+    <message>
+        <source>Person</source>
+        <translation>Person</translation>
+    </message>
+    <message>
+        <source>Vehicle</source>
+        <translation>Fahrzeug</translation>
+    </message>
+    <message>
+        <source>Animal</source>
+        <translation>Tier</translation>
+    </message>
+    <message>
+        <source>Marked by an operator</source>
+        <translation>Vom Bediener markiert</translation>
+    </message>
+</context>
+<context>
+    <name>Review::TimePage</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Time &amp;zone:</source>
+        <translation>Zeit&amp;zone:</translation>
+    </message>
+    <message>
+        <source>&amp;Date and time:</source>
+        <translation>&amp;Datum und Uhrzeit:</translation>
+    </message>
+    <message>
+        <source>Show &amp;milliseconds of single moments</source>
+        <translation>&amp;Millisekunden einzelner Zeitpunkte zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>Review::TimelinePane</name>
+    <message>
+        <source>Timeline</source>
+        <translation>Zeitleiste</translation>
+    </message>
+</context>
+<context>
+    <name>Review::TimelineToolBar</name>
+    <message>
+        <source>Timeline</source>
+        <translation>Zeitleiste</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Whole period</source>
+        <translation>Gesamter Zeitraum</translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation>Früher</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Shows the events on the timeline</source>
+        <translation>Zeigt die Ereignisse auf der Zeitleiste</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>Sets a search range and a result range</source>
+        <translation>Legt einen Suchbereich und einen Ergebnisbereich fest</translation>
+    </message>
+</context>
+<context>
+    <name>Review::TrackModel</name>
+    <message>
+        <source>Track</source>
+        <translation>Spur</translation>
+    </message>
+    <message>
+        <source>Described from</source>
+        <translation>Beschrieben von</translation>
+    </message>
+    <message>
+        <source>Described to</source>
+        <translation>Beschrieben bis</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Recorded time</source>
+        <translation>Aufgezeichnete Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>Review::UpdateMenu</name>
+    <message>
+        <source>&amp;Updates</source>
+        <translation>A&amp;ktualisierung</translation>
+    </message>
+    <message>
+        <source>Check version file</source>
+        <translation>Versionsdatei prüfen</translation>
+    </message>
+    <message>
+        <source>Show change log</source>
+        <translation>Änderungen anzeigen</translation>
+    </message>
+    <message>
+        <source>Ask update server</source>
+        <translation>Update-Server fragen</translation>
+    </message>
+    <message>
+        <source>Download of the update</source>
+        <translation>Download der Aktualisierung</translation>
+    </message>
+</context>
+<context>
+    <name>Review::UpdatesPage</name>
+    <message>
+        <source>Updates</source>
+        <translation>Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>&amp;Internal server:</source>
+        <translation>&amp;Interner Server:</translation>
+    </message>
+    <message>
+        <source>&amp;Public server:</source>
+        <translation>Öffentlicher &amp;Server:</translation>
+    </message>
+    <message>
+        <source>&amp;Update server:</source>
+        <translation>&amp;Update-Server:</translation>
+    </message>
+    <message>
+        <source>An empty field stands for no server. What is marked red is not an address and will not be taken over.</source>
+        <translation>Ein leeres Feld steht für keinen Server. Was rot markiert ist, ist keine Adresse und wird nicht übernommen.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ZoneCombo</name>
+    <message>
+        <source>This computer</source>
+        <translation>Dieser Computer</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+</context>
+</TS>
