@@ -11,6 +11,7 @@ namespace Review {
 
 namespace {
 
+constexpr const char* context = "Review::CsvTable";
 constexpr qsizetype missing = -1;
 
 /// The text of @p path, or nothing and a reason in @p error.
@@ -57,27 +58,29 @@ QString CsvTable::read(const QString& path, const QStringList& neededColumns,
     }
 
     Values values(positions.size());
-    const auto handle = [&]() -> QString {
+    const auto handle = [&]() -> LineFault {
         switch (reader.fault()) {
         case CsvReader::Fault::NotUtf8:
-            return tr("the line is not UTF-8");
+            return {context, QT_TR_NOOP("the line is not UTF-8")};
         case CsvReader::Fault::OpenQuote:
-            return tr("a quote is not closed");
+            return {context, QT_TR_NOOP("a quote is not closed")};
         case CsvReader::Fault::TextBehindQuote:
-            return tr("there is text behind a closing quote");
+            return {context, QT_TR_NOOP("there is text behind a closing quote")};
         case CsvReader::Fault::None:
             break;
         }
         const QList<QByteArray>& fields = reader.fields();
         if (fields.size() != header.size())
-            return tr("%1 fields instead of %2").arg(fields.size()).arg(header.size());
+            return {context,
+                    QT_TR_NOOP("%1 fields instead of %2"),
+                    {QString::number(fields.size()), QString::number(header.size())}};
         for (qsizetype i = 0; i < positions.size(); ++i)
             values[i] = positions[i] == missing ? QByteArrayView()
                                                 : QByteArrayView(fields[positions[i]]).trimmed();
         return handler(values);
     };
     while (reader.next()) {
-        const QString problem = handle();
+        const LineFault problem = handle();
         if (!problem.isEmpty())
             problems.add({path, reader.line(), problem});
     }

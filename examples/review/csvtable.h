@@ -19,8 +19,8 @@ public:
     /// The values of one line in the order of the columns that were asked for, without white space
     /// around them.
     using Values = QList<QByteArrayView>;
-    /// Takes a line over. Returns what is wrong with it, or an empty string.
-    using LineHandler = std::function<QString(const Values&)>;
+    /// Takes a line over. Returns what is wrong with it.
+    using LineHandler = std::function<LineFault(const Values&)>;
 
     /// Hands every line of the file at @p path that has all its fields to @p handler; what is wrong
     /// with the others goes to @p problems. Columns that are not asked for are passed over; those

@@ -11,6 +11,8 @@ namespace Review {
 
 namespace {
 
+constexpr const char* context = "Review::LineParser";
+
 QString excerpt(QByteArrayView text)
 {
     constexpr qsizetype longest = 40;
@@ -21,36 +23,37 @@ QString excerpt(QByteArrayView text)
 
 } // namespace
 
-QString LineParser::parseTime(QByteArrayView text, qint64& result)
+LineFault LineParser::parseTime(QByteArrayView text, qint64& result)
 {
     const Instant instant = Instant::parse(text);
     result = instant.msecs;
     switch (instant.fault) {
     case Instant::Fault::Malformed:
-        return tr("“%1” is not an ISO 8601 date and time").arg(excerpt(text));
+        return {context, QT_TR_NOOP("“%1” is not an ISO 8601 date and time"), {excerpt(text)}};
     case Instant::Fault::NoOffset:
-        return tr("“%1” has neither an offset from UTC nor a Z").arg(excerpt(text));
+        return {
+            context, QT_TR_NOOP("“%1” has neither an offset from UTC nor a Z"), {excerpt(text)}};
     case Instant::Fault::BeforeEpoch:
-        return tr("“%1” lies before the year 1970").arg(excerpt(text));
+        return {context, QT_TR_NOOP("“%1” lies before the year 1970"), {excerpt(text)}};
     case Instant::Fault::None:
         break;
     }
     return {};
 }
 
-QString LineParser::parseTrackSpan(const CsvTable::Values& values, QString& track, TimeSpan& span)
+LineFault LineParser::parseTrackSpan(const CsvTable::Values& values, QString& track, TimeSpan& span)
 {
     track = QString::fromUtf8(values[0]);
     if (track.isEmpty())
-        return tr("the track has no name");
-    if (const QString fault = parseTime(values[1], span.begin); !fault.isEmpty())
+        return {context, QT_TR_NOOP("the track has no name")};
+    if (const LineFault fault = parseTime(values[1], span.begin); !fault.isEmpty())
         return fault;
-    if (const QString fault = parseTime(values[2], span.end); !fault.isEmpty())
+    if (const LineFault fault = parseTime(values[2], span.end); !fault.isEmpty())
         return fault;
     if (span.end < span.begin)
-        return tr("the end lies before the begin");
+        return {context, QT_TR_NOOP("the end lies before the begin")};
     if (span.isEmpty())
-        return tr("begin and end are the same instant");
+        return {context, QT_TR_NOOP("begin and end are the same instant")};
     return {};
 }
 

@@ -9,16 +9,16 @@
 namespace Review {
 
 /// Turns the values of a line into times and spans. Each operation returns what is wrong with the
-/// values, or an empty string and the results in its last arguments.
+/// values, or nothing and the results in its last arguments.
 class LineParser
 {
     Q_DECLARE_TR_FUNCTIONS(Review::LineParser)
 
 public:
-    static QString parseTime(QByteArrayView text, qint64& result);
+    static LineFault parseTime(QByteArrayView text, qint64& result);
     /// Reads the columns track, begin and end.
-    static QString parseTrackSpan(const CsvTable::Values& values, QString& track,
-                                  CorvelGui::TimeSpan& span);
+    static LineFault parseTrackSpan(const CsvTable::Values& values, QString& track,
+                                    CorvelGui::TimeSpan& span);
 };
 
 } // namespace Review

@@ -5,7 +5,9 @@
 namespace Review {
 
 LoadJob::LoadJob(const ReviewFiles& files, QObject* parent)
-    : QObject(parent), m_thread(QThread::create([this, files] { load(files); }))
+    : QObject(parent)
+    , m_isSample(files.isEmpty())
+    , m_thread(QThread::create([this, files] { load(files); }))
 {
     connect(m_thread.get(), &QThread::finished, this, &LoadJob::loaded);
 }

@@ -27,6 +27,7 @@ public:
     const ProblemList& problems() const { return m_problems; }
     /// Why a file could not be read, or an empty string.
     const QString& error() const { return m_error; }
+    bool isSample() const { return m_isSample; }
 
 Q_SIGNALS:
     /// Emitted once, from the event loop of the thread that made the job.
@@ -35,6 +36,7 @@ Q_SIGNALS:
 private:
     void load(const ReviewFiles& files);
 
+    const bool m_isSample;
     ReviewData m_data;
     ProblemList m_problems;
     QString m_error;

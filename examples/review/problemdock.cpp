@@ -39,7 +39,7 @@ void ProblemDock::retranslate()
     for (const Problem& problem : m_problems.listed()) {
         auto* item = new QListWidgetItem(u"%1:%2: %3"_s.arg(QFileInfo(problem.file).fileName())
                                              .arg(problem.line)
-                                             .arg(problem.text),
+                                             .arg(problem.text.text()),
                                          m_list);
         item->setToolTip(QDir::toNativeSeparators(problem.file).toHtmlEscaped());
     }

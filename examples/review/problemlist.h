@@ -1,5 +1,7 @@
 #pragma once
 
+#include "linefault.h"
+
 #include <QList>
 #include <QString>
 
@@ -11,7 +13,7 @@ struct Problem
     QString file;
     /// Counted from 1.
     qsizetype line = 0;
-    QString text;
+    LineFault text;
 
     bool operator==(const Problem&) const = default;
 };

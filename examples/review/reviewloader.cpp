@@ -65,7 +65,7 @@ QString ReviewLoader::loadRecordings(const QString& path)
     const auto add = [this](const CsvTable::Values& values) {
         QString identifier;
         TimeSpan span;
-        const QString fault = LineParser::parseTrackSpan(values, identifier, span);
+        const LineFault fault = LineParser::parseTrackSpan(values, identifier, span);
         if (fault.isEmpty())
             track(identifier).recorded.append(span);
         return fault;
@@ -78,7 +78,7 @@ QString ReviewLoader::loadDeployments(const QString& path)
     const auto add = [this](const CsvTable::Values& values) {
         QString identifier;
         TimeSpan span;
-        const QString fault = LineParser::parseTrackSpan(values, identifier, span);
+        const LineFault fault = LineParser::parseTrackSpan(values, identifier, span);
         if (fault.isEmpty())
             extend(track(identifier), span);
         return fault;
@@ -93,9 +93,9 @@ QString ReviewLoader::loadEvents(const QString& path)
                     .kind = QString::fromUtf8(values[1]),
                     .text = QString::fromUtf8(values[2]),
                     .track = QString::fromUtf8(values[3])};
-        QString fault = LineParser::parseTime(values[0], event.time);
+        LineFault fault = LineParser::parseTime(values[0], event.time);
         if (fault.isEmpty() && event.kind.isEmpty())
-            fault = tr("the event has no kind");
+            fault = {"Review::ReviewLoader", QT_TR_NOOP("the event has no kind")};
         if (fault.isEmpty())
             m_data.events.append(event);
         return fault;

@@ -11,6 +11,7 @@
 #include "problemdock.h"
 #include "rangepanel.h"
 #include "reviewsettings.h"
+#include "sampledata.h"
 #include "timelinepane.h"
 #include "timelinetoolbar.h"
 #include "transportbar.h"
@@ -81,6 +82,7 @@ ReviewWindow::~ReviewWindow() = default;
 void ReviewWindow::setReview(const ReviewData& review, const ProblemList& problems)
 {
     m_review = review;
+    m_showsSample = false;
     m_devices->setReview(m_review);
     m_events->setReview(m_review);
     m_playback->setEvents(m_review.events);
@@ -117,8 +119,10 @@ void ReviewWindow::finishLoading()
     LoadJob* job = m_loading.release();
     job->deleteLater();
     m_open->setEnabled(true);
-    if (job->error().isEmpty())
+    if (job->error().isEmpty()) {
         setReview(job->data(), job->problems());
+        m_showsSample = job->isSample();
+    }
     Q_EMIT loaded(job->error());
 }
 
@@ -348,6 +352,10 @@ void ReviewWindow::retranslate()
     m_ranges->retranslate();
     m_timeline->retranslate();
     m_zone->retranslate();
+    if (m_showsSample)
+        renewSample();
+    else
+        showCheckedTracks();
     showCounts();
     showView();
     showCurrentTime();
@@ -410,6 +418,17 @@ void ReviewWindow::setTimes(const TimeTexts& times, const QString& zoneName)
     statusBar()->clearMessage();
     showView();
     showCurrentTime();
+}
+
+// Its names and texts are those of the language; a file keeps its own.
+void ReviewWindow::renewSample()
+{
+    const TimeSpan view = m_timeline->view();
+    const qint64 time = m_timeline->currentTime();
+    setReview(SampleData::make());
+    m_showsSample = true;
+    m_timeline->jumpTo(view.begin + (view.end - view.begin) / 2, view.end - view.begin);
+    m_timeline->setCurrentTime(time);
 }
 
 void ReviewWindow::showCounts()

@@ -89,6 +89,7 @@ private:
     void exportPictures();
     void enableExport();
     void setTimes(const TimeTexts& times, const QString& zoneName);
+    void renewSample();
     void showCounts();
     void showCheckedTracks();
     void showView();
@@ -97,6 +98,7 @@ private:
     void showPreview(qint64 msecs, const QPoint& position, bool onMarker);
 
     ReviewData m_review;
+    bool m_showsSample = false;
     TimeTexts m_times;
     QSplitter* m_tables;
     DevicePane* m_devices;

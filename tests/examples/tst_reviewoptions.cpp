@@ -1,7 +1,6 @@
 #include "clientoptions.h"
 #include "languages.h"
 #include "reviewwindow.h"
-#include "sampledata.h"
 #include "settingsstore.h"
 #include "testsupport.h"
 #include "visibletexts.h"
@@ -14,6 +13,7 @@
 #include <QDialogButtonBox>
 #include <QKeySequenceEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
@@ -37,9 +37,10 @@ struct Client
 {
     explicit Client(const QString& path) : store(path), window({}, true), options(store, window)
     {
-        window.setReview(SampleData::make());
+        QSignalSpy loaded(&window, &ReviewWindow::loaded);
+        window.load({});
         window.show();
-        QCoreApplication::processEvents();
+        loaded.wait();
     }
 
     void speak(const QString& language)
@@ -174,16 +175,18 @@ void TestReviewOptions::buttons()
     const ReviewSettings before = client.store.settings();
     const int darkness = client.window.palette().window().color().lightness();
 
+    bool untouched = false;
     QString message;
     whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
         fill(dialog);
         for (const QLabel* label : dialog.findChildren<QLabel*>())
             message += label->text().contains(u"belongs to"_s) ? label->text() : QString();
-        QVERIFY(client.store.settings() == before);
+        untouched = client.store.settings() == before;
         press(dialog, button);
     });
     client.options.run();
 
+    QVERIFY(untouched);
     QVERIFY2(message.contains(u"To the end: Ctrl+O belongs to “Open folder…”."_s) &&
                  message.contains(u"Previous frame: Alt+Home is also set for “To the begin”."_s),
              qPrintable(message));
@@ -236,7 +239,7 @@ void TestReviewOptions::stateOfTheWindowSurvives()
         client.window.findChild<QToolBar*>()->hide();
         auto* tables = client.window.findChild<QSplitter*>();
         QCoreApplication::processEvents();
-        tables->moveSplitter(420, 1);
+        tables->setSizes({500, 300, 300});
         sizes = tables->sizes();
         client.window.close();
     }
@@ -317,23 +320,27 @@ void TestReviewOptions::languages()
     client.speak(u"en"_s);
     const SourceTexts sources(
         {QStringLiteral(REVIEW_TRANSLATION), QStringLiteral(LIBRARY_TRANSLATION)});
+    QStringList english, german, again;
     whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
         // Searching builds all pages.
         auto* search = dialog.findChild<QLineEdit*>();
         search->setText(u"a"_s);
         search->clear();
         visit(u"playback"_s, u"keyboard"_s);
-        const QStringList english = visibleTexts();
-        // Not blind: it sees what it looks for.
-        QVERIFY2(sources.foundIn(english).size() > 150,
-                 qPrintable(QString::number(sources.foundIn(english).size())));
+        english = visibleTexts();
         client.speak(u"de"_s);
-        QCOMPARE(sources.foundIn(visibleTexts()).join(u'\n'), QString());
+        german = visibleTexts();
         client.speak(u"en"_s);
-        QCOMPARE(visibleTexts().join(u'\n'), english.join(u'\n'));
+        again = visibleTexts();
         press(dialog, QDialogButtonBox::Cancel);
     });
     client.options.run();
+    QStringList left = sources.foundIn(german);
+    left.removeDuplicates();
+    QCOMPARE(left.join(u'\n'), QString());
+    // Not blind: it sees what it looks for.
+    QVERIFY(sources.foundIn(english).size() > 150);
+    QCOMPARE(again.join(u'\n'), english.join(u'\n'));
 }
 
 void TestReviewOptions::searchFindsGermanLabels()
@@ -341,13 +348,15 @@ void TestReviewOptions::searchFindsGermanLabels()
     Client client(m_path);
     for (const QString& language : {u"en"_s, u"de"_s}) {
         client.speak(language);
+        int found = 0;
         whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
             dialog.findChild<QLineEdit*>()->setText(language == "de"_L1 ? u"kennwort"_s
                                                                         : u"password"_s);
-            QCOMPARE(dialog.findChild<QListView*>()->model()->rowCount(), 1);
+            found = dialog.findChild<QListView*>()->model()->rowCount();
             press(dialog, QDialogButtonBox::Cancel);
         });
         client.options.run();
+        QCOMPARE(found, 1);
     }
 }
 

@@ -64,6 +64,7 @@ QStringList visibleTexts(const QWidget& window)
             addTexts(texts, *child);
     }
     texts.removeAll(QString());
+    texts.sort();
     return texts;
 }
 
@@ -74,6 +75,7 @@ QStringList visibleTexts()
         if (!window->parent())
             texts += visibleTexts(*window);
     }
+    texts.sort();
     return texts;
 }
 

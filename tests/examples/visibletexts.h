@@ -5,7 +5,8 @@
 class QWidget;
 
 /// All that a user reads or hears in a window, hidden parts included: texts and tool tips of
-/// widgets and actions, entries of combo boxes, tabs, headers and cells.
+/// widgets and actions, entries of combo boxes, tabs, headers and cells. Sorted, as windows come in
+/// no particular order.
 QStringList visibleTexts(const QWidget& window);
 /// The same of all windows.
 QStringList visibleTexts();

@@ -7,6 +7,10 @@
         <source>Cannot write %1: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>The picture cannot be encoded.</source>
+        <translation>Das Bild kann nicht kodiert werden.</translation>
+    </message>
 </context>
 <context>
     <name>Review::CameraPicture</name>
@@ -163,10 +167,114 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::DeviceItem</name>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Recorded time</source>
+        <translation>Aufgezeichnete Zeit</translation>
+    </message>
+</context>
+<context>
     <name>Review::DevicePane</name>
     <message>
-        <source>Tracks</source>
-        <translation>Spuren</translation>
+        <source>Add camera range</source>
+        <translation>Kamerabereich hinzufügen</translation>
+    </message>
+    <message>
+        <source>The range %1/%2 has %3 addresses, but at most %4 cameras can be added at a time. A longer mask makes the range smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) added.</source>
+        <translation>
+            <numerusform>%n Kamera hinzugefügt.</numerusform>
+            <numerusform>%n Kameras hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) had a camera already.</source>
+        <translation>
+            <numerusform>%n Adresse hatte schon eine Kamera.</numerusform>
+            <numerusform>%n Adressen hatten schon eine Kamera.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Filter cameras</source>
+        <translation>Kameras filtern</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>Add camera range…</source>
+        <translation>Kamerabereich hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Remove added cameras</source>
+        <translation>Hinzugefügte Kameras entfernen</translation>
+    </message>
+    <message>
+        <source>Expand all</source>
+        <translation>Alle aufklappen</translation>
+    </message>
+    <message>
+        <source>Collapse all</source>
+        <translation>Alle zuklappen</translation>
+    </message>
+</context>
+<context>
+    <name>Review::DeviceTree</name>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Recorded time</source>
+        <translation>Aufgezeichnete Zeit</translation>
+    </message>
+    <message>
+        <source>Described from</source>
+        <translation>Beschrieben von</translation>
+    </message>
+    <message>
+        <source>Described to</source>
+        <translation>Beschrieben bis</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>Added cameras</source>
+        <translation>Hinzugefügte Kameras</translation>
     </message>
 </context>
 <context>
@@ -197,7 +305,15 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
-    <name>Review::EventModel</name>
+    <name>Review::EventPane</name>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Filter events</source>
+        <translation>Ereignisse filtern</translation>
+    </message>
     <message>
         <source>Time</source>
         <translation>Zeit</translation>
@@ -214,12 +330,99 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Track</source>
         <translation>Spur</translation>
     </message>
+    <message>
+        <source>Export events…</source>
+        <translation>Ereignisse exportieren …</translation>
+    </message>
+    <message>
+        <source>Write the events in the table, or several selected ones, to a file</source>
+        <translation>Schreibt die Ereignisse der Tabelle oder mehrere ausgewählte in eine Datei</translation>
+    </message>
 </context>
 <context>
-    <name>Review::EventPane</name>
+    <name>Review::ExportDialog</name>
     <message>
-        <source>Events</source>
-        <translation>Ereignisse</translation>
+        <source>Export pictures</source>
+        <translation>Bilder exportieren</translation>
+    </message>
+    <message>
+        <source>Current view: %1</source>
+        <translation>Aktuelle Ansicht: %1</translation>
+    </message>
+    <message>
+        <source>Search range: %1</source>
+        <translation>Suchbereich: %1</translation>
+    </message>
+    <message>
+        <source>Search range: none is set</source>
+        <translation>Suchbereich: keiner festgelegt</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Auswählen …</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>A picture every</source>
+        <translation>Ein Bild alle</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>%1 pictures are too many: the most at once is %2.</source>
+        <translation>%1 Bilder sind zu viele: Auf einmal sind höchstens %2 möglich.</translation>
+    </message>
+    <message>
+        <source>Pictures: %1</source>
+        <translation>Bilder: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ExportPanel</name>
+    <message>
+        <source>Export pictures</source>
+        <translation>Bilder exportieren</translation>
+    </message>
+    <message>
+        <source>Files that exist already: %1 of %2. Replace them?</source>
+        <translation>Dateien, die es schon gibt: %1 von %2. Sollen sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>The export has stopped. Pictures written: %1 of %2.</source>
+        <translation>Der Export wurde angehalten. Geschriebene Bilder: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Pictures exported: %1</source>
+        <translation>Exportierte Bilder: %1</translation>
+    </message>
+    <message>
+        <source>Export cancelled. Pictures written: %1 of %2.</source>
+        <translation>Export abgebrochen. Geschriebene Bilder: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Exporting pictures</source>
+        <translation>Bilder werden exportiert</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -315,6 +518,17 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::PictureExport</name>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>Review::PlaybackPage</name>
     <message>
         <source>Playback</source>
@@ -326,7 +540,26 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
-    <name>Review::PlaybarShortcuts</name>
+    <name>Review::PlaybackPane</name>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>The camera whose picture is shown</source>
+        <translation>Die Kamera, deren Bild gezeigt wird</translation>
+    </message>
+    <message>
+        <source>No camera</source>
+        <translation>Keine Kamera</translation>
+    </message>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Bild der Kamera</translation>
+    </message>
+</context>
+<context>
+    <name>Review::PlaybarButtons</name>
     <message>
         <source>To the begin</source>
         <translation>Zum Anfang</translation>
@@ -572,6 +805,18 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>%1 – %2 (%3)</source>
         <translation>%1 – %2 (%3)</translation>
     </message>
+    <message>
+        <source>There are no more recordings of this camera.</source>
+        <translation>Es gibt keine weiteren Aufzeichnungen dieser Kamera.</translation>
+    </message>
+    <message>
+        <source>Export &amp;pictures…</source>
+        <translation>&amp;Bilder exportieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Devices</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Review::SampleData</name>
@@ -610,6 +855,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Marked by an operator</source>
         <translation>Vom Bediener markiert</translation>
+    </message>
+</context>
+<context>
+    <name>Review::StateSign</name>
+    <message>
+        <source>Recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing known</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -686,26 +946,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
-    <name>Review::TrackModel</name>
+    <name>Review::TransportBar</name>
     <message>
-        <source>Track</source>
-        <translation>Spur</translation>
+        <source>Skip gaps</source>
+        <translation>Lücken überspringen</translation>
     </message>
     <message>
-        <source>Described from</source>
-        <translation>Beschrieben von</translation>
-    </message>
-    <message>
-        <source>Described to</source>
-        <translation>Beschrieben bis</translation>
-    </message>
-    <message>
-        <source>Recordings</source>
-        <translation>Aufzeichnungen</translation>
-    </message>
-    <message>
-        <source>Recorded time</source>
-        <translation>Aufgezeichnete Zeit</translation>
+        <source>Leaves out the times without a recording of the camera</source>
+        <translation>Lässt die Zeiten aus, in denen die Kamera nichts aufgezeichnet hat</translation>
     </message>
 </context>
 <context>
