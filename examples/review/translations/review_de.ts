@@ -197,7 +197,7 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
     <message>
         <source>The range %1/%2 has %3 addresses, but at most %4 cameras can be added at a time. A longer mask makes the range smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bereich %1/%2 hat %3 Adressen, doch auf einmal können höchstens %4 Kameras hinzugefügt werden. Eine längere Maske verkleinert den Bereich.</translation>
     </message>
     <message numerus="yes">
         <source>%n camera(s) added.</source>
@@ -815,7 +815,7 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
     <message>
         <source>&amp;Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geräte</translation>
     </message>
 </context>
 <context>
@@ -861,15 +861,15 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <name>Review::StateSign</name>
     <message>
         <source>Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgezeichnet</translation>
     </message>
     <message>
         <source>No recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Aufzeichnung</translation>
     </message>
     <message>
         <source>Nothing known</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts bekannt</translation>
     </message>
 </context>
 <context>
