@@ -35,6 +35,9 @@ void ProblemDock::retranslate()
 {
     setWindowTitle(tr("Lines left out: %1").arg(QLocale().toString(m_problems.count())));
     m_list->setAccessibleName(tr("Lines left out"));
+    // Qt names it once only, in the language of that moment.
+    if (auto* close = findChild<QWidget*>(u"qt_dockwidget_closebutton"_s))
+        close->setAccessibleName(tr("Close"));
     m_list->clear();
     for (const Problem& problem : m_problems.listed()) {
         auto* item = new QListWidgetItem(u"%1:%2: %3"_s.arg(QFileInfo(problem.file).fileName())
