@@ -1,6 +1,7 @@
 #include "devicetree.h"
 
 #include "listlook.h"
+#include "statesign.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -70,8 +71,20 @@ void DeviceTree::setReview(const ReviewData& review)
     m_cameras->setChecked(DeviceItem::Name, true);
     sortGroups();
     showRows(m_filter);
+    fitColumns();
+}
+
+void DeviceTree::fitColumns()
+{
     for (int column = 0; column < columnCount(); ++column)
         resizeColumnToContentsWithOffset(column, 0);
+    // The state changes while the time goes on; the column does not.
+    int widest = 0;
+    for (const TrackState state : {TrackState::Recorded, TrackState::Gap, TrackState::NotDescribed})
+        widest = std::max(widest, fontMetrics().horizontalAdvance(StateSign::text(state)));
+    constexpr int signAndMargins = 44;
+    setColumnWidth(DeviceItem::State,
+                   std::max(columnWidth(DeviceItem::State), widest + signAndMargins));
 }
 
 int DeviceTree::addCameras(const QList<quint32>& addresses)
@@ -223,6 +236,7 @@ void DeviceTree::retranslate()
     m_cameras->setText(DeviceItem::Name, tr("Cameras"));
     m_added->setText(DeviceItem::Name, tr("Added cameras"));
     showTexts();
+    fitColumns();
 }
 
 } // namespace Review

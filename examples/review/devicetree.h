@@ -53,6 +53,7 @@ private:
     void showChecksOfGroup();
     void sortGroups();
     void showTexts();
+    void fitColumns();
 
     DeviceMoment m_moment;
     CorvelGui::PTreeWidgetItem* m_cameras;

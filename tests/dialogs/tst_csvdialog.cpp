@@ -34,6 +34,8 @@ namespace {
 using Spoil = std::function<bool(const QString&)>;
 
 QStringList opened;
+/// Holds the file open.
+std::unique_ptr<QFile> otherProgram;
 
 bool isWindows()
 {
@@ -245,9 +247,8 @@ void TestCsvDialog::keepsTheFileOnFailure_data()
     QTest::newRow("full disk") << Spoil(
         [](const QString& file) { return writeOld(file) && limitFiles(5'000); });
     QTest::newRow("open in another program") << Spoil([](const QString& file) {
-        static std::unique_ptr<QFile> other;
-        other = std::make_unique<QFile>(file);
-        return isWindows() && writeOld(file) && other->open(QIODevice::ReadOnly);
+        otherProgram = std::make_unique<QFile>(file);
+        return isWindows() && writeOld(file) && otherProgram->open(QIODevice::ReadOnly);
     });
 }
 
@@ -271,6 +272,7 @@ void TestCsvDialog::keepsTheFileOnFailure()
     });
     ok(dialog)->click();
     limitFiles(0);
+    otherProgram.reset();
     QFile::setPermissions(m_directory->path(),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QVERIFY2(text.startsWith(QCoreApplication::applicationName() +

@@ -82,12 +82,16 @@ void turnWheel(int notches)
 void strike(const QString& key)
 {
     static const QHash<QString, WORD> keys{
-        {u"Left"_s, WORD(VK_LEFT)},  {u"Right"_s, WORD(VK_RIGHT)}, {u"Up"_s, WORD(VK_UP)},
-        {u"Down"_s, WORD(VK_DOWN)},  {u"Home"_s, WORD(VK_HOME)},   {u"End"_s, WORD(VK_END)},
-        {u"PgUp"_s, WORD(VK_PRIOR)}, {u"PgDown"_s, WORD(VK_NEXT)}};
-    QVERIFY(keys.contains(key));
-    sendKey(keys[key], 0);
-    sendKey(keys[key], KEYEVENTF_KEYUP);
+        {u"Left"_s, WORD(VK_LEFT)},  {u"Right"_s, WORD(VK_RIGHT)},  {u"Up"_s, WORD(VK_UP)},
+        {u"Down"_s, WORD(VK_DOWN)},  {u"Home"_s, WORD(VK_HOME)},    {u"End"_s, WORD(VK_END)},
+        {u"PgUp"_s, WORD(VK_PRIOR)}, {u"PgDown"_s, WORD(VK_NEXT)},  {u"Escape"_s, WORD(VK_ESCAPE)},
+        {u"Tab"_s, WORD(VK_TAB)},    {u"Return"_s, WORD(VK_RETURN)}};
+    // Letters have the code of their capital.
+    const WORD letter = key.size() == 1 ? WORD(key.front().toUpper().unicode()) : WORD(0);
+    const WORD code = keys.value(key, letter);
+    QVERIFY(code != 0);
+    sendKey(code, 0);
+    sendKey(code, KEYEVENTF_KEYUP);
 }
 
 } // namespace RealInput
