@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProgressDialog>
@@ -129,7 +130,7 @@ void TestAppUpdater::answersAreTold_data()
     QTest::newRow("no file chosen")
         << release() << true << QString() << QStringList{offered(), save};
     QTest::newRow("cannot start")
-        << release() << true << u"/none/of/these/setup.exe"_s
+        << release() << true << u"setup.exe"_s
         << QStringList{offered(), save,
                        u"Warning: Error: Unable to start download of Software Update."_s};
     QJsonObject undated = release();
@@ -146,7 +147,13 @@ void TestAppUpdater::answersAreTold()
     QFETCH(QStringList, said);
     Bench bench(answer);
     QFETCH(QString, savePath);
-    bench.user.savePath = savePath;
+    bench.user.savePath = savePath.isEmpty() ? QString() : bench.folder.filePath(savePath);
+    // What could be written when the user chose it can be a folder a moment later.
+    bench.user.before = [this](const QDialog& dialog) {
+        if (const auto* files = qobject_cast<const QFileDialog*>(&dialog))
+            connect(files, &QFileDialog::fileSelected, this,
+                    [](const QString& file) { QVERIFY(QDir().mkdir(file)); });
+    };
     bench.check(showResult);
     settle(bench, said);
     QCOMPARE(bench.server.targets(), QByteArrayList{"/update?key=a%20key&version=2.0.9"});
