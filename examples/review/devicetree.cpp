@@ -64,10 +64,9 @@ void DeviceTree::setReview(const ReviewData& review)
         if (device->address())
             taken.insert(*device->address());
     }
-    for (DeviceItem* device : devicesOf(m_added)) {
-        if (taken.contains(*device->address()))
-            delete device;
-    }
+    QList<DeviceItem*> known = devicesOf(m_added);
+    known.removeIf([&](const DeviceItem* device) { return !taken.contains(*device->address()); });
+    remove(known);
     m_cameras->setChecked(DeviceItem::Name, true);
     sortGroups();
     showRows(m_filter);
@@ -122,8 +121,16 @@ bool DeviceTree::canRemoveSelected() const
 
 void DeviceTree::removeSelected()
 {
-    qDeleteAll(removable());
+    remove(removable());
     showRows(m_filter);
+}
+
+void DeviceTree::remove(const QList<DeviceItem*>& added)
+{
+    // Taken out before they go: who hears that the selection changed looks at what is left.
+    for (DeviceItem* device : added)
+        m_added->removeChild(device);
+    qDeleteAll(added);
 }
 
 QList<TrackDescription> DeviceTree::checkedTracks() const

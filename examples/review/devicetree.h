@@ -54,6 +54,7 @@ private:
     void sortGroups();
     void showTexts();
     void fitColumns();
+    void remove(const QList<DeviceItem*>& added);
 
     DeviceMoment m_moment;
     CorvelGui::PTreeWidgetItem* m_cameras;
