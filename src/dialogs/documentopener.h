@@ -14,7 +14,7 @@ using DocumentOpener = bool (*)(const QString& fileName);
 bool openWithSystem(const QString& fileName);
 
 /// The opener to use: the platform's, unless it was replaced.
-DocumentOpener documentOpener();
+CORVELGUI_INTERNAL_EXPORT DocumentOpener documentOpener();
 
 /// Replaces the opener; nullptr brings the platform's back. Tests do not start programs.
 CORVELGUI_INTERNAL_EXPORT void setDocumentOpener(DocumentOpener opener);
