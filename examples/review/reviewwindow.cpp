@@ -38,6 +38,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using CorvelGui::BusyIndicator;
 using CorvelGui::TarvoDateTimeView;
@@ -403,7 +404,24 @@ void ReviewWindow::readUserSettings(QSettings& settings)
 {
     restoreGeometry(settings.value(geometryKey).toByteArray());
     restoreState(settings.value(stateKey).toByteArray());
-    m_tables->restoreState(settings.value(tablesKey).toByteArray());
+    m_tablesState = settings.value(tablesKey).toByteArray();
+    if (isVisible())
+        restoreTables();
+}
+
+void ReviewWindow::restoreTables()
+{
+    // Only in a window of its final size the widths stay what they were.
+    m_tables->restoreState(std::exchange(m_tablesState, {}));
+}
+
+void ReviewWindow::showEvent(QShowEvent* event)
+{
+    PMainWindow::showEvent(event);
+    if (m_tablesState.isEmpty())
+        return;
+    layout()->activate();
+    restoreTables();
 }
 
 void ReviewWindow::setTimes(const TimeTexts& times, const QString& zoneName)

@@ -73,6 +73,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     QWidget* createContent();
@@ -82,6 +83,7 @@ private:
     void createStatusBar();
     void connectParts();
     void connectPlayer();
+    void restoreTables();
     void retranslate();
 
     void openFolder();
@@ -101,6 +103,8 @@ private:
     bool m_showsSample = false;
     TimeTexts m_times;
     QSplitter* m_tables;
+    /// Until the window is shown.
+    QByteArray m_tablesState;
     DevicePane* m_devices;
     EventPane* m_events;
     PlaybackPane* m_playback;

@@ -20,6 +20,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -231,17 +232,22 @@ void TestReviewOptions::windowItselfSets()
 
 void TestReviewOptions::stateOfTheWindowSurvives()
 {
+    QList<int> widths;
     {
         Client client(m_path);
         client.window.move(40, 50);
         client.window.resize(1010, 600);
         client.window.findChild<QToolBar*>()->hide();
         QCoreApplication::processEvents();
+        auto* tables = client.window.findChild<QSplitter*>();
+        tables->setSizes({250, 330, 420});
+        widths = tables->sizes();
         client.window.close();
     }
     const Client client(m_path);
     QCOMPARE(client.window.size(), QSize(1010, 600));
     QVERIFY(client.window.findChild<QToolBar*>()->isHidden());
+    QCOMPARE(client.window.findChild<QSplitter*>()->sizes(), widths);
 }
 
 void TestReviewOptions::damagedFiles_data()
