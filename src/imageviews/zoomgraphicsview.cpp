@@ -259,9 +259,9 @@ bool ZoomGraphicsView::sceneFits() const
 
 bool ZoomGraphicsView::isTakenByItem(QPoint position) const
 {
-    constexpr QGraphicsItem::GraphicsItemFlags takesMouse = QGraphicsItem::ItemIsMovable |
-                                                            QGraphicsItem::ItemIsSelectable |
-                                                            QGraphicsItem::ItemIsFocusable;
+    static constexpr QGraphicsItem::GraphicsItemFlags takesMouse = QGraphicsItem::ItemIsMovable |
+                                                                   QGraphicsItem::ItemIsSelectable |
+                                                                   QGraphicsItem::ItemIsFocusable;
     return std::ranges::any_of(items(position), [](const QGraphicsItem* item) {
         return bool(item->flags() & takesMouse);
     });
