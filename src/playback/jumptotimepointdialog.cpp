@@ -64,7 +64,7 @@ JumpToTimepointDialog::JumpToTimepointDialog(QWidget* parent)
             .arg(POrvGuiTheme::colorBlue.name()));
     m_ui->dateEdit->setDisplayFormat(dateFormat());
 
-    const auto prepare = [this](QToolButton* button, QAction* action, const QIcon& icon) {
+    const auto prepare = [](QToolButton* button, QAction* action, const QIcon& icon) {
         action->setIcon(icon);
         button->setDefaultAction(action);
     };
