@@ -1,7 +1,6 @@
 #include "categorymodel.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace CorvelGui {
 
@@ -67,9 +66,8 @@ void CategoryModel::updateNames()
 {
     for (const std::unique_ptr<Category>& category : m_categories) {
         category->displayName.clear();
-        for (const QPointer<ISettingsPage>& page :
-             category->pages | std::views::take(category->registeredPages)) {
-            if (page)
+        for (qsizetype i = 0; i < category->registeredPages; ++i) {
+            if (ISettingsPage* page = category->pages.value(i))
                 takeCaption(*category, *page);
         }
         for (const QPointer<ISettingsPageProvider>& provider : std::as_const(category->providers)) {

@@ -22,7 +22,6 @@
 #include <QTabWidget>
 
 #include <algorithm>
-#include <ranges>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -124,9 +123,9 @@ OptionsDialog::~OptionsDialog()
     disconnect(d->categoryList->selectionModel(), nullptr, this, nullptr);
     disconnect(d->filterLineEdit, nullptr, this, nullptr);
     // Their callers, deeper in the stack, still need them and delete them.
-    for (QEventLoop* loop : d->waitingLoops | std::views::reverse) {
-        loop->setParent(nullptr);
-        loop->quit();
+    for (auto loop = d->waitingLoops.crbegin(); loop != d->waitingLoops.crend(); ++loop) {
+        (*loop)->setParent(nullptr);
+        (*loop)->quit();
     }
     for (const QPointer<ISettingsPageProvider>& provider : providers())
         delete provider;
@@ -352,8 +351,8 @@ bool OptionsDialog::execDialog()
 void OptionsDialog::done(int result)
 {
     d->closed = true;
-    for (QEventLoop* loop : d->waitingLoops | std::views::reverse)
-        loop->quit();
+    for (auto loop = d->waitingLoops.crbegin(); loop != d->waitingLoops.crend(); ++loop)
+        (*loop)->quit();
     QDialog::done(result);
 }
 
