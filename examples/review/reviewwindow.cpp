@@ -10,6 +10,7 @@
 #include "previewcard.h"
 #include "problemdock.h"
 #include "rangepanel.h"
+#include "reviewmenubar.h"
 #include "reviewsettings.h"
 #include "sampledata.h"
 #include "timelinepane.h"
@@ -30,7 +31,6 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLocale>
-#include <QMenuBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -72,13 +72,20 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
     m_problems = new ProblemDock(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     m_toolBar->insertAction(m_darkLook, m_problems->toggleViewAction());
-    createMenus();
+    m_updates = new UpdateMenu(this, statusBar());
+    m_menus = new ReviewMenuBar(*m_events, *m_devices, *m_toolBar, m_darkLook, m_updates, this);
+    setMenuBar(m_menus);
     connectParts();
     m_timeline->setZone(zoneName);
     retranslate();
 }
 
 ReviewWindow::~ReviewWindow() = default;
+
+QMenu* ReviewWindow::toolsMenu() const
+{
+    return m_menus->tools();
+}
 
 void ReviewWindow::setReview(const ReviewData& review, const ProblemList& problems)
 {
@@ -111,7 +118,7 @@ void ReviewWindow::load(const ReviewFiles& files)
         busy->deleteLater();
     });
     connect(m_loading.get(), &LoadJob::loaded, this, &ReviewWindow::finishLoading);
-    m_open->setEnabled(false);
+    m_menus->open()->setEnabled(false);
     m_loading->start();
 }
 
@@ -119,7 +126,7 @@ void ReviewWindow::finishLoading()
 {
     LoadJob* job = m_loading.release();
     job->deleteLater();
-    m_open->setEnabled(true);
+    m_menus->open()->setEnabled(true);
     if (job->error().isEmpty()) {
         setReview(job->data(), job->problems());
         m_showsSample = job->isSample();
@@ -217,38 +224,6 @@ void ReviewWindow::createToolBar(bool dark)
     m_darkLook->setChecked(dark);
 }
 
-void ReviewWindow::createMenus()
-{
-    m_fileMenu = menuBar()->addMenu(QString());
-    m_open = m_fileMenu->addAction(QString());
-    m_open->setShortcut(QKeySequence::Open);
-    m_fileMenu->addAction(m_events->exportAction());
-    m_export = m_fileMenu->addAction(QString());
-    m_export->setShortcut(Qt::CTRL | Qt::Key_E);
-    m_fileMenu->addSeparator();
-    m_quit = m_fileMenu->addAction(QString());
-    m_quit->setShortcut(QKeySequence::Quit);
-
-    m_devicesMenu = menuBar()->addMenu(QString());
-    m_devicesMenu->addActions(m_devices->treeActions());
-
-    m_viewMenu = menuBar()->addMenu(QString());
-    for (QAction* action : m_toolBar->viewActions()) {
-        if (action)
-            m_viewMenu->addAction(action);
-        else
-            m_viewMenu->addSeparator();
-    }
-    m_viewMenu->addSeparator();
-    m_viewMenu->addAction(m_darkLook);
-
-    m_toolsMenu = menuBar()->addMenu(QString());
-    m_toolsMenu->menuAction()->setVisible(false);
-
-    m_updateMenu = new UpdateMenu(this, statusBar());
-    menuBar()->addMenu(m_updateMenu);
-}
-
 void ReviewWindow::createStatusBar()
 {
     m_countsLabel = new QLabel(this);
@@ -264,12 +239,12 @@ void ReviewWindow::createStatusBar()
 
 void ReviewWindow::connectParts()
 {
-    connect(m_open, &QAction::triggered, this, &ReviewWindow::openFolder);
-    connect(m_export, &QAction::triggered, this, &ReviewWindow::exportPictures);
+    connect(m_menus->open(), &QAction::triggered, this, &ReviewWindow::openFolder);
+    connect(m_menus->exportPictures(), &QAction::triggered, this, &ReviewWindow::exportPictures);
     connect(m_exportPanel, &ExportPanel::exportingChanged, this, &ReviewWindow::enableExport);
     connect(m_exportPanel, &ExportPanel::reported, this,
             [this](const QString& text) { statusBar()->showMessage(text, readingTime); });
-    connect(m_quit, &QAction::triggered, this, &QWidget::close);
+    connect(m_menus->quit(), &QAction::triggered, this, &QWidget::close);
     connect(m_darkLook, &QAction::toggled, this, &ReviewWindow::createDarkFusionStyle);
     connect(m_toolBar->showRanges(), &QAction::toggled, m_ranges, &QWidget::setVisible);
 
@@ -338,16 +313,9 @@ void ReviewWindow::retranslate()
     m_transport->retranslate();
     m_events->retranslate();
     m_toolBar->retranslate();
-    m_fileMenu->setTitle(tr("&File"));
-    m_open->setText(tr("&Open folder…"));
-    m_export->setText(tr("Export &pictures…"));
+    m_menus->retranslate();
     m_exportPanel->retranslate();
-    m_quit->setText(tr("&Quit"));
-    m_devicesMenu->setTitle(tr("&Devices"));
-    m_viewMenu->setTitle(tr("&View"));
-    m_updateMenu->retranslate();
     m_darkLook->setText(tr("Dark look"));
-    m_toolsMenu->setTitle(tr("&Tools"));
     m_zoneLabel->setText(tr("Time zone"));
     m_problems->retranslate();
     m_ranges->retranslate();
@@ -370,8 +338,8 @@ void ReviewWindow::exportPictures()
 
 void ReviewWindow::enableExport()
 {
-    m_export->setEnabled(m_playback->feed() && !m_timeline->view().isEmpty() &&
-                         !m_exportPanel->isExporting());
+    m_menus->exportPictures()->setEnabled(m_playback->feed() && !m_timeline->view().isEmpty() &&
+                                          !m_exportPanel->isExporting());
 }
 
 void ReviewWindow::applySettings(const ReviewSettings& settings)
@@ -383,7 +351,7 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     }
     m_transport->skipGaps()->setChecked(settings.skipGaps);
     m_player->setShortcuts(settings.shortcuts);
-    m_updateMenu->setServers(settings.servers);
+    m_updates->setServers(settings.servers);
 }
 
 void ReviewWindow::takeSettings(ReviewSettings& settings) const

@@ -24,6 +24,7 @@ class Player;
 class PreviewCard;
 class ProblemDock;
 class RangePanel;
+class ReviewMenuBar;
 struct ReviewSettings;
 class TimelinePane;
 class TimelineToolBar;
@@ -53,7 +54,7 @@ public:
     void showMiddleDay();
 
     /// For what belongs to the whole program; hidden as long as it is empty.
-    QMenu* toolsMenu() const { return m_toolsMenu; }
+    QMenu* toolsMenu() const;
 
     /// Puts the settings into effect as far as they concern the window.
     void applySettings(const ReviewSettings& settings);
@@ -79,7 +80,6 @@ private:
     QWidget* createContent();
     QWidget* createTables(QWidget* parent);
     void createToolBar(bool dark);
-    void createMenus();
     void createStatusBar();
     void connectParts();
     void connectPlayer();
@@ -118,14 +118,8 @@ private:
 
     TimelineToolBar* m_toolBar;
     QAction* m_darkLook;
-    QMenu* m_fileMenu;
-    QAction* m_open;
-    QAction* m_export;
-    QAction* m_quit;
-    QMenu* m_devicesMenu;
-    QMenu* m_viewMenu;
-    QMenu* m_toolsMenu;
-    UpdateMenu* m_updateMenu;
+    UpdateMenu* m_updates;
+    ReviewMenuBar* m_menus;
 
     ExportPanel* m_exportPanel;
     QLabel* m_countsLabel;

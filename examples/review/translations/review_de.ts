@@ -752,6 +752,37 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::ReviewMenuBar</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open folder…</source>
+        <translation>Ordner &amp;öffnen …</translation>
+    </message>
+    <message>
+        <source>Export &amp;pictures…</source>
+        <translation>&amp;Bilder exportieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Devices</source>
+        <translation>&amp;Geräte</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+</context>
+<context>
     <name>Review::ReviewWindow</name>
     <message>
         <source>Open folder</source>
@@ -770,28 +801,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Aufzeichnungen sichten</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Open folder…</source>
-        <translation>Ordner &amp;öffnen …</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
         <source>Dark look</source>
         <translation>Dunkles Aussehen</translation>
-    </message>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>E&amp;xtras</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -812,14 +823,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>There are no more recordings of this camera.</source>
         <translation>Es gibt keine weiteren Aufzeichnungen dieser Kamera.</translation>
-    </message>
-    <message>
-        <source>Export &amp;pictures…</source>
-        <translation>&amp;Bilder exportieren …</translation>
-    </message>
-    <message>
-        <source>&amp;Devices</source>
-        <translation>&amp;Geräte</translation>
     </message>
 </context>
 <context>

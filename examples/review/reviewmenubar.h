@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMenuBar>
+
+namespace Review {
+
+class DevicePane;
+class EventPane;
+class TimelineToolBar;
+class UpdateMenu;
+
+/// The client's menus, made of the actions of its panes and of some of their own.
+class ReviewMenuBar : public QMenuBar
+{
+    Q_OBJECT
+
+public:
+    ReviewMenuBar(const EventPane& events, const DevicePane& devices,
+                  const TimelineToolBar& toolBar, QAction* darkLook, UpdateMenu* updates,
+                  QWidget* parent = nullptr);
+
+    QAction* open() const { return m_open; }
+    QAction* exportPictures() const { return m_export; }
+    QAction* quit() const { return m_quit; }
+    /// For what belongs to the whole program; hidden as long as it is empty.
+    QMenu* tools() const { return m_tools; }
+    /// Applies all translated texts again.
+    void retranslate();
+
+private:
+    QMenu* m_file;
+    QAction* m_open;
+    QAction* m_export;
+    QAction* m_quit;
+    QMenu* m_devices;
+    QMenu* m_view;
+    QMenu* m_tools;
+    UpdateMenu* m_updates;
+};
+
+} // namespace Review
