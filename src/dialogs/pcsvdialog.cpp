@@ -1,8 +1,8 @@
 #include "pcsvdialog.h"
 
+#include "base/wholefile.h"
 #include "csvbody.h"
 #include "documentopener.h"
-#include "frame/wholefile.h"
 #include "ui_pcsvdialog.h"
 
 #include <Hueloft/PIconHelper>

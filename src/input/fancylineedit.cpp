@@ -1,7 +1,7 @@
 #include "fancylineedit.h"
 
+#include "base/whilealive.h"
 #include "fancylineeditprivate.h"
-#include "frame/whilealive.h"
 #include "menuplacement.h"
 
 #include <QEvent>

@@ -1,8 +1,8 @@
 #include "ptablewidget.h"
 
+#include "base/whilealive.h"
 #include "copyactions.h"
 #include "dialogs/pcsvdialog.h"
-#include "frame/whilealive.h"
 #include "itemviewtools.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #include "ptabwidget.h"
 
-#include "frame/whilealive.h"
+#include "base/whilealive.h"
 #include "tabnameeditor.h"
 
 #include <QEvent>

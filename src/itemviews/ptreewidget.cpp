@@ -5,8 +5,8 @@
 #include "ptreewidgetitem.h"
 #include "rowdelegate.h"
 
+#include "base/whilealive.h"
 #include "dialogs/pcsvdialog.h"
-#include "frame/whilealive.h"
 
 #include <QAction>
 #include <QApplication>

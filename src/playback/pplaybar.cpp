@@ -1,7 +1,7 @@
 #include "pplaybar.h"
 
-#include "frame/controlemissions.h"
-#include "frame/whilealive.h"
+#include "base/controlemissions.h"
+#include "base/whilealive.h"
 #include "ui_pplaybar.h"
 
 #include <Hueloft/PTarvoPlayerIconHelper>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/internalexport.h"
+#include "base/internalexport.h"
 
 #include <QtGlobal>
 #include <qwindowdefs.h>

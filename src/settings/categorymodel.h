@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/internalexport.h"
 #include "category.h"
-#include "frame/internalexport.h"
 
 #include <QAbstractListModel>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "accessiblerange.h"
-#include "frame/whilealive.h"
+#include "base/whilealive.h"
 #include "hoverpreview.h"
 #include "indicator.h"
 #include "ruler.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/internalexport.h"
+#include "base/internalexport.h"
 #include "trackdescription.h"
 
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/internalexport.h"
+#include "base/internalexport.h"
 #include "timespans.h"
 #include "trackdescription.h"
 

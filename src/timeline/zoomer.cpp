@@ -1,6 +1,6 @@
 #include "zoomer.h"
 
-#include "frame/controlemissions.h"
+#include "base/controlemissions.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "zoomtimeline.h"
 
-#include "frame/whilealive.h"
+#include "base/whilealive.h"
 #include "ruler.h"
 #include "timelinescroll.h"
 #include "zoomer.h"

@@ -1,7 +1,7 @@
 #include "pcheckversionupdate.h"
 
-#include "frame/whilealive.h"
-#include "frame/wholefile.h"
+#include "base/whilealive.h"
+#include "base/wholefile.h"
 #include "installerpath.h"
 #include "pchangelogdialog.h"
 #include "pcheckversionupdatedialog.h"

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "playback/camerafeed.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace Review {
+
+/// Which pictures of a camera are exported, and where to.
+struct ExportPlan
+{
+    CorvelGui::TimeSpan range = {};
+    /// Seconds from one picture to the next.
+    int interval = 1;
+    QString folder = {};
+
+    /// How many pictures that makes.
+    qint64 count() const;
+};
+
+/// Writes pictures of a camera as PNG files, one per turn of the event loop. Each file is written
+/// whole or not at all.
+class PictureExport : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Outcome { Complete, Cancelled, Failed };
+
+    PictureExport(const CameraFeed& feed, const ExportPlan& plan, QObject* parent = nullptr);
+
+    int count() const { return m_count; }
+    /// How many pictures are written so far.
+    int written() const { return m_written; }
+    /// How many of the files exist already.
+    int existingFiles() const;
+    /// Replaces files that exist. Without it, such a file ends the export.
+    void setReplacing(bool replace) { m_replacing = replace; }
+
+    void start() { m_timer.start(); }
+    /// Leaves what is written. Does nothing when the export has ended.
+    void cancel();
+    /// What went wrong, after Outcome::Failed.
+    const QString& error() const { return m_error; }
+
+Q_SIGNALS:
+    /// Emitted after each picture.
+    void progressed(int written);
+    /// Emitted once. The export may be deleted then.
+    void ended(Review::PictureExport::Outcome outcome);
+
+private:
+    void writeNext();
+    void end(Outcome outcome);
+    qint64 instant(int index) const;
+    QString path(int index) const;
+
+    CameraFeed m_feed;
+    ExportPlan m_plan;
+    CameraPicture m_picture;
+    QTimer m_timer;
+    QString m_error;
+    int m_count;
+    int m_written = 0;
+    bool m_replacing = false;
+};
+
+} // namespace Review

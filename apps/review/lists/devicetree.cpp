@@ -1,0 +1,249 @@
+#include "devicetree.h"
+
+#include "look/listlook.h"
+#include "look/statesign.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+using CorvelGui::PTreeWidgetItem;
+using CorvelGui::TrackDescription;
+
+namespace Review {
+
+DeviceTree::DeviceTree(const TimeTexts& times, QWidget* parent)
+    : PTreeWidget(parent)
+    , m_moment{.times = times}
+    , m_cameras(new PTreeWidgetItem)
+    , m_added(new PTreeWidgetItem)
+{
+    setColumnCount(DeviceItem::ColumnCount);
+    ListLook::apply(this, header());
+    setAllColumnsShowFocus(true);
+    setIndentation(18);
+    for (PTreeWidgetItem* group : {m_cameras, m_added}) {
+        addTopLevelItem(group);
+        group->setBold(DeviceItem::Name, true);
+        group->setExpanded(true);
+    }
+    m_cameras->setCheckable();
+    m_cameras->setChecked(DeviceItem::Name, true);
+    // A third click on a column brings the order of the data back.
+    header()->setSortIndicatorClearable(true);
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    connect(header(), &QHeaderView::sortIndicatorChanged, this, &DeviceTree::sortGroups);
+    connect(this, &QTreeWidget::itemChanged, this, &DeviceTree::followCheck);
+    InitCopyMenus(true);
+    ListLook::offerActions(this);
+    showRows({});
+}
+
+QList<DeviceItem*> DeviceTree::devicesOf(const QTreeWidgetItem* group) const
+{
+    QList<DeviceItem*> items;
+    for (int i = 0; i < group->childCount(); ++i)
+        items.append(static_cast<DeviceItem*>(group->child(i)));
+    return items;
+}
+
+QList<DeviceItem*> DeviceTree::devices() const
+{
+    return devicesOf(m_cameras) + devicesOf(m_added);
+}
+
+void DeviceTree::setReview(const ReviewData& review)
+{
+    m_moment.events = review.events;
+    const QSignalBlocker blocker(this);
+    m_cameras->DeleteAllChildren();
+    QSet<quint32> taken;
+    for (const TrackDescription& track : review.tracks) {
+        const auto* device = new DeviceItem(m_cameras, track, m_moment);
+        if (device->address())
+            taken.insert(*device->address());
+    }
+    QList<DeviceItem*> known = devicesOf(m_added);
+    known.removeIf([&](const DeviceItem* device) { return !taken.contains(*device->address()); });
+    remove(known);
+    m_cameras->setChecked(DeviceItem::Name, true);
+    sortGroups();
+    showRows(m_filter);
+    fitColumns();
+}
+
+void DeviceTree::fitColumns()
+{
+    for (int column = 0; column < columnCount(); ++column)
+        resizeColumnToContentsWithOffset(column, 0);
+    // The state changes while the time goes on; the column does not.
+    int widest = 0;
+    for (const TrackState state : {TrackState::Recorded, TrackState::Gap, TrackState::NotDescribed})
+        widest = std::max(widest, fontMetrics().horizontalAdvance(StateSign::text(state)));
+    constexpr int signAndMargins = 44;
+    setColumnWidth(DeviceItem::State,
+                   std::max(columnWidth(DeviceItem::State), widest + signAndMargins));
+}
+
+int DeviceTree::addCameras(const QList<quint32>& addresses)
+{
+    QSet<quint32> taken;
+    for (const DeviceItem* device : devices()) {
+        if (device->address())
+            taken.insert(*device->address());
+    }
+    const QSignalBlocker blocker(this);
+    int added = 0;
+    for (const quint32 address : addresses) {
+        if (taken.contains(address))
+            continue;
+        taken.insert(address);
+        new DeviceItem(m_added, address, m_moment);
+        ++added;
+    }
+    sortGroups();
+    showRows(m_filter);
+    return added;
+}
+
+QList<DeviceItem*> DeviceTree::removable() const
+{
+    QList<DeviceItem*> items = devicesOf(m_added);
+    items.removeIf([](const DeviceItem* device) { return !device->isSelected(); });
+    return items;
+}
+
+bool DeviceTree::canRemoveSelected() const
+{
+    return !removable().isEmpty();
+}
+
+void DeviceTree::removeSelected()
+{
+    remove(removable());
+    showRows(m_filter);
+}
+
+void DeviceTree::remove(const QList<DeviceItem*>& added)
+{
+    // Taken out before they go: who hears that the selection changed looks at what is left.
+    for (DeviceItem* device : added)
+        m_added->removeChild(device);
+    qDeleteAll(added);
+}
+
+QList<TrackDescription> DeviceTree::checkedTracks() const
+{
+    QList<TrackDescription> tracks;
+    for (const DeviceItem* device : devicesOf(m_cameras)) {
+        if (device->isChecked(DeviceItem::Name))
+            tracks.append(device->track());
+    }
+    return tracks;
+}
+
+QSet<QString> DeviceTree::uncheckedTracks() const
+{
+    QSet<QString> identifiers;
+    for (const DeviceItem* device : devicesOf(m_cameras)) {
+        if (!device->isChecked(DeviceItem::Name))
+            identifiers.insert(device->track().identifier);
+    }
+    return identifiers;
+}
+
+QList<NamedState> DeviceTree::statesAt(qint64 msecs) const
+{
+    QList<NamedState> states;
+    for (const DeviceItem* device : devicesOf(m_cameras)) {
+        if (device->isChecked(DeviceItem::Name))
+            states.append({device->track().name, device->stateAt(msecs)});
+    }
+    return states;
+}
+
+void DeviceTree::followCheck(const QTreeWidgetItem* item, int column)
+{
+    if (column != DeviceItem::Name)
+        return;
+    {
+        const QSignalBlocker blocker(this);
+        if (item == m_cameras) {
+            for (DeviceItem* device : devicesOf(m_cameras)) {
+                if (!device->isHidden())
+                    device->setChecked(DeviceItem::Name, m_cameras->isChecked(DeviceItem::Name));
+            }
+        }
+        showChecksOfGroup();
+    }
+    Q_EMIT checkedTracksChanged();
+}
+
+void DeviceTree::showChecksOfGroup()
+{
+    const QList<DeviceItem*> cameras = devicesOf(m_cameras);
+    const auto checked = std::ranges::count_if(
+        cameras, [](const DeviceItem* device) { return device->isChecked(DeviceItem::Name); });
+    m_cameras->setCheckState(DeviceItem::Name, checked == cameras.size() ? Qt::Checked
+                                               : checked == 0            ? Qt::Unchecked
+                                                                         : Qt::PartiallyChecked);
+}
+
+void DeviceTree::setTimes(const TimeTexts& times)
+{
+    m_moment.times = times;
+    showTexts();
+}
+
+void DeviceTree::setCurrentTime(qint64 msecs)
+{
+    m_moment.msecs = msecs;
+    const QSignalBlocker blocker(this);
+    for (DeviceItem* device : devices())
+        device->showState();
+}
+
+void DeviceTree::showTexts()
+{
+    const QSignalBlocker blocker(this);
+    for (DeviceItem* device : devices())
+        device->showTexts();
+    showRows(m_filter);
+}
+
+void DeviceTree::showRows(const QString& filter)
+{
+    m_filter = filter;
+    const QString text = filter.toLower();
+    for (PTreeWidgetItem* group : {m_cameras, m_added}) {
+        bool isAnyShown = false;
+        for (DeviceItem* device : devicesOf(group)) {
+            const bool isShown = device->isTextFound(text);
+            device->setHidden(!isShown);
+            isAnyShown |= isShown;
+        }
+        group->setHidden(!isAnyShown);
+    }
+}
+
+void DeviceTree::sortGroups()
+{
+    for (PTreeWidgetItem* group : {m_cameras, m_added})
+        group->sortChildren(header()->sortIndicatorSection(), header()->sortIndicatorOrder());
+}
+
+void DeviceTree::retranslate()
+{
+    const QSignalBlocker blocker(this);
+    setHeaderLabels({tr("Camera"), tr("State"), tr("Recordings"), tr("Recorded time"),
+                     tr("Described from"), tr("Described to"), tr("Address")});
+    for (const int column : {DeviceItem::Recordings, DeviceItem::RecordedTime})
+        headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    m_cameras->setText(DeviceItem::Name, tr("Cameras"));
+    m_added->setText(DeviceItem::Name, tr("Added cameras"));
+    showTexts();
+    fitColumns();
+}
+
+} // namespace Review

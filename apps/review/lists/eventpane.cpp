@@ -1,0 +1,89 @@
+#include "eventpane.h"
+
+#include "eventtable.h"
+#include "look/listlook.h"
+
+#include <CorvelGui/FilterLineEdit>
+#include <CorvelGui/PHeaderCheckMenu>
+
+#include <QAction>
+#include <QHeaderView>
+#include <QVBoxLayout>
+
+using CorvelGui::FilterLineEdit;
+
+namespace Review {
+
+EventPane::EventPane(const TimeTexts& times, QWidget* parent)
+    : QWidget(parent)
+    , m_texts(times)
+    , m_filter(new FilterLineEdit)
+    , m_table(new EventTable)
+    , m_export(new QAction(m_table))
+{
+    new CorvelGui::PHeaderCheckMenu(m_table->horizontalHeader());
+    m_table->addAction(m_export);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addLayout(ListLook::place(m_filter));
+    layout->addWidget(m_table);
+
+    connect(m_filter, &FilterLineEdit::filterChanged, this, &EventPane::showRows);
+    connect(m_export, &QAction::triggered, m_table, &EventTable::exportRows);
+    connect(m_table, &QTableWidget::activated, this, [this](const QModelIndex& index) {
+        if (!m_table->isRowHidden(index.row()))
+            Q_EMIT eventOpened(m_table->eventOf(index.row()));
+    });
+    retranslate();
+}
+
+void EventPane::setReview(const ReviewData& review)
+{
+    // The rows look at both.
+    m_table->setRowCount(0);
+    m_list = EventList(review);
+    m_texts.setEvents(m_list);
+    m_table->setEvents(m_list, m_texts);
+    showRows();
+}
+
+void EventPane::setHiddenTracks(const QSet<QString>& identifiers)
+{
+    if (m_list.setHiddenTracks(identifiers))
+        showRows();
+}
+
+void EventPane::showRows()
+{
+    m_table->showRows(m_list, m_filter->text());
+}
+
+void EventPane::select(qsizetype index)
+{
+    m_table->goTo(index);
+}
+
+void EventPane::setTimes(const TimeTexts& times)
+{
+    m_texts.setTimes(times);
+    m_table->showNewTexts();
+    if (!m_filter->text().isEmpty())
+        showRows();
+}
+
+void EventPane::retranslate()
+{
+    m_filter->setAccessibleName(tr("Filter events"));
+    m_table->setAccessibleName(tr("Events"));
+    m_table->setHorizontalHeaderLabels({tr("Time"), tr("Kind"), tr("Event"), tr("Track")});
+    m_export->setText(tr("Export events…"));
+    m_export->setStatusTip(
+        tr("Write the events in the table, or several selected ones, to a file"));
+    m_texts.setEvents(m_list);
+    m_table->showNewTexts();
+    if (!m_filter->text().isEmpty())
+        showRows();
+}
+
+} // namespace Review

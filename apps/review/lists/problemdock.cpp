@@ -1,0 +1,53 @@
+#include "problemdock.h"
+
+#include "look/roomydelegate.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileInfo>
+#include <QListWidget>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+ProblemDock::ProblemDock(QWidget* parent) : QDockWidget(parent), m_list(new QListWidget(this))
+{
+    setObjectName(u"problemDock"_s);
+    setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea | Qt::RightDockWidgetArea);
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setUniformItemSizes(true);
+    m_list->setItemDelegate(new RoomyDelegate(m_list));
+    setWidget(m_list);
+    setProblems({});
+}
+
+void ProblemDock::setProblems(const ProblemList& problems)
+{
+    m_problems = problems;
+    retranslate();
+    setVisible(problems.count() > 0);
+    toggleViewAction()->setVisible(problems.count() > 0);
+}
+
+void ProblemDock::retranslate()
+{
+    setWindowTitle(tr("Lines left out: %1").arg(QLocale().toString(m_problems.count())));
+    m_list->setAccessibleName(tr("Lines left out"));
+    // Qt names it once only, in the language of that moment.
+    if (auto* close = findChild<QWidget*>(u"qt_dockwidget_closebutton"_s))
+        close->setAccessibleName(tr("Close"));
+    m_list->clear();
+    for (const Problem& problem : m_problems.listed()) {
+        auto* item = new QListWidgetItem(u"%1:%2: %3"_s.arg(QFileInfo(problem.file).fileName())
+                                             .arg(problem.line)
+                                             .arg(problem.text.text()),
+                                         m_list);
+        item->setToolTip(QDir::toNativeSeparators(problem.file).toHtmlEscaped());
+    }
+    if (m_problems.unlisted() > 0)
+        m_list->addItem(tr("and %1 more").arg(QLocale().toString(m_problems.unlisted())));
+}
+
+} // namespace Review

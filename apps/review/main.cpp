@@ -1,0 +1,97 @@
+#include "console.h"
+#include "look/languages.h"
+#include "options/settingsstore.h"
+#include "window/clientoptions.h"
+#include "window/commandline.h"
+#include "window/picture.h"
+#include "window/reviewwindow.h"
+
+#include <QApplication>
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+
+namespace {
+
+enum ExitCode { Success = 0, Failure = 1, BadUsage = 2 };
+
+int fail(ExitCode code, const QString& message)
+{
+    Console::printError(QCoreApplication::applicationName() + u": "_s + message + u'\n');
+    return code;
+}
+
+// A picture shows the same on every machine.
+QString settingsFile(const Arguments& arguments)
+{
+    if (!arguments.settings.isEmpty() || !arguments.picture.isEmpty())
+        return arguments.settings;
+    return SettingsStore::userFile();
+}
+
+int takePicture(QWidget& window, const QString& path)
+{
+    const QString error = writePicture(window, path);
+    if (error.isEmpty())
+        return Success;
+    return fail(Failure, QApplication::translate("Review", "Cannot write %1: %2")
+                             .arg(QDir::toNativeSeparators(path), error));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // The busy indicator has a native window; what it covers needs none.
+    QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(u"corvel-review"_s);
+    QApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));
+
+    Languages::use(nullptr, Languages::keyFor({}));
+    CommandLine commandLine;
+    switch (commandLine.parse(QApplication::arguments())) {
+    case CommandLine::Outcome::Answered:
+        Console::print(commandLine.message());
+        return Success;
+    case CommandLine::Outcome::Refused:
+        return fail(BadUsage, commandLine.message());
+    case CommandLine::Outcome::Run:
+        break;
+    }
+    const Arguments& arguments = commandLine.arguments();
+
+    SettingsStore store(settingsFile(arguments));
+    ReviewSettings settings = store.settings();
+    settings.zone = arguments.zone.value_or(settings.zone);
+    settings.dark = arguments.dark.value_or(settings.dark);
+    settings.language = arguments.language.value_or(settings.language);
+    store.assume(settings);
+
+    ReviewWindow window(settings.zone, settings.dark);
+    window.setCenterPosAndResize();
+    const ClientOptions options(store, window);
+    if (!arguments.size.isEmpty())
+        window.resize(arguments.size);
+    else if (!arguments.picture.isEmpty())
+        window.resize(1200, 700);
+    window.show();
+
+    QObject::connect(
+        &window, &ReviewWindow::loaded, &window,
+        [&](const QString& error) {
+            if (!error.isEmpty()) {
+                QApplication::exit(fail(BadUsage, error));
+            } else if (!arguments.picture.isEmpty()) {
+                // The sample looks best from close by; of a user's own files everything is shown.
+                if (arguments.files.isEmpty())
+                    window.showMiddleDay();
+                QApplication::processEvents();
+                QApplication::exit(takePicture(window, arguments.picture));
+            }
+        },
+        Qt::SingleShotConnection);
+    window.load(arguments.files);
+    return QApplication::exec();
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "look/timetexts.h"
+#include "playback/playerkeys.h"
+#include "window/updatemenu.h"
+
+#include <Corvel/ProxyUserSettings>
+
+#include <QString>
+
+class QSettings;
+
+namespace Review {
+
+/// What the user has set. Each value has a default that makes the program usable.
+struct ReviewSettings
+{
+    bool dark = true;
+    /// One of Languages::keys(); empty for the language of the operating system.
+    QString language = {};
+    /// Empty for the zone of this machine.
+    QString zone = {};
+    TimeFormat timeFormat = {};
+    bool skipGaps = false;
+    PlayerKeys::Shortcuts shortcuts = PlayerKeys::defaults();
+
+    UpdateServers servers = {};
+    Corvel::ProxyUserSettings proxy = {};
+    /// Whether the password of the proxy may be written down.
+    bool rememberPassword = false;
+
+    bool operator==(const ReviewSettings&) const = default;
+
+    /// What is missing or makes no sense in @p file has its default.
+    static ReviewSettings read(const QSettings& file);
+    /// Writes what differs from @p before, and leaves everything else in @p file as it is.
+    void write(QSettings& file, const ReviewSettings& before) const;
+};
+
+} // namespace Review

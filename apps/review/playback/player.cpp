@@ -1,0 +1,152 @@
+#include "player.h"
+
+#include "data/trackhistory.h"
+#include "timeline/timelinepane.h"
+
+#include <QElapsedTimer>
+
+#include <utility>
+
+using CorvelGui::PPlaybar;
+using CorvelGui::TimeSpan;
+
+namespace Review {
+
+namespace {
+
+Player::MonotonicClock clockOfThisMachine()
+{
+    QElapsedTimer timer;
+    timer.start();
+    return [timer] {
+        return timer.elapsed();
+    };
+}
+
+/// In eighths of real time, backwards negative.
+int speedOf(const PPlaybar& bar)
+{
+    const int speed =
+        qRound(PlayerClock::realTime * PPlaybar::playbackSpeedToFloat(bar.playbackSpeed()));
+    return bar.playbackState() < PPlaybar::Pause ? -speed : speed;
+}
+
+} // namespace
+
+Player::Player(TimelinePane* timeline, PPlaybar* bar, QObject* parent, MonotonicClock now)
+    : QObject(parent)
+    , m_timeline(timeline)
+    , m_bar(bar)
+    , m_keys(bar)
+    , m_now(now ? std::move(now) : clockOfThisMachine())
+{
+    m_timer.setInterval(int(PlayerClock::frame));
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &Player::advance);
+
+    connect(timeline, &TimelinePane::currentTimeChanged, this, &Player::followTimeline);
+    connect(timeline, &TimelinePane::heldChanged, this, &Player::hold);
+
+    connect(bar, &PPlaybar::playbackStateChanged, this, [this] {
+        // Who starts to play wants to see where.
+        if (!m_playing)
+            m_timeline->showCurrentTime();
+        followBar();
+    });
+    connect(bar, &PPlaybar::playbackSpeedChanged, this, &Player::followBar);
+    connect(bar, &PPlaybar::frameForwardClicked, this, [this] { step(1); });
+    connect(bar, &PPlaybar::frameBackwardClicked, this, [this] { step(-1); });
+    connect(bar, &PPlaybar::trackStartClicked, this,
+            [this] { m_timeline->goTo(m_hasTrack ? m_track.begin : m_period.begin); });
+    connect(bar, &PPlaybar::trackEndClicked, this,
+            [this] { m_timeline->goTo(m_hasTrack ? m_track.end : m_period.end); });
+}
+
+void Player::setPeriod(const TimeSpan& period)
+{
+    pause();
+    m_period = period;
+    m_clock.setLimits(period);
+}
+
+void Player::setTrack(const TrackHistory* track)
+{
+    m_hasTrack = track != nullptr;
+    m_track = track ? track->described() : TimeSpan();
+    m_clock.setRecorded(track ? track->recorded() : QList<TimeSpan>());
+    applyGaps();
+}
+
+void Player::setSkippingGaps(bool skip)
+{
+    m_skippingGaps = skip;
+    applyGaps();
+}
+
+void Player::applyGaps()
+{
+    m_clock.setSkippingGaps(m_skippingGaps && m_hasTrack);
+}
+
+void Player::pause()
+{
+    m_bar->setPlaybackState(PPlaybar::Pause);
+    followBar();
+}
+
+void Player::advance()
+{
+    report(m_clock.advance(m_now()));
+}
+
+void Player::step(int frames)
+{
+    m_timeline->showCurrentTime();
+    report(m_clock.step(frames, m_now()));
+}
+
+void Player::report(PlayerClock::Stop stop)
+{
+    show();
+    if (stop == PlayerClock::Stop::None)
+        return;
+    pause();
+    if (stop == PlayerClock::Stop::NoMoreRecordings)
+        Q_EMIT ranOutOfRecordings();
+}
+
+void Player::followBar()
+{
+    const int speed = speedOf(*m_bar);
+    m_clock.setSpeed(m_held ? 0 : speed, m_now());
+    show();
+    m_keys.followBar();
+    const bool playing = speed != 0;
+    if (std::exchange(m_playing, playing) == playing)
+        return;
+    if (playing)
+        m_timer.start();
+    else
+        m_timer.stop();
+    Q_EMIT playingChanged(playing);
+}
+
+void Player::followTimeline()
+{
+    if (m_timeline->currentTime() != m_clock.position())
+        m_clock.seek(m_timeline->currentTime(), m_now());
+}
+
+void Player::hold(bool held)
+{
+    m_held = held;
+    followBar();
+}
+
+void Player::show()
+{
+    if (!m_period.isEmpty())
+        m_timeline->playTo(m_clock.position());
+}
+
+} // namespace Review

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "data/eventkind.h"
+#include "data/trackhistory.h"
+
+#include <QWidget>
+
+namespace Review {
+
+/// What the card says of an instant.
+struct PreviewContent
+{
+    struct Occurrence
+    {
+        EventKind kind;
+        QString text;
+
+        bool operator==(const Occurrence&) const = default;
+    };
+
+    QString time;
+    QList<Occurrence> events;
+    QList<NamedState> tracks;
+};
+
+/// The card that appears above the timeline where the mouse rests. It is as dark as the timeline in
+/// both looks, and takes no mouse events. Texts are shown as they are.
+class PreviewCard : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The card stays inside @p window. Starts hidden.
+    explicit PreviewCard(QWidget* window);
+
+    /// Shows the card with the middle of its lower edge at @p anchor of the window, or as near as
+    /// the window allows.
+    void showContent(const PreviewContent& content, QPoint anchor);
+
+    /// The texts from top to bottom.
+    QStringList lines() const;
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct Line
+    {
+        enum class Sign { None, Event, Track };
+
+        Sign sign = Sign::None;
+        EventKind kind = EventKind::Other;
+        TrackState state = TrackState::NotDescribed;
+        QString text = {};
+        QString remark = {};
+    };
+
+    void setContent(const PreviewContent& content);
+    QFont fontOf(const Line& line) const;
+    int heightOf(const Line& line) const;
+    int widthOf(const Line& line) const;
+    void paintLine(QPainter& painter, const Line& line, const QRect& area) const;
+
+    QList<Line> m_lines;
+};
+
+} // namespace Review

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "look/timetexts.h"
+
+#include <CorvelGui/TrackDescription>
+
+#include <QWidget>
+
+class QCheckBox;
+class QLabel;
+class QPushButton;
+
+namespace Review {
+
+class InstantEdit;
+
+/// How a found range is shown.
+struct ResultLook
+{
+    bool markBegin = true;
+    bool markEnd = true;
+    bool onlyInside = false;
+    bool zoom = true;
+};
+
+/// Asks for the range to search, and for the range that a search found.
+class RangePanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RangePanel(const TimeTexts& times, QWidget* parent = nullptr);
+
+    /// Ranges that do not touch @p period are not asked for.
+    void setPeriod(const CorvelGui::TimeSpan& period);
+
+    CorvelGui::TimeSpan range() const;
+    void setRange(const CorvelGui::TimeSpan& range);
+    void setTimes(const TimeTexts& times);
+    /// Applies all translated texts again.
+    void retranslate();
+
+Q_SIGNALS:
+    /// The user wants the range of the view in the edits.
+    void viewWanted();
+    void searchWanted(const CorvelGui::TimeSpan& range);
+    void resultWanted(const CorvelGui::TimeSpan& range, const Review::ResultLook& look);
+    void clearWanted();
+
+private:
+    void createLayout();
+    bool checkRange();
+
+    CorvelGui::TimeSpan m_period;
+    QLabel* m_fromLabel;
+    InstantEdit* m_from;
+    QLabel* m_toLabel;
+    InstantEdit* m_to;
+    QPushButton* m_fromView;
+    QPushButton* m_search;
+    QPushButton* m_clear;
+    QCheckBox* m_markBegin;
+    QCheckBox* m_markEnd;
+    QCheckBox* m_onlyInside;
+    QCheckBox* m_zoom;
+    QPushButton* m_result;
+    QLabel* m_message;
+};
+
+} // namespace Review

@@ -1,0 +1,59 @@
+#include "reviewmenubar.h"
+
+#include "lists/devicepane.h"
+#include "lists/eventpane.h"
+#include "timeline/timelinetoolbar.h"
+#include "updatemenu.h"
+
+#include <QAction>
+
+namespace Review {
+
+ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
+                             const TimelineToolBar& toolBar, QAction* darkLook, UpdateMenu* updates,
+                             QWidget* parent)
+    : QMenuBar(parent), m_updates(updates)
+{
+    m_file = addMenu(QString());
+    m_open = m_file->addAction(QString());
+    m_open->setShortcut(QKeySequence::Open);
+    m_file->addAction(events.exportAction());
+    m_export = m_file->addAction(QString());
+    m_export->setShortcut(Qt::CTRL | Qt::Key_E);
+    m_file->addSeparator();
+    m_quit = m_file->addAction(QString());
+    m_quit->setShortcut(QKeySequence::Quit);
+
+    m_devices = addMenu(QString());
+    m_devices->addActions(devices.treeActions());
+
+    m_view = addMenu(QString());
+    for (QAction* action : toolBar.viewActions()) {
+        if (action)
+            m_view->addAction(action);
+        else
+            m_view->addSeparator();
+    }
+    m_view->addSeparator();
+    m_view->addAction(darkLook);
+
+    m_tools = addMenu(QString());
+    m_tools->menuAction()->setVisible(false);
+
+    addMenu(updates);
+    retranslate();
+}
+
+void ReviewMenuBar::retranslate()
+{
+    m_file->setTitle(tr("&File"));
+    m_open->setText(tr("&Open folder…"));
+    m_export->setText(tr("Export &pictures…"));
+    m_quit->setText(tr("&Quit"));
+    m_devices->setTitle(tr("&Devices"));
+    m_view->setTitle(tr("&View"));
+    m_tools->setTitle(tr("&Tools"));
+    m_updates->retranslate();
+}
+
+} // namespace Review

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "data/sampledata.h"
+#include "window/reviewwindow.h"
+
+#include <CorvelGui/PTableWidget>
+#include <CorvelGui/PTreeWidget>
+#include <CorvelGui/Ruler>
+#include <CorvelGui/TarvoDateTimeView>
+
+#include <QAction>
+#include <QLabel>
+#include <QTest>
+
+#include <algorithm>
+
+/// The client's window, and what a user sees and presses in it.
+struct SampleWindow
+{
+    explicit SampleWindow(const QString& zone, const Review::ProblemList& problems = {},
+                          const Review::ReviewData& data = Review::SampleData::make())
+        : window(zone, true)
+    {
+        window.setReview(data, problems);
+        window.resize(1200, 700);
+        window.show();
+        // Offscreen, the mouse enters a window when it appears.
+        if (!QTest::qWaitForWindowExposed(&window))
+            qFatal("The window does not appear");
+    }
+
+    /// The first child of the type that shows the text.
+    template <typename Child>
+    Child* withText(const QString& text) const
+    {
+        const auto children = window.findChildren<Child*>();
+        const auto found = std::ranges::find(children, text, &Child::text);
+        if (found == children.end())
+            qFatal("Nothing shows: %s", qPrintable(text));
+        return *found;
+    }
+    QAction* action(const QString& text) const { return withText<QAction>(text); }
+    bool says(const QString& text) const
+    {
+        return std::ranges::count(window.findChildren<QLabel*>(), text, &QLabel::text) > 0;
+    }
+    bool showsTime(const QString& text) const
+    {
+        return window.findChild<CorvelGui::TarvoDateTimeView*>()->shownText() == text;
+    }
+    CorvelGui::Ruler* ruler() const { return window.findChild<CorvelGui::Ruler*>(); }
+    CorvelGui::PTreeWidget* devices() const { return window.findChild<CorvelGui::PTreeWidget*>(); }
+    /// The only one of the name.
+    QTreeWidgetItem* device(const QString& name) const
+    {
+        const auto found = devices()->findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+        if (found.size() != 1)
+            qFatal("There is no such camera: %s", qPrintable(name));
+        return found.first();
+    }
+    CorvelGui::PTableWidget* events() const { return window.findChild<CorvelGui::PTableWidget*>(); }
+    /// What a column of the event table says, in the rows that are shown.
+    QStringList shownEvents(int column) const
+    {
+        QStringList texts;
+        for (int row = 0; row < events()->rowCount(); ++row) {
+            if (!events()->isRowHidden(row))
+                texts.append(events()->item(row, column)->text());
+        }
+        return texts;
+    }
+
+    Review::ReviewWindow window;
+};

@@ -1,0 +1,361 @@
+#include "data/trackhistory.h"
+#include "export/exportdialog.h"
+#include "playback/player.h"
+#include "samplewindow.h"
+#include "testsupport.h"
+#include "timeline/timelinepane.h"
+#include "times.h"
+#include "whenshown.h"
+
+#include <CorvelGui/BusyIndicator>
+#include <CorvelGui/Indicator>
+#include <CorvelGui/TarvoDateTimeView>
+
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+using CorvelGui::PPlaybar;
+using CorvelGui::Ruler;
+using CorvelGui::TimeSpan;
+
+namespace {
+
+/// A player in the hand of a test, at the begin of three days of which hours 1, 2 and 30 are
+/// recorded.
+struct Playing
+{
+    Playing() : player(&timeline, &bar, nullptr, [this] { return now; })
+    {
+        timeline.resize(1000, 120);
+        timeline.show();
+        player.setPeriod(period);
+        player.setTrack(&history);
+        timeline.setPeriod(period);
+        timeline.jumpTo(monday, hour);
+    }
+    /// As the user does, with as many clicks as it takes.
+    void setSpeed(PPlaybar::PlaybackState state, PPlaybar::PlaybackSpeed speed)
+    {
+        bar.setPlaybackState(state);
+        bar.setPlaybackSpeed(speed);
+        Q_EMIT bar.playbackStateChanged(state);
+    }
+    void tick(qint64 msecs)
+    {
+        now += msecs;
+        player.advance();
+    }
+
+    const TimeSpan period{monday, monday + 3 * day};
+    const TrackHistory history{{u"a"_s,
+                                u"Gate"_s,
+                                monday,
+                                monday + 2 * day,
+                                {{monday + hour, monday + 2 * hour},
+                                 {monday + 2 * hour, monday + 3 * hour},
+                                 {monday + 30 * hour, monday + 31 * hour}}}};
+    qint64 now = 500;
+    TimelinePane timeline{u"UTC"_s};
+    PPlaybar bar;
+    Player player;
+};
+
+} // namespace
+
+class TestReviewPlayback : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
+    void aDayTurnsPages();
+    void viewStaysWhereTheUserLooks();
+    void handHoldsTheTime();
+    void endsPause();
+    void spaceBarIsShared();
+    void loadingIsCovered();
+    void visitorsComeAndGo();
+    void exportEnds_data();
+    void exportEnds();
+    void exportIsAsked();
+};
+
+void TestReviewPlayback::aDayTurnsPages()
+{
+    for (const bool forwards : {true, false}) {
+        Playing playing;
+        const qint64 start = forwards ? monday + 90'001 : monday + 2 * day;
+        playing.timeline.goTo(start);
+        playing.setSpeed(forwards ? PPlaybar::FastForward : PPlaybar::FastBackward,
+                         PPlaybar::Speed1024);
+        int pages = 0;
+        for (qint64 elapsed = 0; elapsed * 1024 < day;) {
+            const TimeSpan before = playing.timeline.view();
+            const qint64 interval = 33 + elapsed % 17;
+            playing.tick(interval);
+            elapsed += interval;
+
+            const qint64 position = start + (forwards ? 1024 : -1024) * elapsed;
+            QCOMPARE(playing.timeline.currentTime(), position);
+            const TimeSpan after = playing.timeline.view();
+            QVERIFY(after.begin <= position && position <= after.end);
+            if (after == before)
+                continue;
+            QVERIFY(position < before.begin || position > before.end);
+            QCOMPARE(after.begin - before.begin, forwards ? hour : -hour);
+            ++pages;
+        }
+        QCOMPARE(pages, 24);
+    }
+}
+
+void TestReviewPlayback::viewStaysWhereTheUserLooks()
+{
+    Playing playing;
+    playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed64);
+    for (int i = 0; i < 5; ++i)
+        playing.timeline.stepLater();
+    const TimeSpan elsewhere = playing.timeline.view();
+    const QSignalSpy views(&playing.timeline, &TimelinePane::viewChanged);
+    for (int i = 0; i < 50; ++i) {
+        playing.tick(1'000);
+        QCOMPARE(playing.timeline.view(), elsewhere);
+        QCOMPARE(playing.timeline.currentTime(), monday + (i + 1) * 64'000);
+    }
+    QVERIFY(views.isEmpty());
+    // It counts as followed again once it has come into view, and when the user starts to play.
+    playing.tick(elsewhere.end - playing.timeline.currentTime());
+    QVERIFY(playing.timeline.view() == elsewhere);
+    playing.player.pause();
+    playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
+    QVERIFY(playing.timeline.view() != elsewhere);
+}
+
+void TestReviewPlayback::handHoldsTheTime()
+{
+    Playing playing;
+    playing.timeline.goTo(monday + 10 * minute);
+    playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
+    playing.tick(1'000);
+    auto* ruler = playing.timeline.findChild<Ruler*>();
+    auto* indicator = ruler->findChild<CorvelGui::Indicator*>();
+    const QPoint grip(indicator->hotSpot(), 10);
+    QTest::mousePress(indicator, Qt::LeftButton, {}, grip);
+    playing.tick(60'000);
+    QCOMPARE(playing.timeline.currentTime(), monday + 10 * minute + 1'000);
+
+    QTest::mouseMove(indicator, grip + QPoint(200, 0));
+    const qint64 dragged = playing.timeline.currentTime();
+    QVERIFY(dragged > monday + 20 * minute);
+    playing.tick(60'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged);
+    QTest::mouseRelease(indicator, Qt::LeftButton, {}, QPoint(indicator->hotSpot(), 10));
+    playing.tick(2'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged + 2'000);
+
+    // Dragging the scale moves the view only; the release goes to a dialog.
+    const TimeSpan view = playing.timeline.view();
+    QTest::mousePress(ruler, Qt::LeftButton, {}, QPoint(700, 50));
+    playing.tick(60'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged + 2'000);
+    QCOMPARE(playing.timeline.view(), view);
+    QEvent deactivate(QEvent::WindowDeactivate);
+    QApplication::sendEvent(ruler, &deactivate);
+    playing.tick(3'000);
+    QCOMPARE(playing.timeline.currentTime(), dragged + 5'000);
+}
+
+void TestReviewPlayback::endsPause()
+{
+    struct Case
+    {
+        bool skip;
+        PPlaybar::PlaybackState state;
+        qint64 from;
+        qint64 to;
+    };
+    using enum PPlaybar::PlaybackState;
+    for (const Case& end :
+         {Case{false, FastForward, 71 * hour, 72 * hour}, Case{false, FastBackward, 1 * hour, 0},
+          Case{true, FastForward, 30 * hour + 1, 31 * hour},
+          Case{true, FastBackward, 3 * hour - 1, 1 * hour}}) {
+        Playing playing;
+        playing.player.setSkippingGaps(end.skip);
+        playing.timeline.goTo(monday + end.from);
+        const QSignalSpy states(&playing.bar, &PPlaybar::playbackStateChanged);
+        const QSignalSpy ranOut(&playing.player, &Player::ranOutOfRecordings);
+        playing.setSpeed(end.state, PPlaybar::Speed2);
+        playing.tick(2 * hour);
+        QCOMPARE(playing.timeline.currentTime(), monday + end.to);
+        QCOMPARE(playing.bar.playbackState(), Pause);
+        QVERIFY(!playing.player.isPlaying());
+        QCOMPARE(states.size(), 1); // the user's own
+        QCOMPARE(ranOut.size(), end.skip ? 1 : 0);
+    }
+
+    Playing playing;
+    playing.player.setSkippingGaps(true);
+    playing.setSpeed(SlowForward, PPlaybar::Speed1_8);
+    playing.tick(8);
+    QCOMPARE(playing.timeline.currentTime(), monday + hour);
+    playing.tick(8'001);
+    Q_EMIT playing.bar.frameForwardClicked();
+    QCOMPARE(playing.timeline.currentTime(), monday + hour + 1'040);
+    Q_EMIT playing.bar.trackEndClicked();
+    QCOMPARE(playing.timeline.currentTime(), monday + 2 * day);
+}
+
+void TestReviewPlayback::spaceBarIsShared()
+{
+    const SampleWindow sample(u"UTC"_s);
+    auto* bar = sample.window.findChild<PPlaybar*>();
+    auto* view = sample.window.findChild<CorvelGui::TarvoDateTimeView*>();
+    sample.ruler()->setFocus();
+    QTest::keyClick(sample.ruler(), Qt::Key_Space);
+    QTRY_COMPARE(bar->playbackState(), PPlaybar::Play);
+    QTRY_VERIFY(sample.ruler()->getIndicatorMSecs() >= monday);
+    QTest::keyClick(sample.ruler(), Qt::Key_Space);
+    QTRY_COMPARE(bar->playbackState(), PPlaybar::Pause);
+    QCOMPARE(view->shownText().left(6), u"02 Mar"_s);
+
+    // A check box keeps it.
+    QTreeWidget* cameras = sample.devices();
+    QTreeWidgetItem* camera = cameras->topLevelItem(0)->child(1);
+    cameras->setCurrentItem(camera);
+    cameras->setFocus();
+    QTest::keyClick(cameras, Qt::Key_Space);
+    QCOMPARE(camera->checkState(0), Qt::Unchecked);
+    QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+}
+
+void TestReviewPlayback::loadingIsCovered()
+{
+    SampleWindow sample(u"UTC"_s);
+    auto* bar = sample.window.findChild<PPlaybar*>();
+    QTest::keyClick(sample.ruler(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_COMPARE(bar->playbackState(), PPlaybar::FastForward);
+    const QSignalSpy loaded(&sample.window, &ReviewWindow::loaded);
+    sample.window.load({});
+    const QPointer busy = sample.window.findChild<CorvelGui::BusyIndicator*>();
+    QVERIFY(busy && busy->isVisible());
+    QCOMPARE(busy->geometry(), sample.window.centralWidget()->rect());
+    QTRY_COMPARE(loaded.size(), 1);
+    QTRY_VERIFY(!busy);
+    QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+    QVERIFY(sample.showsTime(u"02 Mar 00:00:00"_s));
+}
+
+void TestReviewPlayback::visitorsComeAndGo()
+{
+    const CameraFeed feed(
+        {u"a"_s, u"Gate"_s, monday, monday + day, {{monday, monday + hour}}},
+        {{monday, u"car"_s, {}, u"a"_s}, {monday + 5'000, u"person"_s, {}, u"b"_s}},
+        TimeTexts(u"Australia/Darwin"_s));
+    const CameraScene scene = feed.sceneAt(monday + 5'000);
+    QCOMPARE(scene.visitors, (QList<CameraScene::Visitor>{{EventKind::Vehicle, 0.75}}));
+    QVERIFY(qAbs(scene.hour - 9.5) < 0.01);
+    QCOMPARE(feed.sceneAt(monday + CameraFeed::visit + 1).visitors.size(), 0);
+    QCOMPARE(feed.sceneAt(monday + 2 * hour).state, TrackState::Gap);
+}
+
+void TestReviewPlayback::exportEnds_data()
+{
+    QTest::addColumn<PictureExport::Outcome>("outcome");
+    QTest::addColumn<int>("cancelAfter");
+    QTest::addColumn<QString>("obstacle");
+    QTest::addColumn<int>("files");
+    QTest::newRow("complete") << PictureExport::Outcome::Complete << -1 << QString() << 6;
+    QTest::newRow("cancelled") << PictureExport::Outcome::Cancelled << 2 << QString() << 2;
+    QTest::newRow("existing file")
+        << PictureExport::Outcome::Failed << -1 << u"Gate__1___2026-03-02T000004Z.png"_s << 3;
+    QTest::newRow("no folder") << PictureExport::Outcome::Failed << -1 << u"."_s << 0;
+}
+
+void TestReviewPlayback::exportEnds()
+{
+    QFETCH(const PictureExport::Outcome, outcome);
+    QFETCH(const int, cancelAfter);
+    QFETCH(const QString, obstacle);
+    QTemporaryDir folder;
+    if (obstacle == u"."_s) {
+        folder.remove();
+    } else if (!obstacle.isEmpty()) {
+        QFile file(folder.filePath(obstacle));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    const CameraFeed feed({u"a"_s, u"Gate/(1)?"_s, monday, monday + day}, {}, TimeTexts(u"UTC"_s));
+    PictureExport job(feed, {{monday, monday + 10'001}, 2, folder.path()});
+    QCOMPARE(job.existingFiles(), obstacle.endsWith(u".png"_s) ? 1 : 0);
+    QList<PictureExport::Outcome> outcomes;
+    connect(&job, &PictureExport::progressed, this, [&](int written) {
+        if (written == cancelAfter)
+            job.cancel();
+    });
+    connect(&job, &PictureExport::ended, this, [&](auto how) { outcomes.append(how); });
+    job.start();
+    QTRY_COMPARE(outcomes.size(), 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(outcomes, {outcome});
+
+    const QStringList names = QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
+    QTEST(int(names.size()), "files");
+    for (const QString& name : names) {
+        if (name != obstacle)
+            QCOMPARE(QImage(folder.filePath(name)).size(), CameraPicture::size);
+        else
+            QCOMPARE(QFileInfo(folder.filePath(name)).size(), 0);
+    }
+}
+
+void TestReviewPlayback::exportIsAsked()
+{
+    const QTemporaryDir folder;
+    const SampleWindow sample(u"UTC"_s);
+    const auto exportDays = [&] {
+        whenShown<ExportDialog>(this, [&](ExportDialog& dialog) {
+            auto* interval = dialog.findChild<QSpinBox*>();
+            QPushButton* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            dialog.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)
+                ->setText(folder.path());
+            interval->setValue(1); // a million pictures
+            QVERIFY(!ok->isEnabled());
+            interval->setValue(86'400);
+            QTest::mouseClick(ok, Qt::LeftButton);
+        });
+        sample.action(u"Export &pictures…"_s)->trigger();
+    };
+    const auto files = [&] {
+        return QDir(folder.path()).entryList(QDir::Files).size();
+    };
+    exportDays();
+    QVERIFY(sample.withText<QProgressBar>(u"0.0%"_s)->isVisible());
+    QVERIFY(!sample.action(u"Export &pictures…"_s)->isEnabled());
+    QTRY_COMPARE(sample.window.statusBar()->currentMessage(), u"Pictures exported: 14"_s);
+    QCOMPARE(files(), 14);
+
+    QString question;
+    whenShown<QMessageBox>(this, [&](QMessageBox& box) {
+        question = box.text();
+        box.button(QMessageBox::No)->click();
+    });
+    QFile first(QDir(folder.path()).filePath(u"Main_gate_2026-03-02T000000Z.png"_s));
+    QVERIFY(first.resize(0));
+    exportDays();
+    QCOMPARE(question, u"Files that exist already: 14 of 14. Replace them?"_s);
+    QCOMPARE(first.size(), 0);
+    QVERIFY(sample.action(u"Export &pictures…"_s)->isEnabled());
+}
+
+QTEST_MAIN(TestReviewPlayback)
+#include "tst_reviewplayback.moc"

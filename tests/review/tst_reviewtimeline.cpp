@@ -1,0 +1,403 @@
+#include "lists/deviceitem.h"
+#include "lists/eventtexts.h"
+#include "look/eventicons.h"
+#include "look/zonecombo.h"
+#include "samplewindow.h"
+#include "testsupport.h"
+#include "timeline/eventmarkers.h"
+#include "timeline/instantedit.h"
+#include "timeline/previewcard.h"
+#include "times.h"
+
+#include <CorvelGui/Indicator>
+#include <CorvelGui/RulerMarkerButton>
+#include <CorvelGui/TimelineScroll>
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+using CorvelGui::Ruler;
+using CorvelGui::RulerMarkerButton;
+
+namespace {
+
+/// Two tracks and three events, one of them of no track, around the noon of the Monday. The first
+/// texts look like markup.
+ReviewData smallReview()
+{
+    const qint64 noon = monday + 12 * hour;
+    return {.tracks = {{u"a"_s, u"<b>Gate</b>"_s, monday, monday + day, {{noon, noon + hour}}},
+                       {u"b"_s, u"Fence"_s, monday, noon, {{monday, monday + hour}}}},
+            .events = {{noon - 6 * hour, u"Person"_s, u"<i>thin</i>"_s, u"b"_s},
+                       {noon, u"car"_s, u"vehicle"_s, u"a"_s},
+                       {noon + 6 * hour, u"ghost"_s, u"boo"_s, QString()}}};
+}
+
+QList<RulerMarkerButton*> shownMarkers(const Ruler* ruler)
+{
+    QList<RulerMarkerButton*> shown = ruler->findChildren<RulerMarkerButton*>();
+    shown.removeIf([](const RulerMarkerButton* button) { return !button->isVisible(); });
+    std::ranges::sort(shown, {}, &RulerMarkerButton::centerX);
+    return shown;
+}
+
+void press(const SampleWindow& sample, const QString& button)
+{
+    QTest::mouseClick(sample.withText<QPushButton>(button), Qt::LeftButton);
+}
+
+void enterZone(const SampleWindow& sample, const QString& text)
+{
+    auto* combo = sample.window.findChild<ZoneCombo*>();
+    combo->setEditText(text);
+    QTest::keyClick(combo, Qt::Key_Return);
+}
+
+/// Moves the mouse as the window system does, so that widgets are entered and left.
+void moveMouse(const SampleWindow& sample, const QWidget* widget, QPoint position)
+{
+    QTest::mouseMove(sample.window.windowHandle(), widget->mapTo(&sample.window, position));
+}
+
+qint64 viewSpan(const Ruler* ruler)
+{
+    return qint64(ruler->endTime() - ruler->beginTime());
+}
+
+qint64 viewCentre(const Ruler* ruler)
+{
+    return qint64(ruler->beginTime() + ruler->endTime()) / 2;
+}
+
+} // namespace
+
+class TestReviewTimeline : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
+    void kindsAreRead();
+    void iconsDifferInShapeAndColour();
+    void markersOfCheckedTracks();
+    void eventsAreOpened();
+    void indicatorIsPlaced();
+    void previewSaysWhatIsKnown();
+    void zoneChangesAllTexts();
+    void rangesAreAsked();
+    void instantsOutlastTheClock();
+    void manyEventsLoad();
+};
+
+void TestReviewTimeline::kindsAreRead()
+{
+    const std::tuple<QString, EventKind, QString> rows[] = {
+        {u"person"_s, EventKind::Person, u"Person"_s},
+        {u" ALARM "_s, EventKind::Alarm, u"Alarm"_s},
+        {u"car"_s, EventKind::Vehicle, u"Vehicle"_s},
+        {u"personal"_s, EventKind::Other, u"personal"_s}};
+    for (const auto& [name, kind, text] : rows) {
+        QCOMPARE(EventKinds::parse(name), kind);
+        QCOMPARE(EventKinds::text(name), text);
+    }
+}
+
+void TestReviewTimeline::iconsDifferInShapeAndColour()
+{
+    QList<QImage> shapes;
+    QList<QColor> colours;
+    EventIcons icons;
+    for (int kind = 0; kind < EventKinds::count; ++kind) {
+        QVERIFY(icons.iconKey(kind) != -1);
+        const QImage picture = icons.icon(kind).pixmap(QSize(16, 16), 1.0).toImage();
+        shapes.append(picture.convertToFormat(QImage::Format_Alpha8));
+        QColor brightest(0, 0, 0);
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 16; ++x) {
+                const QColor pixel = picture.pixelColor(x, y);
+                if (pixel.alpha() == 255 && pixel.lightness() > brightest.lightness())
+                    brightest = pixel;
+            }
+        }
+        QVERIFY(brightest.lightness() > 140); // on the dark timeline
+        colours.append(brightest);
+    }
+    for (int a = 0; a < EventKinds::count; ++a) {
+        for (int b = 0; b < a; ++b) {
+            int different = 0;
+            for (int y = 0; y < 16; ++y) {
+                for (int x = 0; x < 16; ++x)
+                    different += std::abs(shapes[a].pixelColor(x, y).alpha() -
+                                          shapes[b].pixelColor(x, y).alpha()) > 128;
+            }
+            QCOMPARE_GE(different, 18);
+            const QRgb one = colours[a].rgb();
+            const QRgb other = colours[b].rgb();
+            QVERIFY(std::abs(qRed(one) - qRed(other)) + std::abs(qGreen(one) - qGreen(other)) +
+                        std::abs(qBlue(one) - qBlue(other)) >=
+                    60);
+        }
+    }
+}
+
+void TestReviewTimeline::markersOfCheckedTracks()
+{
+    const ReviewData data = smallReview();
+    const SampleWindow sample(u"UTC"_s, {}, data);
+    const auto shownEvents = [&] {
+        QList<qsizetype> indexes;
+        for (const RulerMarkerButton* button : shownMarkers(sample.ruler())) {
+            const qsizetype index = EventMarkers::indexOf(button->marker().identifier);
+            indexes.append(index);
+            // The marker is the event's in all that it says.
+            if (button->marker().time.toMSecsSinceEpoch() != data.events[index].time ||
+                button->marker().iconIndex != int(EventKinds::parse(data.events[index].kind)))
+                indexes.append(-1);
+        }
+        return indexes;
+    };
+    const QTableWidget* events = sample.events();
+    QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
+    QCOMPARE(sample.shownEvents(EventTexts::Kind).size(), 3);
+
+    QTreeWidgetItem* fence = sample.device(u"Fence"_s);
+    fence->setCheckState(DeviceItem::Name, Qt::Unchecked);
+    QCOMPARE(shownEvents(), QList<qsizetype>({1, 2}));
+    QCOMPARE(sample.shownEvents(EventTexts::Kind), QStringList({u"Vehicle"_s, u"ghost"_s}));
+    QCOMPARE(sample.shownEvents(EventTexts::Track), QStringList({u"<b>Gate</b>"_s, QString()}));
+
+    // Rows and events differ in number here.
+    sample.events()->sortItems(EventTexts::Time, Qt::DescendingOrder);
+    Ruler* ruler = sample.ruler();
+    const qint64 span = viewSpan(ruler);
+    QTest::mouseClick(shownMarkers(ruler).last(), Qt::LeftButton);
+    QCOMPARE(events->currentRow(), 0);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[2].time);
+    QVERIFY(sample.showsTime(u"02 Mar 18:00:00"_s));
+    QCOMPARE(viewSpan(ruler), span);
+    QTest::mouseDClick(shownMarkers(ruler).first(), Qt::LeftButton);
+    QCOMPARE(events->currentRow(), 1);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[1].time);
+    QCOMPARE(viewSpan(ruler), 20 * minute);
+    QCOMPARE(viewCentre(ruler), data.events[1].time);
+
+    sample.action(u"Whole period"_s)->trigger();
+    sample.action(u"Events"_s)->trigger();
+    QCOMPARE(shownEvents(), QList<qsizetype>());
+    fence->setCheckState(DeviceItem::Name, Qt::Checked);
+    sample.action(u"Events"_s)->trigger();
+    QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
+}
+
+void TestReviewTimeline::eventsAreOpened()
+{
+    const ReviewData data = SampleData::make();
+    const SampleWindow sample(u"UTC"_s);
+    Ruler* ruler = sample.ruler();
+    for (int i = 0; i < 4; ++i)
+        sample.action(u"Zoom in"_s)->trigger();
+
+    QTableWidget* events = sample.events();
+    const int row = 1'200;
+    events->scrollTo(events->model()->index(row, 0));
+    const QPoint position = events->visualRect(events->model()->index(row, 0)).center();
+    QTest::mouseClick(events->viewport(), Qt::LeftButton, {}, position);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), monday);
+    QTest::mouseDClick(events->viewport(), Qt::LeftButton, {}, position);
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[row].time);
+    QVERIFY(std::abs(viewCentre(ruler) - data.events[row].time) < second);
+    // The overview goes along.
+    const double strip = sample.window.findChild<CorvelGui::TimelineScroll*>()->centerPosition();
+    QVERIFY(std::abs(strip - ruler->getCurrentCenterPosition()) < 1e-6);
+}
+
+void TestReviewTimeline::indicatorIsPlaced()
+{
+    const SampleWindow sample(u"UTC"_s, {}, smallReview());
+    QVERIFY(sample.showsTime(u"02 Mar 00:00:00"_s));
+    Ruler* ruler = sample.ruler();
+    QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(ruler->width() / 3, 5));
+    QVERIFY(std::abs(qint64(ruler->getIndicatorMSecs()) - monday - 8 * hour) < 10 * minute);
+
+    auto* indicator = ruler->findChild<CorvelGui::Indicator*>();
+    const qint64 before = qint64(ruler->getIndicatorMSecs());
+    QTest::mousePress(indicator, Qt::LeftButton);
+    QTest::mouseMove(indicator, QPoint(indicator->width() / 2 + 200, 5));
+    QTRY_VERIFY(qint64(ruler->getIndicatorMSecs()) > before + 3 * hour);
+    const QDateTime time =
+        QDateTime::fromMSecsSinceEpoch(qint64(ruler->getIndicatorMSecs()), Qt::UTC);
+    QVERIFY(sample.showsTime(time.toString(u"dd MMM HH:mm:ss"_s)));
+    QTest::mouseRelease(indicator, Qt::LeftButton);
+    QVERIFY(!sample.events()->currentIndex().isValid());
+}
+
+void TestReviewTimeline::previewSaysWhatIsKnown()
+{
+    const SampleWindow sample(u"Europe/Brussels"_s, {}, smallReview());
+    Ruler* ruler = sample.ruler();
+    const auto* card = sample.window.findChild<PreviewCard*>();
+    QVERIFY(!card->isVisible());
+
+    const auto preview = [&](qint64 msecs) {
+        Q_EMIT ruler->previewPositionChanged(quint64(msecs), QPoint(600, 5), false);
+        return card->lines();
+    };
+    // The zone's abbreviation differs between platforms.
+    QVERIFY(preview(monday + 30 * minute)[0].startsWith(u"Mon 02.03.2026 01:30:00.000 "_s));
+    QCOMPARE(preview(monday + 30 * minute).sliced(1),
+             QStringList({u"<b>Gate</b>: no recording"_s, u"Fence: recorded"_s}));
+    QCOMPARE(preview(monday + 12 * hour).sliced(1),
+             QStringList({u"<b>Gate</b>: recorded"_s, u"Fence: not described"_s}));
+    QVERIFY(card->isVisible());
+    preview(0);
+    QVERIFY(!card->isVisible());
+
+    // Above the ruler, and inside the window at its edges.
+    QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(600, 5));
+    for (const int x : {20, ruler->width() - 20}) {
+        moveMouse(sample, ruler, QPoint(x, 5));
+        QTRY_VERIFY(card->isVisible());
+        QVERIFY(sample.window.rect().contains(card->geometry()));
+        QVERIFY(card->geometry().bottom() < ruler->mapTo(&sample.window, QPoint(0, 0)).y());
+        moveMouse(sample, &sample.window, QPoint(300, 300));
+        QTRY_VERIFY(!card->isVisible());
+    }
+
+    // The marker comes first while the mouse is on it.
+    QSignalSpy previews(ruler, &Ruler::previewPositionChanged);
+    moveMouse(sample, shownMarkers(ruler).first(), QPoint(8, 0));
+    QTRY_VERIFY(card->isVisible());
+    QCOMPARE(previews.size(), 2);
+    QVERIFY(card->lines()[0].startsWith(u"Mon 02.03.2026 07:00:00.000 "_s));
+    QCOMPARE(card->lines()[1], u"Person: <i>thin</i>"_s);
+    QCoreApplication::processEvents();
+    QCOMPARE(preview(monday + 6 * hour).size(), 3);
+}
+
+void TestReviewTimeline::zoneChangesAllTexts()
+{
+    const SampleWindow sample(u"UTC"_s, {}, smallReview());
+    sample.action(u"Ranges"_s)->trigger();
+    const auto texts = [&] {
+        QStringList all;
+        all.append(sample.device(u"Fence"_s)->text(DeviceItem::DescribedFrom));
+        all.append(sample.events()->item(0, EventTexts::Time)->text());
+        for (const InstantEdit* edit : sample.window.findChildren<InstantEdit*>())
+            all.append(edit->text());
+        return all;
+    };
+    const QImage before = sample.ruler()->grab().toImage();
+    QCOMPARE(texts(), QStringList({u"02.03.2026 00:00:00"_s, u"02.03.2026 06:00:00"_s,
+                                   u"02.03.2026 00:00:00"_s, u"03.03.2026 00:00:00"_s}));
+    const QStringList inDarwin{u"02.03.2026 09:30:00"_s, u"02.03.2026 15:30:00"_s,
+                               u"02.03.2026 09:30:00"_s, u"03.03.2026 09:30:00"_s};
+    const QString period = u"02.03.2026 09:30:00 – 03.03.2026 09:30:00 (Australia/Darwin)"_s;
+    enterZone(sample, u"australia/darwin"_s);
+    QCOMPARE(texts(), inDarwin);
+    QVERIFY(sample.says(period));
+    QVERIFY(sample.ruler()->grab().toImage() != before);
+
+    enterZone(sample, u"Mars/Base"_s);
+    QCOMPARE(texts(), inDarwin);
+    QCOMPARE(sample.window.findChild<ZoneCombo*>()->currentText(), u"Australia/Darwin"_s);
+    QVERIFY(sample.window.statusBar()->currentMessage().contains(u"Mars/Base"_s));
+
+    enterZone(sample, u"UTC"_s);
+    QCOMPARE(sample.ruler()->grab().toImage(), before);
+    QCOMPARE(sample.window.statusBar()->currentMessage(), QString());
+    enterZone(sample, u"This computer"_s);
+    QVERIFY(!sample.says(period));
+}
+
+void TestReviewTimeline::rangesAreAsked()
+{
+    const ReviewData data = smallReview();
+    const SampleWindow sample(u"UTC"_s, {}, data);
+    Ruler* ruler = sample.ruler();
+    sample.action(u"Ranges"_s)->trigger();
+    const QList<InstantEdit*> edits = sample.window.findChildren<InstantEdit*>();
+    edits[0]->setDateTime(edits[0]->dateTime().addSecs(11 * 3'600));
+    edits[1]->setDateTime(edits[0]->dateTime().addSecs(3 * 3'600));
+
+    press(sample, u"Search range"_s);
+    QCOMPARE(viewSpan(ruler), 3 * hour);
+    QCOMPARE(viewCentre(ruler), monday + 12 * hour + 30 * minute);
+
+    sample.action(u"Whole period"_s)->trigger();
+    sample.withText<QCheckBox>(u"Zoom to it"_s)->setChecked(false);
+    sample.withText<QCheckBox>(u"Only markers inside"_s)->setChecked(true);
+    press(sample, u"Show result"_s);
+    QCOMPARE(viewSpan(ruler), day);
+    QCOMPARE(shownMarkers(ruler).size(), 1);
+    const QImage marked = ruler->grab().toImage();
+    press(sample, u"Clear"_s);
+    QCOMPARE(shownMarkers(ruler).size(), 3);
+    QVERIFY(ruler->grab().toImage() != marked);
+
+    sample.action(u"Zoom in"_s)->trigger();
+    press(sample, u"From view"_s);
+    QCOMPARE(edits[0]->instant(), qint64(ruler->beginTime()));
+    QCOMPARE(edits[1]->instant(), qint64(ruler->endTime()));
+
+    // Faulty ranges change nothing, also where the view would follow them.
+    sample.withText<QCheckBox>(u"Zoom to it"_s)->setChecked(true);
+    const QImage before = ruler->grab().toImage();
+    edits[0]->setInstant(monday + 3 * hour);
+    edits[1]->setInstant(monday + 2 * hour);
+    const QString reversed = u"The range must end after it begins."_s;
+    for (const QString& button : {u"Search range"_s, u"Show result"_s}) {
+        press(sample, button);
+        QVERIFY(sample.says(reversed));
+    }
+    QCOMPARE(edits[0]->instant(), monday + 3 * hour);
+    QCOMPARE(edits[1]->instant(), monday + 2 * hour);
+    edits[1]->setDateTime(edits[1]->dateTime().addDays(40));
+    QVERIFY(!sample.says(reversed));
+    edits[0]->setDateTime(edits[0]->dateTime().addDays(30));
+    press(sample, u"Search range"_s);
+    QVERIFY(sample.says(u"Nothing is known of this range."_s));
+    QCOMPARE(ruler->grab().toImage(), before);
+}
+
+void TestReviewTimeline::instantsOutlastTheClock()
+{
+    // The second of two times that the clock shows as 02:30, with a fraction that it does not show.
+    const qint64 second0230 =
+        QDateTime::fromString(u"2026-10-25T01:30:00.250Z"_s, Qt::ISODateWithMs).toMSecsSinceEpoch();
+    InstantEdit edit{TimeTexts(u"Europe/Brussels"_s)};
+    edit.setInstant(second0230);
+    QCOMPARE(edit.text(), u"25.10.2026 02:30:00"_s);
+    edit.setTimes(TimeTexts(u"America/New_York"_s));
+    QCOMPARE(edit.text(), u"24.10.2026 21:30:00"_s);
+    QCOMPARE(edit.instant(), second0230);
+    edit.stepUp();
+    QVERIFY(edit.instant() != second0230);
+}
+
+void TestReviewTimeline::manyEventsLoad()
+{
+    ReviewData data = smallReview();
+    data.events.clear();
+    constexpr int count = 100'000;
+    for (int i = 0; i < count; ++i)
+        data.events.append({monday + i * day / count, i % 3 ? u"person"_s : u"alarm"_s,
+                            u"event %1"_s.arg(i), i % 2 ? u"a"_s : u"b"_s});
+
+    QElapsedTimer timer;
+    timer.start();
+    const SampleWindow sample(u"Europe/Brussels"_s, {}, data);
+    sample.ruler()->grab();
+    sample.device(u"Fence"_s)->setCheckState(DeviceItem::Name, Qt::Unchecked);
+    enterZone(sample, u"Asia/Kathmandu"_s);
+    QCOMPARE(sample.shownEvents(EventTexts::Time).size(), count / 2);
+    QVERIFY(timer.elapsed() < 20'000);
+}
+
+QTEST_MAIN(TestReviewTimeline)
+#include "tst_reviewtimeline.moc"

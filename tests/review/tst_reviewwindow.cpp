@@ -1,0 +1,139 @@
+#include "lists/deviceitem.h"
+#include "samplewindow.h"
+#include "testsupport.h"
+#include "times.h"
+
+#include <QDockWidget>
+#include <QListWidget>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Review;
+using CorvelGui::Ruler;
+
+namespace {
+
+QString enabledActions(const SampleWindow& sample)
+{
+    QStringList texts;
+    for (const QString& text :
+         {u"Zoom in"_s, u"Zoom out"_s, u"Whole period"_s, u"Earlier"_s, u"Later"_s})
+        texts += sample.action(text)->isEnabled() ? QStringList{text} : QStringList();
+    return texts.join(u", "_s);
+}
+
+QImage rulerPicture(const SampleWindow& sample)
+{
+    return sample.ruler()->grab().toImage();
+}
+
+} // namespace
+
+class TestReviewWindow : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
+    void actionsMoveTheView();
+    void uncheckedTracksLeaveTheTimeline();
+    void timesStandInTheZone();
+    void problemsAreListed();
+    void lookIsSwitched();
+};
+
+void TestReviewWindow::actionsMoveTheView()
+{
+    const SampleWindow sample(u"UTC"_s);
+    QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
+    QVERIFY(sample.says(u"Tracks: 4    Recordings: 2,721    Events: 1,631"_s));
+    QCOMPARE(enabledActions(sample), u"Zoom in"_s);
+
+    // The level of fourteen days would show the same as the whole period.
+    sample.action(u"Zoom in"_s)->trigger();
+    QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Earlier, Later"_s);
+    Ruler* ruler = sample.ruler();
+    QCOMPARE(qint64(ruler->getIndicatorMSecs()), monday);
+    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 7 * day);
+    const qint64 begin = qint64(ruler->beginTime());
+
+    sample.action(u"Later"_s)->trigger();
+    QCOMPARE(qint64(ruler->beginTime()), begin + 7 * day / 2);
+    sample.action(u"Earlier"_s)->trigger();
+    sample.action(u"Earlier"_s)->trigger();
+    QCOMPARE(qint64(ruler->beginTime()), monday);
+    QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Later"_s);
+
+    for (int i = 0; i < 10; ++i)
+        sample.action(u"Zoom in"_s)->trigger();
+    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 20 * minute);
+    QCOMPARE(enabledActions(sample), u"Zoom out, Whole period, Earlier, Later"_s);
+    sample.action(u"Zoom out"_s)->trigger();
+    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), hour);
+
+    sample.action(u"Whole period"_s)->trigger();
+    QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
+    QCOMPARE(enabledActions(sample), u"Zoom in"_s);
+
+    // The ruler can be moved beyond the period.
+    ruler->onTimelineOffsetChanged(0.75);
+    QCOMPARE(enabledActions(sample), u"Zoom in, Whole period, Earlier"_s);
+    sample.action(u"Whole period"_s)->trigger();
+    QCOMPARE(qint64(ruler->beginTime()), monday);
+}
+
+void TestReviewWindow::uncheckedTracksLeaveTheTimeline()
+{
+    const SampleWindow sample(u"UTC"_s);
+    sample.action(u"Events"_s)->trigger();
+    const QImage all = rulerPicture(sample);
+    QTreeWidgetItem* gate = sample.device(u"Main gate"_s);
+    gate->setCheckState(DeviceItem::Name, Qt::Unchecked);
+    QVERIFY(rulerPicture(sample) != all);
+    gate->setCheckState(DeviceItem::Name, Qt::Checked);
+    QCOMPARE(rulerPicture(sample), all);
+}
+
+void TestReviewWindow::timesStandInTheZone()
+{
+    const SampleWindow sample(u"Australia/Darwin"_s);
+    QVERIFY(sample.says(u"02.03.2026 09:30:00 – 16.03.2026 09:30:00 (Australia/Darwin)"_s));
+    const QTreeWidgetItem* fence = sample.device(u"North fence"_s);
+    QCOMPARE(fence->text(DeviceItem::DescribedFrom), u"02.03.2026 09:30:00"_s);
+    QCOMPARE(fence->text(DeviceItem::DescribedTo), u"12.03.2026 19:30:00"_s);
+}
+
+void TestReviewWindow::problemsAreListed()
+{
+    QVERIFY(!SampleWindow(u"UTC"_s).window.findChild<QDockWidget*>()->isVisible());
+
+    ProblemList problems;
+    for (int line = 2; line < 252; ++line)
+        problems.add({u"dir/<b>.csv"_s, line, u"bad"_s});
+    const SampleWindow sample(u"UTC"_s, problems);
+    const QListWidget* list = sample.window.findChild<QListWidget*>();
+    QCOMPARE(list->count(), 101);
+    QCOMPARE(list->item(0)->text(), u"<b>.csv:2: bad"_s);
+    QCOMPARE(list->item(100)->text(), u"and 150 more"_s);
+
+    QAction* toggle = sample.action(u"Lines left out: 250"_s);
+    QVERIFY(list->isVisible());
+    toggle->trigger();
+    QVERIFY(!list->isVisible());
+}
+
+void TestReviewWindow::lookIsSwitched()
+{
+    SampleWindow sample(u"UTC"_s);
+    const auto tableLightness = [&sample] {
+        return sample.window.grab().toImage().pixelColor(100, 400).lightness();
+    };
+    QVERIFY(tableLightness() < 60);
+    sample.action(u"Dark look"_s)->trigger();
+    QVERIFY(tableLightness() > 200);
+    sample.action(u"Dark look"_s)->trigger();
+    QVERIFY(tableLightness() < 60);
+}
+
+QTEST_MAIN(TestReviewWindow)
+#include "tst_reviewwindow.moc"
