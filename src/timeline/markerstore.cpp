@@ -53,6 +53,11 @@ std::size_t MarkerStore::firstFrom(qint64 msecs) const
     return std::size_t(std::lower_bound(m_times.begin(), m_times.end(), msecs) - m_times.begin());
 }
 
+std::size_t MarkerStore::firstAfter(qint64 msecs) const
+{
+    return std::size_t(std::upper_bound(m_times.begin(), m_times.end(), msecs) - m_times.begin());
+}
+
 std::vector<std::size_t> MarkerStore::takeUnseen(std::size_t first, std::size_t last)
 {
     std::vector<std::size_t> unseen;

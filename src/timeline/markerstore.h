@@ -38,6 +38,8 @@ public:
 
     /// Index of the first marker at or after @p msecs; size() if there is none.
     std::size_t firstFrom(qint64 msecs) const;
+    /// Index of the first marker after @p msecs; size() if there is none.
+    std::size_t firstAfter(qint64 msecs) const;
 
     /// Those markers from @p first up to but not including @p last that were not handed out before.
     std::vector<std::size_t> takeUnseen(std::size_t first, std::size_t last);

@@ -104,6 +104,18 @@ void Ruler::setTimeZone(const QString& name)
                                         : QTimeZone(TimeZoneHelper::getTimeZone(name).toUtf8()));
 }
 
+void Ruler::applyTimeZone()
+{
+    d->scale.applyTimeZone();
+    update();
+    whileAlive(
+        this, [this] { updateChildren(false); },
+        [this] {
+            if (d->scale.hasView())
+                changedTimeLineView(false);
+        });
+}
+
 void Ruler::setTrackDescriptions(const QList<TrackDescription>& tracks)
 {
     d->segments.setTracks(tracks);
@@ -374,7 +386,8 @@ void Ruler::onZoomerOut(int level, double anchor)
 
 void Ruler::onTimelineOffsetChanged(double position)
 {
-    d->scale.centerOn(position);
+    if (!d->scale.centerOnPosition(position))
+        return;
     updateTrackSegments();
     whileAlive(
         this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); });
@@ -480,6 +493,8 @@ void Ruler::viewMovedByUser(bool moving)
 
 bool Ruler::canMoveViewPort(int direction) const
 {
+    if (!d->scale.hasView())
+        return false;
     return direction < 0 ? d->scale.beginLimitMs() < d->scale.viewStartMs()
                          : d->scale.viewEndMs() <= d->scale.endLimitMs();
 }

@@ -42,6 +42,8 @@ public:
     /// means the zone of this machine. It counts for times that are set or computed from the limits
     /// afterwards; what is stored keeps its zone.
     void setTimeZone(const QString& name);
+    /// Brings what is stored to the zone that setTimeZone() set, and reports the view on its clock.
+    void applyTimeZone();
     /// What is known of the recorded tracks. Replaces what was set before.
     void setTrackDescriptions(const QList<TrackDescription>& tracks);
 

@@ -15,7 +15,6 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr double halfMargin = TimeScale::margin() / 2;
 constexpr double centerAnchor = 0.5;
 
 } // namespace
@@ -310,7 +309,8 @@ void Ruler::checkPreviewLine()
     if (!d->previewTime.isValid() || !d->scale.hasView())
         return;
     const double x = d->scale.xAt(d->previewTime.toMSecsSinceEpoch());
-    const int column = int(std::lround(std::max(std::min(x, width() - halfMargin), halfMargin)));
+    const int column =
+        int(std::lround(std::max(std::min(x, d->scale.sightEnd()), TimeScale::halfMargin())));
     if (column != d->hover.lastPosition().x())
         Q_EMIT previewIndicatorPositionChanged(QPoint(column, d->hover.lastPosition().y()));
 }
@@ -387,8 +387,10 @@ void Ruler::moveViewByKey(qint64 msecs)
 
 void Ruler::jumpToNeighbour(int direction)
 {
-    const RulerMarker* marker = d->markers->neighbour(qint64(getIndicatorMSecs()), direction);
-    if (!marker || !d->scale.isWithinLimits(marker->time.toMSecsSinceEpoch()))
+    const RulerMarker* marker =
+        d->markers->takeNeighbour(qint64(getIndicatorMSecs()), direction,
+                                  {.begin = d->scale.beginLimitMs(), .end = d->scale.endLimitMs()});
+    if (!marker)
         return;
     const QDateTime time = marker->time;
     const QUuid identifier = marker->identifier;

@@ -17,7 +17,6 @@ namespace CorvelGui {
 namespace {
 
 constexpr qint64 msecsPerDay = 86'400'000;
-constexpr double halfMargin = TimeScale::margin() / 2;
 
 QColor indicatorColor(bool theme, bool playMode)
 {
@@ -148,8 +147,8 @@ void Ruler::updateChildren(bool merge)
 void Ruler::updateIndicator()
 {
     const double x = std::trunc(d->scale.xAt(qint64(getIndicatorMSecs())));
-    const bool inView = x >= halfMargin && x <= width() - halfMargin;
-    if (inView && d->scale.hasView() && d->indicatorTime.isValid() && !d->resultMode) {
+    if (d->scale.isInSight(x) && d->scale.hasView() && d->indicatorTime.isValid() &&
+        !d->resultMode) {
         showIndicatorTime(getIndicatorMSecs());
         d->indicator->moveHotSpotTo(int(x));
         d->indicator->show();

@@ -16,7 +16,7 @@ namespace {
 constexpr int ownIconKey = -1;
 constexpr int largestIconSize = 256;
 constexpr std::size_t longestToolTip = 12; // lines
-constexpr int halfMargin = int(TimeScale::margin() / 2);
+constexpr int halfMargin = int(TimeScale::halfMargin());
 
 } // namespace
 
@@ -172,17 +172,26 @@ RulerMarkerButton* RulerMarkers::takeHovered()
     return button;
 }
 
-const RulerMarker* RulerMarkers::neighbour(qint64 msecs, int direction) const
+const RulerMarker* RulerMarkers::takeNeighbour(qint64 msecs, int direction, const TimeSpan& limits)
 {
     if (!m_shown)
         return nullptr;
-    const std::size_t next = m_store.firstFrom(direction > 0 ? msecs + 1 : msecs);
-    if (direction < 0 ? next == 0 : next == m_store.size())
-        return nullptr;
-    const std::size_t index = direction > 0 ? next : next - 1;
-    const qint64 time = m_store.time(index);
-    const bool inRange = !m_range || (m_range->begin <= time && time <= m_range->end);
-    return inRange ? &m_store.marker(index) : nullptr;
+    const TimeSpan range = m_range.value_or(limits);
+    const Indices reachable{m_store.firstFrom(std::max(range.begin, limits.begin)),
+                            m_store.firstAfter(std::min(range.end, limits.end))};
+    const bool standsOnOne = m_reached && m_store.time(*m_reached) == msecs;
+    std::size_t next = 0;
+    if (direction > 0) {
+        next = std::max(standsOnOne ? *m_reached + 1 : m_store.firstAfter(msecs), reachable.first);
+        if (next >= reachable.last)
+            return nullptr;
+    } else {
+        next = std::min(standsOnOne ? *m_reached : m_store.firstFrom(msecs), reachable.last);
+        if (next-- <= reachable.first)
+            return nullptr;
+    }
+    m_reached = next;
+    return &m_store.marker(next);
 }
 
 int RulerMarkers::iconKeyOf(const RulerMarker& marker)
@@ -197,8 +206,8 @@ int RulerMarkers::iconKeyOf(const RulerMarker& marker)
 
 int RulerMarkers::xOf(std::size_t marker) const
 {
-    const double x = TimeScale::margin() +
-                     m_view.pixelsPerMillisecond * double(m_store.time(marker) - m_view.start);
+    const double offset = double(m_store.time(marker)) - double(m_view.start);
+    const double x = TimeScale::margin() + m_view.pixelsPerMillisecond * offset;
     // Far outside the view the exact column does not matter.
     return int(std::clamp(x, -1e6, 1e6));
 }
@@ -214,7 +223,7 @@ RulerMarkers::Indices RulerMarkers::markersBetween(int left, int right) const
     std::size_t end = m_store.size();
     if (m_range) {
         begin = m_store.firstFrom(m_range->begin);
-        end = m_store.firstFrom(m_range->end + 1);
+        end = m_store.firstAfter(m_range->end);
     }
     const auto firstWhere = [&](auto reached) {
         std::size_t low = begin;
@@ -326,6 +335,7 @@ void RulerMarkers::releaseButtons()
         m_idleButtons.push_back(symbol.button);
     hideSpare();
     m_hovered = nullptr;
+    m_reached.reset();
     m_changed = true;
 }
 

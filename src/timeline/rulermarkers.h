@@ -59,8 +59,9 @@ public:
     /// The hovered button, which is no longer known as hovered afterwards.
     RulerMarkerButton* takeHovered();
 
-    /// The marker next to a time, in direction +1 or -1; null if there is none.
-    const RulerMarker* neighbour(qint64 msecs, int direction) const;
+    /// The marker next to a time in direction +1 or -1, among those shown within @p limits; null if
+    /// there is none. Of several at one instant each call reaches the next one.
+    const RulerMarker* takeNeighbour(qint64 msecs, int direction, const TimeSpan& limits);
 
 private:
     /// A symbol in view.
@@ -124,6 +125,7 @@ private:
     QPointer<RulerMarkerButton> m_spare;
     std::size_t m_spareMarker = 0;
     QPointer<RulerMarkerButton> m_hovered;
+    std::optional<std::size_t> m_reached; // by takeNeighbour()
 };
 
 } // namespace CorvelGui

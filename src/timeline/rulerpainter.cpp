@@ -20,7 +20,7 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr double halfMargin = TimeScale::margin() / 2;
+constexpr double halfMargin = TimeScale::halfMargin();
 constexpr double penWidth = 1.0;
 
 QRectF headerBand(const RulerScene& scene)
@@ -103,8 +103,7 @@ void RulerPainter::fillSearchRange(QPainter& painter, const RulerScene& scene) c
     if (scene.scale.totalDuration() == 0 || !scene.searchRange)
         return;
     const double x1 = std::max(scene.scale.xAt(scene.searchRange->begin), halfMargin);
-    const double x2 =
-        std::min(scene.scale.xAt(scene.searchRange->end), scene.scale.width() - halfMargin);
+    const double x2 = std::min(scene.scale.xAt(scene.searchRange->end), scene.scale.sightEnd());
     if (x2 <= x1)
         return;
     QRectF band = headerBand(scene);
@@ -117,7 +116,7 @@ void RulerPainter::fillTracks(QPainter& painter, const RulerScene& scene) const
 {
     const DeviceGrid grid(painter);
     const double left = std::round(halfMargin);
-    const double right = std::max(std::round(scene.scale.width() - halfMargin), left + 1);
+    const double right = std::max(std::round(scene.scale.sightEnd()), left + 1);
     const auto fill = [&](const TrackSegmentList& segments, const QBrush& brush) {
         for (const TrackSegment& segment : segments) {
             const double x1 = std::max(std::trunc(segment.start), left);
@@ -155,7 +154,7 @@ void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
     if (!scene.previewTime)
         return;
     const double x = scene.scale.xAt(*scene.previewTime);
-    const double inView = std::min(std::max(x, halfMargin), scene.scale.width() - halfMargin);
+    const double inView = std::min(std::max(x, halfMargin), scene.scale.sightEnd());
     const QRectF line(inView, rect.top(), penWidth, rect.height());
     painter.fillRect(DeviceGrid(painter).aligned(line),
                      inView == x ? colors.preview : colors.previewClamped);
@@ -169,7 +168,7 @@ void RulerPainter::drawResultMarks(QPainter& painter, const RulerScene& scene) c
     const DeviceGrid grid(painter);
     for (const qint64 time : scene.resultMarks) {
         const double x = scene.scale.xAt(time);
-        if (x < halfMargin || x > scene.scale.width() - halfMargin)
+        if (!scene.scale.isInSight(x))
             continue;
         const double left = std::trunc(x) - markWidth / 2;
         painter.fillRect(grid.aligned(QRectF(left, 0, markWidth, scene.rect.height())),

@@ -23,7 +23,18 @@ constexpr quint64 secondsLabelLimit = 30 * minute;
 
 // Instants beyond the year 275760 are cut off here, so that sums of an instant and a span never
 // overflow.
-constexpr quint64 latestInstant = 8'640'000'000'000'000;
+constexpr qint64 latestInstant = 8'640'000'000'000'000;
+
+qint64 bounded(qint64 msecs)
+{
+    return std::clamp(msecs, -latestInstant, latestInstant);
+}
+
+qint64 bounded(double msecs)
+{
+    constexpr double latest = latestInstant;
+    return std::isnan(msecs) ? 0 : qint64(std::clamp(msecs, -latest, latest));
+}
 
 constexpr ZoomLevel zoomLevel(qint64 span, qint32 intervals, qint32 subIntervals)
 {
@@ -43,7 +54,7 @@ const std::array<ZoomLevel, TimeScale::levelCount>& TimeScale::zoomLevels()
 
 qint64 TimeScale::instant(quint64 msecs)
 {
-    return qint64(std::min(msecs, latestInstant));
+    return qint64(std::min(msecs, quint64(latestInstant)));
 }
 
 void TimeScale::setTimeLimits(quint64 beginMs, quint64 endMs)
@@ -70,6 +81,14 @@ bool TimeScale::isWithinLimits(qint64 msecs) const
     return m_begin.msecs <= msecs && msecs <= m_end.msecs;
 }
 
+void TimeScale::applyTimeZone()
+{
+    for (Instant* stored : {&m_begin, &m_end, &m_viewStart}) {
+        if (stored->time.isValid())
+            *stored = Instant(inZone(stored->msecs));
+    }
+}
+
 QDateTime TimeScale::inZone(qint64 msecs) const
 {
     return TimeZoneHelper::fromMSecsSinceEpoch(msecs, m_zone);
@@ -84,24 +103,39 @@ void TimeScale::changeLevel(int level, double anchor)
 
 bool TimeScale::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
 {
-    if (m_totalDuration == 0 || !from.isValid() || !to.isValid() || !(from < to))
+    if (!hasView() || !from.isValid() || !to.isValid() || !(from < to))
         return false;
 
-    const quint64 range = std::min(quint64(from.msecsTo(to)), m_totalDuration);
-    const auto& levels = zoomLevels();
-    const auto row = std::find_if(levels.begin(), levels.end(), [range](const ZoomLevel& level) {
-        return level.millisecondsPerLevel >= range;
-    });
-    m_level = int(row - levels.begin());
-    qint64 start = from.toMSecsSinceEpoch();
-    if (row != levels.end())
-        start += (qint64(range) - qint64(row->millisecondsPerLevel)) / 2;
+    qint64 start = bounded(from.toMSecsSinceEpoch());
+    const qint64 range = std::min(bounded(to.toMSecsSinceEpoch()) - start, qint64(m_totalDuration));
+    m_level = closestLevel(quint64(range));
+    if (m_level < levelCount)
+        start += (range - qint64(zoomLevels()[m_level].millisecondsPerLevel)) / 2;
     // In the zone of the ruler, whatever the zone of the range.
     m_viewStart = Instant(inZone(start));
     // No limit at the end: a range close to it may leave the view running past it.
     if (m_viewStart.msecs < m_begin.msecs)
         m_viewStart = m_begin;
     return true;
+}
+
+bool TimeScale::setView(qint64 from, qint64 to)
+{
+    if (!hasView() || from >= to)
+        return false;
+    const qint64 begin = bounded(from);
+    const qint64 range = bounded(to) - begin;
+    const int level = closestLevel(quint64(range));
+    m_level = isEffective(level) ? level : wholeRangeLevel;
+    const qint64 span = qint64(millisecondsPerLevel());
+    setViewStart(inZone(startWithinLimits(begin + (range - span) / 2)));
+    return true;
+}
+
+qint64 TimeScale::startWithinLimits(qint64 msecs) const
+{
+    const qint64 latest = m_end.msecs - qint64(millisecondsPerLevel());
+    return std::max(std::min(msecs, latest), m_begin.msecs);
 }
 
 bool TimeScale::pageTo(const QDateTime& time)
@@ -120,12 +154,13 @@ bool TimeScale::pageTo(const QDateTime& time)
     return m_viewStart.msecs != oldStart;
 }
 
-void TimeScale::centerOn(double position)
+bool TimeScale::centerOnPosition(double position)
 {
-    constexpr double farthest = latestInstant;
-    const double offset = std::clamp(m_totalDuration * position, -farthest, farthest);
-    if (!std::isnan(offset))
-        setViewStart(m_begin.time.addMSecs(qint64(offset) - qint64(millisecondsPerLevel() / 2)));
+    if (!hasView() || std::isnan(position))
+        return false;
+    setViewStart(m_begin.time.addMSecs(bounded(m_totalDuration * position) -
+                                       qint64(millisecondsPerLevel() / 2)));
+    return true;
 }
 
 bool TimeScale::canZoomOut() const
@@ -139,6 +174,15 @@ bool TimeScale::isEffective(int level) const
 {
     return level >= 0 && level < levelCount &&
            zoomLevels()[level].millisecondsPerLevel <= m_totalDuration;
+}
+
+int TimeScale::closestLevel(quint64 span)
+{
+    const auto& levels = zoomLevels();
+    const auto row = std::find_if(levels.begin(), levels.end(), [span](const ZoomLevel& level) {
+        return level.millisecondsPerLevel >= span;
+    });
+    return int(row - levels.begin());
 }
 
 quint64 TimeScale::spanOfLevel(int level) const
@@ -203,7 +247,7 @@ double TimeScale::lengthPerMillisecond() const
 qint64 TimeScale::offsetAt(double x) const
 {
     const double width = scaleWidth();
-    return width > 0 ? qint64(millisecondsPerLevel() * (x - margin()) / width) : 0;
+    return width > 0 ? bounded(millisecondsPerLevel() * (x - margin()) / width) : 0;
 }
 
 QDateTime TimeScale::getDateTime(double x) const
@@ -213,12 +257,13 @@ QDateTime TimeScale::getDateTime(double x) const
 
 double TimeScale::xAt(qint64 msecs) const
 {
-    return margin() + lengthPerMillisecond() * double(msecs - m_viewStart.msecs);
+    // As doubles, which are exact for every time within the limits and overflow for none.
+    return margin() + lengthPerMillisecond() * (double(msecs) - double(m_viewStart.msecs));
 }
 
 double TimeScale::getPosition(qint64 msecs) const
 {
-    return m_totalDuration == 0 ? 0.0 : double(msecs - m_begin.msecs) / m_totalDuration;
+    return m_totalDuration == 0 ? 0.0 : (double(msecs) - double(m_begin.msecs)) / m_totalDuration;
 }
 
 double TimeScale::getCurrentCenterPosition() const
@@ -238,15 +283,15 @@ QString TimeScale::getTickerString(qint64 offsetMs) const
 
 void TimeScale::getNewStartDateTime(int level, double anchor)
 {
-    if (level == m_level)
+    if (level == m_level || !hasView())
         return;
     if (!isEffective(level)) {
         m_viewStart = m_begin;
         return;
     }
 
-    // The anchor counts the scale's last pixel, one less than the scale is wide: kept from the
-    // product line.
+    // The anchor counts the scale's last pixel, one less than the scale is wide. This pixel is
+    // intended.
     const double lastPixel = std::max(scaleWidth() - 1, 1.0);
     const double inScale = anchor > 0.0 ? std::min(anchor, 1.0) : 0.0;
     const int anchorX = int(margin() + lastPixel * inScale);

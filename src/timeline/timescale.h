@@ -54,6 +54,8 @@ public:
     quint64 totalDuration() const { return m_totalDuration; }
 
     void setTimeZone(const QTimeZone& zone) { m_zone = zone; }
+    /// Brings what is stored to the zone that counts now.
+    void applyTimeZone();
     /// The instant in the zone that counts now.
     QDateTime inZone(qint64 msecs) const;
 
@@ -61,6 +63,12 @@ public:
     void setWidth(double pixels) { m_width = pixels; }
     double width() const { return m_width; }
     static constexpr double margin() { return 10.0; }
+    /// What lies beyond the scale is still seen on half of the margin.
+    static constexpr double halfMargin() { return margin() / 2; }
+    double sightEnd() const { return m_width - halfMargin(); }
+    bool isInSight(double x) const { return x >= halfMargin() && x <= sightEnd(); }
+    /// Whether the user can point at a time there.
+    bool isOnScale(double x) const { return x > margin() && x < m_width - margin(); }
 
     // The view
     bool hasView() const { return m_viewStart.time.isValid(); }
@@ -72,18 +80,24 @@ public:
     /// Moves the view just as far as it takes to show @p time. Returns whether the view moved.
     bool pageTo(const QDateTime& time);
     /// Puts the relative position @p position into the middle of the view, whatever the limits say.
-    void centerOn(double position);
+    /// Returns false and changes nothing while there is no view.
+    bool centerOnPosition(double position);
+    /// Where a view that is to begin at @p msecs begins, so that it stays within the limits.
+    qint64 startWithinLimits(qint64 msecs) const;
 
     // The level
     int level() const { return m_level; }
     /// Makes @p level current, with the view around an anchor: the instant at the fraction @p
     /// anchor (0.0 to 1.0) of the scale stays where it is as far as the limits allow. Any index
-    /// outside the table shows the whole period.
+    /// outside the table shows the whole period. Without a period, nothing but the level changes.
     void changeLevel(int level, double anchor);
     /// Makes the closest level current that shows the whole range, with the range in the middle of
     /// the view. Returns false and changes nothing unless there is a period and both times are
     /// valid and in order.
     bool setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
+    /// The same within the limits. A range that is as long as the view at some level is shown
+    /// exactly.
+    bool setView(qint64 from, qint64 to);
     /// True while the view can grow: the current level is a row of the table shorter than the
     /// period.
     bool canZoomOut() const;
@@ -130,6 +144,7 @@ private:
 
     bool isEffective(int level) const;
     quint64 spanOfLevel(int level) const;
+    static int closestLevel(quint64 span);
     double scaleWidth() const { return m_width - 2 * margin(); }
     quint32 wholeScaleWidth() const;
     qint64 offsetAt(double x) const;

@@ -9,16 +9,16 @@ namespace CorvelGui {
 
 TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
 {
-    const double left = TimeScale::margin() / 2;
-    const double right = scale.width() - left;
+    const double left = TimeScale::halfMargin();
+    const double right = scale.sightEnd();
     TrackSegmentList segments;
     if (!scale.hasView() || right <= left)
         return segments;
 
     // What scale.xAt() does, with the division taken out of the search.
     const double pixels = scale.lengthPerMillisecond();
-    const auto xAt = [pixels, from = scale.viewStartMs()](qint64 msecs) {
-        return TimeScale::margin() + pixels * double(msecs - from);
+    const auto xAt = [pixels, from = double(scale.viewStartMs())](qint64 msecs) {
+        return TimeScale::margin() + pixels * (double(msecs) - from);
     };
     const auto endsUpTo = [&xAt](double x) {
         return [&xAt, x](const TimeSpan& span) {

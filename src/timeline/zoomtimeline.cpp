@@ -102,19 +102,7 @@ void ZoomTimeline::resetTimeline()
 void ZoomTimeline::setTimeZone(const QString& name)
 {
     m_ruler->setTimeZone(name);
-    const auto [begin, end] = m_ruler->getTimeLimits();
-    if (begin >= end)
-        return;
-    // Limits that are set again are on the new clock, and so is a view that is computed from them.
-    const double center = m_ruler->getCurrentCenterPosition();
-    m_ruler->blockSignalTimeLineViewChanged(true);
-    whileAlive(
-        this, [&, first = begin, last = end] { m_ruler->setTimeLimits(first, last); },
-        [&] { m_ruler->onTimelineOffsetChanged(center); },
-        [this] {
-            m_ruler->blockSignalTimeLineViewChanged(false);
-            m_ruler->processTimeLineViewChanges();
-        });
+    m_ruler->applyTimeZone();
 }
 
 void ZoomTimeline::setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom)

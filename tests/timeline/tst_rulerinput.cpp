@@ -292,6 +292,24 @@ void TestRulerInput::keys()
         ruler.log.removeIf([](const QString& line) { return line.startsWith(u"new"); });
         QCOMPARE(ruler.takeLog(), log);
     }
+    // Outside the limits, three at one instant, and on both sides of a range.
+    for (const bool onlyInside : {false, true}) {
+        LoggedRuler ruler;
+        for (const qint64 time : {-hour, hour, hour, hour, 3 * hour, 5 * hour, 11 * day})
+            ruler.onAddMarkers({{.time = timeAt(time)}});
+        ruler.setResultTimeRange(timeAt(2 * hour), timeAt(4 * hour), false, false, onlyInside,
+                                 false);
+        ruler.setIndicatorPosition(0);
+        for (const Qt::Key key : {Qt::Key_N, Qt::Key_P})
+            for (int i = 0; i < 9; ++i)
+                QTest::keyClick(&ruler, key);
+        ruler.log.removeIf([](const QString& line) { return !line.startsWith(u"jump"); });
+        for (QString& line : ruler.log)
+            line = line.right(5);
+        QCOMPARE(ruler.takeLog().join(u' '),
+                 onlyInside ? u"03:00"_s
+                            : u"01:00 01:00 01:00 03:00 05:00 03:00 01:00 01:00 01:00"_s);
+    }
     LoggedRuler atBegin;
     for (const Qt::Key key : {Qt::Key_Left, Qt::Key_PageUp, Qt::Key_P, Qt::Key_N})
         QTest::keyClick(&atBegin, key);

@@ -136,7 +136,7 @@ void TestRulerPainter::shadeOutsideTheLimits()
         QCOMPARE(between(image, x), black);
     for (const int x : {4, 11, 1009, 1015})
         QCOMPARE(between(image, x), m_painter.colors.body);
-    m_scale.centerOn(0.4);
+    m_scale.centerOnPosition(0.4);
     image = paint();
     QCOMPARE(between(image, 107), black);
     QCOMPARE(between(image, 113), m_painter.colors.body);

@@ -137,6 +137,12 @@ void TestTimeScale::emptyPeriods()
         QVERIFY(!scale.hasView());
         QCOMPARE(scale.beginLimitMs(), monday);
         QCOMPARE(scale.endLimitMs(), end);
+        // Without a period there is no view to move.
+        scale.changeLevel(0, 0.5);
+        scale.changeLevel(TimeScale::wholeRangeLevel, 0.5);
+        QVERIFY(!scale.centerOnPosition(0.5));
+        QVERIFY(!scale.setLevelFromTimeRange(at(monday), at(monday + hour)));
+        QVERIFY(!scale.hasView());
         scale.setTimeLimits(quint64(monday), quint64(monday + day));
         QCOMPARE(scale.viewStartMs(), monday);
     }
@@ -162,9 +168,24 @@ void TestTimeScale::extremeInputIsAbsorbed()
         for (const double anchor : {-1e300, -1.0, 2.0, 1e300, std::nan("")}) {
             scale.changeLevel(0, anchor);
             scale.changeLevel(TimeScale::wholeRangeLevel, anchor);
-            scale.centerOn(anchor);
+            scale.centerOnPosition(anchor);
             QVERIFY(scale.getDateTime(pixels).isValid());
+            scale.msecsAt(anchor);
         }
+    }
+    scale = scaleOf(60 * day);
+    constexpr qint64 earliest = std::numeric_limits<qint64>::min();
+    constexpr qint64 latest = std::numeric_limits<qint64>::max();
+    for (const auto& [from, to, start] :
+         {std::tuple(earliest, earliest + hour, monday), {earliest, latest, monday}}) {
+        QVERIFY(scale.setLevelFromTimeRange(at(from), at(to)));
+        QCOMPARE(scale.viewStartMs(), start);
+    }
+    QVERIFY(scale.setLevelFromTimeRange(at(latest - 1), at(latest)));
+    QVERIFY(scale.viewEndMs() > scale.viewStartMs());
+    for (const auto& [msecs, sign] : {std::pair(earliest, -1.0), {latest, 1.0}}) {
+        QVERIFY(scale.xAt(msecs) * sign > 0);
+        QVERIFY(scale.getPosition(msecs) * sign > 0);
     }
 }
 
@@ -190,10 +211,10 @@ void TestTimeScale::relativePositions()
     QCOMPARE(scale.getPosition(monday + 11 * day), 1.1);
     scale.changeLevel(4, 0.0);
     QCOMPARE(scale.getCurrentCenterPosition(), 0.05);
-    scale.centerOn(0.5);
+    scale.centerOnPosition(0.5);
     QCOMPARE(scale.viewStartMs(), monday + 5 * day - 12 * hour);
     // A centre before the begin limit is far away, never negative.
-    scale.centerOn(-0.5);
+    scale.centerOnPosition(-0.5);
     QVERIFY(scale.getCurrentCenterPosition() > 1e9);
 }
 
@@ -294,7 +315,7 @@ void TestTimeScale::labels()
     // A view that is computed from new limits is on their clock.
     scale.setTimeLimits(quint64(monday), quint64(monday + day));
     QCOMPARE(scale.getTickerString(0), u"00:00"_s);
-    scale.centerOn(0.5);
+    scale.centerOnPosition(0.5);
     QCOMPARE(scale.getTickerString(-qint64(scale.viewStartMs() - monday)), u"05:45"_s);
     // So is one that shows a range, whatever the zone of the range.
     QVERIFY(scale.setLevelFromTimeRange(at(monday), at(monday + hour)));

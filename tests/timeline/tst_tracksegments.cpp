@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <limits>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void joining();
     void differences();
     void segmentsFillTheColumnsOfTheirSpans();
+    void spansWithoutAnEnd();
     void threeStates();
     void limitsBeyondTracks();
 };
@@ -133,6 +135,15 @@ void TestTrackSegments::threeStates()
     QCOMPARE(segments.gaps().size(), size_t(1));
     QCOMPARE(segments.gaps().front().start, 110.0);
     QCOMPARE(segments.gaps().front().end, 410.0);
+}
+
+void TestTrackSegments::spansWithoutAnEnd()
+{
+    constexpr qint64 earliest = std::numeric_limits<qint64>::min();
+    constexpr qint64 latest = std::numeric_limits<qint64>::max();
+    const TimeScale scale = scaleOf(10 * day);
+    QCOMPARE(visibleSegments({{earliest, monday}}, scale), (TrackSegmentList{{5, 10}}));
+    QCOMPARE(visibleSegments({{monday, latest}}, scale), (TrackSegmentList{{10, 1015}}));
 }
 
 void TestTrackSegments::limitsBeyondTracks()

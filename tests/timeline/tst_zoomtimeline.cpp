@@ -213,13 +213,19 @@ void TestZoomTimeline::zoneKeepsTheView()
     TestedTimeline timeline;
     timeline.ruler()->changeLevel(4, 0.5);
     timeline.setIndicatorPosition(at(4 * day));
-    const quint64 begin = timeline.ruler()->beginTime();
     QSignalSpy view(timeline.ruler(), &Ruler::timeLineViewChanged);
-    timeline.setTimeZone(u"Asia/Kathmandu"_s);
-    QCOMPARE(timeline.ruler()->getIndicatorMSecs(), at(4 * day));
-    QVERIFY(qAbs(qint64(timeline.ruler()->beginTime()) - qint64(begin)) <= 1);
-    QCOMPARE(view.count(), 1);
-    QCOMPARE(view.front().at(3).toDateTime().offsetFromUtc(), 20'700);
+    // Wherever the view is.
+    for (const qint64 limit : {qint64(0), 5 * day, -10 * day}) {
+        timeline.ruler()->setTimeLimits(at(limit), at(limit + 10 * day));
+        timeline.ruler()->onTimelineOffsetChanged((4.0 * day - limit) / (10 * day));
+        const quint64 begin = timeline.ruler()->beginTime();
+        timeline.setTimeZone(u"UTC"_s);
+        view.clear();
+        timeline.setTimeZone(u"Asia/Kathmandu"_s);
+        QCOMPARE(timeline.ruler()->beginTime(), begin);
+        QCOMPARE(view.count(), 1);
+        QCOMPARE(view.front().at(3).toDateTime().offsetFromUtc(), 20'700);
+    }
 }
 
 void TestZoomTimeline::hoverReachesTheStrip()
