@@ -1,23 +1,109 @@
 #include "markermerge.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace CorvelGui {
 
-std::vector<MarkerRun> mergeMarkers(std::span<const MarkerPlace> places)
+namespace {
+
+/// Finds where a run ends.
+class RunEnd
+{
+public:
+    RunEnd(const MarkerRow& row, std::size_t first, std::size_t last)
+        : m_row(row)
+        , m_first(first)
+        , m_last(last)
+        , m_start(row.place(first))
+        , m_sureMiddles(row.firstRightOf(m_start.x + m_start.halfWidth + row.narrowest(), first))
+    {}
+
+    /// The first marker that does not join.
+    std::size_t find() const
+    {
+        for (std::size_t next = m_first + 1; next < m_last;) {
+            const std::size_t sure = endOfSure(next);
+            if (sure > next) {
+                next = sure;
+                continue;
+            }
+            if (isRefused(next))
+                return next;
+            const Stretch stretch = stretchFrom(next);
+            do
+                next = nextCandidate(next + 1, stretch);
+            while (next < stretch.end && !isRefused(next));
+            if (next < stretch.end)
+                return next;
+        }
+        return m_last;
+    }
+
+private:
+    /// Candidates that share a pixel column, and so do their middle markers.
+    struct Stretch
+    {
+        std::size_t end;
+        int narrow; ///< only a marker that reaches less far can be the reason of a refusal
+    };
+
+    std::size_t middleOf(std::size_t next) const { return (m_first + next) / 2; }
+    std::size_t firstWithMiddle(std::size_t middle) const { return 2 * middle - m_first; }
+
+    bool isRefused(std::size_t next) const
+    {
+        const MarkerPlace middle = m_row.place(middleOf(next));
+        return !m_start.overlaps(middle) || !m_row.place(next).overlaps(middle);
+    }
+
+    /// Up to here every marker joins, even if all of them were as narrow as the narrowest: the
+    /// middle only moves to the right.
+    std::size_t endOfSure(std::size_t next) const
+    {
+        const int middleX = m_row.place(middleOf(next)).x;
+        return std::min({m_row.firstRightOf(middleX + 2 * m_row.narrowest(), next),
+                         firstWithMiddle(m_sureMiddles), m_last});
+    }
+
+    Stretch stretchFrom(std::size_t next) const
+    {
+        const int x = m_row.place(next).x;
+        const int middleX = m_row.place(middleOf(next)).x;
+        const std::size_t middlesEnd = m_row.firstRightOf(middleX, middleOf(next));
+        return {std::min({m_row.firstRightOf(x, next), firstWithMiddle(middlesEnd), m_last}),
+                // Of two that do not touch, one reaches less than half of the way.
+                std::max((x - middleX + 1) / 2, middleX - m_start.x - m_start.halfWidth)};
+    }
+
+    /// The first one, not before @p next, that is narrow or has a narrow middle.
+    std::size_t nextCandidate(std::size_t next, const Stretch& stretch) const
+    {
+        const std::size_t narrow = m_row.firstNarrowerThan(stretch.narrow, next, stretch.end);
+        const std::size_t narrowMiddle =
+            m_row.firstNarrowerThan(stretch.narrow, middleOf(next), middleOf(narrow) + 1);
+        return std::min(narrow, std::max(next, firstWithMiddle(narrowMiddle)));
+    }
+
+    const MarkerRow& m_row;
+    const std::size_t m_first;
+    const std::size_t m_last;
+    const MarkerPlace m_start;
+    /// While the middle is before this one, it touches the first marker, narrow as it may be.
+    const std::size_t m_sureMiddles;
+};
+
+} // namespace
+
+MarkerRow::~MarkerRow() = default;
+
+std::vector<MarkerRun> mergeMarkers(const MarkerRow& row, std::size_t first, std::size_t last)
 {
     std::vector<MarkerRun> runs;
-    for (std::size_t first = 0; first < places.size();) {
-        MarkerRun run{first, first, first};
-        for (std::size_t next = first + 1; next < places.size(); ++next) {
-            const std::size_t middle = (first + next) / 2;
-            if (!places[first].overlaps(places[middle]) || !places[next].overlaps(places[middle]))
-                break;
-            run.last = next;
-            run.representative = middle;
-        }
-        runs.push_back(run);
-        first = run.last + 1;
+    while (first < last) {
+        const std::size_t end = RunEnd(row, first, last).find();
+        runs.push_back({first, end - 1, (first + end - 1) / 2});
+        first = end;
     }
     return runs;
 }

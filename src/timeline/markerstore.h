@@ -5,54 +5,142 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace CorvelGui {
 
 /// The markers of a ruler in the order of their times, and which of them were seen already.
 ///
-/// Times and icon keys stand in arrays of their own, so that what happens for every frame runs over
-/// plain numbers.
+/// They stand in blocks of some hundred, so that one comes or goes without moving the others. Of a
+/// marker there are 72 bytes beside its text; its time is made anew from milliseconds and zone.
 class CORVELGUI_INTERNAL_EXPORT MarkerStore
 {
 public:
-    struct Entry
+    /// A set of icon numbers. Those from 63 on are in it together or not at all.
+    class Icons
     {
-        RulerMarker marker;
-        int iconKey;
-        qint64 msecs;
-        bool seen = false;
+    public:
+        void insert(quint32 icon) { m_bits |= bitOf(icon); }
+        bool contains(quint32 icon) const { return (m_bits & bitOf(icon)) != 0; }
+        bool intersects(Icons other) const { return (m_bits & other.m_bits) != 0; }
+
+    private:
+        static quint64 bitOf(quint32 icon) { return quint64(1) << std::min<quint32>(icon, 63); }
+
+        quint64 m_bits = 0;
     };
 
-    /// Equal times keep the order in which they were added.
-    void add(std::vector<Entry> entries);
+    /// Adds those with a valid time, each shown with the icon of the same index in @p icons. Equal
+    /// times keep the order in which they were added.
+    void add(const QList<RulerMarker>& markers, const std::vector<quint32>& icons);
     /// Removes, for each of @p times, the first marker of that time.
     void remove(std::vector<qint64> times);
     void clear();
 
-    std::size_t size() const { return m_entries.size(); }
-    const RulerMarker& marker(std::size_t index) const { return m_entries[index].marker; }
-    qint64 time(std::size_t index) const { return m_times[index]; }
-    int iconKey(std::size_t index) const { return m_iconKeys[index]; }
+    std::size_t size() const;
+    RulerMarker marker(std::size_t index) const;
+    qint64 time(std::size_t index) const;
+    quint32 icon(std::size_t index) const { return timeAndIcon(index).second; }
+    std::pair<qint64, quint32> timeAndIcon(std::size_t index) const;
 
+    /// Index of the first marker, not before @p from, whose time @p reached accepts; size() if
+    /// there is none. It has to accept all times after one that it accepts.
+    template <typename Reached>
+    std::size_t firstWhere(Reached reached, std::size_t from = 0) const;
     /// Index of the first marker at or after @p msecs; size() if there is none.
     std::size_t firstFrom(qint64 msecs) const;
     /// Index of the first marker after @p msecs; size() if there is none.
     std::size_t firstAfter(qint64 msecs) const;
+    /// Index of the first marker from @p from up to but not including @p end whose icon is among
+    /// @p icons, or shares their place in the set; @p end if there is none.
+    std::size_t firstWithIcon(Icons icons, std::size_t from, std::size_t end) const;
 
-    /// Those markers from @p first up to but not including @p last that were not handed out before.
-    std::vector<std::size_t> takeUnseen(std::size_t first, std::size_t last);
+    /// The times of those markers from @p first up to but not including @p last that were not
+    /// handed out before.
+    QList<QDateTime> takeUnseen(std::size_t first, std::size_t last);
 
 private:
-    void rebuild();
-    std::size_t nextUnseen(std::size_t index);
+    struct Record
+    {
+        QUuid identifier;
+        QString text;
+        IRulerMarkerIconProvider* iconProvider;
+        int kind;
+        int iconIndex;
+        quint32 icon;
+        quint32 zone : 31;
+        quint32 seen : 1;
+    };
 
-    std::vector<Entry> m_entries;
-    std::vector<qint64> m_times;
-    std::vector<int> m_iconKeys;
-    // From every index the way to the next marker that was not seen, shortened with every walk.
-    std::vector<std::size_t> m_nextUnseen;
+    using Times = std::vector<qint64>::const_iterator;
+
+    /// Neighbours in the order of time.
+    struct Block
+    {
+        std::vector<qint64> times;
+        std::vector<Record> records;
+        Icons icons;
+        std::size_t first = 0; ///< index of its first marker
+        std::size_t unseen = 0;
+
+        std::size_t end() const { return first + times.size(); }
+        void reserve(std::size_t count);
+        void append(qint64 time, Record record);
+        /// Takes out the first marker of each of the times from @p time on, which it moves behind
+        /// those that are found.
+        void remove(Times& time, Times last);
+    };
+    using Blocks = std::vector<Block>;
+
+    /// What comes in place of a block.
+    struct Change
+    {
+        std::size_t block;
+        Blocks blocks;
+    };
+
+    struct Position
+    {
+        std::size_t block;
+        std::size_t offset;
+    };
+
+    struct Arrival
+    {
+        qint64 time;
+        const RulerMarker* marker;
+        quint32 icon;
+    };
+    using Arrivals = std::vector<Arrival>::const_iterator;
+
+    Position positionOf(std::size_t index) const;
+    Record recordOf(const Arrival& arrival);
+    quint32 zoneOf(const QDateTime& time);
+    QDateTime timeIn(quint32 zone, qint64 msecs) const;
+    Blocks merged(Block& block, Arrivals first, Arrivals last, bool atEnd);
+    void replaceBlocks(std::vector<Change> changes);
+    void joinSmallBlocks();
+    void renumberFrom(std::size_t block);
+
+    Blocks m_blocks;                ///< none of them empty
+    std::vector<QDateTime> m_zones; ///< for each zone any time in it
 };
+
+template <typename Reached>
+std::size_t MarkerStore::firstWhere(Reached reached, std::size_t from) const
+{
+    const auto isBefore = [&](qint64 time) {
+        return !reached(time);
+    };
+    const auto block = std::partition_point(
+        m_blocks.begin(), m_blocks.end(), [&](const Block& b) { return isBefore(b.times.back()); });
+    if (block == m_blocks.end())
+        return std::max(size(), from);
+    const auto time = std::partition_point(block->times.begin(), block->times.end(), isBefore);
+    return std::max(block->first + std::size_t(time - block->times.begin()), from);
+}
 
 } // namespace CorvelGui

@@ -387,7 +387,7 @@ void Ruler::moveViewByKey(qint64 msecs)
 
 void Ruler::jumpToNeighbour(int direction)
 {
-    const RulerMarker* marker =
+    const std::optional<RulerMarker> marker =
         d->markers->takeNeighbour(qint64(getIndicatorMSecs()), direction,
                                   {.begin = d->scale.beginLimitMs(), .end = d->scale.endLimitMs()});
     if (!marker)

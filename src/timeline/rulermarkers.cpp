@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using Hueloft::PIconHelper;
 
@@ -16,7 +17,6 @@ namespace {
 constexpr int ownIconKey = -1;
 constexpr int largestIconSize = 256;
 constexpr std::size_t longestToolTip = 12; // lines
-constexpr int halfMargin = int(TimeScale::halfMargin());
 
 } // namespace
 
@@ -26,18 +26,16 @@ RulerMarkers::RulerMarkers(QWidget* ruler, QWidget* ceiling)
 
 void RulerMarkers::add(const QList<RulerMarker>& markers)
 {
-    if (m_iconSets.empty()) {
-        m_iconSets[ownIconKey] = setupRulerIconSet(PIconHelper::GetMarkerOutlined_48x48(true));
+    if (m_icons.empty()) {
+        addIcon(ownIconKey, PIconHelper::GetMarkerOutlined_48x48(true));
         m_mergedIcons = setupMergedRulerIcons();
     }
-    std::vector<MarkerStore::Entry> entries;
-    entries.reserve(std::size_t(markers.size()));
-    for (const RulerMarker& marker : markers) {
-        if (marker.time.isValid())
-            entries.push_back({marker, iconKeyOf(marker), marker.time.toMSecsSinceEpoch()});
-    }
+    std::vector<quint32> icons;
+    icons.reserve(std::size_t(markers.size()));
+    for (const RulerMarker& marker : markers)
+        icons.push_back(iconOf(marker));
     releaseButtons();
-    m_store.add(std::move(entries));
+    m_store.add(markers, icons);
 }
 
 void RulerMarkers::remove(const QList<RulerMarker>& markers)
@@ -97,7 +95,7 @@ void RulerMarkers::setOrvaneGuiTheme(bool on)
 
 QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area, bool regroup)
 {
-    const View view{scale.viewStartMs(), scale.lengthPerMillisecond(), scale.width(), area};
+    const View view{{scale.viewStartMs(), scale.lengthPerMillisecond(), scale.width()}, area};
     if (m_view == view && !m_changed && !regroup)
         return {};
     m_view = view;
@@ -108,32 +106,24 @@ QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area,
         showSymbols({});
         return {};
     }
-    const Indices shown = markersBetween(halfMargin, int(view.width) - halfMargin);
-    showSymbols(symbolsOf(shown));
+    const MarkerView markers = markersInView();
+    std::vector<Symbol> symbols;
+    for (const MarkerRun& run : markers.runs())
+        symbols.push_back(
+            {run.representative, run.first, run.last, markers.xOf(run.representative)});
+    showSymbols(std::move(symbols));
 
-    QList<QDateTime> firstSeen;
-    for (const std::size_t marker : m_store.takeUnseen(shown.first, shown.last))
-        firstSeen.append(m_store.marker(marker).time);
-    return firstSeen;
+    const MarkerView::Indices shown = markers.shown();
+    return m_store.takeUnseen(shown.first, shown.last);
 }
 
 void RulerMarkers::hoverAt(QPoint position)
 {
-    const auto nearest = [&]() -> std::optional<std::size_t> {
-        if (!m_shown || !m_view.area.contains(position) || m_symbols.empty())
-            return {};
-        const Indices around = markersBetween(position.x() - m_iconSize.width() / 2,
-                                              position.x() + m_iconSize.width() / 2);
-        std::optional<std::size_t> best;
-        for (std::size_t marker = around.first; marker < around.last; ++marker) {
-            const auto distance = [&](std::size_t m) {
-                return std::abs(xOf(m) - position.x());
-            };
-            if (!best || distance(marker) < distance(*best))
-                best = marker;
-        }
-        return best;
-    }();
+    const MarkerView markers = markersInView();
+    const std::optional<std::size_t> nearest =
+        m_view.area.contains(position) && !m_symbols.empty()
+            ? markers.nearest(position.x(), m_iconSize.width() / 2)
+            : std::nullopt;
     const Symbol* symbol = nearest ? symbolOf(*nearest) : nullptr;
     if (!symbol || symbol->marker == *nearest || !symbol->button) {
         hideSpare();
@@ -146,7 +136,7 @@ void RulerMarkers::hoverAt(QPoint position)
     m_spareMarker = *nearest;
     setMarker(m_spare, m_spareMarker);
     m_spare->setMerge(RulerMarkerButton::Merge::MergedAway);
-    m_spare->moveTo(xOf(m_spareMarker), m_view.area);
+    m_spare->moveTo(markers.xOf(m_spareMarker), m_view.area);
     m_spare->stackUnder(symbol->button);
     m_spare->show();
 }
@@ -172,113 +162,53 @@ RulerMarkerButton* RulerMarkers::takeHovered()
     return button;
 }
 
-const RulerMarker* RulerMarkers::takeNeighbour(qint64 msecs, int direction, const TimeSpan& limits)
+std::optional<RulerMarker> RulerMarkers::takeNeighbour(qint64 msecs, int direction,
+                                                       const TimeSpan& limits)
 {
     if (!m_shown)
-        return nullptr;
+        return {};
     const TimeSpan range = m_range.value_or(limits);
-    const Indices reachable{m_store.firstFrom(std::max(range.begin, limits.begin)),
-                            m_store.firstAfter(std::min(range.end, limits.end))};
+    const MarkerView::Indices reachable{m_store.firstFrom(std::max(range.begin, limits.begin)),
+                                        m_store.firstAfter(std::min(range.end, limits.end))};
     const bool standsOnOne = m_reached && m_store.time(*m_reached) == msecs;
     std::size_t next = 0;
     if (direction > 0) {
         next = std::max(standsOnOne ? *m_reached + 1 : m_store.firstAfter(msecs), reachable.first);
         if (next >= reachable.last)
-            return nullptr;
+            return {};
     } else {
         next = std::min(standsOnOne ? *m_reached : m_store.firstFrom(msecs), reachable.last);
         if (next-- <= reachable.first)
-            return nullptr;
+            return {};
     }
     m_reached = next;
-    return &m_store.marker(next);
+    return m_store.marker(next);
 }
 
-int RulerMarkers::iconKeyOf(const RulerMarker& marker)
+quint32 RulerMarkers::iconOf(const RulerMarker& marker)
 {
     if (marker.kind != RulerMarker::providedIconKind || !marker.iconProvider)
-        return ownIconKey;
+        return m_iconNumbers.at(ownIconKey);
     const int key = marker.iconProvider->iconKey(marker.iconIndex);
-    if (!m_iconSets.contains(key))
-        m_iconSets[key] = setupRulerIconSet(marker.iconProvider->icon(marker.iconIndex));
-    return key;
+    const auto known = m_iconNumbers.find(key);
+    return known != m_iconNumbers.end() ? known->second
+                                        : addIcon(key, marker.iconProvider->icon(marker.iconIndex));
 }
 
-int RulerMarkers::xOf(std::size_t marker) const
+quint32 RulerMarkers::addIcon(int key, const QIcon& icon)
 {
-    const double offset = double(m_store.time(marker)) - double(m_view.start);
-    const double x = TimeScale::margin() + m_view.pixelsPerMillisecond * offset;
-    // Far outside the view the exact column does not matter.
-    return int(std::clamp(x, -1e6, 1e6));
+    const auto number = quint32(m_icons.size());
+    m_icons.push_back(setupRulerIconSet(icon));
+    m_iconNumbers[key] = number;
+    return number;
 }
 
-int RulerMarkers::halfWidthOf(int iconKey) const
+MarkerView RulerMarkers::markersInView() const
 {
-    return visibleHalfWidth(m_iconSize.width(), m_iconSets.at(iconKey).visibleFraction);
-}
-
-RulerMarkers::Indices RulerMarkers::markersBetween(int left, int right) const
-{
-    std::size_t begin = 0;
-    std::size_t end = m_store.size();
-    if (m_range) {
-        begin = m_store.firstFrom(m_range->begin);
-        end = m_store.firstAfter(m_range->end);
-    }
-    const auto firstWhere = [&](auto reached) {
-        std::size_t low = begin;
-        for (std::size_t count = end - begin; count > 0;) {
-            const std::size_t half = count / 2;
-            if (reached(xOf(low + half))) {
-                count = half;
-            } else {
-                low += half + 1;
-                count -= half + 1;
-            }
-        }
-        return low;
-    };
-    return {firstWhere([left](int x) { return x >= left; }),
-            firstWhere([right](int x) { return x > right; })};
-}
-
-RulerMarkers::Indices RulerMarkers::withNeighbourhood(const Indices& shown) const
-{
-    // Runs start at a marker that does not touch the one before it. Where the markers stand so
-    // close that there is none within a view's width, they start there. To the right a run reaches
-    // four half widths at most.
-    const int width = int(m_view.width);
-    const Indices around = markersBetween(halfMargin - width, width + 2 * m_iconSize.width());
-    std::size_t first = shown.first;
-    while (first > around.first && first < m_store.size() &&
-           xOf(first) - xOf(first - 1) <= m_iconSize.width())
-        --first;
-    return {first, std::max(around.last, shown.last)};
-}
-
-std::vector<RulerMarkers::Symbol> RulerMarkers::symbolsOf(const Indices& shown) const
-{
-    const Indices grouped = withNeighbourhood(shown);
-    std::vector<MarkerPlace> places;
-    places.reserve(grouped.last - grouped.first);
-    std::optional<int> iconKey;
-    int halfWidth = 0;
-    for (std::size_t marker = grouped.first; marker < grouped.last; ++marker) {
-        if (m_store.iconKey(marker) != iconKey) {
-            iconKey = m_store.iconKey(marker);
-            halfWidth = halfWidthOf(*iconKey);
-        }
-        places.push_back({xOf(marker), halfWidth});
-    }
-
-    std::vector<Symbol> symbols;
-    for (const MarkerRun& run : mergeMarkers(places)) {
-        const std::size_t marker = grouped.first + run.representative;
-        if (marker >= shown.first && marker < shown.last)
-            symbols.push_back({marker, grouped.first + run.first, grouped.first + run.last,
-                               places[run.representative].x});
-    }
-    return symbols;
+    MarkerView::Icons icons{m_iconSize.width(), {}};
+    for (const RulerIconSet& icon : m_icons)
+        icons.halfWidths.push_back(visibleHalfWidth(icons.width, icon.visibleFraction));
+    return MarkerView(m_store, m_view.geometry, std::move(icons), m_range);
 }
 
 const RulerMarkers::Symbol* RulerMarkers::symbolOf(std::size_t marker) const
@@ -361,7 +291,7 @@ RulerMarkerButton* RulerMarkers::createButton()
 
 void RulerMarkers::setMarker(RulerMarkerButton* button, std::size_t marker) const
 {
-    button->setMarker(m_store.marker(marker), &m_iconSets.at(m_store.iconKey(marker)));
+    button->setMarker(m_store.marker(marker), &m_icons[m_store.icon(marker)]);
 }
 
 void RulerMarkers::applySize(RulerMarkerButton* button) const

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "markermerge.h"
 #include "markerstore.h"
+#include "markerview.h"
 #include "rulericonset.h"
 #include "rulermarkerbutton.h"
 #include "timespans.h"
@@ -11,6 +11,7 @@
 #include <QRect>
 #include <QSize>
 
+#include <deque>
 #include <map>
 #include <optional>
 #include <vector>
@@ -59,9 +60,9 @@ public:
     /// The hovered button, which is no longer known as hovered afterwards.
     RulerMarkerButton* takeHovered();
 
-    /// The marker next to a time in direction +1 or -1, among those shown within @p limits; null if
-    /// there is none. Of several at one instant each call reaches the next one.
-    const RulerMarker* takeNeighbour(qint64 msecs, int direction, const TimeSpan& limits);
+    /// The marker next to a time in direction +1 or -1, among those shown within @p limits. Of
+    /// several at one instant each call reaches the next one.
+    std::optional<RulerMarker> takeNeighbour(qint64 msecs, int direction, const TimeSpan& limits);
 
 private:
     /// A symbol in view.
@@ -76,27 +77,15 @@ private:
     /// What the buttons were brought in line with.
     struct View
     {
-        qint64 start = 0;
-        double pixelsPerMillisecond = 0.0;
-        double width = 0.0;
+        MarkerView::Geometry geometry;
         QRect area;
 
         bool operator==(const View&) const = default;
     };
 
-    /// Markers from first up to but not including last.
-    struct Indices
-    {
-        std::size_t first;
-        std::size_t last;
-    };
-
-    int iconKeyOf(const RulerMarker& marker);
-    int xOf(std::size_t marker) const;
-    int halfWidthOf(int iconKey) const;
-    Indices markersBetween(int left, int right) const;
-    Indices withNeighbourhood(const Indices& shown) const;
-    std::vector<Symbol> symbolsOf(const Indices& shown) const;
+    quint32 iconOf(const RulerMarker& marker);
+    quint32 addIcon(int key, const QIcon& icon);
+    MarkerView markersInView() const;
     const Symbol* symbolOf(std::size_t marker) const;
     void showSymbols(std::vector<Symbol> symbols);
     void releaseButtons();
@@ -111,7 +100,8 @@ private:
     const QPointer<QWidget> m_ceiling;
     MarkerStore m_store;
     // Made with the first marker, because drawing them takes a while.
-    std::map<int, RulerIconSet> m_iconSets;
+    std::deque<RulerIconSet> m_icons;
+    std::map<int, quint32> m_iconNumbers; ///< by key
     MergedRulerIcons m_mergedIcons;
     QSize m_iconSize{16, 16};
     std::optional<TimeSpan> m_range;

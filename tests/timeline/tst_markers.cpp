@@ -1,44 +1,100 @@
 #include "markermerge.h"
 #include "markerstore.h"
+#include "markerview.h"
 #include "testsupport.h"
 #include "times.h"
 
 #include <QRandomGenerator>
 #include <QTest>
+#include <QTimeZone>
 
 #include <algorithm>
+#include <array>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The rule once more, written down as it is said: every marker of a run gets its role by itself.
-std::vector<int> representatives(const std::vector<MarkerPlace>& places)
+/// The rule as it is said, asked for every marker.
+std::vector<MarkerRun> runsByTheRule(const std::vector<MarkerPlace>& places)
 {
-    const auto overlap = [&places](int a, int b) {
-        const auto [left, right] = places[a].x < places[b].x ? std::pair(a, b) : std::pair(b, a);
-        return places[right].x - places[left].x <= places[left].halfWidth + places[right].halfWidth;
-    };
-    std::vector<int> result(places.size());
-    const int count = int(places.size());
-    int i = 0;
-    while (i < count) {
-        int middle = i;
-        int j = i + 1;
-        while (j < count && overlap(i, (i + j) / 2) && overlap(j, (i + j) / 2))
-            middle = (i + j++) / 2;
-        std::fill(result.begin() + i, result.begin() + j, middle);
-        i = j;
+    std::vector<MarkerRun> runs;
+    for (std::size_t i = 0; i < places.size();) {
+        MarkerRun run{i, i, i};
+        for (std::size_t j = i + 1; j < places.size(); ++j) {
+            const MarkerPlace& middle = places[(i + j) / 2];
+            if (!places[i].overlaps(middle) || !places[j].overlaps(middle))
+                break;
+            run.last = j;
+            run.representative = (i + j) / 2;
+        }
+        runs.push_back(run);
+        i = run.last + 1;
     }
-    return result;
+    return runs;
 }
 
-MarkerStore::Entry entry(qint64 msecs, const QString& text = {})
+class Places final : public MarkerRow
 {
-    return {.marker = {.time = QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC), .text = text},
-            .iconKey = -1,
-            .msecs = msecs};
+public:
+    Places(std::vector<MarkerPlace> sorted, int narrow = 0)
+        : places(std::move(sorted)), m_narrow(narrow)
+    {}
+
+    std::vector<MarkerRun> merged() const { return mergeMarkers(*this, 0, places.size()); }
+
+    MarkerPlace place(std::size_t marker) const override
+    {
+        ++asked;
+        return places.at(marker);
+    }
+    std::size_t firstRightOf(int x, std::size_t from) const override
+    {
+        return first(from, places.size(), [&](const MarkerPlace& p) { return p.x > x; });
+    }
+    std::size_t firstNarrowerThan(int halfWidth, std::size_t from, std::size_t end) const override
+    {
+        return first(from, end, [&](const MarkerPlace& p) { return p.halfWidth < halfWidth; });
+    }
+    int narrowest() const override { return m_narrow; }
+
+    const std::vector<MarkerPlace> places;
+    mutable int asked = 0;
+
+private:
+    template <typename Wanted>
+    std::size_t first(std::size_t from, std::size_t end, Wanted wanted) const
+    {
+        ++asked;
+        const auto begin = places.begin();
+        return std::size_t(std::find_if(begin + from, begin + end, wanted) - begin);
+    }
+
+    const int m_narrow;
+};
+
+/// Every @p rarity-th is narrow, the others wide; a rarity of 0 mixes all widths.
+Places randomPlaces(QRandomGenerator& random, int count, int pixels, int rarity)
+{
+    std::vector<MarkerPlace> places;
+    for (int i = 0; i < count; ++i) {
+        const int halfWidth = rarity == 0 ? random.bounded(9) : random.bounded(rarity) ? 6 : 3;
+        places.push_back({random.bounded(pixels), halfWidth});
+    }
+    std::sort(places.begin(), places.end(),
+              [](const MarkerPlace& a, const MarkerPlace& b) { return a.x < b.x; });
+    return Places(std::move(places), rarity == 0 ? 0 : 3);
+}
+
+RulerMarker marker(qint64 msecs, const QString& text = {})
+{
+    return {.time = QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC), .text = text};
+}
+
+void add(MarkerStore& store, const QList<RulerMarker>& markers)
+{
+    store.add(markers, std::vector<quint32>(std::size_t(markers.size())));
 }
 
 QString texts(const MarkerStore& store)
@@ -58,9 +114,12 @@ class TestMarkers : public WarningFreeTest
 private Q_SLOTS:
     void merging();
     void mergingAgreesWithTheRule();
+    void mergingFollowsTheColumns();
     void halfWidths();
     void storeKeepsTimeOrder();
-    void markersAreSeenOnce();
+    void storeAgreesWithAList();
+    void markersKeepWhatTheyAre();
+    void viewAgreesWithALoop();
 };
 
 void TestMarkers::merging()
@@ -79,32 +138,31 @@ void TestMarkers::merging()
         {{{50, 0}, {58, 8}, {67, 0}}, {{0, 1, 0}, {2, 2, 2}}},
     };
     for (const auto& [places, runs] : cases)
-        QVERIFY(mergeMarkers(places) == runs);
+        QVERIFY(Places(places).merged() == runs);
 }
 
 void TestMarkers::mergingAgreesWithTheRule()
 {
     // Sparse, touching here and there, crowded, all within a button.
-    for (const auto& [count, pixels] :
-         {std::pair(60, 1900), {200, 1900}, {5000, 1900}, {300, 10}}) {
-        for (quint32 seed = 1; seed <= 30; ++seed) {
+    for (const auto& [count, pixels] : {std::pair(60, 1900), {200, 1900}, {5000, 900}, {300, 10}}) {
+        for (quint32 seed = 1; seed <= 60; ++seed) {
             QRandomGenerator random(seed);
-            std::vector<MarkerPlace> places;
-            for (int i = 0; i < count; ++i)
-                places.push_back({int(random.bounded(pixels)), int(random.bounded(9))});
-            std::sort(places.begin(), places.end(),
-                      [](const MarkerPlace& a, const MarkerPlace& b) { return a.x < b.x; });
-
-            const std::vector<int> expected = representatives(places);
-            std::size_t next = 0;
-            for (const MarkerRun& run : mergeMarkers(places)) {
-                QCOMPARE(run.first, next);
-                for (; next <= run.last; ++next)
-                    QCOMPARE(int(run.representative), expected[next]);
-            }
-            QCOMPARE(next, places.size());
+            const std::array rarities{0, 1, 2, 20, 300};
+            const Places places = randomPlaces(random, count, pixels, rarities[seed % 5]);
+            QVERIFY(places.merged() == runsByTheRule(places.places));
         }
     }
+}
+
+void TestMarkers::mergingFollowsTheColumns()
+{
+    QRandomGenerator random(1);
+    const auto cost = [&](int count) {
+        const Places places = randomPlaces(random, count, 1900, 300);
+        places.merged();
+        return places.asked;
+    };
+    QVERIFY(cost(100'000) < 2 * cost(3000));
 }
 
 void TestMarkers::halfWidths()
@@ -119,12 +177,9 @@ void TestMarkers::halfWidths()
 void TestMarkers::storeKeepsTimeOrder()
 {
     MarkerStore store;
-    store.add({entry(30, u"c"_s), entry(10, u"a"_s)});
-    store.add({entry(20, u"b"_s), entry(10, u"a2"_s), entry(10, u"a3"_s), entry(40, u"d"_s)});
+    add(store, {marker(30, u"c"_s), marker(10, u"a"_s), RulerMarker()});
+    add(store, {marker(20, u"b"_s), marker(10, u"a2"_s), marker(10, u"a3"_s), marker(40, u"d"_s)});
     QCOMPARE(texts(store), u"a a2 a3 b c d"_s);
-    QCOMPARE(store.firstFrom(10), std::size_t(0));
-    QCOMPARE(store.firstFrom(11), std::size_t(3));
-    QCOMPARE(store.firstFrom(41), store.size());
     // The first of a time goes first.
     store.remove({30, 15, 10});
     QCOMPARE(texts(store), u"a2 a3 b d"_s);
@@ -132,36 +187,129 @@ void TestMarkers::storeKeepsTimeOrder()
     QCOMPARE(texts(store), u"b d"_s);
 }
 
-void TestMarkers::markersAreSeenOnce()
+void TestMarkers::storeAgreesWithAList()
 {
-    MarkerStore store;
-    QVERIFY(store.takeUnseen(0, 0).empty());
-    std::vector<MarkerStore::Entry> entries;
-    for (int i = 0; i < 100; ++i)
-        entries.push_back(entry(i));
-    store.add(std::move(entries));
+    struct Known
+    {
+        qint64 time;
+        QString text;
+        quint32 icon;
+        bool seen = false;
+    };
     QRandomGenerator random(3);
-    std::vector<bool> seen(100, false);
-    for (int round = 0; round < 200; ++round) {
-        const std::size_t first = random.bounded(100U);
-        const std::size_t last = first + random.bounded(quint32(101 - first));
-        std::vector<std::size_t> expected;
-        for (std::size_t i = first; i < last; ++i) {
-            if (!seen[i])
-                expected.push_back(i);
-            seen[i] = true;
+    MarkerStore store;
+    QList<Known> list;
+    const auto findFirst = [&](qint64 time) {
+        return std::find_if(list.begin(), list.end(),
+                            [&](const Known& known) { return known.time >= time; });
+    };
+    // Many at first, then a few at a time, then few are left. Times come up again and again.
+    for (const auto& [added, removed] :
+         {std::pair(3000, 0), {1, 1}, {7, 5}, {600, 3500}, {0, 80}}) {
+        QList<RulerMarker> arriving;
+        std::vector<quint32> icons;
+        for (int i = 0; i < added; ++i) {
+            const Known known{random.bounded(300), QString::number(random.generate()),
+                              random.bounded(70U)};
+            arriving << marker(known.time, known.text);
+            icons.push_back(known.icon);
+            list.insert(findFirst(known.time + 1), known);
         }
-        QVERIFY(store.takeUnseen(first, last) == expected);
-    }
+        store.add(arriving, icons);
+        std::vector<qint64> leaving;
+        for (int i = 0; i < removed; ++i) {
+            leaving.push_back(random.bounded(310));
+            const auto found = findFirst(leaving.back());
+            if (found != list.end() && found->time == leaving.back())
+                list.erase(found);
+        }
+        store.remove(leaving);
 
-    // They stay seen when others come and go.
-    MarkerStore changing;
-    changing.add({entry(10), entry(30)});
-    changing.takeUnseen(0, 2);
-    changing.add({entry(20)});
-    QVERIFY(changing.takeUnseen(0, 3) == std::vector<std::size_t>{1});
-    changing.remove({10});
-    QVERIFY(changing.takeUnseen(0, 2).empty());
+        const auto size = std::size_t(list.size());
+        QCOMPARE(store.size(), size);
+        for (std::size_t i = 0; i < size; ++i) {
+            const Known& known = list[qsizetype(i)];
+            QCOMPARE(store.marker(i).text, known.text);
+            QCOMPARE(store.timeAndIcon(i), std::pair(known.time, known.icon));
+        }
+        QCOMPARE(store.firstFrom(150), std::size_t(findFirst(150) - list.begin()));
+
+        const std::size_t first = random.bounded(quint32(size));
+        const std::size_t last = first + random.bounded(quint32(size - first));
+        MarkerStore::Icons icon;
+        icon.insert(5);
+        std::size_t withIcon = last;
+        QList<QDateTime> unseen;
+        for (std::size_t i = first; i < last; ++i) {
+            Known& known = list[qsizetype(i)];
+            if (known.icon == 5)
+                withIcon = std::min(withIcon, i);
+            if (!std::exchange(known.seen, true))
+                unseen << marker(known.time).time;
+        }
+        QCOMPARE(store.firstWithIcon(icon, first, last), withIcon);
+        QCOMPARE(store.takeUnseen(first, last), unseen);
+    }
+}
+
+void TestMarkers::markersKeepWhatTheyAre()
+{
+    const QDateTime night(QDate(2026, 10, 25), QTime(0, 30), Qt::UTC); // of the clock change
+    for (const QDateTime& time : {night, night.toLocalTime(), night.toOffsetFromUtc(5400),
+                                  night.toTimeZone(QTimeZone("Europe/Berlin")),
+                                  night.toTimeZone(QTimeZone("Asia/Tokyo"))}) {
+        const RulerMarker known{QUuid::createUuid(), time, 3, 7, u"Gate"_s, nullptr};
+        MarkerStore store;
+        add(store, {marker(1), known, marker(2)});
+        const RulerMarker stored = store.marker(2);
+        QCOMPARE(stored.identifier, known.identifier);
+        QCOMPARE(stored.time.timeSpec(), time.timeSpec());
+        QCOMPARE(stored.time.toString(Qt::ISODate), time.toString(Qt::ISODate));
+        QCOMPARE(std::pair(stored.kind, stored.iconIndex), std::pair(3, 7));
+    }
+}
+
+void TestMarkers::viewAgreesWithALoop()
+{
+    constexpr int width = 400;
+    for (quint32 seed = 1; seed <= 60; ++seed) {
+        QRandomGenerator random(seed);
+        QList<RulerMarker> markers;
+        const int count = 1 << random.bounded(1, 12);
+        for (int i = 0; i < count; ++i)
+            markers << marker(random.bounded(16'000));
+        MarkerStore store;
+        add(store, markers);
+        // A pixel is ten milliseconds; the view begins in the middle.
+        const MarkerView view(store, {8000, 0.1, width}, {16, {6}}, {});
+        std::vector<MarkerPlace> places;
+        for (std::size_t i = 0; i < store.size(); ++i)
+            places.push_back({int(10 + 0.1 * double(store.time(i) - 8000)), 6});
+
+        // From the first marker that does not touch the one before it, at most a view's width away.
+        std::size_t start = view.shown().first;
+        while (start > 0 && start < places.size() && places[start - 1].x >= 5 - width &&
+               places[start].x - places[start - 1].x <= 16)
+            --start;
+        std::vector<MarkerRun> expected;
+        for (const MarkerRun& run :
+             runsByTheRule({places.begin() + qsizetype(start), places.end()})) {
+            const int x = places[start + run.representative].x;
+            if (x >= 5 && x <= width - 5)
+                expected.push_back(
+                    {start + run.first, start + run.last, start + run.representative});
+        }
+        QVERIFY(view.runs() == expected);
+
+        const int mouse = random.bounded(width);
+        std::optional<std::size_t> nearest;
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            const int distance = std::abs(places[i].x - mouse);
+            if (distance <= 8 && (!nearest || distance < std::abs(places[*nearest].x - mouse)))
+                nearest = i;
+        }
+        QVERIFY(view.nearest(mouse, 8) == nearest);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestMarkers)
