@@ -1,13 +1,15 @@
 #include "console.h"
 #include "look/languages.h"
 #include "options/settingsstore.h"
+#include "video/picturefile.h"
 #include "window/clientoptions.h"
 #include "window/commandline.h"
-#include "window/picture.h"
 #include "window/reviewwindow.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QImage>
+#include <QPixmap>
 
 using namespace Qt::StringLiterals;
 using namespace Review;
@@ -32,7 +34,7 @@ QString settingsFile(const Arguments& arguments)
 
 int takePicture(QWidget& window, const QString& path)
 {
-    const QString error = writePicture(window, path);
+    const QString error = writePicture(window.grab().toImage(), path);
     if (error.isEmpty())
         return Success;
     return fail(Failure, QApplication::translate("Review", "Cannot write %1: %2")

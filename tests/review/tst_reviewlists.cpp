@@ -4,6 +4,8 @@
 #include "lists/eventtexts.h"
 #include "look/zonecombo.h"
 #include "samplewindow.h"
+#include "session/clock.h"
+#include "session/selection.h"
 #include "testsupport.h"
 #include "times.h"
 #include "whenshown.h"
@@ -254,7 +256,9 @@ void TestReviewLists::addressesSortAndFilter()
     QCOMPARE(DeviceAddress::network(0xffffffff, 30), QList<quint32>({0xfffffffd, 0xfffffffe}));
     QCOMPARE(DeviceAddress::network(0, 24).size(), DeviceAddress::roomIn(24));
 
-    DeviceTree tree(TimeTexts(u"UTC"_s));
+    const Clock clock(u"UTC"_s);
+    Selection selection;
+    DeviceTree tree(clock, selection);
     tree.setReview(
         {.tracks = {{u"9.0.0.200"_s, u"b"_s, 0, 0, {}}, {u"-"_s, u"10.0.0.1"_s, 0, 0, {}}},
          .events = {}});

@@ -2,6 +2,8 @@
 #include "export/exportdialog.h"
 #include "playback/player.h"
 #include "samplewindow.h"
+#include "session/clock.h"
+#include "session/selection.h"
 #include "testsupport.h"
 #include "timeline/timelinepane.h"
 #include "times.h"
@@ -35,14 +37,15 @@ namespace {
 /// recorded.
 struct Playing
 {
-    Playing() : player(&timeline, &bar, nullptr, [this] { return now; })
+    Playing() : player(selection, &bar, nullptr, [this] { return now; })
     {
         timeline.resize(1000, 120);
         timeline.show();
         player.setPeriod(period);
         player.setTrack(&history);
         timeline.setPeriod(period);
-        timeline.jumpTo(monday, hour);
+        selection.setMoment(monday);
+        timeline.showAround(monday, hour);
     }
     /// As the user does, with as many clicks as it takes.
     void setSpeed(PPlaybar::PlaybackState state, PPlaybar::PlaybackSpeed speed)
@@ -66,7 +69,9 @@ struct Playing
                                  {monday + 2 * hour, monday + 3 * hour},
                                  {monday + 30 * hour, monday + 31 * hour}}}};
     qint64 now = 500;
-    TimelinePane timeline{u"UTC"_s};
+    Clock clock{u"UTC"_s};
+    Selection selection;
+    TimelinePane timeline{clock, selection};
     PPlaybar bar;
     Player player;
 };
@@ -96,7 +101,7 @@ void TestReviewPlayback::aDayTurnsPages()
     for (const bool forwards : {true, false}) {
         Playing playing;
         const qint64 start = forwards ? monday + 90'001 : monday + 2 * day;
-        playing.timeline.goTo(start);
+        playing.selection.goTo(start);
         playing.setSpeed(forwards ? PPlaybar::FastForward : PPlaybar::FastBackward,
                          PPlaybar::Speed1024);
         int pages = 0;
@@ -107,7 +112,7 @@ void TestReviewPlayback::aDayTurnsPages()
             elapsed += interval;
 
             const qint64 position = start + (forwards ? 1024 : -1024) * elapsed;
-            QCOMPARE(playing.timeline.currentTime(), position);
+            QCOMPARE(playing.selection.moment(), position);
             const TimeSpan after = playing.timeline.view();
             QVERIFY(after.begin <= position && position <= after.end);
             if (after == before)
@@ -131,11 +136,11 @@ void TestReviewPlayback::viewStaysWhereTheUserLooks()
     for (int i = 0; i < 50; ++i) {
         playing.tick(1'000);
         QCOMPARE(playing.timeline.view(), elsewhere);
-        QCOMPARE(playing.timeline.currentTime(), monday + (i + 1) * 64'000);
+        QCOMPARE(playing.selection.moment(), monday + (i + 1) * 64'000);
     }
     QVERIFY(views.isEmpty());
     // It counts as followed again once it has come into view, and when the user starts to play.
-    playing.tick(elsewhere.end - playing.timeline.currentTime());
+    playing.tick(elsewhere.end - playing.selection.moment());
     QVERIFY(playing.timeline.view() == elsewhere);
     playing.player.pause();
     playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
@@ -145,7 +150,7 @@ void TestReviewPlayback::viewStaysWhereTheUserLooks()
 void TestReviewPlayback::handHoldsTheTime()
 {
     Playing playing;
-    playing.timeline.goTo(monday + 10 * minute);
+    playing.selection.goTo(monday + 10 * minute);
     playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
     playing.tick(1'000);
     auto* ruler = playing.timeline.findChild<Ruler*>();
@@ -153,27 +158,27 @@ void TestReviewPlayback::handHoldsTheTime()
     const QPoint grip(indicator->hotSpot(), 10);
     QTest::mousePress(indicator, Qt::LeftButton, {}, grip);
     playing.tick(60'000);
-    QCOMPARE(playing.timeline.currentTime(), monday + 10 * minute + 1'000);
+    QCOMPARE(playing.selection.moment(), monday + 10 * minute + 1'000);
 
     QTest::mouseMove(indicator, grip + QPoint(200, 0));
-    const qint64 dragged = playing.timeline.currentTime();
+    const qint64 dragged = playing.selection.moment();
     QVERIFY(dragged > monday + 20 * minute);
     playing.tick(60'000);
-    QCOMPARE(playing.timeline.currentTime(), dragged);
+    QCOMPARE(playing.selection.moment(), dragged);
     QTest::mouseRelease(indicator, Qt::LeftButton, {}, QPoint(indicator->hotSpot(), 10));
     playing.tick(2'000);
-    QCOMPARE(playing.timeline.currentTime(), dragged + 2'000);
+    QCOMPARE(playing.selection.moment(), dragged + 2'000);
 
     // Dragging the scale moves the view only; the release goes to a dialog.
     const TimeSpan view = playing.timeline.view();
     QTest::mousePress(ruler, Qt::LeftButton, {}, QPoint(700, 50));
     playing.tick(60'000);
-    QCOMPARE(playing.timeline.currentTime(), dragged + 2'000);
+    QCOMPARE(playing.selection.moment(), dragged + 2'000);
     QCOMPARE(playing.timeline.view(), view);
     QEvent deactivate(QEvent::WindowDeactivate);
     QApplication::sendEvent(ruler, &deactivate);
     playing.tick(3'000);
-    QCOMPARE(playing.timeline.currentTime(), dragged + 5'000);
+    QCOMPARE(playing.selection.moment(), dragged + 5'000);
 }
 
 void TestReviewPlayback::endsPause()
@@ -192,12 +197,12 @@ void TestReviewPlayback::endsPause()
           Case{true, FastBackward, 3 * hour - 1, 1 * hour}}) {
         Playing playing;
         playing.player.setSkippingGaps(end.skip);
-        playing.timeline.goTo(monday + end.from);
+        playing.selection.goTo(monday + end.from);
         const QSignalSpy states(&playing.bar, &PPlaybar::playbackStateChanged);
         const QSignalSpy ranOut(&playing.player, &Player::ranOutOfRecordings);
         playing.setSpeed(end.state, PPlaybar::Speed2);
         playing.tick(2 * hour);
-        QCOMPARE(playing.timeline.currentTime(), monday + end.to);
+        QCOMPARE(playing.selection.moment(), monday + end.to);
         QCOMPARE(playing.bar.playbackState(), Pause);
         QVERIFY(!playing.player.isPlaying());
         QCOMPARE(states.size(), 1); // the user's own
@@ -208,12 +213,12 @@ void TestReviewPlayback::endsPause()
     playing.player.setSkippingGaps(true);
     playing.setSpeed(SlowForward, PPlaybar::Speed1_8);
     playing.tick(8);
-    QCOMPARE(playing.timeline.currentTime(), monday + hour);
+    QCOMPARE(playing.selection.moment(), monday + hour);
     playing.tick(8'001);
     Q_EMIT playing.bar.frameForwardClicked();
-    QCOMPARE(playing.timeline.currentTime(), monday + hour + 1'040);
+    QCOMPARE(playing.selection.moment(), monday + hour + 1'040);
     Q_EMIT playing.bar.trackEndClicked();
-    QCOMPARE(playing.timeline.currentTime(), monday + 2 * day);
+    QCOMPARE(playing.selection.moment(), monday + 2 * day);
 }
 
 void TestReviewPlayback::spaceBarIsShared()

@@ -3,6 +3,7 @@
 #include "look/eventicons.h"
 #include "look/zonecombo.h"
 #include "samplewindow.h"
+#include "session/clock.h"
 #include "testsupport.h"
 #include "timeline/eventmarkers.h"
 #include "timeline/instantedit.h"
@@ -370,10 +371,11 @@ void TestReviewTimeline::instantsOutlastTheClock()
     // The second of two times that the clock shows as 02:30, with a fraction that it does not show.
     const qint64 second0230 =
         QDateTime::fromString(u"2026-10-25T01:30:00.250Z"_s, Qt::ISODateWithMs).toMSecsSinceEpoch();
-    InstantEdit edit{TimeTexts(u"Europe/Brussels"_s)};
+    Clock clock(u"Europe/Brussels"_s);
+    InstantEdit edit(clock);
     edit.setInstant(second0230);
     QCOMPARE(edit.text(), u"25.10.2026 02:30:00"_s);
-    edit.setTimes(TimeTexts(u"America/New_York"_s));
+    clock.setZone(u"America/New_York"_s);
     QCOMPARE(edit.text(), u"24.10.2026 21:30:00"_s);
     QCOMPARE(edit.instant(), second0230);
     edit.stepUp();

@@ -22,7 +22,7 @@ using Hueloft::PMessageBox;
 namespace Review {
 
 ExportPanel::ExportPanel(QWidget* parent)
-    : QWidget(parent)
+    : Translated(parent)
     , m_label(new QLabel(this))
     , m_progress(new PFractionalProgressBar(this))
     , m_cancel(new QToolButton(this))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/translated.h"
 #include "pictureexport.h"
 
 #include <QWidget>
@@ -18,7 +19,7 @@ namespace Review {
 
 /// Exports pictures, and shows how far that is: in a status bar, and on the taskbar. Hidden while
 /// nothing is exported.
-class ExportPanel : public QWidget
+class ExportPanel : public Translated<QWidget>
 {
     Q_OBJECT
 
@@ -30,14 +31,15 @@ public:
     void ask(const CameraFeed& feed, const CorvelGui::TimeSpan& view,
              const CorvelGui::TimeSpan& searchRange);
     bool isExporting() const { return m_export != nullptr; }
-    /// Applies all translated texts again.
-    void retranslate();
 
 Q_SIGNALS:
     /// Emitted whenever isExporting() changed.
     void exportingChanged(bool exporting);
     /// Tells the user in one sentence how an export that did not fail has ended.
     void reported(const QString& text);
+
+protected:
+    void retranslate() final;
 
 private:
     bool mayStart(PictureExport& job);

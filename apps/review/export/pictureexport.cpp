@@ -1,6 +1,6 @@
 #include "pictureexport.h"
 
-#include "window/picture.h"
+#include "video/picturefile.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "playback/camerafeed.h"
+#include "video/camerafeed.h"
 
 #include <QObject>
 #include <QTimer>

@@ -2,8 +2,8 @@
 
 #include "deviceaddress.h"
 #include "look/statesign.h"
-#include "playback/camerafeed.h"
-#include "playback/camerapicture.h"
+#include "video/camerafeed.h"
+#include "video/camerapicture.h"
 
 #include <CorvelGui/ToolTipHelper>
 

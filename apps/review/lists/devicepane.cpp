@@ -27,10 +27,10 @@ constexpr qint64 mostCameras = 256;
 
 } // namespace
 
-DevicePane::DevicePane(const TimeTexts& times, QWidget* parent)
-    : QWidget(parent)
+DevicePane::DevicePane(const Clock& clock, Selection& selection, QWidget* parent)
+    : Translated(parent)
     , m_filter(new FilterLineEdit)
-    , m_tree(new DeviceTree(times))
+    , m_tree(new DeviceTree(clock, selection))
     , m_addRange(new QAction(m_tree))
     , m_remove(new QAction(m_tree))
     , m_separator(new QAction(m_tree))
@@ -124,21 +124,10 @@ void DevicePane::addRange(quint32 address, int prefix)
     Q_EMIT camerasAdded(text);
 }
 
-void DevicePane::setTimes(const TimeTexts& times)
-{
-    m_tree->setTimes(times);
-}
-
-void DevicePane::setCurrentTime(qint64 msecs)
-{
-    m_tree->setCurrentTime(msecs);
-}
-
 void DevicePane::retranslate()
 {
     m_filter->setAccessibleName(tr("Filter cameras"));
     m_tree->setAccessibleName(tr("Cameras"));
-    m_tree->retranslate();
     m_addRange->setText(tr("Add camera range…"));
     m_remove->setText(tr("Remove added cameras"));
     m_expand->setText(tr("Expand all"));

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "deviceitem.h"
+#include "data/reviewdata.h"
+#include "data/trackhistory.h"
+#include "look/translated.h"
 
 #include <QSet>
 #include <QWidget>
@@ -13,15 +15,18 @@ class FilterLineEdit;
 
 namespace Review {
 
+class Clock;
 class DeviceTree;
+class Selection;
 
 /// The cameras in a tree, below a field that filters it.
-class DevicePane : public QWidget
+class DevicePane : public Translated<QWidget>
 {
     Q_OBJECT
 
 public:
-    explicit DevicePane(const TimeTexts& times, QWidget* parent = nullptr);
+    /// Owns neither; both must live longer.
+    DevicePane(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
 
     /// Replaces all tracks.
     void setReview(const ReviewData& review);
@@ -36,17 +41,14 @@ public:
     /// What can be done with the cameras, for menus.
     QList<QAction*> treeActions() const;
 
-    void setTimes(const TimeTexts& times);
-    /// The states in the tree are those of this time.
-    void setCurrentTime(qint64 msecs);
-    /// Applies all translated texts again.
-    void retranslate();
-
 Q_SIGNALS:
     /// Emitted when a check box was changed.
     void checkedTracksChanged();
     /// Emitted after cameras were added, with a sentence for the user that says how many.
     void camerasAdded(const QString& text);
+
+protected:
+    void retranslate() final;
 
 private:
     void askForRange();

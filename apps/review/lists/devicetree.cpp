@@ -2,6 +2,8 @@
 
 #include "look/listlook.h"
 #include "look/statesign.h"
+#include "session/clock.h"
+#include "session/selection.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -13,9 +15,11 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
-DeviceTree::DeviceTree(const TimeTexts& times, QWidget* parent)
-    : PTreeWidget(parent)
-    , m_moment{.times = times}
+DeviceTree::DeviceTree(const Clock& clock, Selection& selection, QWidget* parent)
+    : Translated(parent)
+    , m_clock(clock)
+    , m_selection(selection)
+    , m_moment{.times = clock.times()}
     , m_cameras(new PTreeWidgetItem)
     , m_added(new PTreeWidgetItem)
 {
@@ -37,7 +41,9 @@ DeviceTree::DeviceTree(const TimeTexts& times, QWidget* parent)
     connect(this, &QTreeWidget::itemChanged, this, &DeviceTree::followCheck);
     InitCopyMenus(true);
     ListLook::offerActions(this);
-    showRows({});
+    connect(&clock, &Clock::changed, this, &DeviceTree::followClock);
+    connect(&selection, &Selection::momentChanged, this, &DeviceTree::followMoment);
+    retranslate();
 }
 
 QList<DeviceItem*> DeviceTree::devicesOf(const QTreeWidgetItem* group) const
@@ -190,15 +196,15 @@ void DeviceTree::showChecksOfGroup()
                                                                          : Qt::PartiallyChecked);
 }
 
-void DeviceTree::setTimes(const TimeTexts& times)
+void DeviceTree::followClock()
 {
-    m_moment.times = times;
+    m_moment.times = m_clock.times();
     showTexts();
 }
 
-void DeviceTree::setCurrentTime(qint64 msecs)
+void DeviceTree::followMoment()
 {
-    m_moment.msecs = msecs;
+    m_moment.msecs = m_selection.moment();
     const QSignalBlocker blocker(this);
     for (DeviceItem* device : devices())
         device->showState();

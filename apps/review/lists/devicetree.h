@@ -1,6 +1,7 @@
 #pragma once
 
 #include "deviceitem.h"
+#include "look/translated.h"
 
 #include <CorvelGui/PTreeWidget>
 
@@ -8,14 +9,18 @@
 
 namespace Review {
 
+class Clock;
+class Selection;
+
 /// The cameras in groups: those with tracks, each with a check box that says whether the timeline
 /// shows it, and those that were added by their addresses.
-class DeviceTree : public CorvelGui::PTreeWidget
+class DeviceTree : public Translated<CorvelGui::PTreeWidget>
 {
     Q_OBJECT
 
 public:
-    explicit DeviceTree(const TimeTexts& times, QWidget* parent = nullptr);
+    /// Owns neither; both must live longer.
+    DeviceTree(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
 
     /// Replaces all cameras with tracks; all are checked. What was added by address stays, unless
     /// one of the tracks has the address.
@@ -33,19 +38,19 @@ public:
     /// What is known of the checked tracks at a time, in the order of the rows.
     QList<NamedState> statesAt(qint64 msecs) const;
 
-    void setTimes(const TimeTexts& times);
-    /// The states are those of this time.
-    void setCurrentTime(qint64 msecs);
     /// Shows the cameras that say @p filter in some column, and the groups that have any.
     void showRows(const QString& filter);
-    /// Applies all translated texts again.
-    void retranslate();
 
 Q_SIGNALS:
     /// Emitted once after the user has changed a check box, whether of a camera or of a group.
     void checkedTracksChanged();
 
+protected:
+    void retranslate() final;
+
 private:
+    void followClock();
+    void followMoment();
     QList<DeviceItem*> devices() const;
     QList<DeviceItem*> devicesOf(const QTreeWidgetItem* group) const;
     QList<DeviceItem*> removable() const;
@@ -56,6 +61,8 @@ private:
     void fitColumns();
     void remove(const QList<DeviceItem*>& added);
 
+    const Clock& m_clock;
+    Selection& m_selection;
     DeviceMoment m_moment;
     CorvelGui::PTreeWidgetItem* m_cameras;
     CorvelGui::PTreeWidgetItem* m_added;

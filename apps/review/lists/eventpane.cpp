@@ -2,6 +2,7 @@
 
 #include "eventtable.h"
 #include "look/listlook.h"
+#include "session/clock.h"
 
 #include <CorvelGui/FilterLineEdit>
 #include <CorvelGui/PHeaderCheckMenu>
@@ -14,9 +15,10 @@ using CorvelGui::FilterLineEdit;
 
 namespace Review {
 
-EventPane::EventPane(const TimeTexts& times, QWidget* parent)
-    : QWidget(parent)
-    , m_texts(times)
+EventPane::EventPane(const Clock& clock, QWidget* parent)
+    : Translated(parent)
+    , m_clock(clock)
+    , m_texts(clock.times())
     , m_filter(new FilterLineEdit)
     , m_table(new EventTable)
     , m_export(new QAction(m_table))
@@ -35,6 +37,7 @@ EventPane::EventPane(const TimeTexts& times, QWidget* parent)
         if (!m_table->isRowHidden(index.row()))
             Q_EMIT eventOpened(m_table->eventOf(index.row()));
     });
+    connect(&clock, &Clock::changed, this, &EventPane::followClock);
     retranslate();
 }
 
@@ -64,9 +67,9 @@ void EventPane::select(qsizetype index)
     m_table->goTo(index);
 }
 
-void EventPane::setTimes(const TimeTexts& times)
+void EventPane::followClock()
 {
-    m_texts.setTimes(times);
+    m_texts.setTimes(m_clock.times());
     m_table->showNewTexts();
     if (!m_filter->text().isEmpty())
         showRows();

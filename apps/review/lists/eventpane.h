@@ -2,6 +2,7 @@
 
 #include "eventlist.h"
 #include "eventtexts.h"
+#include "look/translated.h"
 
 #include <QWidget>
 
@@ -13,15 +14,17 @@ class FilterLineEdit;
 
 namespace Review {
 
+class Clock;
 class EventTable;
 
 /// The events in a table that sorts, copies and exports, below a field that filters it.
-class EventPane : public QWidget
+class EventPane : public Translated<QWidget>
 {
     Q_OBJECT
 
 public:
-    explicit EventPane(const TimeTexts& times, QWidget* parent = nullptr);
+    /// @p clock must live longer.
+    explicit EventPane(const Clock& clock, QWidget* parent = nullptr);
 
     /// Replaces all events.
     void setReview(const ReviewData& review);
@@ -35,17 +38,18 @@ public:
     /// Writes the events that are in the table, or several selected ones, into a file.
     QAction* exportAction() const { return m_export; }
 
-    void setTimes(const TimeTexts& times);
-    /// Applies all translated texts again.
-    void retranslate();
-
 Q_SIGNALS:
     /// Emitted when the user opens an event: with a double click, or with Return.
     void eventOpened(qsizetype index);
 
+protected:
+    void retranslate() final;
+
 private:
+    void followClock();
     void showRows();
 
+    const Clock& m_clock;
     EventList m_list;
     EventTexts m_texts;
     CorvelGui::FilterLineEdit* m_filter;

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace Review {
 
-ProblemDock::ProblemDock(QWidget* parent) : QDockWidget(parent), m_list(new QListWidget(this))
+ProblemDock::ProblemDock(QWidget* parent) : Translated(parent), m_list(new QListWidget(this))
 {
     setObjectName(u"problemDock"_s);
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea | Qt::RightDockWidgetArea);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/problemlist.h"
+#include "look/translated.h"
 
 #include <QDockWidget>
 
@@ -9,7 +10,7 @@ class QListWidget;
 namespace Review {
 
 /// Lists the lines that could not be loaded.
-class ProblemDock : public QDockWidget
+class ProblemDock : public Translated<QDockWidget>
 {
     Q_OBJECT
 
@@ -20,8 +21,8 @@ public:
     /// Replaces the list. The dock shows itself when there are problems, and hides without any.
     void setProblems(const ProblemList& problems);
 
-    /// Applies all translated texts again.
-    void retranslate();
+protected:
+    void retranslate() final;
 
 private:
     ProblemList m_problems;

@@ -37,7 +37,7 @@ QString known(const QString& zoneName)
 } // namespace
 
 ZoneCombo::ZoneCombo(const QString& zoneName, QWidget* parent)
-    : QComboBox(parent), m_zone(known(zoneName))
+    : Translated(parent), m_zone(known(zoneName))
 {
     setEditable(true);
     setInsertPolicy(NoInsert);

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "translated.h"
+
 #include <QComboBox>
 
 namespace Review {
 
 /// Offers all time zones for choice and for search.
-class ZoneCombo : public QComboBox
+class ZoneCombo : public Translated<QComboBox>
 {
     Q_OBJECT
 
@@ -17,14 +19,15 @@ public:
     QString zone() const { return m_zone; }
     /// Emits nothing.
     void setZone(const QString& zoneName);
-    /// Applies all translated texts again.
-    void retranslate();
 
 Q_SIGNALS:
     /// Emitted when the user chose another zone; named as for the constructor.
     void zoneChanged(const QString& name);
     /// Emitted when the user entered what is no zone. The zone stays.
     void zoneRefused(const QString& text);
+
+protected:
+    void retranslate() final;
 
 private:
     void takeEntry();

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "look/timetexts.h"
-#include "playback/playerkeys.h"
-#include "window/updatemenu.h"
+#include "playback/shortcuts.h"
+#include "updateservers.h"
 
 #include <Corvel/ProxyUserSettings>
 
@@ -22,7 +22,7 @@ struct ReviewSettings
     QString zone = {};
     TimeFormat timeFormat = {};
     bool skipGaps = false;
-    PlayerKeys::Shortcuts shortcuts = PlayerKeys::defaults();
+    Shortcuts shortcuts = defaultShortcuts();
 
     UpdateServers servers = {};
     Corvel::ProxyUserSettings proxy = {};

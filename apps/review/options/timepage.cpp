@@ -60,7 +60,6 @@ QString TimePage::categoryName() const
 void TimePage::retranslateFields()
 {
     m_zoneLabel->setText(tr("Time &zone:"));
-    m_zone->retranslate();
     m_orderLabel->setText(tr("&Date and time:"));
     m_milliseconds->setText(tr("Show &milliseconds of single moments"));
 }

@@ -1,5 +1,8 @@
 #include "playbackpane.h"
 
+#include "session/clock.h"
+#include "session/selection.h"
+
 #include <CorvelGui/ZoomGraphicsView>
 
 #include <QComboBox>
@@ -22,13 +25,14 @@ constexpr QSize smallestPicture(320, 180);
 
 } // namespace
 
-PlaybackPane::PlaybackPane(const TimeTexts& times, QWidget* parent)
-    : QWidget(parent)
+PlaybackPane::PlaybackPane(const Clock& clock, Selection& selection, QWidget* parent)
+    : Translated(parent)
+    , m_clock(clock)
+    , m_selection(selection)
     , m_cameras(new QComboBox(this))
     , m_scene(QRectF({}, CameraPicture::size))
     , m_view(new ZoomGraphicsView(&m_scene, QVariant(), this))
     , m_item(m_scene.addPixmap({}))
-    , m_times(times)
 {
     // Leaves the space bar to the player after a choice with the mouse.
     m_cameras->setFocusPolicy(Qt::TabFocus);
@@ -38,7 +42,11 @@ PlaybackPane::PlaybackPane(const TimeTexts& times, QWidget* parent)
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setMinimumSize(smallestPicture);
 
-    connect(m_cameras, &QComboBox::currentIndexChanged, this, &PlaybackPane::makeFeed);
+    connect(m_cameras, &QComboBox::currentIndexChanged, this,
+            [this] { m_selection.setCamera(m_cameras->currentData().toString()); });
+    connect(&selection, &Selection::cameraChanged, this, &PlaybackPane::showCamera);
+    connect(&selection, &Selection::momentChanged, this, &PlaybackPane::showPicture);
+    connect(&clock, &Clock::changed, this, &PlaybackPane::makeFeed);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -50,18 +58,22 @@ PlaybackPane::PlaybackPane(const TimeTexts& times, QWidget* parent)
 
 void PlaybackPane::setTracks(const QList<TrackDescription>& tracks)
 {
-    const QString chosen = m_cameras->currentData().toString();
+    m_tracks = tracks;
+    QStringList identifiers;
     {
         const QSignalBlocker blocker(m_cameras);
-        m_tracks = tracks;
         m_cameras->clear();
-        for (const TrackDescription& track : tracks)
+        for (const TrackDescription& track : tracks) {
             m_cameras->addItem(track.name.simplified(), track.identifier);
-        m_cameras->setCurrentIndex(
-            std::max(m_cameras->findData(chosen), tracks.isEmpty() ? -1 : 0));
+            identifiers.append(track.identifier);
+        }
         m_cameras->setEnabled(!tracks.isEmpty());
     }
-    makeFeed();
+    const QString before = m_selection.camera();
+    m_selection.setCameras(identifiers);
+    // What is known of the same camera may be new.
+    if (m_selection.camera() == before)
+        showCamera();
 }
 
 void PlaybackPane::setEvents(const QList<Event>& events)
@@ -70,23 +82,13 @@ void PlaybackPane::setEvents(const QList<Event>& events)
     makeFeed();
 }
 
-void PlaybackPane::setTimes(const TimeTexts& times)
+void PlaybackPane::showCamera()
 {
-    m_times = times;
+    {
+        const QSignalBlocker blocker(m_cameras);
+        m_cameras->setCurrentIndex(m_cameras->findData(m_selection.camera()));
+    }
     makeFeed();
-}
-
-void PlaybackPane::setCamera(const QString& identifier)
-{
-    const int index = m_cameras->findData(identifier);
-    if (index >= 0)
-        m_cameras->setCurrentIndex(index);
-}
-
-void PlaybackPane::setTime(qint64 msecs)
-{
-    m_time = msecs;
-    showPicture();
 }
 
 void PlaybackPane::retranslate()
@@ -110,7 +112,7 @@ void PlaybackPane::makeFeed()
     const int index = m_cameras->currentIndex();
     m_feed.reset();
     if (index >= 0)
-        m_feed.emplace(m_tracks.at(index), m_events, m_times);
+        m_feed.emplace(m_tracks.at(index), m_events, m_clock.times());
     showPicture();
     Q_EMIT feedChanged();
 }
@@ -119,12 +121,13 @@ void PlaybackPane::showPicture()
 {
     if (!isVisible())
         return;
-    if (!m_feed || m_time == 0) {
+    const qint64 moment = m_selection.moment();
+    if (!m_feed || moment == 0) {
         m_item->setPixmap({});
         m_shown.reset();
         return;
     }
-    const CameraScene scene = m_feed->sceneAt(m_time);
+    const CameraScene scene = m_feed->sceneAt(moment);
     if (m_shown == scene)
         return;
     m_item->setPixmap(QPixmap::fromImage(m_picture.draw(scene)));

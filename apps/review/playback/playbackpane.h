@@ -1,6 +1,7 @@
 #pragma once
 
-#include "camerafeed.h"
+#include "look/translated.h"
+#include "video/camerafeed.h"
 
 #include <QGraphicsScene>
 #include <QWidget>
@@ -16,25 +17,23 @@ class ZoomGraphicsView;
 
 namespace Review {
 
-/// The picture of one camera, in a view that can be zoomed and moved.
-class PlaybackPane : public QWidget
+class Clock;
+class Selection;
+
+/// The picture of the selected camera at the selected moment, in a view that can be zoomed and
+/// moved.
+class PlaybackPane : public Translated<QWidget>
 {
     Q_OBJECT
 
 public:
-    explicit PlaybackPane(const TimeTexts& times, QWidget* parent = nullptr);
+    /// Owns neither; both must live longer.
+    PlaybackPane(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
 
-    /// Sets the cameras to choose from. A camera that was chosen before stays.
+    /// Sets the cameras to choose from.
     void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
     /// The events of all tracks, sorted by time.
     void setEvents(const QList<Event>& events);
-    void setTimes(const TimeTexts& times);
-    /// Chooses a camera; does nothing for one that there is not.
-    void setCamera(const QString& identifier);
-    /// Shows the picture of an instant; 0 for none.
-    void setTime(qint64 msecs);
-    /// Applies all translated texts again.
-    void retranslate();
 
     /// Null without a camera.
     const CameraFeed* feed() const { return m_feed ? &*m_feed : nullptr; }
@@ -44,12 +43,16 @@ Q_SIGNALS:
     void feedChanged();
 
 protected:
+    void retranslate() final;
     void showEvent(QShowEvent* event) override;
 
 private:
+    void showCamera();
     void makeFeed();
     void showPicture();
 
+    const Clock& m_clock;
+    Selection& m_selection;
     QComboBox* m_cameras;
     QGraphicsScene m_scene;
     CorvelGui::ZoomGraphicsView* m_view;
@@ -57,9 +60,7 @@ private:
 
     QList<CorvelGui::TrackDescription> m_tracks;
     QList<Event> m_events;
-    TimeTexts m_times;
     std::optional<CameraFeed> m_feed;
-    qint64 m_time = 0;
 
     CameraPicture m_picture;
     std::optional<CameraScene> m_shown;

@@ -1,7 +1,7 @@
 #include "player.h"
 
 #include "data/trackhistory.h"
-#include "timeline/timelinepane.h"
+#include "session/selection.h"
 
 #include <QElapsedTimer>
 
@@ -33,9 +33,9 @@ int speedOf(const PPlaybar& bar)
 
 } // namespace
 
-Player::Player(TimelinePane* timeline, PPlaybar* bar, QObject* parent, MonotonicClock now)
+Player::Player(Selection& selection, PPlaybar* bar, QObject* parent, MonotonicClock now)
     : QObject(parent)
-    , m_timeline(timeline)
+    , m_selection(selection)
     , m_bar(bar)
     , m_keys(bar)
     , m_now(now ? std::move(now) : clockOfThisMachine())
@@ -44,22 +44,22 @@ Player::Player(TimelinePane* timeline, PPlaybar* bar, QObject* parent, Monotonic
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &Player::advance);
 
-    connect(timeline, &TimelinePane::currentTimeChanged, this, &Player::followTimeline);
-    connect(timeline, &TimelinePane::heldChanged, this, &Player::hold);
+    connect(&selection, &Selection::momentChanged, this, &Player::followMoment);
+    connect(&selection, &Selection::heldChanged, this, &Player::followBar);
 
     connect(bar, &PPlaybar::playbackStateChanged, this, [this] {
         // Who starts to play wants to see where.
         if (!m_playing)
-            m_timeline->showCurrentTime();
+            m_selection.reveal();
         followBar();
     });
     connect(bar, &PPlaybar::playbackSpeedChanged, this, &Player::followBar);
     connect(bar, &PPlaybar::frameForwardClicked, this, [this] { step(1); });
     connect(bar, &PPlaybar::frameBackwardClicked, this, [this] { step(-1); });
     connect(bar, &PPlaybar::trackStartClicked, this,
-            [this] { m_timeline->goTo(m_hasTrack ? m_track.begin : m_period.begin); });
+            [this] { m_selection.goTo(m_hasTrack ? m_track.begin : m_period.begin); });
     connect(bar, &PPlaybar::trackEndClicked, this,
-            [this] { m_timeline->goTo(m_hasTrack ? m_track.end : m_period.end); });
+            [this] { m_selection.goTo(m_hasTrack ? m_track.end : m_period.end); });
 }
 
 void Player::setPeriod(const TimeSpan& period)
@@ -101,7 +101,7 @@ void Player::advance()
 
 void Player::step(int frames)
 {
-    m_timeline->showCurrentTime();
+    m_selection.reveal();
     report(m_clock.step(frames, m_now()));
 }
 
@@ -118,7 +118,7 @@ void Player::report(PlayerClock::Stop stop)
 void Player::followBar()
 {
     const int speed = speedOf(*m_bar);
-    m_clock.setSpeed(m_held ? 0 : speed, m_now());
+    m_clock.setSpeed(m_selection.isHeld() ? 0 : speed, m_now());
     show();
     m_keys.followBar();
     const bool playing = speed != 0;
@@ -131,22 +131,16 @@ void Player::followBar()
     Q_EMIT playingChanged(playing);
 }
 
-void Player::followTimeline()
+void Player::followMoment()
 {
-    if (m_timeline->currentTime() != m_clock.position())
-        m_clock.seek(m_timeline->currentTime(), m_now());
-}
-
-void Player::hold(bool held)
-{
-    m_held = held;
-    followBar();
+    if (m_selection.moment() != m_clock.position())
+        m_clock.seek(m_selection.moment(), m_now());
 }
 
 void Player::show()
 {
     if (!m_period.isEmpty())
-        m_timeline->playTo(m_clock.position());
+        m_selection.setMoment(m_clock.position());
 }
 
 } // namespace Review

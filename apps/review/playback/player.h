@@ -10,13 +10,13 @@
 
 namespace Review {
 
-class TimelinePane;
+class Selection;
 class TrackHistory;
 
-/// Plays the time of a timeline as a playbar says.
+/// Moves the selected moment as a playbar says.
 ///
-/// The time is always the timeline's: whatever places the indicator is a seek, and playing goes on
-/// from there. While the user holds the timeline with the mouse, the time stands still.
+/// Whoever else selects a moment makes a seek, and playing goes on from there. While the user holds
+/// the moment, it stands still.
 class Player : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     using MonotonicClock = std::function<qint64()>;
 
     /// @p now replaces the clock of this machine.
-    Player(TimelinePane* timeline, CorvelGui::PPlaybar* bar, QObject* parent = nullptr,
+    Player(Selection& selection, CorvelGui::PPlaybar* bar, QObject* parent = nullptr,
            MonotonicClock now = {});
 
     /// Pauses, and plays from begin to end of @p period from now on.
@@ -36,8 +36,8 @@ public:
     void setSkippingGaps(bool skip);
 
     /// See PlayerKeys.
-    void setShortcuts(const PlayerKeys::Shortcuts& shortcuts) { m_keys.setShortcuts(shortcuts); }
-    const PlayerKeys::Shortcuts& shortcuts() const { return m_keys.shortcuts(); }
+    void setShortcuts(const Shortcuts& shortcuts) { m_keys.setShortcuts(shortcuts); }
+    const Shortcuts& shortcuts() const { return m_keys.shortcuts(); }
 
     bool isPlaying() const { return m_playing; }
 
@@ -55,14 +55,13 @@ Q_SIGNALS:
 
 private:
     void followBar();
-    void followTimeline();
-    void hold(bool held);
+    void followMoment();
     void step(int frames);
     void show();
     void applyGaps();
     void report(PlayerClock::Stop stop);
 
-    TimelinePane* m_timeline;
+    Selection& m_selection;
     CorvelGui::PPlaybar* m_bar;
     PlayerKeys m_keys;
     MonotonicClock m_now;
@@ -72,7 +71,6 @@ private:
     CorvelGui::TimeSpan m_track;
     bool m_hasTrack = false;
     bool m_skippingGaps = false;
-    bool m_held = false;
     bool m_playing = false;
 };
 

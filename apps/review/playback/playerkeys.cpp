@@ -28,20 +28,7 @@ bool needsSpaceBar(const QObject* widget)
 PlayerKeys::PlayerKeys(PPlaybar* bar, QObject* parent) : QObject(parent), m_bar(bar)
 {
     qApp->installEventFilter(this);
-    setShortcuts(defaults());
-}
-
-PlayerKeys::Shortcuts PlayerKeys::defaults()
-{
-    return {{PPlaybar::TrackStartButton, Qt::ALT | Qt::Key_Home},
-            {PPlaybar::FastBackwardButton, Qt::CTRL | Qt::SHIFT | Qt::Key_Left},
-            {PPlaybar::ReverseButton, Qt::SHIFT | Qt::Key_Space},
-            {PPlaybar::FrameBackwardButton, Qt::CTRL | Qt::Key_Left},
-            {PPlaybar::PauseButton, Qt::Key_Space},
-            {PPlaybar::FrameForwardButton, Qt::CTRL | Qt::Key_Right},
-            {PPlaybar::PlayButton, Qt::Key_Space},
-            {PPlaybar::FastForwardButton, Qt::CTRL | Qt::SHIFT | Qt::Key_Right},
-            {PPlaybar::TrackEndButton, Qt::ALT | Qt::Key_End}};
+    setShortcuts(defaultShortcuts());
 }
 
 void PlayerKeys::setShortcuts(const Shortcuts& shortcuts)

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <CorvelGui/PPlaybar>
+#include "shortcuts.h"
 
-#include <QMap>
 #include <QObject>
 
 namespace Review {
@@ -16,12 +15,8 @@ class PlayerKeys : public QObject
     Q_OBJECT
 
 public:
-    using Shortcuts = QMap<CorvelGui::PPlaybar::PlaybackButton, QKeySequence>;
-
     explicit PlayerKeys(CorvelGui::PPlaybar* bar, QObject* parent = nullptr);
 
-    /// Keys that neither timeline, tool bar nor menus use.
-    static Shortcuts defaults();
     /// Buttons that are not in @p shortcuts get none.
     void setShortcuts(const Shortcuts& shortcuts);
     const Shortcuts& shortcuts() const { return m_shortcuts; }

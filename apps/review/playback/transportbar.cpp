@@ -1,5 +1,8 @@
 #include "transportbar.h"
 
+#include "session/clock.h"
+#include "session/selection.h"
+
 #include <CorvelGui/PPlaybar>
 #include <CorvelGui/TarvoDateTimeView>
 
@@ -9,23 +12,26 @@
 
 using CorvelGui::PPlaybar;
 using CorvelGui::TarvoDateTimeView;
+using CorvelGui::TimeSpan;
 
 namespace Review {
 
-TransportBar::TransportBar(QWidget* parent)
-    : QWidget(parent)
+TransportBar::TransportBar(const Clock& clock, Selection& selection, QWidget* parent)
+    : Translated(parent)
+    , m_clock(clock)
+    , m_selection(selection)
     , m_time(new TarvoDateTimeView(this))
     , m_playbar(new PPlaybar(this))
     , m_skipGaps(new QCheckBox(this))
-    , m_view(new QLabel(this))
+    , m_viewLabel(new QLabel(this))
 {
     m_time->setPlayMode(false);
     // Leaves the space bar to the player after a click.
     m_skipGaps->setFocusPolicy(Qt::TabFocus);
-    m_view->setTextFormat(Qt::PlainText);
-    m_view->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_viewLabel->setTextFormat(Qt::PlainText);
+    m_viewLabel->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     // On a narrow window it takes two lines.
-    m_view->setWordWrap(true);
+    m_viewLabel->setWordWrap(true);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 2, 8, 2);
@@ -33,7 +39,12 @@ TransportBar::TransportBar(QWidget* parent)
     layout->addWidget(m_time);
     layout->addWidget(m_playbar);
     layout->addWidget(m_skipGaps);
-    layout->addWidget(m_view, 1);
+    layout->addWidget(m_viewLabel, 1);
+    connect(m_time, &TarvoDateTimeView::jumoToTime, &selection,
+            [&selection](const QDateTime& time) { selection.goTo(time.toMSecsSinceEpoch()); });
+    connect(&selection, &Selection::momentChanged, this, &TransportBar::showMoment);
+    connect(&clock, &Clock::changed, this, &TransportBar::showMoment);
+    connect(&clock, &Clock::changed, this, &TransportBar::showView);
     setPlayable(false);
     retranslate();
 }
@@ -44,15 +55,33 @@ void TransportBar::setPlayable(bool playable)
         part->setEnabled(playable);
 }
 
-void TransportBar::setViewText(const QString& text)
+void TransportBar::setView(const TimeSpan& view)
 {
-    m_view->setText(text);
+    m_view = view;
+    showView();
+}
+
+void TransportBar::showMoment()
+{
+    const qint64 msecs = m_selection.moment();
+    m_time->updateDateTime(msecs > 0 ? QDateTime::fromMSecsSinceEpoch(msecs, m_clock.times().zone())
+                                     : QDateTime());
+}
+
+void TransportBar::showView()
+{
+    const TimeTexts& times = m_clock.times();
+    m_viewLabel->setText(m_view.isEmpty() ? tr("There is nothing to show.")
+                                          : tr("%1 – %2 (%3)")
+                                                .arg(times.dateTime(m_view.begin),
+                                                     times.dateTime(m_view.end), times.zoneName()));
 }
 
 void TransportBar::retranslate()
 {
     m_skipGaps->setText(tr("Skip gaps"));
     m_skipGaps->setToolTip(tr("Leaves out the times without a recording of the camera"));
+    showView();
 }
 
 } // namespace Review

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "look/translated.h"
+
+#include <CorvelGui/TrackDescription>
+
 #include <QWidget>
 
 class QCheckBox;
-class QDateTime;
 class QLabel;
 
 namespace CorvelGui {
@@ -13,14 +16,18 @@ class TarvoDateTimeView;
 
 namespace Review {
 
-/// What belongs to playing, in a row: the time, the playbar, the switch for gaps, and what the
-/// timeline shows.
-class TransportBar : public QWidget
+class Clock;
+class Selection;
+
+/// What belongs to playing, in a row: the selected moment, the playbar, the switch for gaps, and
+/// what the timeline shows.
+class TransportBar : public Translated<QWidget>
 {
     Q_OBJECT
 
 public:
-    explicit TransportBar(QWidget* parent = nullptr);
+    /// Owns neither; both must live longer.
+    TransportBar(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
 
     CorvelGui::PPlaybar* playbar() const { return m_playbar; }
     CorvelGui::TarvoDateTimeView* timeView() const { return m_time; }
@@ -28,15 +35,23 @@ public:
 
     /// Without a period there is nothing to play.
     void setPlayable(bool playable);
-    void setViewText(const QString& text);
-    /// Applies all translated texts again.
-    void retranslate();
+    /// What the timeline shows; empty for nothing.
+    void setView(const CorvelGui::TimeSpan& view);
+
+protected:
+    void retranslate() final;
 
 private:
+    void showMoment();
+    void showView();
+
+    const Clock& m_clock;
+    Selection& m_selection;
+    CorvelGui::TimeSpan m_view;
     CorvelGui::TarvoDateTimeView* m_time;
     CorvelGui::PPlaybar* m_playbar;
     QCheckBox* m_skipGaps;
-    QLabel* m_view;
+    QLabel* m_viewLabel;
 };
 
 } // namespace Review

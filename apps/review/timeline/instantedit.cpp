@@ -1,18 +1,21 @@
 #include "instantedit.h"
 
+#include "session/clock.h"
+
 #include <QCalendarWidget>
 #include <QSignalBlocker>
 
 namespace Review {
 
-InstantEdit::InstantEdit(const TimeTexts& times, QWidget* parent)
-    : QDateTimeEdit(parent), m_times(times)
+InstantEdit::InstantEdit(const Clock& clock, QWidget* parent)
+    : QDateTimeEdit(parent), m_clock(clock)
 {
     setTimeSpec(Qt::UTC);
-    setDisplayFormat(m_times.format().pattern());
+    setDisplayFormat(clock.times().format().pattern());
     setCalendarPopup(true);
     connect(this, &QDateTimeEdit::dateTimeChanged, this,
-            [this](const QDateTime& shown) { m_instant = m_times.fromWallClock(shown); });
+            [this](const QDateTime& shown) { m_instant = m_clock.times().fromWallClock(shown); });
+    connect(&clock, &Clock::changed, this, &InstantEdit::followClock);
 }
 
 void InstantEdit::setInstant(qint64 msecs)
@@ -21,12 +24,11 @@ void InstantEdit::setInstant(qint64 msecs)
     showInstant();
 }
 
-void InstantEdit::setTimes(const TimeTexts& times)
+void InstantEdit::followClock()
 {
-    m_times = times;
     {
         const QSignalBlocker silent(this);
-        setDisplayFormat(m_times.format().pattern());
+        setDisplayFormat(m_clock.times().format().pattern());
     }
     showInstant();
 }
@@ -34,7 +36,7 @@ void InstantEdit::setTimes(const TimeTexts& times)
 void InstantEdit::showInstant()
 {
     const QSignalBlocker silent(this);
-    setDateTime(m_times.wallClock(m_instant));
+    setDateTime(m_clock.times().wallClock(m_instant));
 }
 
 } // namespace Review

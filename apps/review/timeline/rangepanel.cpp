@@ -23,12 +23,12 @@ QCheckBox* createCheckBox(bool checked, QWidget* parent)
 
 } // namespace
 
-RangePanel::RangePanel(const TimeTexts& times, QWidget* parent)
-    : QWidget(parent)
+RangePanel::RangePanel(const Clock& clock, QWidget* parent)
+    : Translated(parent)
     , m_fromLabel(new QLabel(this))
-    , m_from(new InstantEdit(times, this))
+    , m_from(new InstantEdit(clock, this))
     , m_toLabel(new QLabel(this))
-    , m_to(new InstantEdit(times, this))
+    , m_to(new InstantEdit(clock, this))
     , m_fromView(new QPushButton(this))
     , m_search(new QPushButton(this))
     , m_clear(new QPushButton(this))
@@ -81,12 +81,6 @@ void RangePanel::setRange(const TimeSpan& range)
     m_from->setInstant(range.begin);
     m_to->setInstant(range.end);
     m_message->clear();
-}
-
-void RangePanel::setTimes(const TimeTexts& times)
-{
-    m_from->setTimes(times);
-    m_to->setTimes(times);
 }
 
 void RangePanel::createLayout()

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "look/timetexts.h"
+#include "look/translated.h"
+#include "resultlook.h"
 
 #include <CorvelGui/TrackDescription>
 
@@ -12,33 +13,22 @@ class QPushButton;
 
 namespace Review {
 
+class Clock;
 class InstantEdit;
 
-/// How a found range is shown.
-struct ResultLook
-{
-    bool markBegin = true;
-    bool markEnd = true;
-    bool onlyInside = false;
-    bool zoom = true;
-};
-
 /// Asks for the range to search, and for the range that a search found.
-class RangePanel : public QWidget
+class RangePanel : public Translated<QWidget>
 {
     Q_OBJECT
 
 public:
-    explicit RangePanel(const TimeTexts& times, QWidget* parent = nullptr);
+    explicit RangePanel(const Clock& clock, QWidget* parent = nullptr);
 
     /// Ranges that do not touch @p period are not asked for.
     void setPeriod(const CorvelGui::TimeSpan& period);
 
     CorvelGui::TimeSpan range() const;
     void setRange(const CorvelGui::TimeSpan& range);
-    void setTimes(const TimeTexts& times);
-    /// Applies all translated texts again.
-    void retranslate();
 
 Q_SIGNALS:
     /// The user wants the range of the view in the edits.
@@ -46,6 +36,9 @@ Q_SIGNALS:
     void searchWanted(const CorvelGui::TimeSpan& range);
     void resultWanted(const CorvelGui::TimeSpan& range, const Review::ResultLook& look);
     void clearWanted();
+
+protected:
+    void retranslate() final;
 
 private:
     void createLayout();

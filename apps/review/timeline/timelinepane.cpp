@@ -1,5 +1,8 @@
 #include "timelinepane.h"
 
+#include "session/clock.h"
+#include "session/selection.h"
+
 #include <CorvelGui/Indicator>
 #include <CorvelGui/Ruler>
 #include <CorvelGui/TimelineScroll>
@@ -30,34 +33,39 @@ constexpr qint64 spanAroundMarker = qint64(20) * 60 * 1'000;
 
 } // namespace
 
-TimelinePane::TimelinePane(const QString& zoneName, QWidget* parent)
-    : QWidget(parent)
+TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* parent)
+    : Translated(parent)
+    , m_clock(clock)
+    , m_selection(selection)
     , m_timeline(new ZoomTimeline(this))
     , m_ruler(m_timeline->ruler())
-    , m_zone(TimeTexts(zoneName).zone())
 {
     m_timeline->setOrvaneGuiTheme(true);
     m_timeline->setActive(true, false);
-    m_timeline->setTimeZone(zoneName);
+    m_timeline->setTimeZone(clock.zoneName());
     m_ruler->setIndicatorDragEnabled(true);
     m_ruler->setPreviewEnabled(true);
     retranslate();
 
     connect(m_ruler, &Ruler::timeLineViewChanged, this, &TimelinePane::viewChanged);
     connect(m_ruler, &Ruler::indicatorPositionChanged, this, [this](quint64 msecs) {
-        m_currentTime = qint64(msecs);
-        Q_EMIT currentTimeChanged();
+        m_indicated = qint64(msecs);
+        m_selection.setMoment(m_indicated);
     });
     connect(m_ruler, &Ruler::jumpToTime, this, [this](const QDateTime& time, const QUuid& marker) {
-        setCurrentTime(time.toMSecsSinceEpoch());
+        m_selection.goTo(time.toMSecsSinceEpoch());
         Q_EMIT markerChosen(marker);
     });
     connect(m_ruler, &Ruler::jumpToTrackTime, this,
             [this](const QDateTime& time, const QUuid& marker) {
-                jumpTo(time.toMSecsSinceEpoch(), spanAroundMarker);
+                showAround(time.toMSecsSinceEpoch(), spanAroundMarker);
+                m_selection.setMoment(time.toMSecsSinceEpoch());
                 Q_EMIT markerChosen(marker);
             });
     connect(m_ruler, &Ruler::previewPositionChanged, this, &TimelinePane::showPreview);
+    connect(&clock, &Clock::changed, this, &TimelinePane::followClock);
+    connect(&selection, &Selection::momentChanged, this, &TimelinePane::followMoment);
+    connect(&selection, &Selection::viewWanted, this, &TimelinePane::bringIntoView);
 
     for (QWidget* part : QList<QWidget*>{m_ruler, m_ruler->findChild<CorvelGui::Indicator*>(),
                                          m_timeline->timelineScroll()})
@@ -73,13 +81,10 @@ void TimelinePane::setPeriod(const TimeSpan& period)
     m_period = period;
     m_timeline->setTimeLimits(quint64(period.begin), quint64(period.end));
     clearRanges();
-    if (period.isEmpty()) {
-        setCurrentTime(0);
+    if (period.isEmpty())
         Q_EMIT viewChanged();
-        return;
-    }
-    setCurrentTime(period.begin);
-    showWholePeriod();
+    else
+        showWholePeriod();
 }
 
 void TimelinePane::setTracks(const QList<TrackDescription>& tracks)
@@ -99,12 +104,11 @@ void TimelinePane::setMarkersShown(bool shown)
         {.markers = {}, .code = shown ? RulerMarkerOperation::show : RulerMarkerOperation::hide});
 }
 
-void TimelinePane::setZone(const QString& zoneName)
+void TimelinePane::followClock()
 {
-    m_zone = TimeTexts(zoneName).zone();
-    m_timeline->setTimeZone(zoneName);
+    m_timeline->setTimeZone(m_clock.zoneName());
     // The indicator's label follows when its time is set again.
-    m_timeline->setIndicatorPosition(quint64(m_currentTime));
+    m_timeline->setIndicatorPosition(quint64(m_indicated));
 }
 
 void TimelinePane::retranslate()
@@ -123,59 +127,39 @@ void TimelinePane::changeView(Change change)
     m_ruler->processTimeLineViewChanges();
 }
 
-void TimelinePane::setCurrentTime(qint64 msecs)
+void TimelinePane::followMoment()
 {
-    m_timeline->setIndicatorPosition(quint64(msecs));
-    if (m_currentTime == msecs)
+    const qint64 msecs = m_selection.moment();
+    if (msecs == m_indicated)
         return;
-    m_currentTime = msecs;
-    Q_EMIT currentTimeChanged();
-}
-
-void TimelinePane::playTo(qint64 msecs)
-{
-    if (m_period.isEmpty())
-        return;
-    const TimeSpan shown = view();
-    if (!isInView(msecs)) {
-        if (isInView(m_currentTime)) {
+    if (!m_period.isEmpty() && !isInView(msecs)) {
+        if (isInView(m_indicated))
             changeView([&] { turnPagesTo(msecs); });
-        } else {
-            // The ruler follows its indicator wherever it is set.
-            m_ruler->blockSignalTimeLineViewChanged(true);
-            m_timeline->setIndicatorPosition(quint64(msecs));
-            beginViewAt(shown.begin);
-            m_timeline->timelineScroll()->onCenterPositionChanged(
-                m_ruler->getCurrentCenterPosition());
-            m_ruler->blockSignalTimeLineViewChanged(false);
-        }
+        else
+            placeIndicatorOutside(msecs);
     }
-    setCurrentTime(msecs);
+    m_indicated = msecs;
+    m_timeline->setIndicatorPosition(quint64(msecs));
 }
 
-void TimelinePane::showCurrentTime()
+// The ruler follows its indicator wherever it is set.
+void TimelinePane::placeIndicatorOutside(qint64 msecs)
 {
-    if (!m_period.isEmpty() && !isInView(m_currentTime))
-        changeView([this] { turnPagesTo(m_currentTime); });
+    const TimeSpan shown = view();
+    m_ruler->blockSignalTimeLineViewChanged(true);
+    m_timeline->setIndicatorPosition(quint64(msecs));
+    beginViewAt(shown.begin);
+    m_timeline->timelineScroll()->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
+    m_ruler->blockSignalTimeLineViewChanged(false);
 }
 
-void TimelinePane::goTo(qint64 msecs)
+void TimelinePane::bringIntoView(qint64 msecs)
 {
-    if (isInView(msecs))
-        setCurrentTime(msecs);
-    else
-        jumpTo(msecs);
+    if (!m_period.isEmpty() && !isInView(msecs))
+        changeView([&] { centreOn(msecs); });
 }
 
-void TimelinePane::jumpTo(qint64 msecs)
-{
-    if (m_period.isEmpty())
-        return;
-    changeView([&] { centreOn(msecs); });
-    setCurrentTime(msecs);
-}
-
-void TimelinePane::jumpTo(qint64 msecs, qint64 span)
+void TimelinePane::showAround(qint64 msecs, qint64 span)
 {
     if (m_period.isEmpty())
         return;
@@ -187,7 +171,6 @@ void TimelinePane::jumpTo(qint64 msecs, qint64 span)
         }
         centreOn(msecs);
     });
-    setCurrentTime(msecs);
 }
 
 void TimelinePane::centreOn(qint64 msecs)
@@ -271,27 +254,21 @@ bool TimelinePane::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (isLeft())
-            setHeld(true);
+            m_selection.setHeld(true);
         break;
     case QEvent::MouseButtonRelease:
         if (isLeft())
-            setHeld(false);
+            m_selection.setHeld(false);
         break;
     case QEvent::Hide:
     case QEvent::WindowDeactivate:
         // The release may go elsewhere, such as to a dialog.
-        setHeld(false);
+        m_selection.setHeld(false);
         break;
     default:
         break;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void TimelinePane::setHeld(bool held)
-{
-    if (std::exchange(m_held, held) != held)
-        Q_EMIT heldChanged(held);
 }
 
 TimeSpan TimelinePane::view() const
@@ -367,7 +344,7 @@ void TimelinePane::stepLater()
 // A view that begins at one of these times shows its labels on their clock.
 QDateTime TimelinePane::inZone(qint64 msecs) const
 {
-    return QDateTime::fromMSecsSinceEpoch(msecs, m_zone);
+    return QDateTime::fromMSecsSinceEpoch(msecs, m_clock.times().zone());
 }
 
 qint64 TimelinePane::msecsPerPixel() const

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace Review {
 
 TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
-    : QToolBar(parent), m_timeline(timeline)
+    : Translated(parent), m_timeline(timeline)
 {
     setObjectName(u"timelineToolBar"_s);
     setMovable(false);

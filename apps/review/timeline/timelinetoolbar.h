@@ -1,5 +1,7 @@
 #pragma once
 
+#include "look/translated.h"
+
 #include <QToolBar>
 
 namespace Review {
@@ -8,7 +10,7 @@ class TimelinePane;
 
 /// What can be done to the view of a timeline: buttons and shortcuts, enabled while they can do
 /// something.
-class TimelineToolBar : public QToolBar
+class TimelineToolBar : public Translated<QToolBar>
 {
     Q_OBJECT
 
@@ -19,8 +21,9 @@ public:
     QList<QAction*> viewActions() const;
     /// Checkable: whether the panel for ranges is shown.
     QAction* showRanges() const { return m_showRanges; }
-    /// Applies all translated texts again.
-    void retranslate();
+
+protected:
+    void retranslate() final;
 
 private:
     void showState();

@@ -783,7 +783,7 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
-    <name>Review::ReviewWindow</name>
+    <name>Review::ReviewOpener</name>
     <message>
         <source>Open folder</source>
         <translation>Ordner öffnen</translation>
@@ -792,10 +792,31 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>There is no recordings.csv, events.csv or deployments.csv in %1.</source>
         <translation>In %1 gibt es weder recordings.csv noch events.csv oder deployments.csv.</translation>
     </message>
+</context>
+<context>
+    <name>Review::ReviewPanes</name>
+    <message>
+        <source>There are no more recordings of this camera.</source>
+        <translation>Es gibt keine weiteren Aufzeichnungen dieser Kamera.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ReviewStatusBar</name>
     <message>
         <source>There is no time zone “%1”. Times stay in %2.</source>
         <translation>Es gibt keine Zeitzone „%1“. Die Zeiten bleiben in %2.</translation>
     </message>
+    <message>
+        <source>Tracks: %1    Recordings: %2    Events: %3</source>
+        <translation>Spuren: %1    Aufzeichnungen: %2    Ereignisse: %3</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ReviewWindow</name>
     <message>
         <source>Recording review</source>
         <translation>Aufzeichnungen sichten</translation>
@@ -803,26 +824,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Dark look</source>
         <translation>Dunkles Aussehen</translation>
-    </message>
-    <message>
-        <source>Time zone</source>
-        <translation>Zeitzone</translation>
-    </message>
-    <message>
-        <source>Tracks: %1    Recordings: %2    Events: %3</source>
-        <translation>Spuren: %1    Aufzeichnungen: %2    Ereignisse: %3</translation>
-    </message>
-    <message>
-        <source>There is nothing to show.</source>
-        <translation>Es gibt nichts zu zeigen.</translation>
-    </message>
-    <message>
-        <source>%1 – %2 (%3)</source>
-        <translation>%1 – %2 (%3)</translation>
-    </message>
-    <message>
-        <source>There are no more recordings of this camera.</source>
-        <translation>Es gibt keine weiteren Aufzeichnungen dieser Kamera.</translation>
     </message>
 </context>
 <context>
@@ -961,6 +962,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Leaves out the times without a recording of the camera</source>
         <translation>Lässt die Zeiten aus, in denen die Kamera nichts aufgezeichnet hat</translation>
+    </message>
+    <message>
+        <source>There is nothing to show.</source>
+        <translation>Es gibt nichts zu zeigen.</translation>
+    </message>
+    <message>
+        <source>%1 – %2 (%3)</source>
+        <translation>%1 – %2 (%3)</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,7 @@ namespace Review {
 ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
                              const TimelineToolBar& toolBar, QAction* darkLook, UpdateMenu* updates,
                              QWidget* parent)
-    : QMenuBar(parent), m_updates(updates)
+    : Translated(parent)
 {
     m_file = addMenu(QString());
     m_open = m_file->addAction(QString());
@@ -53,7 +53,6 @@ void ReviewMenuBar::retranslate()
     m_devices->setTitle(tr("&Devices"));
     m_view->setTitle(tr("&View"));
     m_tools->setTitle(tr("&Tools"));
-    m_updates->retranslate();
 }
 
 } // namespace Review

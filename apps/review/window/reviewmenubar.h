@@ -1,5 +1,7 @@
 #pragma once
 
+#include "look/translated.h"
+
 #include <QMenuBar>
 
 namespace Review {
@@ -10,7 +12,7 @@ class TimelineToolBar;
 class UpdateMenu;
 
 /// The client's menus, made of the actions of its panes and of some of their own.
-class ReviewMenuBar : public QMenuBar
+class ReviewMenuBar : public Translated<QMenuBar>
 {
     Q_OBJECT
 
@@ -24,8 +26,9 @@ public:
     QAction* quit() const { return m_quit; }
     /// For what belongs to the whole program; hidden as long as it is empty.
     QMenu* tools() const { return m_tools; }
-    /// Applies all translated texts again.
-    void retranslate();
+
+protected:
+    void retranslate() final;
 
 private:
     QMenu* m_file;
@@ -35,7 +38,6 @@ private:
     QMenu* m_devices;
     QMenu* m_view;
     QMenu* m_tools;
-    UpdateMenu* m_updates;
 };
 
 } // namespace Review

@@ -1,54 +1,44 @@
 #pragma once
 
 #include "data/reviewloader.h"
-#include "look/timetexts.h"
+#include "look/translated.h"
+#include "session/clock.h"
+#include "session/selection.h"
 
 #include <CorvelGui/IUserSettings>
 #include <CorvelGui/PMainWindow>
 
-#include <memory>
-
 class QAction;
-class QLabel;
 class QMenu;
-class QSplitter;
 
 namespace Review {
 
-class DevicePane;
-class EventPane;
-class ExportPanel;
 class LoadJob;
-class PlaybackPane;
-class Player;
-class PreviewCard;
 class ProblemDock;
-class RangePanel;
 class ReviewMenuBar;
+class ReviewOpener;
+class ReviewPanes;
 struct ReviewSettings;
-class TimelinePane;
+class ReviewStatusBar;
 class TimelineToolBar;
-class TransportBar;
 class UpdateMenu;
-class ZoneCombo;
 
-/// The client's window: cameras, the picture of one of them, and events; the timeline that shows
-/// the checked ones, and what plays it; the lines that could not be loaded.
-class ReviewWindow : public CorvelGui::PMainWindow, public IUserSettings
+/// The client's window: the panes, and around them menus, tool bar, status bar and the lines that
+/// could not be loaded.
+class ReviewWindow : public Translated<CorvelGui::PMainWindow>, public IUserSettings
 {
     Q_OBJECT
 
 public:
     /// @p zoneName is the zone of all times; an empty one means the zone of this machine.
     ReviewWindow(const QString& zoneName, bool dark, QWidget* parent = nullptr);
+    ~ReviewWindow() override;
 
     /// Replaces all that is shown.
     void setReview(const ReviewData& review, const ProblemList& problems = {});
     /// Shows files, or the sample when none is named, as soon as they are loaded. Not while
     /// another load is under way.
     void load(const ReviewFiles& files);
-
-    ~ReviewWindow() override;
 
     /// Shows the day in the middle of the period, with the indicator on the first event after noon.
     void showMiddleDay();
@@ -73,58 +63,27 @@ Q_SIGNALS:
     void loaded(const QString& error);
 
 protected:
-    void changeEvent(QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
+    void retranslate() final;
 
 private:
-    QWidget* createContent();
-    QWidget* createTables(QWidget* parent);
     void createToolBar(bool dark);
-    void createStatusBar();
     void connectParts();
-    void connectPlayer();
-    void restoreTables();
-    void retranslate();
-
-    void openFolder();
-    void finishLoading();
+    void showLoaded(const LoadJob& job);
     void exportPictures();
     void enableExport();
-    void setTimes(const TimeTexts& times, const QString& zoneName);
-    void renewSample();
-    void showCounts();
-    void showCheckedTracks();
-    void showView();
-    void showCameraOf(qsizetype event);
-    void showCurrentTime();
-    void showPreview(qint64 msecs, const QPoint& position, bool onMarker);
 
-    ReviewData m_review;
+    Clock m_clock;
+    Selection m_selection;
     bool m_showsSample = false;
-    TimeTexts m_times;
-    QSplitter* m_tables;
-    /// Until the window is shown.
-    QByteArray m_tablesState;
-    DevicePane* m_devices;
-    EventPane* m_events;
-    PlaybackPane* m_playback;
-    RangePanel* m_ranges;
-    TransportBar* m_transport;
-    TimelinePane* m_timeline;
-    Player* m_player;
-    PreviewCard* m_preview;
-    ProblemDock* m_problems;
-    std::unique_ptr<LoadJob> m_loading;
 
+    ReviewPanes* m_panes;
+    ReviewStatusBar* m_status;
     TimelineToolBar* m_toolBar;
-    QAction* m_darkLook;
+    ProblemDock* m_problems;
     UpdateMenu* m_updates;
+    QAction* m_darkLook;
     ReviewMenuBar* m_menus;
-
-    ExportPanel* m_exportPanel;
-    QLabel* m_countsLabel;
-    QLabel* m_zoneLabel;
-    ZoneCombo* m_zone;
+    ReviewOpener* m_opener;
 };
 
 } // namespace Review

@@ -14,7 +14,7 @@ using CorvelGui::PCheckVersionUpdate;
 namespace Review {
 
 UpdateMenu::UpdateMenu(QWidget* window, QStatusBar* statusBar)
-    : QMenu(window)
+    : Translated(window)
     , m_window(window)
     , m_progress(new QProgressBar(statusBar))
     , m_checkVersionFile(addAction(QString()))

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "look/translated.h"
+#include "options/updateservers.h"
+
 #include <QMenu>
 
 #include <memory>
@@ -14,20 +17,8 @@ class PCheckVersionUpdate;
 
 namespace Review {
 
-/// Where newer versions of the client are looked for.
-struct UpdateServers
-{
-    /// Folders with a version file each, with a slash at their end.
-    QString internalChannel = QStringLiteral("http://127.0.0.1:8480/internal/");
-    QString publicServer = QStringLiteral("http://127.0.0.1:8480/");
-    /// Answers update queries.
-    QString queryServer = QStringLiteral("http://127.0.0.1:8480");
-
-    bool operator==(const UpdateServers&) const = default;
-};
-
 /// Looks for a newer version of the client: by a version file, and by a query.
-class UpdateMenu : public QMenu
+class UpdateMenu : public Translated<QMenu>
 {
     Q_OBJECT
 
@@ -38,8 +29,9 @@ public:
 
     /// Also gives up what is under way at other servers.
     void setServers(const UpdateServers& servers);
-    /// Applies all translated texts again.
-    void retranslate();
+
+protected:
+    void retranslate() final;
 
 private:
     void showDownload(qint64 received, qint64 total);

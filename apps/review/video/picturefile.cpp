@@ -1,11 +1,9 @@
-#include "picture.h"
+#include "picturefile.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImage>
-#include <QPixmap>
 #include <QSaveFile>
-#include <QWidget>
 
 namespace Review {
 
@@ -22,11 +20,6 @@ QString writePicture(const QImage& picture, const QString& path)
         file.commit())
         return {};
     return file.errorString();
-}
-
-QString writePicture(QWidget& widget, const QString& path)
-{
-    return writePicture(widget.grab().toImage(), path);
 }
 
 } // namespace Review

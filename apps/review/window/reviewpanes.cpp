@@ -1,0 +1,215 @@
+#include "reviewpanes.h"
+
+#include "lists/devicepane.h"
+#include "lists/eventpane.h"
+#include "playback/playbackpane.h"
+#include "playback/player.h"
+#include "playback/transportbar.h"
+#include "session/clock.h"
+#include "session/selection.h"
+#include "timeline/eventmarkers.h"
+#include "timeline/previewcard.h"
+#include "timeline/rangepanel.h"
+#include "timeline/timelinepane.h"
+
+#include <CorvelGui/TarvoDateTimeView>
+
+#include <QCheckBox>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+using CorvelGui::TarvoDateTimeView;
+using CorvelGui::TimeSpan;
+
+namespace Review {
+
+ReviewPanes::ReviewPanes(const Clock& clock, Selection& selection, QWidget* parent)
+    : Translated(parent)
+    , m_clock(clock)
+    , m_selection(selection)
+    , m_tables(new QSplitter(this))
+    , m_devices(new DevicePane(clock, selection, m_tables))
+    , m_playback(new PlaybackPane(clock, selection, m_tables))
+    , m_events(new EventPane(clock, m_tables))
+    , m_ranges(new RangePanel(clock, this))
+    , m_transport(new TransportBar(clock, selection, this))
+    , m_timeline(new TimelinePane(clock, selection, this))
+    , m_player(new Player(selection, m_transport->playbar(), this))
+    , m_preview(new PreviewCard(window()))
+{
+    createLayout();
+    connectLists();
+    connectTimeline();
+    connectPlayer();
+}
+
+void ReviewPanes::createLayout()
+{
+    m_tables->setChildrenCollapsible(false);
+    // In proportion.
+    m_tables->setSizes({300, 560, 440});
+    m_ranges->hide();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_tables, 1);
+    layout->addWidget(m_ranges);
+    layout->addWidget(m_transport);
+    layout->addWidget(m_timeline);
+}
+
+void ReviewPanes::connectLists()
+{
+    connect(m_devices, &DevicePane::checkedTracksChanged, this, &ReviewPanes::showCheckedTracks);
+    connect(m_devices, &DevicePane::camerasAdded, this, &ReviewPanes::told);
+    connect(m_events, &EventPane::eventOpened, this, &ReviewPanes::openEvent);
+}
+
+void ReviewPanes::connectTimeline()
+{
+    connect(m_timeline, &TimelinePane::viewChanged, this,
+            [this] { m_transport->setView(m_timeline->view()); });
+    connect(m_timeline, &TimelinePane::markerChosen, this, [this](const QUuid& marker) {
+        const qsizetype event = EventMarkers::indexOf(marker);
+        m_events->select(event);
+        showCameraOf(event);
+    });
+    connect(m_timeline, &TimelinePane::previewChanged, this, &ReviewPanes::showPreview);
+    connect(&m_clock, &Clock::changed, m_preview, &QWidget::hide);
+
+    connect(m_ranges, &RangePanel::viewWanted, this,
+            [this] { m_ranges->setRange(m_timeline->view()); });
+    connect(m_ranges, &RangePanel::searchWanted, m_timeline, &TimelinePane::setSearchRange);
+    connect(m_ranges, &RangePanel::resultWanted, m_timeline, &TimelinePane::setResultRange);
+    connect(m_ranges, &RangePanel::clearWanted, m_timeline, &TimelinePane::clearRanges);
+}
+
+void ReviewPanes::connectPlayer()
+{
+    connect(m_playback, &PlaybackPane::feedChanged, this, [this] {
+        const CameraFeed* feed = m_playback->feed();
+        m_player->setTrack(feed ? &feed->history() : nullptr);
+        m_transport->timeView()->setDeviceName(feed ? feed->camera() : QString());
+    });
+    connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
+    connect(m_player, &Player::playingChanged, m_transport->timeView(),
+            &TarvoDateTimeView::setPlayMode);
+    connect(m_player, &Player::ranOutOfRecordings, this,
+            [this] { Q_EMIT told(tr("There are no more recordings of this camera.")); });
+}
+
+void ReviewPanes::setReview(const ReviewData& review)
+{
+    const TimeSpan period = review.period();
+    m_player->setPeriod(period);
+    m_transport->setPlayable(!period.isEmpty());
+    m_ranges->setPeriod(period);
+    m_timeline->setPeriod(period);
+    setTexts(review);
+    m_selection.setMoment(period.begin);
+}
+
+void ReviewPanes::setTexts(const ReviewData& review)
+{
+    m_review = review;
+    m_devices->setReview(m_review);
+    m_events->setReview(m_review);
+    m_playback->setEvents(m_review.events);
+    showCheckedTracks();
+}
+
+void ReviewPanes::showMiddleDay()
+{
+    const TimeSpan period = m_review.period();
+    if (period.isEmpty())
+        return;
+    constexpr qint64 day = qint64(24) * 60 * 60 * 1'000;
+    const TimeTexts& times = m_clock.times();
+    const QDateTime middle = times.wallClock(period.begin + (period.end - period.begin) / 2);
+    const qint64 noon = times.fromWallClock(QDateTime(middle.date(), QTime(12, 0), Qt::UTC));
+    m_timeline->showAround(noon, day);
+    m_selection.setMoment(noon);
+
+    const auto event = std::ranges::lower_bound(m_review.events, noon, {}, &Event::time);
+    if (event != m_review.events.end() && event->time < noon + day / 2) {
+        openEvent(event - m_review.events.begin());
+        m_events->select(event - m_review.events.begin());
+    }
+}
+
+QByteArray ReviewPanes::saveWidths() const
+{
+    return m_tables->saveState();
+}
+
+void ReviewPanes::restoreWidths(const QByteArray& widths)
+{
+    // Only in a window of its final size the widths stay what they were.
+    if (isVisible())
+        m_tables->restoreState(widths);
+    else
+        m_widths = widths;
+}
+
+void ReviewPanes::showEvent(QShowEvent* event)
+{
+    Translated::showEvent(event);
+    if (m_widths.isEmpty())
+        return;
+    layout()->activate();
+    m_tables->restoreState(std::exchange(m_widths, {}));
+}
+
+// The markers say what kinds of events are called.
+void ReviewPanes::retranslate()
+{
+    showCheckedTracks();
+}
+
+void ReviewPanes::showCheckedTracks()
+{
+    m_timeline->setTracks(m_devices->checkedTracks());
+    m_playback->setTracks(m_devices->checkedTracks());
+    m_events->setHiddenTracks(m_devices->uncheckedTracks());
+
+    QList<CorvelGui::RulerMarker> markers;
+    const EventList& events = m_events->events();
+    markers.reserve(qsizetype(events.shownEvents().size()));
+    for (const qsizetype index : events.shownEvents())
+        markers.append(EventMarkers::marker(events.event(index), index, events.trackName(index)));
+    m_timeline->setMarkers(markers);
+}
+
+void ReviewPanes::openEvent(qsizetype event)
+{
+    showCameraOf(event);
+    m_selection.goTo(m_review.events.at(event).time);
+}
+
+void ReviewPanes::showCameraOf(qsizetype event)
+{
+    if (event >= 0 && event < m_review.events.size())
+        m_selection.setCamera(m_review.events.at(event).track);
+}
+
+void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, bool onMarker)
+{
+    if (msecs == 0) {
+        m_preview->hide();
+        return;
+    }
+    PreviewContent content{.time = m_clock.times().exactDateTime(msecs),
+                           .events = {},
+                           .tracks = m_devices->statesAt(msecs)};
+    if (onMarker) {
+        for (const Event& event : m_events->events().eventsAt(msecs))
+            content.events.append({EventKinds::parse(event.kind), EventMarkers::textOf(event)});
+    }
+    constexpr int distance = 6;
+    m_preview->showContent(content, m_timeline->mapTo(window(), position - QPoint(0, distance)));
+}
+
+} // namespace Review

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "data/reviewdata.h"
+#include "look/translated.h"
+
+#include <QWidget>
+
+class QSplitter;
+
+namespace Review {
+
+class Clock;
+class DevicePane;
+class EventPane;
+class PlaybackPane;
+class Player;
+class PreviewCard;
+class RangePanel;
+class Selection;
+class TimelinePane;
+class TransportBar;
+
+/// Cameras, the picture of one of them, and events; the timeline that shows the checked cameras,
+/// and what plays it. Knows what one pane means to another.
+class ReviewPanes : public Translated<QWidget>
+{
+    Q_OBJECT
+
+public:
+    /// Owns neither; both must live longer.
+    ReviewPanes(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
+
+    /// Replaces all that is shown.
+    void setReview(const ReviewData& review);
+    /// Replaces what differs in names and texts only. View and moment stay.
+    void setTexts(const ReviewData& review);
+    /// Shows the day in the middle of the period, with the indicator on the first event after noon.
+    void showMiddleDay();
+
+    const DevicePane& devices() const { return *m_devices; }
+    const EventPane& events() const { return *m_events; }
+    const PlaybackPane& playback() const { return *m_playback; }
+    RangePanel* ranges() const { return m_ranges; }
+    TransportBar* transport() const { return m_transport; }
+    TimelinePane* timeline() const { return m_timeline; }
+    Player* player() const { return m_player; }
+
+    /// The widths of the panes in the upper row.
+    QByteArray saveWidths() const;
+    /// They hold from the moment on at which the panes are shown.
+    void restoreWidths(const QByteArray& widths);
+
+Q_SIGNALS:
+    /// Tells the user in a sentence what has happened.
+    void told(const QString& sentence);
+
+protected:
+    void retranslate() final;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void createLayout();
+    void connectLists();
+    void connectTimeline();
+    void connectPlayer();
+
+    void showCheckedTracks();
+    void openEvent(qsizetype event);
+    void showCameraOf(qsizetype event);
+    void showPreview(qint64 msecs, const QPoint& position, bool onMarker);
+
+    const Clock& m_clock;
+    Selection& m_selection;
+    ReviewData m_review;
+
+    QSplitter* m_tables;
+    DevicePane* m_devices;
+    PlaybackPane* m_playback;
+    EventPane* m_events;
+    RangePanel* m_ranges;
+    TransportBar* m_transport;
+    TimelinePane* m_timeline;
+    Player* m_player;
+    PreviewCard* m_preview;
+    /// Until the panes are shown.
+    QByteArray m_widths;
+};
+
+} // namespace Review
