@@ -33,6 +33,7 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(minimumRulerWidth, initialHeight);
     setMaximumHeight(initialHeight);
+    d->focus = new KeyboardFocus(this);
 
     d->dateFormat = u"dd.MM.yy"_s;
     d->headerHeight = initialHeight / 4;
@@ -51,9 +52,9 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     connect(&d->mouseTimer, &QTimer::timeout, this, &Ruler::onMouseTimerTimeout);
 
     setUpAccessibility();
-    setOrvaneGuiTheme(true);
+    applyLook();
     setActive(false, false);
-    updateSize();
+    layOutChildren();
 }
 
 Ruler::~Ruler() = default;
@@ -61,6 +62,7 @@ Ruler::~Ruler() = default;
 void Ruler::setTimeLimits(quint64 begin, quint64 end)
 {
     const QDateTime oldViewStart = d->scale.viewStart();
+    const quint64 oldSpan = d->scale.millisecondsPerLevel();
     d->scale.setTimeLimits(begin, end);
 
     const auto announceFirstView = [&] {
@@ -69,7 +71,7 @@ void Ruler::setTimeLimits(quint64 begin, quint64 end)
     };
     const auto keepIndicatorWithinLimits = [this] {
         // No indicator counts as one at the epoch: it comes to the begin of the first period.
-        const qint64 indicator = qint64(getIndicatorMSecs());
+        const qint64 indicator = qint64(d->exactIndicator);
         if (indicator < d->scale.beginLimitMs())
             setIndicatorPosition(quint64(d->scale.beginLimitMs()));
         else if (d->scale.endLimitMs() < indicator)
@@ -78,8 +80,11 @@ void Ruler::setTimeLimits(quint64 begin, quint64 end)
     if (!whileAlive(this, announceFirstView, keepIndicatorWithinLimits))
         return;
 
-    updateTrackSegments();
     const bool viewChanged = d->scale.hasView() && d->scale.viewStart() != oldViewStart;
+    if (viewChanged || d->scale.millisecondsPerLevel() != oldSpan)
+        followView();
+    else
+        updateTrackSegments();
     whileAlive(
         this, [&] { updateChildren(viewChanged); },
         [&] {
@@ -148,7 +153,7 @@ void Ruler::changeLevel(int level, double anchor)
     d->scale.changeLevel(level, anchor);
     const bool changed = d->scale.level() != oldLevel;
     if (changed)
-        updateTrackSegments();
+        followView();
     whileAlive(
         this, [&] { updateChildren(changed); },
         [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
@@ -177,6 +182,8 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
     const quint64 distance = msecs > current ? msecs - current : current - msecs;
     if (distance == 0 || double(distance) * lengthPerMillisecond() < 1.0) {
         showIndicatorTime(msecs);
+        if (!d->indicatorDragging)
+            d->exactIndicator = msecs;
         return false;
     }
     if (d->indicatorDragging)
@@ -189,7 +196,7 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
 
     setIndicatorTime(d->scale.inZone(TimeScale::instant(msecs)));
     if (d->scale.pageTo(d->indicatorTime)) {
-        updateTrackSegments();
+        followView();
         whileAlive(
             this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); });
     } else {
@@ -201,6 +208,11 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
 quint64 Ruler::getIndicatorMSecs() const
 {
     return d->indicatorTime.isValid() ? quint64(d->indicatorTime.toMSecsSinceEpoch()) : 0;
+}
+
+quint64 Ruler::exactIndicatorMSecs() const
+{
+    return d->exactIndicator;
 }
 
 double Ruler::getIndicatorPosition() const
@@ -388,7 +400,7 @@ void Ruler::onTimelineOffsetChanged(double position)
 {
     if (!d->scale.centerOnPosition(position))
         return;
-    updateTrackSegments();
+    followView();
     whileAlive(
         this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); });
 }
@@ -412,6 +424,17 @@ void Ruler::updateTrackSegments()
     update();
 }
 
+// What goes with every other view. Steps of the indicator that were less than a pixel of the old
+// one may be more now.
+void Ruler::followView()
+{
+    if (d->exactIndicator != getIndicatorMSecs())
+        setIndicatorTime(d->exactIndicator == 0
+                             ? QDateTime()
+                             : d->scale.inZone(TimeScale::instant(d->exactIndicator)));
+    updateTrackSegments();
+}
+
 void Ruler::setUpAccessibility()
 {
     const auto begin = [this] {
@@ -426,13 +449,13 @@ void Ruler::setUpAccessibility()
             .maximum = [this] { return double(d->scale.endLimitMs()); },
             .value =
                 [this, begin] {
-                    return d->indicatorTime.isValid() ? double(getIndicatorMSecs()) : begin();
+                    return d->indicatorTime.isValid() ? double(d->exactIndicator) : begin();
                 },
             .step = [this] { return double(d->scale.millisecondsPerMinorDivision()); },
             .text =
                 [this] {
                     return d->indicatorTime.isValid()
-                               ? QLocale().toString(d->scale.inZone(qint64(getIndicatorMSecs())))
+                               ? QLocale().toString(d->scale.inZone(qint64(d->exactIndicator)))
                                : tr("No position");
                 },
             .move =
@@ -445,6 +468,7 @@ void Ruler::setUpAccessibility()
 void Ruler::setIndicatorTime(const QDateTime& time)
 {
     d->indicatorTime = time;
+    d->exactIndicator = getIndicatorMSecs();
     d->accessible->reportValueChange();
 }
 
@@ -456,7 +480,7 @@ void Ruler::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
         return;
     const bool levelChanged = d->scale.level() != oldLevel;
     if (levelChanged || d->scale.viewStartMs() != oldStart)
-        updateTrackSegments();
+        followView();
     whileAlive(
         this, [&] { updateChildren(levelChanged); },
         [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
@@ -484,7 +508,7 @@ void Ruler::emitTimeLineViewChanged(bool moving)
 
 void Ruler::viewMovedByUser(bool moving)
 {
-    updateTrackSegments();
+    followView();
     whileAlive(
         this, [this] { updateChildren(true); },
         [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },

@@ -72,9 +72,13 @@ public:
     // The indicator
 
     /// Moves the indicator; 0 takes it away. The view pages after it. Returns false when the
-    /// indicator stays where it is, because the move is shorter than a pixel.
+    /// indicator stays where it is, because the move is shorter than a pixel: only its label shows
+    /// the new time, until the view changes.
     bool setIndicatorPosition(quint64 msecs);
+    /// Where the indicator stands, in whole steps of a pixel; 0 if there is none.
     quint64 getIndicatorMSecs() const;
+    /// The time that the indicator was given last, whatever its step.
+    quint64 exactIndicatorMSecs() const;
     /// Relative position of the indicator.
     double getIndicatorPosition() const;
     /// The time of the preview line; 0 clears it. It is drawn while onPreviewVisible() says so.
@@ -113,8 +117,8 @@ public:
 
     // Appearance and state
 
-    /// True puts the theme's colours in. False leaves the colours as they are, and changes the
-    /// indicator's only.
+    /// True puts the theme's colours in, which a new ruler does not wear yet. False leaves the
+    /// colours as they are, and changes the indicator's only.
     void setOrvaneGuiTheme(bool on);
     /// Point size of all text on the ruler, from 1 to 200.
     void setFontSize(unsigned int points);
@@ -198,9 +202,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void applyLook();
     void createGradients();
     void layOutChildren();
     void updateTrackSegments();
+    void followView();
     void setUpAccessibility();
     void setIndicatorTime(const QDateTime& time);
     void updateIndicator();

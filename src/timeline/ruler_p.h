@@ -4,6 +4,7 @@
 #include "base/whilealive.h"
 #include "hoverpreview.h"
 #include "indicator.h"
+#include "keyboardfocus.h"
 #include "ruler.h"
 #include "rulerarrows.h"
 #include "rulermarkers.h"
@@ -40,7 +41,10 @@ struct Ruler::Private
     RulerArrows* arrows = nullptr;
     RulerMarkers* markers = nullptr;
 
+    const KeyboardFocus* focus = nullptr;
+
     QDateTime indicatorTime;
+    quint64 exactIndicator = 0; ///< with the steps below a pixel; 0 without an indicator
     bool indicatorDragEnabled = false;
     bool indicatorDragging = false;
 

@@ -324,7 +324,7 @@ void Ruler::keyPressEvent(QKeyEvent* event)
     const qint64 step = event->modifiers() & Qt::ShiftModifier
                             ? scale.millisecondsPerInterval()
                             : scale.millisecondsPerMinorDivision();
-    const qint64 indicator = qint64(getIndicatorMSecs());
+    const qint64 indicator = qint64(d->exactIndicator);
     const qint64 span = qint64(scale.millisecondsPerLevel());
     switch (event->key()) {
     case Qt::Key_Left:
@@ -360,7 +360,7 @@ void Ruler::keyPressEvent(QKeyEvent* event)
 void Ruler::moveIndicatorByKey(qint64 msecs)
 {
     const qint64 target = std::clamp(msecs, d->scale.beginLimitMs(), d->scale.endLimitMs());
-    if (d->resultMode || target == qint64(getIndicatorMSecs()))
+    if (d->resultMode || target == qint64(d->exactIndicator))
         return;
     setIndicatorTime(d->scale.inZone(target));
     whileAlive(
@@ -388,7 +388,7 @@ void Ruler::moveViewByKey(qint64 msecs)
 void Ruler::jumpToNeighbour(int direction)
 {
     const std::optional<RulerMarker> marker =
-        d->markers->takeNeighbour(qint64(getIndicatorMSecs()), direction,
+        d->markers->takeNeighbour(qint64(d->exactIndicator), direction,
                                   {.begin = d->scale.beginLimitMs(), .end = d->scale.endLimitMs()});
     if (!marker)
         return;

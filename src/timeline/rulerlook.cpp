@@ -38,13 +38,18 @@ QRect markerArea(const QRect& rect, int headerHeight, bool hasTracks)
 void Ruler::setOrvaneGuiTheme(bool on)
 {
     d->theme = on;
-    d->indicator->setLook(indicatorColor(on, d->playMode), d->fontSize);
     // Without the theme the colours stay as they are: there is no way back to those from before it.
     if (on)
         d->painter.colors = RulerColors::ofTheme();
-    createGradients();
+    applyLook();
     d->markers->setOrvaneGuiTheme(on);
     updateChildren(false);
+}
+
+void Ruler::applyLook()
+{
+    d->indicator->setLook(indicatorColor(d->theme, d->playMode), d->fontSize);
+    createGradients();
 }
 
 void Ruler::setFontSize(unsigned int points)
@@ -106,7 +111,7 @@ void Ruler::paintEvent(QPaintEvent*)
         scene.resultMarks.push_back(d->resultRange->begin);
     if (d->resultRange && d->resultEndMarked)
         scene.resultMarks.push_back(d->resultRange->end);
-    scene.focused = hasFocus();
+    scene.focus = d->focus;
     d->painter.paint(painter, scene);
 }
 
@@ -115,7 +120,7 @@ void Ruler::resizeEvent(QResizeEvent*)
     d->scale.setWidth(width());
     createGradients();
     layOutChildren();
-    updateTrackSegments();
+    followView();
     updateChildren(true);
 }
 
@@ -149,7 +154,7 @@ void Ruler::updateIndicator()
     const double x = std::trunc(d->scale.xAt(qint64(getIndicatorMSecs())));
     if (d->scale.isInSight(x) && d->scale.hasView() && d->indicatorTime.isValid() &&
         !d->resultMode) {
-        showIndicatorTime(getIndicatorMSecs());
+        showIndicatorTime(d->exactIndicator);
         d->indicator->moveHotSpotTo(int(x));
         d->indicator->show();
     } else {

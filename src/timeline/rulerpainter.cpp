@@ -1,6 +1,7 @@
 #include "rulerpainter.h"
 
 #include "devicegrid.h"
+#include "keyboardfocus.h"
 #include "ticklayout.h"
 #include "timescale.h"
 #include "tracksegments.h"
@@ -75,6 +76,8 @@ void RulerPainter::createGradients(const QRect& rect, int headerHeight)
 void RulerPainter::paint(QPainter& painter, const RulerScene& scene) const
 {
     fillBands(painter, scene);
+    if (scene.focus)
+        scene.focus->draw(painter);
     if (!scene.scale.hasView())
         return;
     fillSearchRange(painter, scene);
@@ -88,7 +91,6 @@ void RulerPainter::paint(QPainter& painter, const RulerScene& scene) const
     drawPreviewLine(painter, scene, rect);
     drawScaleRuler(painter, scene, rect, toMidnight);
     drawResultMarks(painter, scene);
-    drawFocus(painter, scene);
 }
 
 void RulerPainter::fillBands(QPainter& painter, const RulerScene& scene) const
@@ -176,17 +178,6 @@ void RulerPainter::drawResultMarks(QPainter& painter, const RulerScene& scene) c
         painter.fillRect(grid.aligned(QRectF(left, 0, flagWidth, scene.headerHeight / 3.0)),
                          colors.resultMark);
     }
-}
-
-void RulerPainter::drawFocus(QPainter& painter, const RulerScene& scene) const
-{
-    if (!scene.focused)
-        return;
-    const double frame = DeviceGrid(painter).lineWidth(penWidth);
-    const QRectF inner = QRectF(scene.rect).adjusted(frame / 2, frame / 2, -frame / 2, -frame / 2);
-    painter.setPen(QPen(POrvGuiTheme::colorBlue, frame));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(inner);
 }
 
 void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,

@@ -14,6 +14,7 @@ class QPainter;
 
 namespace CorvelGui {
 
+class KeyboardFocus;
 class TimeScale;
 class TrackSegments;
 
@@ -44,7 +45,7 @@ struct RulerScene
     std::optional<TimeSpan> searchRange = {}; ///< only while it is displayed
     std::optional<qint64> previewTime = {};   ///< only while it is visible
     std::vector<qint64> resultMarks = {};
-    bool focused = false;
+    const KeyboardFocus* focus = nullptr;
 };
 
 /// Draws the ruler's bands, highlights and scale. It decides about colours and pixels, never about
@@ -66,7 +67,6 @@ private:
     void fillTracks(QPainter& painter, const RulerScene& scene) const;
     void shadeOutsideLimits(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
     void drawResultMarks(QPainter& painter, const RulerScene& scene) const;
-    void drawFocus(QPainter& painter, const RulerScene& scene) const;
     void drawPreviewLine(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
     void drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
                         qint64 toMidnight) const;

@@ -2,6 +2,7 @@
 
 #include "accessiblerange.h"
 #include "devicegrid.h"
+#include "keyboardfocus.h"
 #include "viewareabox.h"
 
 #include <Hueloft/POrvGuiTheme>
@@ -11,7 +12,6 @@
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QTimer>
 
 #include <algorithm>
@@ -35,15 +35,6 @@ constexpr double keyStepsPerView = 10.0;
 QRectF pixelRect(int left, int top, int right, int bottom)
 {
     return {QPointF(left, top), QPointF(std::max(right + 1, left), std::max(bottom + 1, top))};
-}
-
-void drawFocusFrame(QPainter& painter, const DeviceGrid& grid, const QRectF& rect)
-{
-    const double width = grid.lineWidth(1.0);
-    QPainterPath frame;
-    frame.addRect(rect);
-    frame.addRect(rect.adjusted(width, width, -width, -width));
-    painter.fillPath(frame, POrvGuiTheme::colorBlue);
 }
 
 } // namespace
@@ -109,6 +100,7 @@ struct TimelineScroll::Private
     int dragOffset = 0;
     int step = 0;
     QTimer repeatTimer{q};
+    const KeyboardFocus* const focus = new KeyboardFocus(q);
 
     AccessibleRange accessible;
 };
@@ -246,6 +238,7 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
     background.setColorAt(0.9, POrvGuiTheme::colorPanther);
     background.setColorAt(1.0, POrvGuiTheme::colorBlack);
     painter.fillRect(rect(), background);
+    d->focus->draw(painter);
 
     const ViewAreaBox box = d->box();
     const QColor boxColor = d->hold == Private::Hold::Box ? d->dragColor
@@ -266,9 +259,6 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
         painter.setPen(QPen(d->indicatorColor, 0));
         painter.drawLine(QPointF(x, 0), QPointF(x, height()));
     }
-
-    if (hasFocus())
-        drawFocusFrame(painter, grid, rect());
 }
 
 void TimelineScroll::mousePressEvent(QMouseEvent* event)

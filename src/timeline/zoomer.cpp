@@ -59,6 +59,12 @@ Zoomer::~Zoomer()
 
 void Zoomer::initializeControls()
 {
+    if (m_slider)
+        return;
+    // In the order in which Tab reaches them.
+    m_zoomIn = createButton(u":/CorvelGui/common/zoomin.png"_s, this);
+    connect(m_zoomIn, &QToolButton::clicked, this, &Zoomer::onZoomInClicked);
+
     m_slider = new QSlider(Qt::Horizontal, this);
     m_slider->setRange(minimumLevel, m_maximumLevel);
     m_slider->setPageStep(1);
@@ -68,8 +74,6 @@ void Zoomer::initializeControls()
     m_slider->setValue(minimumLevel);
     connect(m_slider, &QSlider::valueChanged, this, &Zoomer::onSliderChanged);
 
-    m_zoomIn = createButton(u":/CorvelGui/common/zoomin.png"_s, this);
-    connect(m_zoomIn, &QToolButton::clicked, this, &Zoomer::onZoomInClicked);
     m_zoomOut = createButton(u":/CorvelGui/common/zoomout.png"_s, this);
     connect(m_zoomOut, &QToolButton::clicked, this, &Zoomer::onZoomOutClicked);
     translateTexts();

@@ -27,6 +27,10 @@ public:
     explicit Zoomer(int maximumLevel, QWidget* parent = nullptr);
     ~Zoomer() override;
 
+    /// Creates and connects the slider and the two buttons. The constructor has done that; once
+    /// there are controls, nothing happens.
+    void initializeControls();
+
 public Q_SLOTS:
     /// Moves the slider by one level towards 0, and emits zoomerIn(); nothing at level 0.
     void onZoomInClicked(bool checked);
@@ -50,7 +54,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void initializeControls();
     void report(void (Zoomer::*signal)(int, double), int level);
     void translateTexts();
 

@@ -20,14 +20,16 @@ bool zoomerEnabled = true;
 } // namespace
 
 ZoomTimeline::ZoomTimeline(QWidget* parent)
-    : QWidget(parent), m_ruler(new Ruler(this)), m_scroll(new TimelineScroll(this))
+    : QWidget(parent)
+    , m_ruler(new Ruler(this))
+    , m_zoomer(zoomerEnabled ? new Zoomer(m_ruler->getNrOfZooomLevels(), this) : nullptr)
+    , m_scroll(new TimelineScroll(this))
 {
     m_ruler->installEventFilter(this);
     auto* layout = new QGridLayout(this);
     layout->setVerticalSpacing(2);
     layout->setContentsMargins(2, 2, 2, 2);
-    if (zoomerEnabled) {
-        m_zoomer = new Zoomer(m_ruler->getNrOfZooomLevels(), this);
+    if (m_zoomer) {
         connect(m_zoomer, &Zoomer::zoomerIn, m_ruler, &Ruler::onZoomerIn);
         connect(m_zoomer, &Zoomer::zoomerOut, m_ruler, &Ruler::onZoomerOut);
         layout->addWidget(m_ruler, 0, 0, 1, 2);
@@ -64,7 +66,7 @@ void ZoomTimeline::setTimeLimits(quint64 begin, quint64 end)
     whileAlive(
         this, [&] { m_ruler->setTimeLimits(begin, end); },
         [this] {
-            updateViewArea();
+            onChangeSliderPosition(m_ruler->level());
             // The same view is another part of another period.
             m_scroll->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
             m_scroll->setIndicatorPosition(m_ruler->getIndicatorPosition());
@@ -95,8 +97,15 @@ void ZoomTimeline::setTimeLimitsAndIndicatorPosition(quint64 begin, quint64 end,
 
 void ZoomTimeline::resetTimeline()
 {
+    constexpr double outOfSight = -1.0;
     whileAlive(
-        this, [this] { m_ruler->setTimeLimits(0, 0); }, [this] { m_scroll->setViewArea(0.0); });
+        this, [this] { m_ruler->setTimeLimits(0, 0); },
+        [this] {
+            onChangeSliderPosition(m_ruler->level());
+            m_scroll->setViewArea(0.0);
+            m_scroll->setIndicatorPosition(outOfSight);
+            m_scroll->resetSearchTimeRange();
+        });
 }
 
 void ZoomTimeline::setTimeZone(const QString& name)
@@ -116,8 +125,7 @@ void ZoomTimeline::setSearchTimeRange(const QDateTime& from, const QDateTime& to
 
 void ZoomTimeline::showSearchTimeRange()
 {
-    if (!m_resultMode)
-        displaySearchTimeRange(true);
+    displaySearchTimeRange(true);
 }
 
 void ZoomTimeline::hideSearchTimeRange()
@@ -151,6 +159,8 @@ void ZoomTimeline::setResultMode(bool on)
     m_ruler->setResultMode(on);
     m_scroll->setResultMode(on);
     m_resultMode = on;
+    updateSearchDisplay();
+    m_ruler->updateChildren(false);
 }
 
 void ZoomTimeline::setActive(bool active, bool blocked)
@@ -243,6 +253,13 @@ void ZoomTimeline::updateSearchTimeRange()
 
 void ZoomTimeline::displaySearchTimeRange(bool display)
 {
+    m_searchDisplayed = display;
+    updateSearchDisplay();
+}
+
+void ZoomTimeline::updateSearchDisplay()
+{
+    const bool display = m_searchDisplayed && !m_resultMode;
     m_scroll->displaySearchTimeRange(display);
     m_ruler->displaySearchTimeRange(display);
 }

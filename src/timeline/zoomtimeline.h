@@ -42,8 +42,8 @@ public:
     /// stay.
     void setTimeZone(const QString& name);
 
-    /// Stores the range and displays it, unless in result mode. @p adjustZoom zooms the ruler to
-    /// it.
+    /// Stores the range and displays it, in result mode as soon as that ends. @p adjustZoom zooms
+    /// the ruler to it.
     void setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom);
     void showSearchTimeRange();
     void hideSearchTimeRange();
@@ -76,14 +76,17 @@ private:
     void updateViewArea();
     void updateSearchTimeRange();
     void displaySearchTimeRange(bool display);
+    void updateSearchDisplay();
 
     Ruler* const m_ruler;
+    // Made in the order in which Tab reaches them.
+    Zoomer* const m_zoomer;
     TimelineScroll* const m_scroll;
-    Zoomer* m_zoomer = nullptr;
     QDateTime m_searchBegin;
     QDateTime m_searchEnd;
     bool m_theme = true;
     bool m_resultMode = false;
+    bool m_searchDisplayed = false; ///< outside result mode
 };
 
 } // namespace CorvelGui

@@ -115,6 +115,19 @@ void TestRuler::indicatorMovesByAPixelAtLeast()
     QVERIFY(ruler.setIndicatorPosition(at(30 * minute + 3600)));
     QCOMPARE(ruler.getIndicatorPosition(), (30 * minute + 3600) / double(10 * day));
 
+    // What is less counts for the keys at once, and for the rest with the next view.
+    QVERIFY(!ruler.setIndicatorPosition(at(30 * minute + 5000)));
+    QCOMPARE(ruler.exactIndicatorMSecs(), at(30 * minute + 5000));
+    ruler.updateChildren(false);
+    QCOMPARE(ruler.findChild<Indicator*>()->text(), u"00:30:05"_s);
+    ruler.onAddMarkers({{.time = timeAt(30 * minute + 4000)}});
+    QTest::keyClick(&ruler, Qt::Key_N);
+    QVERIFY(!ruler.takeLog().contains(u"jump 02 00:30"_s));
+    ruler.changeLevel(0, 0.5);
+    QCOMPARE(ruler.getIndicatorMSecs(), at(30 * minute + 5000));
+    ruler.changeLevel(1, 0.5);
+    ruler.takeLog();
+
     // The view pages after it.
     QVERIFY(ruler.setIndicatorPosition(at(2 * hour)));
     QCOMPARE(ruler.takeLog(), QStringList{u"view 02 00:59 - 02 02:00"_s});
@@ -158,11 +171,15 @@ void TestRuler::viewChangesOnRequest()
 
 void TestRuler::themeIsOneWay()
 {
+    const Ruler untouched;
+    QCOMPARE(untouched.minimumHeight(), 60);
     LoggedRuler plain(0);
     const auto body = [&plain] {
         const QImage picture = plain.grab().toImage();
         return picture.pixelColor(500, picture.height() - 5);
     };
+    QCOMPARE(body(), QColor(60, 60, 60));
+    plain.setOrvaneGuiTheme(true);
     plain.setOrvaneGuiTheme(false);
     QCOMPARE(body(), POrvGuiTheme::colorShark);
     plain.setBodyColor(Qt::darkGreen);

@@ -311,6 +311,7 @@ void TestRulerMarkers::sizes()
 void TestRulerMarkers::onlyInsideTheResultRange()
 {
     LoggedRuler ruler;
+    ruler.setOrvaneGuiTheme(true);
     ruler.onAddMarkers(markersAtPixels({100, 200, 300, 400}));
     const QDateTime from = timeAt(190 * pixel);
     const QDateTime to = timeAt(290 * pixel);

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void wholePeriodCannotMove();
     void settersAreSilentAndRepaintChanges();
     void paintOrder();
+    void focusFromTheKeyboardIsFramed();
     void boxColors();
     void assistiveTechnology();
     void deletionWithinTheSignal();
@@ -281,6 +282,34 @@ void TestTimelineScroll::paintOrder()
     QVERIFY(image.pixelColor(74, 14).blue() > image.pixelColor(75, 14).blue());
     for (const int row : {0, 7, 14})
         QCOMPARE(image.pixelColor(50, row), POrvGuiTheme::colorYellow);
+}
+
+void TestTimelineScroll::focusFromTheKeyboardIsFramed()
+{
+    LoggedStrip strip;
+    strip.setIndicatorPosition(0.5);
+    const struct
+    {
+        Qt::FocusReason left, came;
+        bool framed;
+    } changes[] = {{Qt::OtherFocusReason, Qt::ActiveWindowFocusReason, false},
+                   {Qt::TabFocusReason, Qt::BacktabFocusReason, true},
+                   {Qt::ActiveWindowFocusReason, Qt::ActiveWindowFocusReason, true},
+                   {Qt::MouseFocusReason, Qt::ActiveWindowFocusReason, false},
+                   {Qt::TabFocusReason, Qt::ShortcutFocusReason, true},
+                   {Qt::PopupFocusReason, Qt::MouseFocusReason, false}};
+    const auto isFramed = [&strip] {
+        return strip.pixel(0, middle) == POrvGuiTheme::colorBlue;
+    };
+    for (const auto& change : changes) {
+        QFocusEvent out(QEvent::FocusOut, change.left);
+        QCoreApplication::sendEvent(&strip, &out);
+        QVERIFY(!isFramed());
+        QFocusEvent in(QEvent::FocusIn, change.came);
+        QCoreApplication::sendEvent(&strip, &in);
+        QCOMPARE(isFramed(), change.framed);
+        QCOMPARE(strip.pixel(50, 0), POrvGuiTheme::colorYellow);
+    }
 }
 
 void TestTimelineScroll::boxColors()

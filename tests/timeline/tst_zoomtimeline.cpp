@@ -1,6 +1,7 @@
 #include "loggedruler.h"
 #include "testsupport.h"
 
+#include <CorvelGui/Indicator>
 #include <CorvelGui/TimelineScroll>
 #include <CorvelGui/ZoomTimeline>
 #include <CorvelGui/Zoomer>
@@ -8,6 +9,8 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QSlider>
+
+#include <algorithm>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
@@ -74,6 +77,17 @@ void TestZoomTimeline::layout()
     QVERIFY(zoomer.top() > ruler.bottom() && zoomer.right() < scroll.left());
     QCOMPARE(scroll.right(), ruler.right());
     QCOMPARE(timeline.slider()->maximum(), 8);
+    // Tab goes from left to right and downwards.
+    QList<QPoint> tabbed;
+    QWidget* widget = timeline.ruler();
+    do {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            tabbed << widget->mapTo(&timeline, widget->rect().bottomLeft());
+        widget = widget->nextInFocusChain();
+    } while (widget != timeline.ruler());
+    QCOMPARE(tabbed.size(), 5);
+    QVERIFY(std::is_sorted(tabbed.begin() + 1, tabbed.end(),
+                           [](QPoint a, QPoint b) { return a.x() < b.x(); }));
 }
 
 void TestZoomTimeline::limitsReportOnce()
@@ -113,8 +127,19 @@ void TestZoomTimeline::stripAndRulerFollowEachOther()
     timeline.setTimeLimits(at(0), at(20 * day));
     QCOMPARE(scroll->viewArea(), 0.05);
     QCOMPARE(scroll->centerPosition(), 0.225);
+
+    timeline.setSearchTimeRange(timeAt(0), timeAt(20 * day), false);
+    timeline.ruler()->changeLevel(5, 0.5);
     timeline.resetTimeline();
     QCOMPARE(scroll->viewArea(), 0.0);
+    QCOMPARE(timeline.slider()->value(), 1);
+    QVERIFY(!timeline.stripIsMarkedAt(0.5));
+    QCOMPARE(timeline.strip().pixelColor(1, 5), timeline.strip().pixelColor(3, 5));
+    // There is nothing that could move.
+    QTest::keyClick(scroll, Qt::Key_End);
+    timeline.setTimeLimits(at(day), at(10 * day));
+    QCOMPARE(timeline.ruler()->beginTime(), at(day));
+    QVERIFY(timeline.stripIsMarkedAt(0.5));
 }
 
 void TestZoomTimeline::zoomerAndRulerFollowEachOther()
@@ -169,11 +194,15 @@ void TestZoomTimeline::operations()
 void TestZoomTimeline::searchRangeOnTheStrip()
 {
     TestedTimeline timeline;
-    timeline.setResultMode(true);
-    timeline.setSearchTimeRange(timeAt(4 * day), timeAt(6 * day), false);
-    QVERIFY(!timeline.stripIsMarkedAt(0.5));
-    timeline.setResultMode(false);
-    timeline.showSearchTimeRange();
+    timeline.ruler()->changeLevel(8, 0.5);
+    timeline.setIndicatorPosition(at(day));
+    for (const bool on : {true, false}) {
+        timeline.setSearchTimeRange(timeAt(4 * day), timeAt(6 * day), false);
+        timeline.setResultMode(on);
+        QCOMPARE(timeline.stripIsMarkedAt(0.5), !on);
+        QCOMPARE(timeline.rulerIsMarked(), !on);
+        QCOMPARE(timeline.findChild<Indicator*>()->isVisible(), !on);
+    }
     for (const double fraction : {0.35, 0.45, 0.55, 0.65})
         QCOMPARE(timeline.stripIsMarkedAt(fraction), qAbs(fraction - 0.5) < 0.1);
     timeline.setTimeLimits(at(0), at(20 * day));
