@@ -45,25 +45,28 @@ int takePicture(QWidget& window, const QString& path)
 
 int main(int argc, char* argv[])
 {
-    // The busy indicator has a native window; what it covers needs none.
-    QApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
-    const QApplication application(argc, argv);
-    QApplication::setApplicationName(u"corvel-review"_s);
-    QApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));
-
-    Languages::use(nullptr, Languages::keyFor({}));
+    QCoreApplication::setApplicationName(u"corvel-review"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));
     CommandLine commandLine;
-    switch (commandLine.parse(QApplication::arguments())) {
-    case CommandLine::Outcome::Answered:
-        Console::print(commandLine.message());
-        return Success;
-    case CommandLine::Outcome::Refused:
-        return fail(BadUsage, commandLine.message());
-    case CommandLine::Outcome::Run:
-        break;
+    {
+        // Help and refusals need no display.
+        const QCoreApplication console(argc, argv);
+        Languages::useForPrinting();
+        switch (commandLine.parse(QCoreApplication::arguments())) {
+        case CommandLine::Outcome::Answered:
+            Console::print(commandLine.message());
+            return Success;
+        case CommandLine::Outcome::Refused:
+            return fail(BadUsage, commandLine.message());
+        case CommandLine::Outcome::Run:
+            break;
+        }
     }
     const Arguments& arguments = commandLine.arguments();
 
+    // The busy indicator has a native window; what it covers needs none.
+    QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
+    const QApplication application(argc, argv);
     SettingsStore store(settingsFile(arguments));
     ReviewSettings settings = store.settings();
     settings.zone = arguments.zone.value_or(settings.zone);

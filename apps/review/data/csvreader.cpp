@@ -17,6 +17,8 @@ bool CsvReader::next()
     if (m_position >= m_text.size())
         return false;
 
+    if (m_separator == 0)
+        m_separator = findSeparator();
     const qsizetype begin = m_position;
     m_line = m_nextLine;
     m_fields.clear();
@@ -32,6 +34,20 @@ bool CsvReader::next()
         m_nextLine = m_line + 1;
     }
     return true;
+}
+
+char CsvReader::findSeparator() const
+{
+    bool quoted = false;
+    for (const char c : QByteArrayView(m_text).sliced(m_position)) {
+        if (c == '"')
+            quoted = !quoted;
+        else if (!quoted && (c == ',' || c == ';' || c == '\t'))
+            return c;
+        else if (!quoted && c == '\n')
+            break;
+    }
+    return ',';
 }
 
 bool CsvReader::atLineEnd() const
@@ -62,14 +78,14 @@ CsvReader::Fault CsvReader::readRecord()
             skipLineEnd();
             return Fault::None;
         }
-        ++m_position; // the comma
+        ++m_position; // the separator
     }
 }
 
 void CsvReader::readPlainField()
 {
     const qsizetype begin = m_position;
-    while (!atLineEnd() && m_text[m_position] != ',')
+    while (!atLineEnd() && m_text[m_position] != m_separator)
         ++m_position;
     m_fields.append(m_text.sliced(begin, m_position - begin));
 }
@@ -91,7 +107,7 @@ CsvReader::Fault CsvReader::readQuotedField()
         field.append('"');
     }
     m_fields.append(field);
-    const bool ends = atLineEnd() || m_text[m_position] == ',';
+    const bool ends = atLineEnd() || m_text[m_position] == m_separator;
     return ends ? Fault::None : Fault::TextBehindQuote;
 }
 

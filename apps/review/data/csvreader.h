@@ -6,8 +6,9 @@
 namespace Review {
 
 /// Splits comma-separated text as of RFC 4180 into records: lines end with CRLF or LF, a field in
-/// double quotes may hold commas, line breaks and doubled quotes. A byte order mark and empty lines
-/// are skipped.
+/// double quotes may hold separators, line breaks and doubled quotes. A byte order mark and empty
+/// lines are skipped. Semicolons or tabs may stand for the commas: whichever comes first in the
+/// first record.
 ///
 /// A faulty record costs its first line only: reading goes on with the line behind it.
 class CsvReader
@@ -17,7 +18,7 @@ public:
         None,
         NotUtf8,
         OpenQuote,      ///< a quoted field goes on to the end of the text
-        TextBehindQuote ///< a closing quote is not followed by a comma or the end of the line
+        TextBehindQuote ///< a closing quote is not followed by a separator or the end of the line
     };
 
     explicit CsvReader(const QByteArray& text);
@@ -32,6 +33,7 @@ public:
     const QList<QByteArray>& fields() const { return m_fields; }
 
 private:
+    char findSeparator() const;
     bool atLineEnd() const;
     void skipLineEnd();
     Fault readRecord();
@@ -40,6 +42,7 @@ private:
 
     const QByteArray m_text;
     qsizetype m_position = 0;
+    char m_separator = 0; ///< found with the first record
     qsizetype m_nextLine = 1;
     qsizetype m_line = 0;
     Fault m_fault = Fault::None;

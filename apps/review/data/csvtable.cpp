@@ -4,6 +4,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStringConverter>
 
 using namespace Qt::StringLiterals;
 
@@ -14,9 +17,28 @@ namespace {
 constexpr const char* context = "Review::CsvTable";
 constexpr qsizetype missing = -1;
 
-/// The text of @p path, or nothing and a reason in @p error.
+constexpr qint64 largestFile = qint64(1) << 30;
+
+/// Why nothing is read from @p path; empty if it can be tried.
+QString unfitness(const QString& path)
+{
+    const QFileInfo file(path);
+    if (file.isDir())
+        return CsvTable::tr("it is a folder");
+    // Devices and pipes need not come to an end.
+    if (file.exists() && !file.isFile())
+        return CsvTable::tr("it is not a file");
+    if (file.size() > largestFile)
+        return CsvTable::tr("it is larger than %1").arg(QLocale().formattedDataSize(largestFile));
+    return {};
+}
+
+/// The text of @p path as UTF-8, or nothing and a reason in @p error.
 QByteArray contents(const QString& path, QString& error)
 {
+    error = unfitness(path);
+    if (!error.isEmpty())
+        return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         error = file.errorString();
@@ -25,7 +47,18 @@ QByteArray contents(const QString& path, QString& error)
     const QByteArray text = file.readAll();
     if (file.error() != QFileDevice::NoError)
         error = file.errorString();
-    return text;
+    // What spreadsheets call Unicode text.
+    const auto encoding = QStringConverter::encodingForData(text);
+    if (!encoding || *encoding == QStringConverter::Utf8)
+        return text;
+    return QString(QStringDecoder(*encoding).decode(text)).toUtf8();
+}
+
+/// Recordings of a camera are a track of the timeline, and many files call it that.
+QString columnName(const QByteArray& header)
+{
+    const QString name = QString::fromUtf8(header).trimmed();
+    return name == "track"_L1 ? u"camera"_s : name;
 }
 
 } // namespace
@@ -47,7 +80,7 @@ QString CsvTable::read(const QString& path, const QStringList& neededColumns,
 
     QStringList header;
     for (const QByteArray& field : reader.fields())
-        header.append(QString::fromUtf8(field).trimmed());
+        header.append(columnName(field));
     QList<qsizetype> positions;
     for (const QString& column : neededColumns + optionalColumns) {
         positions.append(header.indexOf(column));

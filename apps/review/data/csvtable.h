@@ -10,7 +10,8 @@
 
 namespace Review {
 
-/// Reads CSV files whose header line names the columns, in any order.
+/// Reads CSV files whose header line names the columns, in any order. They are UTF-8, or begin with
+/// the byte order mark of another encoding of Unicode.
 class CsvTable
 {
     Q_DECLARE_TR_FUNCTIONS(Review::CsvTable)
@@ -25,7 +26,8 @@ public:
     /// Hands every line of the file at @p path that has all its fields to @p handler; what is wrong
     /// with the others goes to @p problems. Columns that are not asked for are passed over; those
     /// in @p optionalColumns come behind the needed ones, and are empty where the file has none of
-    /// that name. Returns why the file cannot be read at all, or an empty string.
+    /// that name. A column "track" counts as "camera". Returns why the file cannot be read at all,
+    /// or an empty string.
     static QString read(const QString& path, const QStringList& neededColumns,
                         const QStringList& optionalColumns, const LineHandler& handler,
                         ProblemList& problems);

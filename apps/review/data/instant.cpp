@@ -145,7 +145,7 @@ Instant Instant::parse(QByteArrayView text)
         return malformed;
 
     const qint64 msecs = *date + *clock - *offset;
-    if (msecs <= 0)
+    if (msecs < 0)
         return {.msecs = 0, .fault = Fault::BeforeEpoch};
     return {.msecs = msecs, .fault = Fault::None};
 }

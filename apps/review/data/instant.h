@@ -12,7 +12,7 @@ struct Instant
         None,
         Malformed,
         NoOffset,   ///< a clock time that does not say of which zone
-        BeforeEpoch ///< not after the begin of 1970, which the timeline cannot show
+        BeforeEpoch ///< before 1970, which the timeline cannot show
     };
 
     /// Milliseconds since the Unix epoch.

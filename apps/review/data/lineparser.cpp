@@ -45,7 +45,7 @@ LineFault LineParser::parseTrackSpan(const CsvTable::Values& values, QString& tr
 {
     track = QString::fromUtf8(values[0]);
     if (track.isEmpty())
-        return {context, QT_TR_NOOP("the track has no name")};
+        return {context, QT_TR_NOOP("the camera has no name")};
     if (const LineFault fault = parseTime(values[1], span.begin); !fault.isEmpty())
         return fault;
     if (const LineFault fault = parseTime(values[2], span.end); !fault.isEmpty())

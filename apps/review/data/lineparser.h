@@ -16,7 +16,7 @@ class LineParser
 
 public:
     static LineFault parseTime(QByteArrayView text, qint64& result);
-    /// Reads the columns track, begin and end.
+    /// Reads the columns camera, begin and end.
     static LineFault parseTrackSpan(const CsvTable::Values& values, QString& track,
                                     CorvelGui::TimeSpan& span);
 };

@@ -22,7 +22,12 @@ TimeSpan ReviewData::period() const
     }
     for (const Event& event : events)
         include(event.time, event.time);
-    return period.isEmpty() ? TimeSpan{} : period;
+    if (period.begin > period.end)
+        return {};
+    // A timeline of a single instant needs some width.
+    constexpr qint64 shortest = 1'000;
+    period.end = std::max(period.end, period.begin + shortest);
+    return period;
 }
 
 qsizetype ReviewData::recordingCount() const

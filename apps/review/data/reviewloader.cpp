@@ -70,7 +70,7 @@ QString ReviewLoader::loadRecordings(const QString& path)
             track(identifier).recorded.append(span);
         return fault;
     };
-    return CsvTable::read(path, {u"track"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
+    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
 }
 
 QString ReviewLoader::loadDeployments(const QString& path)
@@ -83,7 +83,7 @@ QString ReviewLoader::loadDeployments(const QString& path)
             extend(track(identifier), span);
         return fault;
     };
-    return CsvTable::read(path, {u"track"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
+    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
 }
 
 QString ReviewLoader::loadEvents(const QString& path)
@@ -101,7 +101,7 @@ QString ReviewLoader::loadEvents(const QString& path)
         return fault;
     };
     const QString error =
-        CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"track"_s}, add, m_problems);
+        CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"camera"_s}, add, m_problems);
     std::stable_sort(m_data.events.begin(), m_data.events.end(),
                      [](const Event& a, const Event& b) { return a.time < b.time; });
     return error;

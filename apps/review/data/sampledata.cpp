@@ -56,8 +56,8 @@ private:
 
 struct Camera
 {
-    QString identifier;
-    QString name;
+    QLatin1StringView identifier;
+    const char* name;
     /// Recordings in each hour of a busy day, on average.
     std::array<int, 24> recordingsPerHour;
     /// Percentages of them on working days, and on Saturdays and Sundays.
@@ -73,6 +73,61 @@ struct Camera
     int persons;
     int vehicles;
     int animals;
+};
+
+constexpr TimeSpan always{sampleBegin, sampleEnd};
+
+constexpr Camera cameras[] = {
+    {.identifier = "cam-1"_L1,
+     .name = QT_TRANSLATE_NOOP("Review::SampleData", "Main gate"),
+     .recordingsPerHour = {1,  0, 0, 0, 1,  2,  6,  12, 14, 9, 8, 8,
+                           10, 9, 8, 8, 10, 14, 11, 7,  5,  3, 2, 1},
+     .workdayShare = 100,
+     .weekendShare = 40,
+     .shortest = 12,
+     .longest = 95,
+     .described = always,
+     .outage = {},
+     .persons = 30,
+     .vehicles = 25,
+     .animals = 2},
+    {.identifier = "cam-2"_L1,
+     .name = QT_TRANSLATE_NOOP("Review::SampleData", "Car park"),
+     .recordingsPerHour = {0, 0, 0, 0, 0, 1,  5, 10, 9, 4, 3, 4,
+                           7, 5, 3, 4, 8, 10, 5, 3,  2, 1, 1, 0},
+     .workdayShare = 100,
+     .weekendShare = 30,
+     .shortest = 20,
+     .longest = 180,
+     .described = always,
+     .outage = {marchTime(6, 19), marchTime(8, 9)},
+     .persons = 20,
+     .vehicles = 45,
+     .animals = 3},
+    {.identifier = "cam-3"_L1,
+     .name = QT_TRANSLATE_NOOP("Review::SampleData", "Loading dock"),
+     .recordingsPerHour = {0, 0, 0, 0, 0, 2, 4, 4, 4, 4, 4, 3, 2, 4, 4, 4, 3, 1, 0, 0, 0, 0, 0, 0},
+     .workdayShare = 100,
+     .weekendShare = 4,
+     .shortest = 120,
+     .longest = 1'100,
+     .described = always,
+     .outage = {},
+     .persons = 25,
+     .vehicles = 35,
+     .animals = 0},
+    {.identifier = "cam-4"_L1,
+     .name = QT_TRANSLATE_NOOP("Review::SampleData", "North fence"),
+     .recordingsPerHour = {2, 2, 2, 2, 3, 3, 2, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 2, 3, 3, 2, 2, 2, 2},
+     .workdayShare = 30,
+     .weekendShare = 35,
+     .shortest = 10,
+     .longest = 45,
+     .described = {sampleBegin, marchTime(12, 10)},
+     .outage = {},
+     .persons = 4,
+     .vehicles = 0,
+     .animals = 45},
 };
 
 bool isNight(int hour)
@@ -113,73 +168,11 @@ std::vector<TimeSpan> recordingsOf(const Camera& camera, Dice& dice)
 
 ReviewData SampleData::make()
 {
-    constexpr TimeSpan always{sampleBegin, sampleEnd};
-    const Camera cameras[] = {
-        {.identifier = u"cam-1"_s,
-         .name = tr("Main gate"),
-         .recordingsPerHour = {1,  0, 0, 0, 1,  2,  6,  12, 14, 9, 8, 8,
-                               10, 9, 8, 8, 10, 14, 11, 7,  5,  3, 2, 1},
-         .workdayShare = 100,
-         .weekendShare = 40,
-         .shortest = 12,
-         .longest = 95,
-         .described = always,
-         .outage = {},
-         .persons = 30,
-         .vehicles = 25,
-         .animals = 2},
-        {.identifier = u"cam-2"_s,
-         .name = tr("Car park"),
-         .recordingsPerHour = {0, 0, 0, 0, 0, 1,  5, 10, 9, 4, 3, 4,
-                               7, 5, 3, 4, 8, 10, 5, 3,  2, 1, 1, 0},
-         .workdayShare = 100,
-         .weekendShare = 30,
-         .shortest = 20,
-         .longest = 180,
-         .described = always,
-         .outage = {marchTime(6, 19), marchTime(8, 9)},
-         .persons = 20,
-         .vehicles = 45,
-         .animals = 3},
-        {.identifier = u"cam-3"_s,
-         .name = tr("Loading dock"),
-         .recordingsPerHour = {0, 0, 0, 0, 0, 2, 4, 4, 4, 4, 4, 3,
-                               2, 4, 4, 4, 3, 1, 0, 0, 0, 0, 0, 0},
-         .workdayShare = 100,
-         .weekendShare = 4,
-         .shortest = 120,
-         .longest = 1'100,
-         .described = always,
-         .outage = {},
-         .persons = 25,
-         .vehicles = 35,
-         .animals = 0},
-        {.identifier = u"cam-4"_s,
-         .name = tr("North fence"),
-         .recordingsPerHour = {2, 2, 2, 2, 3, 3, 2, 1, 1, 1, 1, 1,
-                               1, 1, 1, 1, 1, 2, 3, 3, 2, 2, 2, 2},
-         .workdayShare = 30,
-         .weekendShare = 35,
-         .shortest = 10,
-         .longest = 45,
-         .described = {sampleBegin, marchTime(12, 10)},
-         .outage = {},
-         .persons = 4,
-         .vehicles = 0,
-         .animals = 45},
-    };
-
-    const QString person = u"person"_s;
-    const QString vehicle = u"vehicle"_s;
-    const QString animal = u"animal"_s;
-    const QString alarm = u"alarm"_s;
-    const QString bookmark = u"bookmark"_s;
-
     ReviewData data;
     Dice dice(2026);
     for (const Camera& camera : cameras) {
         TrackDescription track{.identifier = camera.identifier,
-                               .name = camera.name,
+                               .name = tr(camera.name),
                                .begin = camera.described.begin,
                                .end = camera.described.end,
                                .recorded = {}};
@@ -193,15 +186,15 @@ ReviewData SampleData::make()
             const int hour = int((recording.begin - sampleBegin) / msecsPerHour % 24);
             const qint64 seen = dice.roll(1, 100);
             if (seen <= camera.persons && isNight(hour))
-                note(alarm, tr("Person outside working hours"));
+                note(u"alarm"_s, tr("Person outside working hours"));
             else if (seen <= camera.persons)
-                note(person, tr("Person"));
+                note(u"person"_s, tr("Person"));
             else if (seen <= camera.persons + camera.vehicles)
-                note(vehicle, tr("Vehicle"));
+                note(u"vehicle"_s, tr("Vehicle"));
             else if (seen <= camera.persons + camera.vehicles + camera.animals)
-                note(animal, tr("Animal"));
+                note(u"animal"_s, tr("Animal"));
             if (dice.roll(1, 300) == 1)
-                note(bookmark, tr("Marked by an operator"));
+                note(u"bookmark"_s, tr("Marked by an operator"));
         }
         data.tracks.append(track);
     }

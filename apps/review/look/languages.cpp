@@ -79,6 +79,16 @@ QString Languages::keyFor(const QString& wanted)
     return keys().contains(system) ? system : english;
 }
 
+void Languages::useForPrinting()
+{
+    const QString key = keyFor({});
+    QLocale::setDefault(localeFor(key));
+    useToolkitFile(toolkitFile(key));
+    auto* translator = new QTranslator(qApp);
+    if (translator->load(prefix() + u'_' + key, folder()))
+        QCoreApplication::installTranslator(translator);
+}
+
 void Languages::use(QWidget* parent, const QString& key)
 {
     QLocale::setDefault(localeFor(key));

@@ -24,6 +24,8 @@ public:
     /// system's language, or English.
     static QString keyFor(const QString& wanted);
 
+    /// For what a program prints before it has a display: the language of the operating system.
+    static void useForPrinting();
     /// Switches all texts and the way numbers and dates are written. Widgets hear of it as
     /// QEvent::LanguageChange. A file that cannot be loaded is told in a box over @p parent.
     static void use(QWidget* parent, const QString& key);

@@ -5,6 +5,7 @@
 
 #include <Corvel/TimeZoneHelper>
 
+#include <QMap>
 #include <QMetaEnum>
 #include <QSettings>
 
@@ -19,25 +20,6 @@ namespace {
 
 const QString passwordKey = u"Proxy/Password"_s;
 
-/// One value as text. take() leaves the settings alone if the text makes no sense.
-struct Entry
-{
-    QString key;
-    QString (*text)(const ReviewSettings& settings);
-    void (*take)(ReviewSettings& settings, const QString& text);
-};
-
-QString boolText(bool value)
-{
-    return value ? u"true"_s : u"false"_s;
-}
-
-void takeBool(bool& value, const QString& text)
-{
-    if (text == boolText(true) || text == boolText(false))
-        value = text == boolText(true);
-}
-
 constexpr std::pair<ProxyUserSettings::Mode, QLatin1StringView> modeNames[] = {
     {ProxyUserSettings::Mode::None, "none"_L1},
     {ProxyUserSettings::Mode::System, "system"_L1},
@@ -51,11 +33,52 @@ constexpr std::pair<TimeFormat::Order, QLatin1StringView> orderNames[] = {
     {TimeFormat::Order::MonthFirst, "month-first"_L1},
 };
 
+QString textOf(const QString& value)
+{
+    return value;
+}
+
+QString textOf(bool value)
+{
+    return value ? u"true"_s : u"false"_s;
+}
+
+QString textOf(quint16 value)
+{
+    return QString::number(value);
+}
+
 template <typename Names, typename Value>
 QString nameOf(const Names& names, Value value)
 {
-    const auto found = std::ranges::find(names, value, [](const auto& name) { return name.first; });
-    return found == std::ranges::end(names) ? QString() : QString(found->second);
+    return std::ranges::find(names, value, &std::ranges::range_value_t<Names>::first)->second;
+}
+
+QString textOf(ProxyUserSettings::Mode value)
+{
+    return nameOf(modeNames, value);
+}
+
+QString textOf(TimeFormat::Order value)
+{
+    return nameOf(orderNames, value);
+}
+
+// The opposite of textOf(). A text that makes no sense leaves the value alone.
+void take(QString& value, const QString& text)
+{
+    value = text;
+}
+
+void take(bool& value, const QString& text)
+{
+    if (text == textOf(true) || text == textOf(false))
+        value = text == textOf(true);
+}
+
+void take(quint16& value, const QString& text)
+{
+    value = text.toUShort();
 }
 
 template <typename Names, typename Value>
@@ -67,76 +90,47 @@ void takeName(const Names& names, Value& value, const QString& text)
     }
 }
 
-const QList<Entry>& entries()
+void take(ProxyUserSettings::Mode& value, const QString& text)
 {
-    using S = ReviewSettings;
-    using Text = const QString&;
-    static const QList<Entry> all{
-        {u"Look/Dark"_s, [](const S& s) { return boolText(s.dark); },
-         [](S& s, Text text) {
-             takeBool(s.dark, text);
-         }},
-        {u"Look/Language"_s, [](const S& s) { return s.language; },
-         [](S& s, Text text) {
-             if (Languages::keys().contains(text))
-                 s.language = text;
-         }},
-        {u"Time/Zone"_s, [](const S& s) { return s.zone; },
-         [](S& s, Text text) {
-             s.zone = text.isEmpty() ? QString() : Corvel::TimeZoneHelper::getTimeZone(text);
-         }},
-        {u"Time/Order"_s, [](const S& s) { return nameOf(orderNames, s.timeFormat.order); },
-         [](S& s, Text text) {
-             takeName(orderNames, s.timeFormat.order, text);
-         }},
-        {u"Time/Milliseconds"_s, [](const S& s) { return boolText(s.timeFormat.milliseconds); },
-         [](S& s, Text text) {
-             takeBool(s.timeFormat.milliseconds, text);
-         }},
-        {u"Playback/SkipGaps"_s, [](const S& s) { return boolText(s.skipGaps); },
-         [](S& s, Text text) {
-             takeBool(s.skipGaps, text);
-         }},
-        {u"Updates/InternalChannel"_s, [](const S& s) { return s.servers.internalChannel; },
-         [](S& s, Text text) {
-             s.servers.internalChannel = text;
-         }},
-        {u"Updates/PublicServer"_s, [](const S& s) { return s.servers.publicServer; },
-         [](S& s, Text text) {
-             s.servers.publicServer = text;
-         }},
-        {u"Updates/QueryServer"_s, [](const S& s) { return s.servers.queryServer; },
-         [](S& s, Text text) {
-             s.servers.queryServer = text;
-         }},
-        {u"Proxy/Mode"_s, [](const S& s) { return nameOf(modeNames, s.proxy.mode); },
-         [](S& s, Text text) {
-             takeName(modeNames, s.proxy.mode, text);
-         }},
-        {u"Proxy/Host"_s, [](const S& s) { return s.proxy.host; },
-         [](S& s, Text text) {
-             s.proxy.host = text;
-         }},
-        {u"Proxy/Port"_s, [](const S& s) { return QString::number(s.proxy.port); },
-         [](S& s, Text text) {
-             s.proxy.port = text.toUShort();
-         }},
-        {u"Proxy/User"_s, [](const S& s) { return s.proxy.user; },
-         [](S& s, Text text) {
-             s.proxy.user = text;
-         }},
-        {u"Proxy/RememberPassword"_s, [](const S& s) { return boolText(s.rememberPassword); },
-         [](S& s, Text text) {
-             takeBool(s.rememberPassword, text);
-         }},
-        // Behind the value that allows it.
-        {passwordKey, [](const S& s) { return s.rememberPassword ? s.proxy.password : QString(); },
-         [](S& s, Text text) {
-             if (s.rememberPassword)
-                 s.proxy.password = text;
-         }},
-    };
-    return all;
+    takeName(modeNames, value, text);
+}
+
+void take(TimeFormat::Order& value, const QString& text)
+{
+    takeName(orderNames, value, text);
+}
+
+/// Calls @p use with the key and the place of each value but the shortcuts.
+template <typename Settings, typename Use>
+void forEachValue(Settings& settings, const Use& use)
+{
+    use(u"Look/Dark"_s, settings.dark);
+    use(u"Look/Language"_s, settings.language);
+    use(u"Time/Zone"_s, settings.zone);
+    use(u"Time/Order"_s, settings.timeFormat.order);
+    use(u"Time/Milliseconds"_s, settings.timeFormat.milliseconds);
+    use(u"Playback/SkipGaps"_s, settings.skipGaps);
+    use(u"Updates/InternalChannel"_s, settings.servers.internalChannel);
+    use(u"Updates/PublicServer"_s, settings.servers.publicServer);
+    use(u"Updates/QueryServer"_s, settings.servers.queryServer);
+    use(u"Proxy/Mode"_s, settings.proxy.mode);
+    use(u"Proxy/Host"_s, settings.proxy.host);
+    use(u"Proxy/Port"_s, settings.proxy.port);
+    use(u"Proxy/User"_s, settings.proxy.user);
+    use(u"Proxy/RememberPassword"_s, settings.rememberPassword);
+    use(passwordKey, settings.proxy.password);
+}
+
+/// What may be written down, by keys.
+QMap<QString, QString> textsOf(const ReviewSettings& settings)
+{
+    QMap<QString, QString> texts;
+    forEachValue(settings, [&texts](const QString& key, const auto& value) {
+        texts.insert(key, textOf(value));
+    });
+    if (!settings.rememberPassword)
+        texts[passwordKey].clear();
+    return texts;
 }
 
 QString shortcutKey(PlaybarButtons::Button button)
@@ -150,10 +144,16 @@ QString shortcutKey(PlaybarButtons::Button button)
 ReviewSettings ReviewSettings::read(const QSettings& file)
 {
     ReviewSettings settings;
-    for (const Entry& entry : entries()) {
-        if (file.contains(entry.key))
-            entry.take(settings, file.value(entry.key).toString());
-    }
+    forEachValue(settings, [&file](const QString& key, auto& value) {
+        if (file.contains(key))
+            take(value, file.value(key).toString());
+    });
+    if (!Languages::keys().contains(settings.language))
+        settings.language.clear();
+    if (!settings.zone.isEmpty())
+        settings.zone = Corvel::TimeZoneHelper::getTimeZone(settings.zone);
+    if (!settings.rememberPassword)
+        settings.proxy.password.clear();
     for (const PlaybarButtons::Button button : PlaybarButtons::inOrder()) {
         const QVariant value = file.value(shortcutKey(button));
         if (!value.isValid())
@@ -169,14 +169,15 @@ ReviewSettings ReviewSettings::read(const QSettings& file)
 
 void ReviewSettings::write(QSettings& file, const ReviewSettings& before) const
 {
-    for (const Entry& entry : entries()) {
-        const QString text = entry.text(*this);
-        if (text == entry.text(before))
+    const QMap<QString, QString> texts = textsOf(*this);
+    const QMap<QString, QString> textsBefore = textsOf(before);
+    for (const auto& [key, text] : texts.asKeyValueRange()) {
+        if (text == textsBefore[key])
             continue;
-        if (text.isEmpty() && entry.key == passwordKey)
-            file.remove(entry.key);
+        if (text.isEmpty() && key == passwordKey)
+            file.remove(key);
         else
-            file.setValue(entry.key, text);
+            file.setValue(key, text);
     }
     for (const PlaybarButtons::Button button : PlaybarButtons::inOrder()) {
         const QKeySequence keys = shortcuts.value(button);

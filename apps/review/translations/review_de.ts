@@ -51,20 +51,8 @@ Files are CSV with a header line; times are ISO 8601 with Z or an offset.</sourc
 Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abstand zu UTC.</translation>
     </message>
     <message>
-        <source>Recorded spans, in the columns track, begin, end.</source>
-        <translation>Aufgezeichnete Zeiträume in den Spalten track, begin, end.</translation>
-    </message>
-    <message>
         <source>file</source>
         <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Events, in the columns time, kind, text and, if there is one, track.</source>
-        <translation>Ereignisse in den Spalten time, kind, text und, falls vorhanden, track.</translation>
-    </message>
-    <message>
-        <source>Periods in which the tracks are described, in the columns track, begin, end. A track without one is described from its first to its last recording.</source>
-        <translation>Zeiträume, in denen die Spuren beschrieben sind, in den Spalten track, begin, end. Eine Spur ohne Zeitraum ist von ihrer ersten bis zu ihrer letzten Aufzeichnung beschrieben.</translation>
     </message>
     <message>
         <source>Time zone, such as Europe/Brussels.</source>
@@ -130,6 +118,18 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Bad size “%1”: it is WIDTHxHEIGHT, from %2x%3 to %4x%5.</source>
         <translation>Ungültige Größe „%1“: BREITExHÖHE, von %2x%3 bis %4x%5.</translation>
     </message>
+    <message>
+        <source>Recorded spans, in the columns camera, begin, end.</source>
+        <translation>Aufgezeichnete Zeiträume in den Spalten camera, begin, end.</translation>
+    </message>
+    <message>
+        <source>Events, in the columns time, kind, text and, if there is one, camera.</source>
+        <translation>Ereignisse in den Spalten time, kind, text und, falls vorhanden, camera.</translation>
+    </message>
+    <message>
+        <source>Periods in which the cameras were in service, in the columns camera, begin, end. Without one, a camera was from its first to its last recording.</source>
+        <translation>Zeiträume, in denen die Kameras in Betrieb waren, in den Spalten camera, begin, end. Ohne einen solchen war es eine Kamera von ihrer ersten bis zu ihrer letzten Aufzeichnung.</translation>
+    </message>
 </context>
 <context>
     <name>Review::CsvTable</name>
@@ -164,6 +164,18 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>%1 fields instead of %2</source>
         <translation>%1 Felder statt %2</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>sie ist größer als %1</translation>
     </message>
 </context>
 <context>
@@ -467,16 +479,16 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>„%1“ liegt vor dem Jahr 1970</translation>
     </message>
     <message>
-        <source>the track has no name</source>
-        <translation>die Spur hat keinen Namen</translation>
-    </message>
-    <message>
         <source>the end lies before the begin</source>
         <translation>das Ende liegt vor dem Anfang</translation>
     </message>
     <message>
         <source>begin and end are the same instant</source>
         <translation>Anfang und Ende sind derselbe Zeitpunkt</translation>
+    </message>
+    <message>
+        <source>the camera has no name</source>
+        <translation>die Kamera hat keinen Namen</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,41 @@ using namespace Qt::StringLiterals;
 
 namespace Review {
 
+namespace {
+
+/// What is left without the options that the toolkit takes for itself when it opens a display. They
+/// are read here before there is one.
+QStringList withoutToolkitOptions(const QStringList& arguments)
+{
+    static const QStringList flags{u"reverse"_s, u"widgetcount"_s};
+    static const QStringList withValue{u"display"_s,
+                                       u"geometry"_s,
+                                       u"icon"_s,
+                                       u"platform"_s,
+                                       u"platformpluginpath"_s,
+                                       u"platformtheme"_s,
+                                       u"plugin"_s,
+                                       u"qwindowgeometry"_s,
+                                       u"qwindowicon"_s,
+                                       u"qwindowtitle"_s,
+                                       u"session"_s,
+                                       u"style"_s,
+                                       u"stylesheet"_s,
+                                       u"title"_s};
+    QStringList left;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        static const QRegularExpression option(u"^--?([a-z]+)(=.*)?$"_s);
+        const QRegularExpressionMatch match = option.match(arguments[i]);
+        if (withValue.contains(match.captured(1)))
+            i += match.hasCaptured(2) ? 0 : 1;
+        else if (!flags.contains(match.captured(1)))
+            left.append(arguments[i]);
+    }
+    return left;
+}
+
+} // namespace
+
 CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
@@ -19,36 +54,8 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
            "Files are CSV with a header line; times are ISO 8601 with Z or an offset."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption recordings(
-        u"recordings"_s, tr("Recorded spans, in the columns track, begin, end."), tr("file"));
-    const QCommandLineOption events(
-        u"events"_s, tr("Events, in the columns time, kind, text and, if there is one, track."),
-        tr("file"));
-    const QCommandLineOption deployments(
-        u"deployments"_s,
-        tr("Periods in which the tracks are described, in the columns track, begin, end. A track "
-           "without one is described from its first to its last recording."),
-        tr("file"));
-    const QCommandLineOption zone(u"zone"_s, tr("Time zone, such as Europe/Brussels."), tr("name"));
-    const QCommandLineOption look(u"look"_s, tr("Look of the window: dark or light."), tr("look"));
-    const QCommandLineOption language(u"language"_s, tr("Language of the window: de or en."),
-                                      tr("key"));
-    const QCommandLineOption settings(
-        u"settings"_s, tr("File that keeps the settings. Default: the one of this user."),
-        tr("file"));
-    const QCommandLineOption picture(
-        u"picture"_s, tr("Writes a PNG picture of the window and exits."), tr("file"));
-    const QCommandLineOption size(u"size"_s, tr("Size of the window, such as 1200x700."),
-                                  tr("size"));
-    const QList<QCommandLineOption> options{recordings, events,   deployments, zone, look,
-                                            language,   settings, picture,     size};
-    parser.addOptions(options);
-
-    const auto refuse = [this](const QString& message) {
-        m_message = message;
-        return Outcome::Refused;
-    };
-    const bool parsed = parser.parse(arguments);
+    parser.addOptions(options());
+    const bool parsed = parser.parse(withoutToolkitOptions(arguments));
     if (parsed && parser.isSet(help)) {
         m_message = parser.helpText();
         return Outcome::Answered;
@@ -58,43 +65,65 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
                     QCoreApplication::applicationVersion() + u'\n';
         return Outcome::Answered;
     }
-    if (!parsed)
-        return refuse(parser.errorText());
-    if (const QStringList extra = parser.positionalArguments(); !extra.isEmpty())
-        return refuse(tr("Unexpected argument “%1”.").arg(extra.first()));
-    for (const QCommandLineOption& option : options) {
-        if (parser.isSet(option) && parser.value(option).isEmpty())
-            return refuse(tr("The option --%1 needs a value.").arg(option.names().first()));
-    }
-
-    m_arguments.files = {.recordings = parser.value(recordings),
-                         .events = parser.value(events),
-                         .deployments = parser.value(deployments)};
-    m_arguments.picture = parser.value(picture);
-    m_arguments.settings = parser.value(settings);
-    if (parser.isSet(zone)) {
-        m_arguments.zone = parser.value(zone);
-        if (Corvel::TimeZoneHelper::getTimeZone(*m_arguments.zone).isEmpty())
-            return refuse(tr("Unknown time zone “%1”.").arg(*m_arguments.zone));
-    }
-    if (parser.isSet(look)) {
-        m_arguments.dark = parser.value(look) == "dark"_L1;
-        if (!*m_arguments.dark && parser.value(look) != "light"_L1)
-            return refuse(tr("Unknown look “%1”: it is dark or light.").arg(parser.value(look)));
-    }
-    if (parser.isSet(language)) {
-        m_arguments.language = parser.value(language);
-        if (!Languages::keys().contains(*m_arguments.language))
-            return refuse(tr("Unknown language “%1”: it is de or en.").arg(*m_arguments.language));
-    }
-    if (parser.isSet(size)) {
-        if (const QString fault = readSize(parser.value(size)); !fault.isEmpty())
-            return refuse(fault);
-    }
-    return Outcome::Run;
+    m_message = parsed ? takeArguments(parser) : parser.errorText();
+    return m_message.isEmpty() ? Outcome::Run : Outcome::Refused;
 }
 
-QString CommandLine::readSize(const QString& text)
+// In the order of the help.
+QList<QCommandLineOption> CommandLine::options()
+{
+    const QString file = tr("file");
+    return {
+        {u"recordings"_s, tr("Recorded spans, in the columns camera, begin, end."), file},
+        {u"events"_s, tr("Events, in the columns time, kind, text and, if there is one, camera."),
+         file},
+        {u"deployments"_s,
+         tr("Periods in which the cameras were in service, in the columns camera, begin, end. "
+            "Without one, a camera was from its first to its last recording."),
+         file},
+        {u"zone"_s, tr("Time zone, such as Europe/Brussels."), tr("name")},
+        {u"look"_s, tr("Look of the window: dark or light."), tr("look")},
+        {u"language"_s, tr("Language of the window: de or en."), tr("key")},
+        {u"settings"_s, tr("File that keeps the settings. Default: the one of this user."), file},
+        {u"picture"_s, tr("Writes a PNG picture of the window and exits."), file},
+        {u"size"_s, tr("Size of the window, such as 1200x700."), tr("size")}};
+}
+
+// Returns what is wrong with them, or an empty string.
+QString CommandLine::takeArguments(const QCommandLineParser& parser)
+{
+    if (const QStringList extra = parser.positionalArguments(); !extra.isEmpty())
+        return tr("Unexpected argument “%1”.").arg(extra.first());
+    for (const QString& option : parser.optionNames()) {
+        if (parser.value(option).isEmpty())
+            return tr("The option --%1 needs a value.").arg(option);
+    }
+
+    m_arguments.files = {.recordings = parser.value(u"recordings"_s),
+                         .events = parser.value(u"events"_s),
+                         .deployments = parser.value(u"deployments"_s)};
+    m_arguments.picture = parser.value(u"picture"_s);
+    m_arguments.settings = parser.value(u"settings"_s);
+    if (const QString zone = parser.value(u"zone"_s); !zone.isEmpty()) {
+        if (Corvel::TimeZoneHelper::getTimeZone(zone).isEmpty())
+            return tr("Unknown time zone “%1”.").arg(zone);
+        m_arguments.zone = zone;
+    }
+    if (const QString look = parser.value(u"look"_s); !look.isEmpty()) {
+        if (look != "dark"_L1 && look != "light"_L1)
+            return tr("Unknown look “%1”: it is dark or light.").arg(look);
+        m_arguments.dark = look == "dark"_L1;
+    }
+    if (const QString language = parser.value(u"language"_s); !language.isEmpty()) {
+        if (!Languages::keys().contains(language))
+            return tr("Unknown language “%1”: it is de or en.").arg(language);
+        m_arguments.language = language;
+    }
+    const QString size = parser.value(u"size"_s);
+    return size.isEmpty() ? QString() : takeSize(size);
+}
+
+QString CommandLine::takeSize(const QString& text)
 {
     constexpr QSize smallest(900, 300);
     constexpr QSize largest(8'000, 8'000);

@@ -3,10 +3,14 @@
 #include "data/reviewloader.h"
 
 #include <QCoreApplication>
+#include <QList>
 #include <QSize>
 #include <QString>
 
 #include <optional>
+
+class QCommandLineOption;
+class QCommandLineParser;
 
 namespace Review {
 
@@ -38,13 +42,16 @@ public:
         Refused   ///< message() says what is wrong
     };
 
+    /// Needs no display. Options of the toolkit are passed over.
     Outcome parse(const QStringList& arguments);
 
     const Arguments& arguments() const { return m_arguments; }
     const QString& message() const { return m_message; }
 
 private:
-    QString readSize(const QString& text);
+    static QList<QCommandLineOption> options();
+    QString takeArguments(const QCommandLineParser& parser);
+    QString takeSize(const QString& text);
 
     Arguments m_arguments;
     QString m_message;
