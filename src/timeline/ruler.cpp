@@ -149,16 +149,23 @@ int Ruler::level() const
 
 void Ruler::changeLevel(int level, double anchor)
 {
+    // About another place than the middle, the view is the user's.
+    zoom(level, anchor, d->follower.mode() == FollowMode::Centered);
+}
+
+void Ruler::zoom(int level, double anchor, bool keepIndicator)
+{
     const int oldLevel = d->scale.level();
     d->scale.changeLevel(level, anchor);
     const bool changed = d->scale.level() != oldLevel;
-    if (changed)
+    const bool followed = keepIndicator && followIndicator();
+    if (changed || followed)
         followView();
     whileAlive(
         this, [&] { updateChildren(changed); },
         [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
         [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
-        [this] { changedTimeLineView(false); }, [this] { repaint(); });
+        [this] { changedTimeLineView(false); }, [this] { noticeView(); }, [this] { repaint(); });
 }
 
 double Ruler::getCurrentCenterPosition() const
@@ -195,7 +202,15 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
     }
 
     setIndicatorTime(d->scale.inZone(TimeScale::instant(msecs)));
-    if (d->scale.pageTo(d->indicatorTime)) {
+    if (d->follower.mode() != FollowMode::Off) {
+        const bool moved = followIndicator();
+        whileAlive(
+            this, [&] { moved ? viewMoved(false) : updateChildren(false); },
+            [this] {
+                if (!isFollowing())
+                    noticeView();
+            });
+    } else if (d->scale.pageTo(d->indicatorTime)) {
         followView();
         whileAlive(
             this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); });
@@ -383,7 +398,7 @@ void Ruler::processTimeLineViewChanges()
 void Ruler::onZoomerIn(int level, double anchor)
 {
     if (level != d->scale.level() && level >= 0)
-        changeLevel(level, anchor);
+        zoom(level, anchor, true);
 }
 
 void Ruler::onZoomerOut(int level, double anchor)
@@ -391,7 +406,7 @@ void Ruler::onZoomerOut(int level, double anchor)
     if (level == d->scale.level() || level > TimeScale::wholeRangeLevel)
         return;
     if (d->scale.canZoomOut())
-        changeLevel(level, anchor);
+        zoom(level, anchor, true);
     else
         Q_EMIT changeSliderZoom(d->scale.level());
 }
@@ -402,7 +417,8 @@ void Ruler::onTimelineOffsetChanged(double position)
         return;
     followView();
     whileAlive(
-        this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); });
+        this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); },
+        [this] { noticeView(); });
 }
 
 void Ruler::onPreviewVisible(bool visible, bool pending)
@@ -476,8 +492,12 @@ void Ruler::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
 {
     const int oldLevel = d->scale.level();
     const qint64 oldStart = d->scale.viewStartMs();
-    if (!d->scale.setLevelFromTimeRange(from, to))
-        return;
+    if (d->scale.setLevelFromTimeRange(from, to))
+        viewZoomed(oldLevel, oldStart);
+}
+
+void Ruler::viewZoomed(int oldLevel, qint64 oldStart)
+{
     const bool levelChanged = d->scale.level() != oldLevel;
     if (levelChanged || d->scale.viewStartMs() != oldStart)
         followView();
@@ -485,7 +505,7 @@ void Ruler::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
         this, [&] { updateChildren(levelChanged); },
         [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
         [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
-        [this] { changedTimeLineView(false); });
+        [this] { changedTimeLineView(false); }, [this] { noticeView(); });
 }
 
 void Ruler::changedTimeLineView(bool moving)
@@ -507,6 +527,12 @@ void Ruler::emitTimeLineViewChanged(bool moving)
 }
 
 void Ruler::viewMovedByUser(bool moving)
+{
+    whileAlive(
+        this, [&] { viewMoved(moving); }, [this] { noticeView(); });
+}
+
+void Ruler::viewMoved(bool moving)
 {
     followView();
     whileAlive(

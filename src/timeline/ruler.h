@@ -24,8 +24,18 @@ class RulerMarkerButton;
 class CORVELGUI_EXPORT Ruler : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(FollowMode followMode READ followMode WRITE setFollowMode NOTIFY followModeChanged)
+    Q_PROPERTY(bool following READ isFollowing NOTIFY followingChanged)
 
 public:
+    /// How the view goes after the indicator.
+    enum class FollowMode {
+        Off,     ///< just as far as it takes to show an indicator that is set outside the view
+        Pages,   ///< by whole views, when the indicator leaves the view
+        Centered ///< at every step, with the indicator in the middle
+    };
+    Q_ENUM(FollowMode)
+
     explicit Ruler(QWidget* parent = nullptr);
     ~Ruler() override;
 
@@ -68,6 +78,33 @@ public:
     double getPosition(const QDateTime& time) const;
     /// Pixels per millisecond at the current level; infinite while there is no period.
     double lengthPerMillisecond() const;
+
+    /// From the first instant in view up to the first behind it; empty while there is no view. Its
+    /// ends are times since the epoch, as all times of the functions from here to centerOn(), and
+    /// may lie outside the limits.
+    TimeSpan view() const;
+    /// The time at column @p x of the widget, whether it is in view or not; 0 without a view.
+    qint64 timeAt(double x) const;
+    /// The column of a time, whether it is in view or not; 0.0 without a view.
+    double xAt(qint64 msecs) const;
+    /// Shows at least the range, in the middle of the view as far as the limits allow, at the
+    /// closest level that holds it: a view that was asked for by view() comes back as it was. Does
+    /// nothing without a period or with a range that is empty or reversed.
+    void setView(qint64 from, qint64 to);
+    /// Brings a time into the middle of the view as far as the limits allow; the level stays.
+    void centerOn(qint64 msecs);
+
+    /// How the view follows the indicator, as it is set by setIndicatorPosition() and by keys. Off
+    /// by default.
+    ///
+    /// In the other modes the view stays within the limits, the zoom control keeps the indicator in
+    /// view, and the view yields to the user: it rests while he holds the timeline, and stays where
+    /// any other move leaves it without the indicator (with Centered: without it in the middle). It
+    /// goes on once it shows the indicator in its place again, and with resumeFollowing().
+    FollowMode followMode() const;
+    void setFollowMode(FollowMode mode);
+    /// Whether there is a mode and the view has not yielded. Holding alone does not end it.
+    bool isFollowing() const;
 
     // The indicator
 
@@ -151,6 +188,9 @@ public Q_SLOTS:
     void onZoomerIn(int level, double anchor);
     /// As changeLevel() while the view can grow; else only reports the current level again.
     void onZoomerOut(int level, double anchor);
+    /// Brings the view back to the indicator and follows it from there. Does nothing without a
+    /// mode.
+    void resumeFollowing();
     /// Centres the view on a relative position, without regard to the limits.
     void onTimelineOffsetChanged(double position);
     /// Performs an operation on the markers; unknown codes do nothing.
@@ -161,6 +201,9 @@ public Q_SLOTS:
     void onTimeLineViewSettingsNeeded();
 
 Q_SIGNALS:
+    void followModeChanged(CorvelGui::Ruler::FollowMode mode);
+    /// Emitted when isFollowing() changed, after what changed it.
+    void followingChanged(bool following);
     /// Emitted after every change of level, every refused zoom request and every step of the wheel.
     void changeSliderZoom(int level);
     /// For clients that drive a zoom slider of their own; the ruler does not emit it.
@@ -168,8 +211,8 @@ Q_SIGNALS:
     /// Emitted when the user placed the indicator: by a click, at the end of a drag, by a key, and
     /// at every move of a drag if setIndicatorDragEnabled() says so.
     void indicatorPositionChanged(quint64 msecs, double position);
-    /// Emitted when the view moved, except by onTimelineOffsetChanged() and by paging after
-    /// setIndicatorPosition().
+    /// Emitted when the view moved, except by onTimelineOffsetChanged() and, without a follow mode,
+    /// by setIndicatorPosition().
     void centerPositionChanged(double position);
     /// Emitted when a marker was pressed, or reached by a key.
     void jumpToTime(const QDateTime& time, const QUuid& identifier);
@@ -214,7 +257,14 @@ private:
     void setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
     void changedTimeLineView(bool moving);
     void emitTimeLineViewChanged(bool moving);
+    void zoom(int level, double anchor, bool keepIndicator);
+    void viewZoomed(int oldLevel, qint64 oldStart);
+    void viewMoved(bool moving);
     void viewMovedByUser(bool moving);
+    bool followIndicator();
+    void noticeView();
+    void reportFollowing();
+    bool isHeld() const;
     bool canMoveViewPort(int direction) const;
     void moveViewPort(int direction);
 

@@ -11,6 +11,7 @@
 #include "rulerpainter.h"
 #include "timescale.h"
 #include "tracksegments.h"
+#include "viewfollower.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -74,6 +75,9 @@ struct Ruler::Private
     bool blocked = false;
     bool viewChangeBlocked = false;
     bool viewChangePending = false;
+
+    ViewFollower follower;
+    bool followingReported = false;
 
     // Last, so that it stops asking before anything else is gone.
     std::unique_ptr<AccessibleRange> accessible;

@@ -138,6 +138,11 @@ qint64 TimeScale::startWithinLimits(qint64 msecs) const
     return std::max(std::min(msecs, latest), m_begin.msecs);
 }
 
+qint64 TimeScale::startAround(qint64 msecs) const
+{
+    return startWithinLimits(bounded(msecs) - qint64(millisecondsPerLevel() / 2));
+}
+
 bool TimeScale::pageTo(const QDateTime& time)
 {
     if (!hasView())

@@ -84,6 +84,8 @@ public:
     bool centerOnPosition(double position);
     /// Where a view that is to begin at @p msecs begins, so that it stays within the limits.
     qint64 startWithinLimits(qint64 msecs) const;
+    /// Where the view begins that has @p msecs in its middle, as far as the limits allow.
+    qint64 startAround(qint64 msecs) const;
 
     // The level
     int level() const { return m_level; }

@@ -6,6 +6,8 @@
 
 #include <QAbstractButton>
 
+#include <functional>
+
 using namespace CorvelGui;
 using Hueloft::POrvGuiTheme;
 using namespace Qt::StringLiterals;
@@ -19,6 +21,8 @@ private Q_SLOTS:
     void zooming();
     void refusedZoomRequests();
     void searchRangeZooms();
+    void viewForClients();
+    void following();
     void indicatorMovesByAPixelAtLeast();
     void indicatorIsSeenInTheView();
     void viewChangesOnRequest();
@@ -103,6 +107,112 @@ void TestRuler::searchRangeZooms()
              (QStringList{u"level 2"_s, u"center 0.5042"_s, u"view 06 23:28 - 07 02:30"_s}));
     ruler.setSearchTimeRange(from, from, true);
     QCOMPARE(ruler.takeLog(), QStringList());
+}
+
+void TestRuler::viewForClients()
+{
+    LoggedRuler ruler;
+    ruler.setView(monday + 2 * day, monday + 3 * day);
+    QCOMPARE(ruler.takeLog(),
+             (QStringList{u"level 4"_s, u"center 0.25"_s, u"view 03 23:45 - 05 00:00"_s}));
+    QCOMPARE(ruler.timeAt(510), monday + 2 * day + 12 * hour);
+    QCOMPARE(ruler.xAt(monday + 2 * day + 12 * hour), 510.0);
+    const TimeSpan view = ruler.view();
+    ruler.setView(view.begin, view.end);
+    ruler.setView(view.end, view.begin);
+    ruler.centerOn(view.begin + 12 * hour);
+    QCOMPARE(ruler.takeLog(), QStringList());
+    ruler.centerOn(monday + 10 * day - hour);
+    QCOMPARE(ruler.takeLog(), (QStringList{u"center 0.95"_s, u"view 10 23:45 - 12 00:00"_s}));
+
+    LoggedRuler empty(0);
+    empty.setView(monday, monday + day);
+    empty.centerOn(monday);
+    QCOMPARE(empty.view(), TimeSpan());
+    QCOMPARE(empty.timeAt(510), 0);
+    QCOMPARE(empty.xAt(monday), 0.0);
+    QCOMPARE(empty.takeLog(), QStringList());
+}
+
+void TestRuler::following()
+{
+    using Mode = Ruler::FollowMode;
+    using Act = std::function<void(LoggedRuler&)>;
+    const auto show = [](double hours) -> Act {
+        return [=](LoggedRuler& r) {
+            r.onTimelineOffsetChanged((hours + 0.5) / 240);
+        };
+    };
+    const auto play = [](double hours) -> Act {
+        return [=](LoggedRuler& r) {
+            r.setIndicatorPosition(at(qint64(hours * hour)));
+        };
+    };
+    const Act resume = [](LoggedRuler& r) {
+        r.resumeFollowing();
+    };
+    const Act press = [](LoggedRuler& r) {
+        r.press(500);
+    };
+    const Act release = [](LoggedRuler& r) {
+        r.release(2000);
+    };
+    const Act drag = [](LoggedRuler& r) {
+        r.press(600), r.dragTo(500), r.release(500);
+    };
+    const auto zoomAt = [](double anchor) -> Act {
+        return [=](LoggedRuler& r) {
+            r.changeLevel(0, anchor);
+        };
+    };
+    const Act zoomIn = [](LoggedRuler& r) {
+        r.onZoomerIn(0, 0.5);
+    };
+    // An hour from 5:00 is in view, with the indicator in the middle of it.
+    const struct
+    {
+        Mode mode;
+        QList<Act> acts;
+        double begin; ///< of the view, in hours
+        bool follows;
+    } cases[] = {
+        {Mode::Off, {play(7)}, 6, false},
+        {Mode::Off, {show(9), resume}, 9, false},
+        {Mode::Pages, {play(6)}, 5, true},
+        {Mode::Pages, {play(6.1)}, 6, true},
+        {Mode::Pages, {play(8.5)}, 8, true},
+        {Mode::Pages, {play(4.9)}, 4, true},
+        {Mode::Pages, {play(239.99)}, 239, true},
+        {Mode::Pages, {show(5.2), play(6.3)}, 6.2, true}, // still in view
+        {Mode::Pages, {show(9), play(6)}, 9, false},
+        {Mode::Pages, {show(9), play(6), resume}, 6, true},
+        {Mode::Pages, {show(9), play(9.5), play(10.5)}, 10, true},
+        {Mode::Pages, {show(9), show(5), play(6.5)}, 6, true},
+        {Mode::Pages, {press, play(6.5)}, 5, true},
+        {Mode::Pages, {press, play(6.5), release, play(6.6)}, 6, true},
+        {Mode::Pages, {drag, play(6.5)}, 6.1, true},
+        {Mode::Pages, {zoomAt(0)}, 5, false},
+        {Mode::Pages, {play(5.1), zoomIn}, 5, true},
+        {Mode::Centered, {play(6)}, 5.5, true},
+        {Mode::Centered, {play(0.2)}, 0, true},
+        {Mode::Centered, {drag, play(7)}, 5.1, false},
+        {Mode::Centered, {drag, play(7), resume}, 6.5, true},
+        {Mode::Centered, {zoomAt(0)}, 5.5 - 1.0 / 6, true},
+    };
+    for (const auto& [mode, acts, begin, follows] : cases) {
+        LoggedRuler ruler;
+        show(5)(ruler);
+        play(5.5)(ruler);
+        ruler.setFollowMode(mode);
+        bool following = ruler.isFollowing();
+        connect(&ruler, &Ruler::followingChanged, &ruler, [&](bool on) { following = on; });
+        for (const Act& act : acts)
+            act(ruler);
+        const double shown = double(qint64(ruler.beginTime()) - monday) / hour;
+        QVERIFY2(qAbs(shown - begin) < 0.02, qPrintable(QString::number(shown)));
+        QCOMPARE(ruler.isFollowing(), follows);
+        QCOMPARE(following, follows);
+    }
 }
 
 void TestRuler::indicatorMovesByAPixelAtLeast()

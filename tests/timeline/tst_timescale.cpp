@@ -2,6 +2,7 @@
 #include "times.h"
 #include "timescale.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 #include <cmath>
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void zoomKeepsAnchor();
     void zoomStaysWithinLimits();
     void levelFromTimeRange();
+    void viewsOnRequest();
     void paging();
     void labels();
 };
@@ -284,6 +286,39 @@ void TestTimeScale::levelFromTimeRange()
     QVERIFY(!scale.setLevelFromTimeRange(at(monday), at(monday)));
     QVERIFY(!scale.setLevelFromTimeRange(at(monday + 1), at(monday)));
     QCOMPARE(scale.level(), 8);
+}
+
+void TestTimeScale::viewsOnRequest()
+{
+    QRandomGenerator random(5);
+    const auto anyTime = [&](qint64 length) {
+        return qint64(random.bounded(double(length)));
+    };
+    for (int i = 0; i < 300; ++i) {
+        const qint64 duration = second + anyTime(i % 2 ? hour : 60 * day);
+        TimeScale scale = scaleOf(duration);
+        const qint64 from = monday + anyTime(duration) - duration / 10;
+        const qint64 to = from + 1 + anyTime(std::min<qint64>(duration, 20 * day));
+        QVERIFY(scale.setView(from, to));
+        // All of the range that the limits allow, at the closest level, and as central as they do.
+        const qint64 begin = std::max(from, monday);
+        const qint64 end = std::min(to, monday + duration);
+        QVERIFY(begin >= end || (scale.viewStartMs() <= begin && end <= scale.viewEndMs()));
+        const int closer = scale.level() - 1;
+        QVERIFY(closer < 0 ||
+                qint64(TimeScale::zoomLevels()[closer].millisecondsPerLevel) < to - from ||
+                TimeScale::zoomLevels()[closer].millisecondsPerLevel > quint64(duration));
+        QVERIFY(scale.viewStartMs() >= monday && scale.viewEndMs() <= monday + duration);
+        const qint64 offset = scale.viewStartMs() + scale.viewEndMs() - from - to;
+        QVERIFY(qAbs(offset) <= 2 || scale.viewStartMs() == monday ||
+                scale.viewEndMs() == monday + duration);
+
+        TimeScale again = scale;
+        again.changeLevel(TimeScale::wholeRangeLevel, 0.0);
+        QVERIFY(again.setView(scale.viewStartMs(), scale.viewEndMs()));
+        QCOMPARE(again.viewStartMs(), scale.viewStartMs());
+        QCOMPARE(again.level(), scale.level());
+    }
 }
 
 void TestTimeScale::paging()
