@@ -121,12 +121,6 @@ void Ruler::applyTimeZone()
         });
 }
 
-void Ruler::setTrackDescriptions(const QList<TrackDescription>& tracks)
-{
-    d->segments.setTracks(tracks);
-    updateTrackSegments();
-}
-
 quint64 Ruler::beginTime() const
 {
     return quint64(d->scale.viewStartMs());
@@ -432,12 +426,6 @@ void Ruler::onPreviewVisible(bool visible, bool pending)
 void Ruler::onTimeLineViewSettingsNeeded()
 {
     QTimer::singleShot(0, this, [this] { changedTimeLineView(false); });
-}
-
-void Ruler::updateTrackSegments()
-{
-    d->segments.update(d->scale);
-    update();
 }
 
 // What goes with every other view. Steps of the indicator that were less than a pixel of the old

@@ -56,6 +56,10 @@ public:
     void applyTimeZone();
     /// What is known of the recorded tracks. Replaces what was set before.
     void setTrackDescriptions(const QList<TrackDescription>& tracks);
+    /// Adds recordings to a described track, in any order, as recording goes on. A span at the end
+    /// costs microseconds, however many there are. Returns false, and changes nothing, if no track
+    /// with that identifier is described.
+    bool addRecordedSpans(const QString& trackIdentifier, const QList<TimeSpan>& spans);
 
     // The view
 

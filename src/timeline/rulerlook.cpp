@@ -1,4 +1,4 @@
-// How the ruler looks: colours, sizes, painting, and where its children stand.
+// How the ruler looks: colours, sizes, recorded tracks, painting, and where its children stand.
 
 #include "ruler_p.h"
 
@@ -113,6 +113,26 @@ void Ruler::paintEvent(QPaintEvent*)
         scene.resultMarks.push_back(d->resultRange->end);
     scene.focus = d->focus;
     d->painter.paint(painter, scene);
+}
+
+void Ruler::setTrackDescriptions(const QList<TrackDescription>& tracks)
+{
+    d->segments.setTracks(tracks);
+    updateTrackSegments();
+}
+
+bool Ruler::addRecordedSpans(const QString& trackIdentifier, const QList<TimeSpan>& spans)
+{
+    if (!d->segments.addRecorded(trackIdentifier, spans))
+        return false;
+    updateTrackSegments();
+    return true;
+}
+
+void Ruler::updateTrackSegments()
+{
+    d->segments.update(d->scale);
+    update();
 }
 
 void Ruler::resizeEvent(QResizeEvent*)

@@ -1,8 +1,21 @@
 #include "timespans.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace CorvelGui {
+
+namespace {
+
+void replace(TimeSpans& spans, TimeSpans::iterator first, TimeSpans::iterator last,
+             const TimeSpans& by)
+{
+    const auto common = std::min(last - first, std::ptrdiff_t(by.size()));
+    first = std::copy_n(by.begin(), common, first);
+    spans.insert(spans.erase(first, last), by.begin() + common, by.end());
+}
+
+} // namespace
 
 TimeSpans joined(TimeSpans spans)
 {
@@ -42,6 +55,31 @@ TimeSpans difference(const TimeSpans& spans, const TimeSpans& without)
             result.push_back({begin, span.end});
     }
     return result;
+}
+
+void unite(TimeSpans& spans, const TimeSpan& span)
+{
+    if (span.isEmpty())
+        return;
+    const auto first = std::partition_point(spans.begin(), spans.end(),
+                                            [&](const TimeSpan& s) { return s.end < span.begin; });
+    const auto last = std::partition_point(first, spans.end(),
+                                           [&](const TimeSpan& s) { return s.begin <= span.end; });
+    TimeSpan whole = span;
+    if (first != last)
+        whole = {std::min(first->begin, span.begin), std::max(std::prev(last)->end, span.end)};
+    replace(spans, first, last, {whole});
+}
+
+void subtract(TimeSpans& spans, const TimeSpan& span)
+{
+    if (span.isEmpty())
+        return;
+    const auto first = std::partition_point(spans.begin(), spans.end(),
+                                            [&](const TimeSpan& s) { return s.end <= span.begin; });
+    const auto last = std::partition_point(first, spans.end(),
+                                           [&](const TimeSpan& s) { return s.begin < span.end; });
+    replace(spans, first, last, difference({first, last}, {span}));
 }
 
 } // namespace CorvelGui

@@ -16,4 +16,10 @@ CORVELGUI_INTERNAL_EXPORT TimeSpans joined(TimeSpans spans);
 /// What @p spans cover and @p without does not.
 CORVELGUI_INTERNAL_EXPORT TimeSpans difference(const TimeSpans& spans, const TimeSpans& without);
 
+/// Adds what @p span covers. What follows in @p spans moves; nothing else is looked at.
+CORVELGUI_INTERNAL_EXPORT void unite(TimeSpans& spans, const TimeSpan& span);
+
+/// Takes away what @p span covers, at the same cost.
+CORVELGUI_INTERNAL_EXPORT void subtract(TimeSpans& spans, const TimeSpan& span);
+
 } // namespace CorvelGui

@@ -44,9 +44,11 @@ TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
 
 void TrackSegments::setTracks(const QList<TrackDescription>& tracks)
 {
+    m_tracks.clear();
     TimeSpans described;
     TimeSpans recorded;
     for (const TrackDescription& track : tracks) {
+        m_tracks.insert(track.identifier);
         described.push_back({track.begin, track.end});
         recorded.insert(recorded.end(), track.recorded.begin(), track.recorded.end());
     }
@@ -54,6 +56,18 @@ void TrackSegments::setTracks(const QList<TrackDescription>& tracks)
     described.insert(described.end(), m_recordedSpans.begin(), m_recordedSpans.end());
     m_described = joined(std::move(described));
     m_gapSpans = difference(m_described, m_recordedSpans);
+}
+
+bool TrackSegments::addRecorded(const QString& track, const QList<TimeSpan>& spans)
+{
+    if (!m_tracks.contains(track))
+        return false;
+    for (const TimeSpan& span : spans) {
+        unite(m_recordedSpans, span);
+        unite(m_described, span);
+        subtract(m_gapSpans, span);
+    }
+    return true;
 }
 
 bool TrackSegments::isTrackLimitChanged(const TimeScale& scale) const

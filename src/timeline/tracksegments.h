@@ -5,6 +5,8 @@
 #include "trackdescription.h"
 
 #include <QList>
+#include <QSet>
+#include <QString>
 
 #include <vector>
 
@@ -35,6 +37,8 @@ class CORVELGUI_INTERNAL_EXPORT TrackSegments
 {
 public:
     void setTracks(const QList<TrackDescription>& tracks);
+    /// Adds recordings of a track that was set. Returns false if there is none of that name.
+    bool addRecorded(const QString& track, const QList<TimeSpan>& spans);
     bool hasTracks() const { return !m_described.empty(); }
 
     /// True when the limits of @p scale reach beyond the described tracks, at the begin or at the
@@ -47,6 +51,7 @@ public:
     const TrackSegmentList& recorded() const { return m_recorded; }
 
 private:
+    QSet<QString> m_tracks; ///< their identifiers
     TimeSpans m_described;
     TimeSpans m_gapSpans;
     TimeSpans m_recordedSpans;

@@ -46,6 +46,7 @@ class TestTrackSegments : public WarningFreeTest
 private Q_SLOTS:
     void joining();
     void differences();
+    void oneByOneIsLikeAllAtOnce();
     void segmentsFillTheColumnsOfTheirSpans();
     void spansWithoutAnEnd();
     void threeStates();
@@ -78,6 +79,24 @@ void TestTrackSegments::differences()
                  {{{1, 4}, {6, 9}}, {{3, 7}}, {{1, 3}, {7, 9}}}};
     for (const auto& [spans, without, expected] : cases)
         QCOMPARE(difference(spans, without), expected);
+}
+
+void TestTrackSegments::oneByOneIsLikeAllAtOnce()
+{
+    QRandomGenerator random(11);
+    for (int round = 0; round < 300; ++round) {
+        TimeSpans all;
+        TimeSpans united;
+        TimeSpans left{{0, 40}, {50, 90}};
+        for (int i = 0; i < 8; ++i) {
+            const qint64 begin = random.bounded(100);
+            all.push_back({begin, begin - 1 + random.bounded(12)}); // some are empty
+            unite(united, all.back());
+            subtract(left, all.back());
+            QCOMPARE(united, joined(all));
+            QCOMPARE(left, difference({{0, 40}, {50, 90}}, united));
+        }
+    }
 }
 
 void TestTrackSegments::segmentsFillTheColumnsOfTheirSpans()
@@ -135,6 +154,16 @@ void TestTrackSegments::threeStates()
     QCOMPARE(segments.gaps().size(), size_t(1));
     QCOMPARE(segments.gaps().front().start, 110.0);
     QCOMPARE(segments.gaps().front().end, 410.0);
+
+    // Recording goes on, beyond what was described.
+    QVERIFY(!segments.addRecorded(u"c"_s, {{monday, monday + day}}));
+    QVERIFY(segments.addRecorded(u"b"_s, {{monday + 3 * day, monday + 6 * day}}));
+    segments.update(scaleOf(10 * day));
+    QCOMPARE(segments.recorded().back(), (TrackSegment{310, 610}));
+    QCOMPARE(segments.gaps().back().end, 310.0);
+    QVERIFY(segments.isTrackLimitChanged(scaleOf(7 * day)));
+    segments.addRecorded(u"a"_s, {{monday, monday + 7 * day}});
+    QVERIFY(!segments.isTrackLimitChanged(scaleOf(7 * day)));
 }
 
 void TestTrackSegments::spansWithoutAnEnd()
