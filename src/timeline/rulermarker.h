@@ -16,7 +16,8 @@ public:
 
     /// The key of the icon for an index; any number but -1, which is the ruler's own icon.
     virtual int iconKey(int iconIndex) = 0;
-    /// The icon for an index. Asked once for every key.
+    /// The icon for an index. Every ruler asks once for every key; those that get copies of one
+    /// QIcon share its pictures.
     virtual QIcon icon(int iconIndex) = 0;
 };
 

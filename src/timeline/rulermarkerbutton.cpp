@@ -18,7 +18,7 @@ constexpr QSize initialSize(16, 18);
 
 } // namespace
 
-RulerMarkerButton::RulerMarkerButton(const MergedRulerIcons* mergedIcons, QWidget* ruler)
+RulerMarkerButton::RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* ruler)
     : QPushButton(ruler), m_mergedIcons(mergedIcons)
 {
     setFlat(true);
@@ -95,17 +95,23 @@ void RulerMarkerButton::paintEvent(QPaintEvent*)
         painter.setBrush(backdrop);
         painter.drawRoundedRect(rect(), 3, 3);
     }
-    QRect iconRect(QPoint(0, 0), iconSize().boundedTo(size()));
-    iconRect.moveCenter(rect().center());
-    shownIcon().paint(&painter, iconRect);
+    const QPixmap picture = shownPicture();
+    if (picture.isNull())
+        return;
+    const QSize free = size() - picture.deviceIndependentSize().toSize();
+    painter.drawPixmap(free.width() / 2, free.height() / 2, picture);
 }
 
-const QIcon& RulerMarkerButton::shownIcon() const
+QPixmap RulerMarkerButton::shownPicture() const
 {
-    const RulerIconSet& icons = m_merge == Merge::Representative ? m_mergedIcons->merged : *m_icons;
-    if (m_hovered)
-        return m_alternativeHover ? icons.alternativeHover : icons.hover;
-    return m_merge == Merge::MergedAway ? m_mergedIcons->transparent : icons.normal;
+    using State = RulerIconSet::State;
+    if (m_merge == Merge::MergedAway && !m_hovered)
+        return {};
+    const RulerIconSet& icons = m_merge == Merge::Representative ? *m_mergedIcons : *m_icons;
+    const State state = !m_hovered           ? State::Normal
+                        : m_alternativeHover ? State::AlternativeHover
+                                             : State::Hover;
+    return icons.picture(state, iconSize().boundedTo(size()), devicePixelRatioF());
 }
 
 } // namespace CorvelGui

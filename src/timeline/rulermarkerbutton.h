@@ -7,8 +7,7 @@
 
 namespace CorvelGui {
 
-struct MergedRulerIcons;
-struct RulerIconSet;
+class RulerIconSet;
 
 /// A flat button for one marker of a ruler, centred on the marker's time. The ruler makes, places
 /// and deletes these buttons, and may give a button another marker when the view moves.
@@ -24,8 +23,8 @@ public:
         MergedAway      ///< shows nothing until it is hovered
     };
 
-    /// The merged icons are not owned and must outlive the button.
-    RulerMarkerButton(const MergedRulerIcons* mergedIcons, QWidget* ruler);
+    /// The icons of merged markers are not owned and must outlive the button.
+    RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* ruler);
 
     /// A tooltip that shows @p text as it is, also where it looks like markup.
     static QString plainToolTip(const QString& text);
@@ -53,11 +52,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const QIcon& shownIcon() const;
+    QPixmap shownPicture() const;
 
     RulerMarker m_marker;
     const RulerIconSet* m_icons = nullptr;
-    const MergedRulerIcons* m_mergedIcons;
+    const RulerIconSet* m_mergedIcons;
     int m_centerX = 0;
     Merge m_merge = Merge::Alone;
     bool m_hovered = false;

@@ -18,18 +18,29 @@ constexpr int ownIconKey = -1;
 constexpr int largestIconSize = 256;
 constexpr std::size_t longestToolTip = 12; // lines
 
+// One each, so that all rulers share their pictures.
+const QIcon& ownIcon()
+{
+    static const QIcon icon = PIconHelper::GetMarkerOutlined_48x48(true);
+    return icon;
+}
+
+const QIcon& mergedIcon()
+{
+    static const QIcon icon = PIconHelper::GetMergerd_48x48(true);
+    return icon;
+}
+
 } // namespace
 
 RulerMarkers::RulerMarkers(QWidget* ruler, QWidget* ceiling)
-    : QObject(ruler), m_ruler(ruler), m_ceiling(ceiling)
-{}
+    : QObject(ruler), m_ruler(ruler), m_ceiling(ceiling), m_mergedIcons(mergedIcon())
+{
+    addIcon(ownIconKey, ownIcon());
+}
 
 void RulerMarkers::add(const QList<RulerMarker>& markers)
 {
-    if (m_icons.empty()) {
-        addIcon(ownIconKey, PIconHelper::GetMarkerOutlined_48x48(true));
-        m_mergedIcons = setupMergedRulerIcons();
-    }
     std::vector<quint32> icons;
     icons.reserve(std::size_t(markers.size()));
     for (const RulerMarker& marker : markers)
@@ -198,7 +209,7 @@ quint32 RulerMarkers::iconOf(const RulerMarker& marker)
 quint32 RulerMarkers::addIcon(int key, const QIcon& icon)
 {
     const auto number = quint32(m_icons.size());
-    m_icons.push_back(setupRulerIconSet(icon));
+    m_icons.push_back(RulerIconSet(icon));
     m_iconNumbers[key] = number;
     return number;
 }
@@ -206,8 +217,10 @@ quint32 RulerMarkers::addIcon(int key, const QIcon& icon)
 MarkerView RulerMarkers::markersInView() const
 {
     MarkerView::Icons icons{m_iconSize.width(), {}};
-    for (const RulerIconSet& icon : m_icons)
-        icons.halfWidths.push_back(visibleHalfWidth(icons.width, icon.visibleFraction));
+    for (const RulerIconSet& icon : m_icons) {
+        const double fraction = icon.visibleFraction(m_iconSize, m_ruler->devicePixelRatioF());
+        icons.halfWidths.push_back(visibleHalfWidth(icons.width, fraction));
+    }
     return MarkerView(m_store, m_view.geometry, std::move(icons), m_range);
 }
 

@@ -99,10 +99,9 @@ private:
     QWidget* const m_ruler;
     const QPointer<QWidget> m_ceiling;
     MarkerStore m_store;
-    // Made with the first marker, because drawing them takes a while.
-    std::deque<RulerIconSet> m_icons;
+    std::deque<RulerIconSet> m_icons;     ///< the first is the ruler's own
     std::map<int, quint32> m_iconNumbers; ///< by key
-    MergedRulerIcons m_mergedIcons;
+    const RulerIconSet m_mergedIcons;
     QSize m_iconSize{16, 16};
     std::optional<TimeSpan> m_range;
     bool m_shown = true;

@@ -1,4 +1,5 @@
 #include "loggedruler.h"
+#include "rulericonset.h"
 #include "testsupport.h"
 
 #include <CorvelGui/RulerMarkerButton>
@@ -109,6 +110,7 @@ private Q_SLOTS:
     void hiddenMarkersAnswerTheMouse();
     void toolTips();
     void iconsOfTheProvider();
+    void iconsAreSharedAtTheirSize();
     void markerPreview();
     void sizes();
     void onlyInsideTheResultRange();
@@ -266,6 +268,26 @@ void TestRulerMarkers::iconsOfTheProvider()
     ruler.onAddMarkers({provider.marker(10 * minute, 0, 2)});
     QVERIFY(middleColor(visibleButtons(ruler)[0]) != QColor(Qt::magenta));
     QCOMPARE(provider.asked, 2);
+}
+
+void TestRulerMarkers::iconsAreSharedAtTheirSize()
+{
+    using State = RulerIconSet::State;
+    const QIcon icon = Provider().icon(1);
+    const RulerIconSet one(icon);
+    QCOMPARE(one.visibleFraction({16, 16}, 1.0), 0.5);
+    QCOMPARE(one.picture(State::Hover, {16, 16}, 1.0).size(), QSize(16, 16));
+    const RulerIconSet other(icon);
+    const auto key = [&](const RulerIconSet& icons, qreal ratio) {
+        return icons.picture(State::Normal, {16, 16}, ratio).cacheKey();
+    };
+    QCOMPARE(key(one, 1.0), key(other, 1.0));
+    QCOMPARE(one.picture(State::Normal, {16, 16}, 2.0).size(), QSize(32, 32));
+    QVERIFY(key(one, 2.0) != key(other, 1.0));
+    QCOMPARE(key(one, 1.0), key(other, 1.0));
+    // None is enlarged.
+    QCOMPARE(one.picture(State::Normal, {100, 100}, 1.0).size(), QSize(64, 64));
+    QVERIFY(RulerIconSet(QIcon()).picture(State::Normal, {16, 16}, 1.0).isNull());
 }
 
 void TestRulerMarkers::markerPreview()
