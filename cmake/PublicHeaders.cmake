@@ -35,6 +35,7 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/CheckFileNameLineEdit
     input/CountryCodeLineEdit
     input/FancyLineEdit
+    input/FancyLineEditPrivate
     input/FileNameValidatingLineEdit
     input/FilterLineEdit
     input/IconButton

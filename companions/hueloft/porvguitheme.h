@@ -8,7 +8,7 @@
 
 namespace Hueloft {
 
-/// The named colours of the product line, and its dark and light application looks.
+/// The named colours, and the dark and the light look of an application.
 ///
 /// The colours are the same in both looks: the video surfaces that use them (timeline, player) stay
 /// dark, so that pictures are not outshone. What changes with the look is the palette and the style

@@ -21,7 +21,8 @@ bool writeAll(QFileDevice& file, const QByteArray& content)
             return false;
         done += written;
     }
-    return file.flush();
+    // A short write has no reason yet; the attempt to write the rest has.
+    return file.flush() || file.flush();
 }
 
 /// A device cannot be replaced, only written to.

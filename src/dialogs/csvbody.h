@@ -27,7 +27,6 @@ struct CsvFormat
 /// Every text stands between quotes and is otherwise written as it is. A delimiter follows a text
 /// if the number of its column is less than CsvFormat::columnCount minus one: where an
 /// unwritten column stands before written ones, delimiters are missing at the end of the line.
-/// Readers of these files count on that.
 ///
 /// The time grows with the cells of the list and the ranges of the selection, not their product.
 CORVELGUI_INTERNAL_EXPORT void writeCsv(QTextStream& out, const QAbstractItemModel& list,

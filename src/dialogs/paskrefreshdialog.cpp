@@ -4,37 +4,40 @@
 
 #include <Hueloft/PIconHelper>
 
+#include <QDateTime>
 #include <QEvent>
 
 namespace CorvelGui {
 
-PAskRefreshDialog::PAskRefreshDialog(QWidget* parent, const QVariant& lastUpdate, bool showNextTime)
-    : PBaseDialog(parent)
-    , m_ui(std::make_unique<Ui::PAskRefreshDialog>())
-    , m_lastUpdate(lastUpdate.toDateTime())
+struct PAskRefreshDialog::Private
 {
-    m_ui->setupUi(this);
+    Ui::PAskRefreshDialog ui{};
+    const QDateTime lastUpdate;
+};
+
+PAskRefreshDialog::PAskRefreshDialog(QWidget* parent, const QVariant& lastUpdate, bool showNextTime)
+    : PBaseDialog(parent), d(new Private{.lastUpdate = lastUpdate.toDateTime()})
+{
+    d->ui.setupUi(this);
     const QIcon icon = Hueloft::PIconHelper::GetRefreshIcon_256x256(true);
-    m_ui->labelRefreshIcon->setPixmap(icon.pixmap(icon.availableSizes().value(0)));
-    m_ui->checkBoxShowNextTime->setChecked(showNextTime);
-    showLastUpdate();
-    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &PAskRefreshDialog::slotAccept);
-    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    d->ui.labelRefreshIcon->setPixmap(icon.pixmap(icon.availableSizes().value(0)));
+    d->ui.checkBoxShowNextTime->setChecked(showNextTime);
+    retranslate();
+    connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &PAskRefreshDialog::slotAccept);
+    connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 PAskRefreshDialog::~PAskRefreshDialog() = default;
 
 bool PAskRefreshDialog::ShowNextTime() const
 {
-    return m_ui->checkBoxShowNextTime->isChecked();
+    return d->ui.checkBoxShowNextTime->isChecked();
 }
 
 void PAskRefreshDialog::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        m_ui->retranslateUi(this);
-        showLastUpdate();
-    }
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
     PBaseDialog::changeEvent(event);
 }
 
@@ -43,13 +46,14 @@ void PAskRefreshDialog::slotAccept()
     accept();
 }
 
-void PAskRefreshDialog::showLastUpdate()
+void PAskRefreshDialog::retranslate()
 {
+    d->ui.retranslateUi(this);
     // Hidden, it leaves the question in the middle.
-    m_ui->labelRefresh->setVisible(m_lastUpdate.isValid());
-    if (m_lastUpdate.isValid()) {
-        m_ui->labelRefresh->setText(
-            tr("The last update of device information was on %1").arg(m_lastUpdate.toString()));
+    d->ui.labelRefresh->setVisible(d->lastUpdate.isValid());
+    if (d->lastUpdate.isValid()) {
+        d->ui.labelRefresh->setText(
+            tr("The last update of device information was on %1").arg(d->lastUpdate.toString()));
     }
 }
 

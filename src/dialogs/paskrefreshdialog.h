@@ -2,16 +2,11 @@
 
 #include <CorvelGui/PBaseDialog>
 
-#include <QDateTime>
 #include <QVariant>
 
 #include <memory>
 
 namespace CorvelGui {
-
-namespace Ui {
-class PAskRefreshDialog;
-}
 
 /// Asks at program start whether to refresh the status information of all devices: accepted means
 /// now.
@@ -35,10 +30,10 @@ private Q_SLOTS:
     void slotAccept();
 
 private:
-    void showLastUpdate();
+    void retranslate();
 
-    const std::unique_ptr<Ui::PAskRefreshDialog> m_ui;
-    const QDateTime m_lastUpdate;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

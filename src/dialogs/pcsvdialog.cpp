@@ -1,5 +1,7 @@
 #include "pcsvdialog.h"
 
+#include "base/logging.h"
+#include "base/whilealive.h"
 #include "base/wholefile.h"
 #include "csvbody.h"
 #include "documentopener.h"
@@ -9,7 +11,9 @@
 #include <Hueloft/PMessageBox>
 
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTextStream>
@@ -21,25 +25,32 @@ using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
 
-PCsvDialog::PCsvDialog(QWidget* parent) : PBaseDialog(parent), ui(new Ui::PCsvDialog)
+struct PCsvDialog::Private
 {
-    ui->setupUi(this);
-    ui->pushButtonExportToFile->setIcon(PIconHelper::GetOpenIcon_32x32(true));
-    ui->comboBoxDelimiter->addItem(tr("  Tabulation"), QChar(u'\t'));
-    ui->comboBoxDelimiter->addItem(tr("; Semicolon"), QChar(u';'));
-    ui->comboBoxDelimiter->addItem(tr(", Comma"), QChar(u','));
-    ui->comboBoxDelimiter->setCurrentIndex(1);
-    ui->comboBoxTextQuote->addItem(tr("\"...\" Double Quotation Marks"), QChar(u'"'));
-    ui->comboBoxTextQuote->addItem(tr("'...' Single Quotation Marks"), QChar(u'\''));
-    ui->lineEditExportToFile->addExtensionToCheck(u"csv"_s);
+    Ui::PCsvDialog ui;
+    QPointer<QTableWidget> table;
+    QPointer<QTreeWidget> tree;
+};
+
+PCsvDialog::PCsvDialog(QWidget* parent) : PBaseDialog(parent), d(std::make_unique<Private>())
+{
+    d->ui.setupUi(this);
+    d->ui.pushButtonExportToFile->setIcon(PIconHelper::GetOpenIcon_32x32(true));
+    for (const QChar delimiter : {u'\t', u';', u','})
+        d->ui.comboBoxDelimiter->addItem(QString(), delimiter);
+    d->ui.comboBoxDelimiter->setCurrentIndex(1);
+    for (const QChar quote : {u'"', u'\''})
+        d->ui.comboBoxTextQuote->addItem(QString(), quote);
+    retranslate();
+    d->ui.lineEditExportToFile->addExtensionToCheck(u"csv"_s);
     // The field judges itself when it is shown; until then it holds no name.
     slotFileNameValidate(false);
 
-    connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &PCsvDialog::slotAccept);
-    connect(ui->buttonBox, &QDialogButtonBox::rejected, this, &PCsvDialog::reject);
-    connect(ui->lineEditExportToFile, &FileNameValidatingLineEdit::signalValidate, this,
+    connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &PCsvDialog::slotAccept);
+    connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &PCsvDialog::reject);
+    connect(d->ui.lineEditExportToFile, &FileNameValidatingLineEdit::signalValidate, this,
             &PCsvDialog::slotFileNameValidate);
-    connect(ui->pushButtonExportToFile, &QPushButton::clicked, this, &PCsvDialog::slotBrowsed);
+    connect(d->ui.pushButtonExportToFile, &QPushButton::clicked, this, &PCsvDialog::slotBrowsed);
 
     if (auto* table = qobject_cast<QTableWidget*>(parent))
         InitWithTableWidget(table);
@@ -51,36 +62,55 @@ PCsvDialog::~PCsvDialog() = default;
 
 void PCsvDialog::InitWithTableWidget(QTableWidget* table)
 {
-    m_table = table;
+    d->table = table;
     if (table)
-        listColumns(*table);
+        listColumns();
 }
 
 void PCsvDialog::InitWithTreeWidget(QTreeWidget* tree)
 {
-    m_tree = tree;
-    if (tree && !m_table)
-        listColumns(*tree);
+    d->tree = tree;
+    if (tree && !d->table)
+        listColumns();
 }
 
 QChar PCsvDialog::GetDelimiter() const
 {
-    return ui->comboBoxDelimiter->currentData().toChar();
+    return d->ui.comboBoxDelimiter->currentData().toChar();
 }
 
 QChar PCsvDialog::GetTextQuote() const
 {
-    return ui->comboBoxTextQuote->currentData().toChar();
+    return d->ui.comboBoxTextQuote->currentData().toChar();
 }
 
 bool PCsvDialog::AddColumnsAtTop() const
 {
-    return ui->checkBoxAddColumns->isChecked();
+    return d->ui.checkBoxAddColumns->isChecked();
+}
+
+void PCsvDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    PBaseDialog::changeEvent(event);
+}
+
+void PCsvDialog::retranslate()
+{
+    d->ui.retranslateUi(this);
+    const auto name = [](QComboBox* box, const QStringList& texts) {
+        for (int item = 0; item < texts.size(); ++item)
+            box->setItemText(item, texts.at(item));
+    };
+    name(d->ui.comboBoxDelimiter, {tr("  Tabulation"), tr("; Semicolon"), tr(", Comma")});
+    name(d->ui.comboBoxTextQuote,
+         {tr("\"...\" Double Quotation Marks"), tr("'...' Single Quotation Marks")});
 }
 
 void PCsvDialog::slotAccept()
 {
-    const QString fileName = ui->lineEditExportToFile->text();
+    const QString fileName = d->ui.lineEditExportToFile->text();
     const QString failure = writeWholeFile(fileName, csv(), QIODevice::Text);
     if (!failure.isEmpty()) {
         PMessageBox::Warning(this, QCoreApplication::applicationName(),
@@ -89,11 +119,11 @@ void PCsvDialog::slotAccept()
         return;
     }
     // The shell may handle other events meanwhile.
-    const QPointer<PCsvDialog> alive(this);
-    if (ui->checkBoxOpenExcel->isChecked() && !documentOpener()(fileName))
-        qWarning("No program opens %s", qUtf8Printable(fileName));
-    if (alive)
-        accept();
+    const auto open = [&] {
+        if (d->ui.checkBoxOpenExcel->isChecked() && !documentOpener()(fileName))
+            qCWarning(dialogsLog, "No program opens %s", qUtf8Printable(fileName));
+    };
+    whileAlive(this, open, [this] { accept(); });
 }
 
 void PCsvDialog::slotBrowsed()
@@ -110,67 +140,69 @@ void PCsvDialog::slotBrowsed()
     const QStringList files = chooser->selectedFiles();
     delete chooser;
     if (chosen && !files.isEmpty())
-        ui->lineEditExportToFile->setText(QDir::toNativeSeparators(files.constFirst()));
+        d->ui.lineEditExportToFile->setText(QDir::toNativeSeparators(files.constFirst()));
 }
 
 void PCsvDialog::slotFileNameValidate(bool valid)
 {
-    ui->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(valid);
+    d->ui.buttonBox->button(QDialogButtonBox::Ok)->setEnabled(valid);
 }
 
 int PCsvDialog::GetCheckedColumnCount() const
 {
     int count = 0;
-    for (int column = 0; column < ui->listWidgetColumns->count(); ++column)
+    for (int column = 0; column < d->ui.listWidgetColumns->count(); ++column)
         count += isChecked(column);
     return count;
 }
 
 bool PCsvDialog::isChecked(int column) const
 {
-    return ui->listWidgetColumns->item(column)->checkState() == Qt::Checked;
+    return d->ui.listWidgetColumns->item(column)->checkState() == Qt::Checked;
 }
 
-void PCsvDialog::CreateCsv(QTextStream& stream, QTableWidget* table) const
+QAbstractItemView* PCsvDialog::list() const
 {
-    writeSelection(stream, *table);
+    if (d->table)
+        return d->table;
+    return d->tree;
 }
 
-void PCsvDialog::CreateCsv(QTextStream& stream, QTreeWidget* tree) const
+void PCsvDialog::listColumns()
 {
-    writeSelection(stream, *tree);
-}
-
-void PCsvDialog::listColumns(const QAbstractItemView& list)
-{
-    ui->listWidgetColumns->clear();
-    const QAbstractItemModel& model = *list.model();
-    for (int column = 0; column < model.columnCount(); ++column) {
-        auto* item = new QListWidgetItem(model.headerData(column, Qt::Horizontal).toString(),
-                                         ui->listWidgetColumns);
+    d->ui.listWidgetColumns->clear();
+    const QAbstractItemModel* model = list()->model();
+    for (int column = 0; column < model->columnCount(); ++column) {
+        auto* item = new QListWidgetItem(d->ui.listWidgetColumns);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Checked);
     }
+    nameColumns();
+    // A list may translate its header when the language changes.
+    connect(model, &QAbstractItemModel::headerDataChanged, this, &PCsvDialog::nameColumns);
 }
 
-void PCsvDialog::writeSelection(QTextStream& stream, const QAbstractItemView& list) const
+void PCsvDialog::nameColumns()
 {
-    QBitArray columns(ui->listWidgetColumns->count());
-    for (int column = 0; column < columns.size(); ++column)
-        columns.setBit(column, isChecked(column));
-    const CsvFormat format{GetDelimiter(), GetTextQuote(), AddColumnsAtTop(), columns,
-                           GetCheckedColumnCount()};
-    writeCsv(stream, *list.model(), list.selectionModel()->selection(), format);
+    const QAbstractItemModel* model = list()->model();
+    for (int column = 0; column < d->ui.listWidgetColumns->count(); ++column)
+        d->ui.listWidgetColumns->item(column)->setText(
+            model->headerData(column, Qt::Horizontal).toString());
 }
 
 QByteArray PCsvDialog::csv() const
 {
     QByteArray body;
+    const QAbstractItemView* source = list();
+    if (!source)
+        return body;
+    QBitArray columns(d->ui.listWidgetColumns->count());
+    for (int column = 0; column < columns.size(); ++column)
+        columns.setBit(column, isChecked(column));
+    const CsvFormat format{GetDelimiter(), GetTextQuote(), AddColumnsAtTop(), columns,
+                           GetCheckedColumnCount()};
     QTextStream stream(&body);
-    if (m_table)
-        CreateCsv(stream, m_table);
-    else if (m_tree)
-        CreateCsv(stream, m_tree);
+    writeCsv(stream, *source->model(), source->selectionModel()->selection(), format);
     return body;
 }
 

@@ -3,20 +3,13 @@
 #include <CorvelGui/PBaseDialog>
 #include <CorvelGui/corvelgui_export.h>
 
-#include <QPointer>
-
 #include <memory>
 
 class QAbstractItemView;
 class QTableWidget;
-class QTextStream;
 class QTreeWidget;
 
 namespace CorvelGui {
-
-namespace Ui {
-class PCsvDialog;
-}
 
 /// Writes the selected cells of a list into a file of comma-separated values. The user chooses the
 /// file, the delimiter, the quotes, the columns, whether a line of column names comes first, and
@@ -47,6 +40,9 @@ public:
     /// Whether the column names come first.
     bool AddColumnsAtTop() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void slotAccept();
     void slotBrowsed();
@@ -54,17 +50,16 @@ private Q_SLOTS:
 
 private:
     int GetCheckedColumnCount() const;
-    void CreateCsv(QTextStream& stream, QTableWidget* table) const;
-    void CreateCsv(QTextStream& stream, QTreeWidget* tree) const;
-
+    void retranslate();
     bool isChecked(int column) const;
-    void listColumns(const QAbstractItemView& list);
-    void writeSelection(QTextStream& stream, const QAbstractItemView& list) const;
+    /// What is exported; null without a list.
+    QAbstractItemView* list() const;
+    void listColumns();
+    void nameColumns();
     QByteArray csv() const;
 
-    const std::unique_ptr<Ui::PCsvDialog> ui;
-    QPointer<QTableWidget> m_table;
-    QPointer<QTreeWidget> m_tree;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

@@ -7,45 +7,52 @@
 
 namespace CorvelGui {
 
-PIpRangeDialog::PIpRangeDialog(QWidget* parent)
-    : PBaseDialog(parent), m_ui(std::make_unique<Ui::PIpRangeDialog>())
+struct PIpRangeDialog::Private
 {
-    m_ui->setupUi(this);
-    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &PIpRangeDialog::slotAccept);
-    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_ui->lineEditIp, &QLineEdit::textChanged, this, &PIpRangeDialog::checkEntry);
-    checkEntry(m_ui->lineEditIp->text());
+    Ui::PIpRangeDialog ui;
+    QString address;
+    qint32 mask = 0;
+};
+
+PIpRangeDialog::PIpRangeDialog(QWidget* parent)
+    : PBaseDialog(parent), d(std::make_unique<Private>())
+{
+    d->ui.setupUi(this);
+    connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &PIpRangeDialog::slotAccept);
+    connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(d->ui.lineEditIp, &QLineEdit::textChanged, this, &PIpRangeDialog::checkEntry);
+    checkEntry(d->ui.lineEditIp->text());
 }
 
 PIpRangeDialog::~PIpRangeDialog() = default;
 
 QString PIpRangeDialog::getIp() const
 {
-    return m_address;
+    return d->address;
 }
 
 int PIpRangeDialog::getMask() const
 {
-    return m_mask;
+    return d->mask;
 }
 
 void PIpRangeDialog::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
-        m_ui->retranslateUi(this);
+        d->ui.retranslateUi(this);
     PBaseDialog::changeEvent(event);
 }
 
 void PIpRangeDialog::checkEntry(const QString& /*text*/)
 {
-    m_ui->buttonBox->button(QDialogButtonBox::Ok)
-        ->setEnabled(m_ui->lineEditIp->hasAcceptableInput());
+    d->ui.buttonBox->button(QDialogButtonBox::Ok)
+        ->setEnabled(d->ui.lineEditIp->hasAcceptableInput());
 }
 
 void PIpRangeDialog::slotAccept()
 {
-    m_address = m_ui->lineEditIp->text();
-    m_mask = m_ui->comboBoxMask->getSubNetMask();
+    d->address = d->ui.lineEditIp->text();
+    d->mask = d->ui.comboBoxMask->getSubNetMask();
     accept();
 }
 

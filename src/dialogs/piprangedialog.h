@@ -8,10 +8,6 @@
 
 namespace CorvelGui {
 
-namespace Ui {
-class PIpRangeDialog;
-}
-
 /// Asks for one more IPv4 network range, as an address and a subnet mask. OK is there for complete
 /// addresses only. Run it modally and read the range once it is accepted.
 class CORVELGUI_EXPORT PIpRangeDialog : public PBaseDialog
@@ -36,9 +32,8 @@ private Q_SLOTS:
     void slotAccept();
 
 private:
-    const std::unique_ptr<Ui::PIpRangeDialog> m_ui;
-    QString m_address;
-    qint32 m_mask = 0;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

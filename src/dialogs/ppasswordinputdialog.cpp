@@ -1,36 +1,40 @@
 #include "ppasswordinputdialog.h"
 
+#include "base/whilealive.h"
 #include "ui_ppasswordinputdialog.h"
 
 #include <Hueloft/PMessageBox>
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QPointer>
 
 namespace CorvelGui {
 
-PPasswordInputDialog::PPasswordInputDialog(const QString& expectedPassword, QWidget* parent)
-    : PBaseDialog(parent)
-    , m_ui(std::make_unique<Ui::PPasswordInputDialog>())
-    , m_expectedPassword(expectedPassword)
+struct PPasswordInputDialog::Private
 {
-    m_ui->setupUi(this);
-    setDescriptions();
-    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &PPasswordInputDialog::slotAccept);
-    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    Ui::PPasswordInputDialog ui{};
+    const QString expectedPassword;
+};
+
+PPasswordInputDialog::PPasswordInputDialog(const QString& expectedPassword, QWidget* parent)
+    : PBaseDialog(parent), d(new Private{.expectedPassword = expectedPassword})
+{
+    d->ui.setupUi(this);
+    retranslate();
+    connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &PPasswordInputDialog::slotAccept);
+    connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 PPasswordInputDialog::~PPasswordInputDialog() = default;
 
 QString PPasswordInputDialog::getEncryptPassword() const
 {
-    return m_ui->lineEditEncryptPassword->text();
+    return d->ui.lineEditEncryptPassword->text();
 }
 
 bool PPasswordInputDialog::useEncryptPasswordNextTime() const
 {
-    return m_ui->checkBoxEncryptUsePassword->isChecked();
+    return d->ui.checkBoxEncryptUsePassword->isChecked();
 }
 
 QString PPasswordInputDialog::getLabelPasswordDescription()
@@ -45,33 +49,33 @@ QString PPasswordInputDialog::getCheckBoxEncryptUsePasswordDescription()
 
 void PPasswordInputDialog::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        m_ui->retranslateUi(this);
-        setDescriptions();
-    }
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
     PBaseDialog::changeEvent(event);
 }
 
-void PPasswordInputDialog::setDescriptions()
+void PPasswordInputDialog::retranslate()
 {
-    m_ui->labelPassword->setText(getLabelPasswordDescription());
-    m_ui->checkBoxEncryptUsePassword->setText(getCheckBoxEncryptUsePasswordDescription());
+    d->ui.retranslateUi(this);
+    d->ui.labelPassword->setText(getLabelPasswordDescription());
+    d->ui.checkBoxEncryptUsePassword->setText(getCheckBoxEncryptUsePasswordDescription());
 }
 
 void PPasswordInputDialog::slotAccept()
 {
-    if (getEncryptPassword() == m_expectedPassword) {
+    if (getEncryptPassword() == d->expectedPassword) {
         accept();
         return;
     }
-    const QPointer<PPasswordInputDialog> alive(this);
-    Hueloft::PMessageBox::Warning(this, QCoreApplication::applicationName(), tr("Wrong Password!"),
-                                  QMessageBox::Ok, QMessageBox::Ok);
-    if (!alive)
+    const auto complain = [this] {
+        Hueloft::PMessageBox::Warning(this, QCoreApplication::applicationName(),
+                                      tr("Wrong Password!"), QMessageBox::Ok, QMessageBox::Ok);
+    };
+    if (!whileAlive(this, complain))
         return;
     // The next try replaces this one.
-    m_ui->lineEditEncryptPassword->setFocus();
-    m_ui->lineEditEncryptPassword->selectAll();
+    d->ui.lineEditEncryptPassword->setFocus();
+    d->ui.lineEditEncryptPassword->selectAll();
 }
 
 } // namespace CorvelGui

@@ -8,10 +8,6 @@
 
 namespace CorvelGui {
 
-namespace Ui {
-class PPasswordInputDialog;
-}
-
 /// Asks for a password that the caller knows already, until it is right or the user gives up.
 ///
 /// The dialog keeps and encrypts nothing: the caller reads what was typed after acceptance.
@@ -41,10 +37,10 @@ private Q_SLOTS:
     void slotAccept();
 
 private:
-    void setDescriptions();
+    void retranslate();
 
-    const std::unique_ptr<Ui::PPasswordInputDialog> m_ui;
-    const QString m_expectedPassword;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

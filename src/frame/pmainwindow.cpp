@@ -12,9 +12,14 @@ using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
 
-PMainWindow::PMainWindow(QWidget* parent)
-    : QMainWindow(parent), m_initialPalette(QGuiApplication::palette())
-{}
+struct PMainWindow::Private
+{
+    const QPalette initialPalette = QGuiApplication::palette();
+};
+
+PMainWindow::PMainWindow(QWidget* parent) : QMainWindow(parent), d(std::make_unique<Private>()) {}
+
+PMainWindow::~PMainWindow() = default;
 
 void PMainWindow::setCenterPosAndResize()
 {
@@ -37,7 +42,7 @@ void PMainWindow::createDarkFusionStyle(bool dark)
     // active before the switch, the dark one starts from the palette at construction.
     if (dark) {
         QApplication::setStyle(fusion());
-        QPalette palette = m_initialPalette;
+        QPalette palette = d->initialPalette;
         POrvGuiTheme::SetDarkPalette(palette);
         QApplication::setPalette(palette);
         qApp->setStyleSheet(POrvGuiTheme::darkTheme() + tabRule);

@@ -3,7 +3,8 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QMainWindow>
-#include <QPalette>
+
+#include <memory>
 
 namespace CorvelGui {
 
@@ -16,6 +17,7 @@ public:
     /// Remembers the application's palette, which the dark look starts from. Create the window
     /// before anything changes that palette.
     explicit PMainWindow(QWidget* parent = nullptr);
+    ~PMainWindow() override;
 
     /// Resizes the window so that 100 pixels of the primary screen stay free on each side.
     void setCenterPosAndResize();
@@ -25,7 +27,8 @@ public:
     void createDarkFusionStyle(bool dark);
 
 private:
-    const QPalette m_initialPalette;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

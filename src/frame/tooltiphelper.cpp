@@ -34,18 +34,26 @@ QString shortFormat(const QDateTime& time)
 
 } // namespace
 
-ToolTipHelper::ToolTipHelper() : m_text(tableOpening) {}
+struct ToolTipHelper::Private : QSharedData
+{
+    QString text = tableOpening;
+};
+
+ToolTipHelper::ToolTipHelper() : d(new Private) {}
+ToolTipHelper::ToolTipHelper(const ToolTipHelper& other) = default;
+ToolTipHelper& ToolTipHelper::operator=(const ToolTipHelper& other) = default;
+ToolTipHelper::~ToolTipHelper() = default;
 
 void ToolTipHelper::AddTopImagePng(const QByteArray& base64)
 {
-    m_text = u"<img src=\"data:image/png;base64,"_s + QString::fromUtf8(base64) + u"\">"_s +
-             tableOpening;
+    d->text = u"<img src=\"data:image/png;base64,"_s + QString::fromUtf8(base64) + u"\">"_s +
+              tableOpening;
 }
 
 void ToolTipHelper::AddTopImageJpg(const QByteArray& base64)
 {
-    m_text = u"<img src=\"data:image/jpeg;charset=utf-8;base64,"_s + QString::fromUtf8(base64) +
-             u"\">"_s + tableOpening;
+    d->text = u"<img src=\"data:image/jpeg;charset=utf-8;base64,"_s + QString::fromUtf8(base64) +
+              u"\">"_s + tableOpening;
 }
 
 void ToolTipHelper::AddRow(const QString& label, const QString& value)
@@ -87,20 +95,20 @@ void ToolTipHelper::AddRow(const QString& label, const int& value, const QString
 void ToolTipHelper::AddRowNoBold(const QString& label, const QString& value, bool escape)
 {
     const QString valueMarkup = escape || value.isEmpty() ? escapedOrMissing(value) : value;
-    m_text += plainLabelOpening + (escape ? label.toHtmlEscaped() : label) + plainLabelToValue +
-              valueMarkup + rowEnd;
+    d->text += plainLabelOpening + (escape ? label.toHtmlEscaped() : label) + plainLabelToValue +
+               valueMarkup + rowEnd;
 }
 
 void ToolTipHelper::AddRowSpan2(const QString& text, const QColor& color, bool bold)
 {
     // The font tag stays open: it ends with its cell, and clients compare these texts.
-    m_text += spanOpening + (bold ? u"<b>"_s : QString()) + u"<font color=\""_s + color.name() +
-              u"\">"_s + text.toHtmlEscaped() + (bold ? u"</b>"_s : QString()) + rowEnd;
+    d->text += spanOpening + (bold ? u"<b>"_s : QString()) + u"<font color=\""_s + color.name() +
+               u"\">"_s + text.toHtmlEscaped() + (bold ? u"</b>"_s : QString()) + rowEnd;
 }
 
 void ToolTipHelper::AddRowSpan2(const QString& text)
 {
-    m_text += spanOpening + text.toHtmlEscaped() + rowEnd;
+    d->text += spanOpening + text.toHtmlEscaped() + rowEnd;
 }
 
 void ToolTipHelper::AddRowVariant(const QString& label, const QVariant& value)
@@ -122,20 +130,20 @@ void ToolTipHelper::AddRowFirmware(const QString& /*label*/, const int& version)
 
 void ToolTipHelper::AddLine()
 {
-    m_text += u"<tr><th colspan=\"2\">"
-              "<hr noshade style=\"color:blue; border:5px solid red\"></hr></th></tr>"_s;
+    d->text += u"<tr><th colspan=\"2\">"
+               "<hr noshade style=\"color:blue; border:5px solid red\"></hr></th></tr>"_s;
 }
 
 void ToolTipHelper::AddSimpleLine()
 {
     // With the stray quote that clients compare.
-    m_text += u"<tr><th colspan=\"2\"><hr noshade\"></hr></th></tr>"_s;
+    d->text += u"<tr><th colspan=\"2\"><hr noshade\"></hr></th></tr>"_s;
 }
 
 void ToolTipHelper::AddLineWithText(const QString& text)
 {
-    m_text += u"<tr><th colspan=\"2\"><hr noshade size=\"3\" align=\"center\">"_s + text +
-              u"</hr></th></tr>\n"_s;
+    d->text += u"<tr><th colspan=\"2\"><hr noshade size=\"3\" align=\"center\">"_s + text +
+               u"</hr></th></tr>\n"_s;
 }
 
 QString ToolTipHelper::GetAsteriks(const QString& text)
@@ -145,13 +153,13 @@ QString ToolTipHelper::GetAsteriks(const QString& text)
 
 QString ToolTipHelper::GetToolTip()
 {
-    m_text += u"</table>"_s;
-    return m_text;
+    d->text += u"</table>"_s;
+    return d->text;
 }
 
 void ToolTipHelper::addBoldRow(const QString& labelMarkup, const QString& valueMarkup)
 {
-    m_text += boldLabelOpening + labelMarkup + boldLabelToValue + valueMarkup + rowEnd;
+    d->text += boldLabelOpening + labelMarkup + boldLabelToValue + valueMarkup + rowEnd;
 }
 
 } // namespace CorvelGui

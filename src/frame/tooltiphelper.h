@@ -3,6 +3,7 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QColor>
+#include <QSharedDataPointer>
 #include <QString>
 
 class QByteArray;
@@ -22,6 +23,9 @@ class CORVELGUI_EXPORT ToolTipHelper
 {
 public:
     ToolTipHelper();
+    ToolTipHelper(const ToolTipHelper& other);
+    ToolTipHelper& operator=(const ToolTipHelper& other);
+    ~ToolTipHelper();
 
     /// Puts a PNG picture on top, given as base64. What was added before is lost.
     void AddTopImagePng(const QByteArray& base64);
@@ -71,7 +75,8 @@ public:
 private:
     void addBoldRow(const QString& labelMarkup, const QString& valueMarkup);
 
-    QString m_text;
+    struct Private;
+    QSharedDataPointer<Private> d;
 };
 
 } // namespace CorvelGui

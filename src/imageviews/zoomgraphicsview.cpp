@@ -1,9 +1,10 @@
 #include "zoomgraphicsview.h"
 
+#include "base/whilealive.h"
+
 #include <QGraphicsItem>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <QWheelEvent>
@@ -36,8 +37,18 @@ QWheelEvent forViewport(const QWheelEvent& event, QPointF frame)
 
 } // namespace
 
+struct ZoomGraphicsView::Private
+{
+    const QRectF firstRect; // empty for the whole scene
+    QRectF visibleRect{};   // in scene coordinates
+    QPoint lastPosition{};  // of the mouse while panning
+    bool panning = false;
+    bool adjusting = false; // a scroll bar that comes or goes then is no resize
+    bool settling = false;  // started, but never painted since
+};
+
 ZoomGraphicsView::ZoomGraphicsView(QGraphicsScene* scene, const QVariant& rect, QWidget* parent)
-    : QGraphicsView(scene, parent), m_firstRect(rect.toRectF())
+    : QGraphicsView(scene, parent), d(new Private{.firstRect = rect.toRectF()})
 {
     setTransformationAnchor(AnchorUnderMouse);
     setResizeAnchor(NoAnchor);
@@ -45,6 +56,8 @@ ZoomGraphicsView::ZoomGraphicsView(QGraphicsScene* scene, const QVariant& rect, 
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QTimer::singleShot(0, this, &ZoomGraphicsView::start);
 }
+
+ZoomGraphicsView::~ZoomGraphicsView() = default;
 
 QRectF ZoomGraphicsView::visibleRect() const
 {
@@ -92,25 +105,23 @@ void ZoomGraphicsView::mousePressEvent(QMouseEvent* event)
 {
     const QPoint position = event->position().toPoint();
     if (event->button() == Qt::LeftButton && !isTakenByItem(position)) {
-        m_panning = true;
-        m_lastPosition = position;
+        d->panning = true;
+        d->lastPosition = position;
     }
     QGraphicsView::mousePressEvent(event);
 }
 
 void ZoomGraphicsView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_panning && event->buttons() == Qt::LeftButton) {
+    if (d->panning && event->buttons() == Qt::LeftButton) {
         if (sceneFits())
             return;
         const QPoint position = event->position().toPoint();
         if (!isTakenByItem(position)) {
-            bringTo(position, sceneAt(m_lastPosition));
-            m_lastPosition = position;
+            bringTo(position, sceneAt(d->lastPosition));
+            d->lastPosition = position;
             rememberView();
-            const QPointer<ZoomGraphicsView> alive(this);
-            Q_EMIT viewPortChanged();
-            if (!alive)
+            if (!tellOfView())
                 return;
         }
     }
@@ -119,16 +130,14 @@ void ZoomGraphicsView::mouseMoveEvent(QMouseEvent* event)
 
 void ZoomGraphicsView::mouseReleaseEvent(QMouseEvent* event)
 {
-    m_panning = false;
+    d->panning = false;
     QGraphicsView::mouseReleaseEvent(event);
 }
 
 void ZoomGraphicsView::keyPressEvent(QKeyEvent* event)
 {
     const QRectF before = visibleRect();
-    const QPointer<ZoomGraphicsView> alive(this);
-    QGraphicsView::keyPressEvent(event);
-    if (!alive)
+    if (!whileAlive(this, [&] { QGraphicsView::keyPressEvent(event); }))
         return;
     if (!event->isAccepted() && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus)) {
         event->accept();
@@ -142,11 +151,9 @@ void ZoomGraphicsView::keyPressEvent(QKeyEvent* event)
 
 void ZoomGraphicsView::resizeEvent(QResizeEvent* event)
 {
-    if (!m_adjusting) {
+    if (!d->adjusting) {
         restoreView();
-        const QPointer<ZoomGraphicsView> alive(this);
-        Q_EMIT viewPortChanged();
-        if (!alive)
+        if (!tellOfView())
             return;
     }
     QGraphicsView::resizeEvent(event);
@@ -154,12 +161,8 @@ void ZoomGraphicsView::resizeEvent(QResizeEvent* event)
 
 void ZoomGraphicsView::showEvent(QShowEvent* event)
 {
-    if (restoreView()) {
-        const QPointer<ZoomGraphicsView> alive(this);
-        Q_EMIT viewPortChanged();
-        if (!alive)
-            return;
-    }
+    if (restoreView() && !tellOfView())
+        return;
     // It would centre the view on a point of earlier.
     setTransformationAnchor(NoAnchor);
     QGraphicsView::showEvent(event);
@@ -168,7 +171,7 @@ void ZoomGraphicsView::showEvent(QShowEvent* event)
 
 void ZoomGraphicsView::paintEvent(QPaintEvent* event)
 {
-    m_settling = false;
+    d->settling = false;
     QGraphicsView::paintEvent(event);
 }
 
@@ -180,7 +183,7 @@ QPointF ZoomGraphicsView::sceneAt(QPointF position) const
 // Qt's own anchors count in whole pixels and would let the point creep away over many steps.
 void ZoomGraphicsView::bringTo(QPointF position, QPointF scenePoint)
 {
-    const QScopedValueRollback adjusting(m_adjusting, true);
+    const QScopedValueRollback adjusting(d->adjusting, true);
     const QPointF shift = sceneAt(position) - scenePoint;
     setTransformationAnchor(NoAnchor);
     translate(shift.x(), shift.y());
@@ -190,7 +193,7 @@ void ZoomGraphicsView::bringTo(QPointF position, QPointF scenePoint)
 void ZoomGraphicsView::zoom(QPointF position, qreal factor)
 {
     {
-        const QScopedValueRollback adjusting(m_adjusting, true);
+        const QScopedValueRollback adjusting(d->adjusting, true);
         const QSizeF size = transform().mapRect(sceneRect()).size() * factor;
         if (!size.isEmpty() && std::max(size.width(), size.height()) < maximumSceneWidth) {
             const QPointF held = sceneAt(position);
@@ -198,19 +201,27 @@ void ZoomGraphicsView::zoom(QPointF position, qreal factor)
             bringTo(position, held);
         }
         if (sceneFits())
-            fitInView(sceneRect(), Qt::KeepAspectRatio);
+            showScene();
     }
     rememberView();
     Q_EMIT viewPortChanged();
+}
+
+// At the same place each time, however far bringTo() has moved the scene before.
+void ZoomGraphicsView::showScene()
+{
+    const QTransform& scaled = transform();
+    setTransform(QTransform(scaled.m11(), scaled.m12(), scaled.m21(), scaled.m22(), 0, 0));
+    fitInView(sceneRect(), Qt::KeepAspectRatio);
 }
 
 // Unlike fitInView() without a margin around a part of the scene, so that a rectangle that is saved
 // and restored again and again does not grow.
 void ZoomGraphicsView::showRect(const QRectF& rect)
 {
-    const QScopedValueRollback adjusting(m_adjusting, true);
+    const QScopedValueRollback adjusting(d->adjusting, true);
     if (rect.contains(sceneRect()))
-        return fitInView(sceneRect(), Qt::KeepAspectRatio);
+        return showScene();
 
     const QSizeF space = viewport()->size();
     const QSizeF size = transform().mapRect(rect).size();
@@ -226,13 +237,13 @@ void ZoomGraphicsView::showRect(const QRectF& rect)
 
 void ZoomGraphicsView::start()
 {
-    m_settling = true;
+    d->settling = true;
     showFirstRect();
 }
 
 void ZoomGraphicsView::showFirstRect()
 {
-    showRect(m_firstRect.isEmpty() ? sceneRect() : m_firstRect);
+    showRect(d->firstRect.isEmpty() ? sceneRect() : d->firstRect);
     rememberView();
 }
 
@@ -240,10 +251,10 @@ void ZoomGraphicsView::showFirstRect()
 bool ZoomGraphicsView::restoreView()
 {
     // A view that is shown long after it was made had no size from a layout until then.
-    if (m_settling)
+    if (d->settling)
         showFirstRect();
-    else if (!m_visibleRect.isEmpty())
-        showRect(m_visibleRect);
+    else if (!d->visibleRect.isEmpty())
+        showRect(d->visibleRect);
     if (!sceneFits())
         return false;
     showRect(sceneRect());
@@ -269,7 +280,13 @@ bool ZoomGraphicsView::isTakenByItem(QPoint position) const
 
 void ZoomGraphicsView::rememberView()
 {
-    m_visibleRect = visibleRect();
+    d->visibleRect = visibleRect();
+}
+
+// Returns whether the view outlived it.
+bool ZoomGraphicsView::tellOfView()
+{
+    return whileAlive(this, [this] { Q_EMIT viewPortChanged(); });
 }
 
 } // namespace CorvelGui

@@ -3,9 +3,9 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QGraphicsView>
-#include <QPoint>
-#include <QRectF>
 #include <QVariant>
+
+#include <memory>
 
 namespace CorvelGui {
 
@@ -23,6 +23,7 @@ public:
     /// Starts with @p rect in view, a QRectF in scene coordinates such as an earlier visibleRect();
     /// with the whole scene if it is empty or something else. The view does not own @p scene.
     ZoomGraphicsView(QGraphicsScene* scene, const QVariant& rect, QWidget* parent = nullptr);
+    ~ZoomGraphicsView() override;
 
     /// What the view shows at this moment, in scene coordinates. Where the scene fills the view
     /// only in part, the rectangle reaches beyond the scene.
@@ -48,9 +49,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct Private;
+
     QPointF sceneAt(QPointF position) const;
     void bringTo(QPointF position, QPointF scenePoint);
     void zoom(QPointF position, qreal factor);
+    void showScene();
     void showRect(const QRectF& rect);
     void start();
     void showFirstRect();
@@ -58,13 +62,9 @@ private:
     bool sceneFits() const;
     bool isTakenByItem(QPoint position) const;
     void rememberView();
+    bool tellOfView();
 
-    QRectF m_firstRect;   // empty for the whole scene
-    QRectF m_visibleRect; // in scene coordinates
-    QPoint m_lastPosition;
-    bool m_panning = false;
-    bool m_adjusting = false; // a scroll bar that comes or goes then is no resize
-    bool m_settling = false;  // started, but never painted since
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

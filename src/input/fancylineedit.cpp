@@ -136,13 +136,13 @@ void FancyLineEdit::resizeEvent(QResizeEvent* event)
 
 void FancyLineEdit::checkButtons(const QString& text)
 {
-    if (!m_previousText.isEmpty() && !text.isEmpty())
+    if (!d->previousText.isEmpty() && !text.isEmpty())
         return;
     for (const Side side : bothSides) {
         if (hasAutoHideButton(side))
             fade(d->sides[side].button, text.isEmpty() ? 0.0F : 1.0F);
     }
-    m_previousText = text;
+    d->previousText = text;
 }
 
 void FancyLineEdit::iconClicked(Side side)

@@ -75,7 +75,6 @@ private:
     Side sideAt(Side end) const;
 
     FancyLineEditPrivate* const d; // a child
-    QString m_previousText;
 };
 
 } // namespace CorvelGui

@@ -17,13 +17,20 @@ class QFocusEvent;
 
 namespace CorvelGui {
 
-/// What a FancyLineEdit keeps of its two sides. It watches the keyboard focus of the buttons and of
-/// the line edit.
+/// What a FancyLineEdit keeps of its two sides, and of no use without one. It watches the keyboard
+/// focus of the buttons and of the line edit.
 class CORVELGUI_EXPORT FancyLineEditPrivate : public QObject
 {
     Q_OBJECT
 
 public:
+    explicit FancyLineEditPrivate(FancyLineEdit* lineEdit);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    friend class FancyLineEdit;
+
     struct SideState
     {
         QPixmap pixmap;
@@ -35,18 +42,13 @@ public:
         std::optional<Qt::FocusPolicy> usualFocusPolicy;
     };
 
-    explicit FancyLineEditPrivate(FancyLineEdit* lineEdit);
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
     /// The width of the side's icon per height, in whole numbers.
     int aspectFactor(FancyLineEdit::Side side) const;
+    void noteFocusOut(const QFocusEvent& event);
 
     FancyLineEdit* const lineEdit;
     std::array<SideState, 2> sides;
-
-private:
-    void noteFocusOut(const QFocusEvent& event);
+    QString previousText;
 };
 
 } // namespace CorvelGui

@@ -9,20 +9,26 @@ using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
 
+struct FileNameValidatingLineEdit::Private
+{
+    QString errorText;
+    QStringList extensions;
+};
+
 FileNameValidatingLineEdit::FileNameValidatingLineEdit(QWidget* parent)
-    : ValidateBaseLineEdit(parent)
+    : ValidateBaseLineEdit(parent), d(std::make_unique<Private>())
 {}
 
 FileNameValidatingLineEdit::~FileNameValidatingLineEdit() = default;
 
 void FileNameValidatingLineEdit::addExtensionToCheck(const QString& extension)
 {
-    m_extensions.append(extension);
+    d->extensions.append(extension);
 }
 
 QString FileNameValidatingLineEdit::getErrorAsStrin() const
 {
-    return m_errorText;
+    return d->errorText;
 }
 
 void FileNameValidatingLineEdit::Validate()
@@ -33,8 +39,8 @@ void FileNameValidatingLineEdit::Validate()
         return;
     }
     const std::optional<QString> name = checkedNamePart(path, hasDriveLetters());
-    setError(!name || !validateFileName(*name, true, m_errorText) ||
-             !validateFileNameExtension(*name, m_extensions, m_errorText));
+    setError(!name || !validateFileName(*name, true, d->errorText) ||
+             !validateFileNameExtension(*name, d->extensions, d->errorText));
 }
 
 bool FileNameValidatingLineEdit::validateDirExist(const QString& name)

@@ -38,8 +38,8 @@ private:
     static bool validateFileNameExtension(const QString& name, const QStringList& extensions,
                                           QString& errorText);
 
-    QString m_errorText;
-    QStringList m_extensions;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

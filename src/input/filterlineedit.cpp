@@ -13,24 +13,34 @@ constexpr QSize clearIconSize(16, 16);
 
 } // namespace
 
-FilterLineEdit::FilterLineEdit(QWidget* parent) : FancyLineEdit(parent), m_lastFilterText(text())
+struct FilterLineEdit::Private
+{
+    bool clearOnEscape = true;
+    QString lastFilterText;
+    QString ownPlaceholder;
+};
+
+FilterLineEdit::FilterLineEdit(QWidget* parent)
+    : FancyLineEdit(parent), d(std::make_unique<Private>())
 {
     takeClearIcon();
     setButtonVisible(Right, true);
-    translateTexts();
+    retranslate();
     setAutoHideButton(Right, true);
     connect(this, &FancyLineEdit::rightButtonClicked, this, &QLineEdit::clear);
     connect(this, &QLineEdit::textChanged, this, &FilterLineEdit::slotTextChanged);
 }
 
+FilterLineEdit::~FilterLineEdit() = default;
+
 void FilterLineEdit::setClearOnEscape(bool on)
 {
-    m_clearOnEscape = on;
+    d->clearOnEscape = on;
 }
 
 bool FilterLineEdit::clearOnEscape() const
 {
-    return m_clearOnEscape;
+    return d->clearOnEscape;
 }
 
 bool FilterLineEdit::event(QEvent* event)
@@ -44,10 +54,10 @@ bool FilterLineEdit::event(QEvent* event)
 
 void FilterLineEdit::changeEvent(QEvent* event)
 {
-    FancyLineEdit::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
-        translateTexts();
-    else if (event->type() == QEvent::StyleChange)
+        retranslate();
+    FancyLineEdit::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
         takeClearIcon();
 }
 
@@ -64,16 +74,16 @@ void FilterLineEdit::keyPressEvent(QKeyEvent* event)
 void FilterLineEdit::slotTextChanged()
 {
     const QString current = text();
-    if (current == m_lastFilterText)
+    if (current == d->lastFilterText)
         return;
-    m_lastFilterText = current;
+    d->lastFilterText = current;
     Q_EMIT filterChanged(current);
 }
 
 bool FilterLineEdit::clearsOn(const QKeyEvent& event) const
 {
-    return event.key() == Qt::Key_Escape && m_clearOnEscape && hasFocus() &&
-           !m_lastFilterText.isEmpty();
+    return event.key() == Qt::Key_Escape && d->clearOnEscape && hasFocus() &&
+           !d->lastFilterText.isEmpty();
 }
 
 void FilterLineEdit::takeClearIcon()
@@ -85,12 +95,12 @@ void FilterLineEdit::takeClearIcon()
     setButtonPixmap(Right, icon.pixmap(clearIconSize, qMax(2.0, devicePixelRatioF())));
 }
 
-void FilterLineEdit::translateTexts()
+void FilterLineEdit::retranslate()
 {
     // A placeholder of the client's own stays.
-    if (placeholderText() == m_ownPlaceholder) {
-        m_ownPlaceholder = tr("Filter");
-        setPlaceholderText(m_ownPlaceholder);
+    if (placeholderText() == d->ownPlaceholder) {
+        d->ownPlaceholder = tr("Filter");
+        setPlaceholderText(d->ownPlaceholder);
     }
     setButtonToolTip(Right, tr("Clear text"));
 }

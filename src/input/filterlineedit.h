@@ -2,6 +2,8 @@
 
 #include "fancylineedit.h"
 
+#include <memory>
+
 namespace CorvelGui {
 
 /// The usual filter field: a clear button that appears with the first letter, and Escape to clear.
@@ -11,6 +13,7 @@ class CORVELGUI_EXPORT FilterLineEdit : public FancyLineEdit
 
 public:
     explicit FilterLineEdit(QWidget* parent = nullptr);
+    ~FilterLineEdit() override;
 
     /// Whether Escape clears a field that has text; on at first. Only an Escape that clears stays
     /// with the field: the next one closes the dialog around it.
@@ -31,11 +34,10 @@ private:
     void slotTextChanged();
     bool clearsOn(const QKeyEvent& event) const;
     void takeClearIcon();
-    void translateTexts();
+    void retranslate();
 
-    bool m_clearOnEscape = true;
-    QString m_lastFilterText;
-    QString m_ownPlaceholder;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

@@ -6,33 +6,57 @@
 
 namespace CorvelGui {
 
-IconButton::IconButton(QWidget* parent) : QAbstractButton(parent)
+struct IconButton::Private
+{
+    float iconOpacity = 1.0F;
+    bool autoHide = false;
+    QPixmap pixmap;
+};
+
+IconButton::IconButton(QWidget* parent) : QAbstractButton(parent), d(std::make_unique<Private>())
 {
     setCursor(Qt::ArrowCursor);
     setFocusPolicy(Qt::NoFocus);
 }
 
+IconButton::~IconButton() = default;
+
+float IconButton::iconOpacity() const
+{
+    return d->iconOpacity;
+}
+
+bool IconButton::hasAutoHide() const
+{
+    return d->autoHide;
+}
+
+QPixmap IconButton::pixmap() const
+{
+    return d->pixmap;
+}
+
 void IconButton::setIconOpacity(float opacity)
 {
-    m_iconOpacity = opacity;
+    d->iconOpacity = opacity;
     update();
 }
 
 void IconButton::setAutoHide(bool on)
 {
-    m_autoHide = on;
+    d->autoHide = on;
     update();
 }
 
 void IconButton::setPixmap(const QPixmap& pixmap)
 {
-    m_pixmap = pixmap;
+    d->pixmap = pixmap;
     update();
 }
 
 void IconButton::paintEvent(QPaintEvent* /*event*/)
 {
-    QPixmap shown = m_pixmap;
+    QPixmap shown = d->pixmap;
     if (!isEnabled() && !shown.isNull()) {
         QStyleOption option;
         option.initFrom(this);
@@ -42,8 +66,8 @@ void IconButton::paintEvent(QPaintEvent* /*event*/)
 
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (m_autoHide)
-        painter.setOpacity(qreal(m_iconOpacity));
+    if (d->autoHide)
+        painter.setOpacity(qreal(d->iconOpacity));
     // The whole button: the painter is clipped to what is to be painted, and a part of the button
     // must not show the whole pixmap.
     painter.drawPixmap(rect(), shown);

@@ -3,7 +3,8 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QAbstractButton>
-#include <QPixmap>
+
+#include <memory>
 
 namespace CorvelGui {
 
@@ -17,16 +18,17 @@ class CORVELGUI_EXPORT IconButton : public QAbstractButton
 
 public:
     explicit IconButton(QWidget* parent = nullptr);
+    ~IconButton() override;
 
     /// From 0 (not to be seen) to 1. It counts only while auto-hide is on.
-    float iconOpacity() const { return m_iconOpacity; }
+    float iconOpacity() const;
     void setIconOpacity(float opacity);
 
     /// Whether the icon opacity is obeyed; off at first. Hiding itself is the owner's work.
-    bool hasAutoHide() const { return m_autoHide; }
+    bool hasAutoHide() const;
     void setAutoHide(bool on);
 
-    QPixmap pixmap() const { return m_pixmap; }
+    QPixmap pixmap() const;
     /// The pixmap is scaled to the size of the button, whatever its own size is.
     void setPixmap(const QPixmap& pixmap);
 
@@ -34,9 +36,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    float m_iconOpacity = 1.0F;
-    bool m_autoHide = false;
-    QPixmap m_pixmap;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

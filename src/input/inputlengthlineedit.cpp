@@ -2,20 +2,28 @@
 
 namespace CorvelGui {
 
-InputLengthLineEdit::InputLengthLineEdit(QWidget* parent) : ValidateBaseLineEdit(parent) {}
+struct InputLengthLineEdit::Private
+{
+    int minimumLength = 0;
+    int maximumLength = 0;
+};
+
+InputLengthLineEdit::InputLengthLineEdit(QWidget* parent)
+    : ValidateBaseLineEdit(parent), d(std::make_unique<Private>())
+{}
 
 InputLengthLineEdit::~InputLengthLineEdit() = default;
 
 void InputLengthLineEdit::setInputLengthRange(int minimum, int maximum)
 {
-    m_minimumLength = minimum;
-    m_maximumLength = maximum;
+    d->minimumLength = minimum;
+    d->maximumLength = maximum;
 }
 
 void InputLengthLineEdit::Validate()
 {
     const qsizetype length = text().size();
-    setError(length < m_minimumLength || length > m_maximumLength);
+    setError(length < d->minimumLength || length > d->maximumLength);
 }
 
 } // namespace CorvelGui

@@ -20,8 +20,8 @@ public:
     void Validate() override;
 
 private:
-    int m_minimumLength = 0;
-    int m_maximumLength = 0;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

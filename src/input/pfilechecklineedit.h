@@ -3,12 +3,15 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QLineEdit>
-#include <QPalette>
+
+#include <memory>
 
 namespace CorvelGui {
 
 /// A field for the path of an existing regular file, with the status red of the theme as its
 /// background while there is none. The text is judged when it changes, never before.
+///
+/// The palette of the widget belongs to this class; it follows a change of the look.
 class CORVELGUI_EXPORT PFileCheckLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -17,13 +20,17 @@ public:
     explicit PFileCheckLineEdit(QWidget* parent = nullptr);
     ~PFileCheckLineEdit() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void slotFileNameChanged(const QString& text);
 
 private:
-    QPalette m_normalPalette;
-    QPalette m_errorPalette;
-    QString m_directory; // of the last file that existed
+    void showVerdict();
+
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

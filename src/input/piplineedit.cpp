@@ -18,10 +18,9 @@ QRegularExpression dottedAddress()
 
 } // namespace
 
-PIpLineEdit::PIpLineEdit(QWidget* parent)
-    : QLineEdit(parent), m_validator(new QRegularExpressionValidator(dottedAddress(), this))
+PIpLineEdit::PIpLineEdit(QWidget* parent) : QLineEdit(parent)
 {
-    setValidator(m_validator);
+    setValidator(new QRegularExpressionValidator(dottedAddress(), this));
     connect(this, &QLineEdit::textChanged, this, &PIpLineEdit::checkEntry);
     checkEntry({});
 }

@@ -4,8 +4,6 @@
 
 #include <QLineEdit>
 
-class QRegularExpressionValidator;
-
 namespace CorvelGui {
 
 /// A field into which nothing but a dotted IPv4 address can be typed. It is red until the address
@@ -20,9 +18,6 @@ public:
 
 private Q_SLOTS:
     void checkEntry(const QString& text);
-
-private:
-    QRegularExpressionValidator* m_validator;
 };
 
 } // namespace CorvelGui

@@ -13,7 +13,7 @@ namespace {
 constexpr int shortestPrefix = 1;
 constexpr int longestPrefix = 30;
 constexpr int initialPrefix = 15;
-// Not the initial one: clients count on both as they are.
+// Deliberately not the initial one.
 constexpr int fallbackIndex = 15;
 
 } // namespace

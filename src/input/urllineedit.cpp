@@ -4,23 +4,31 @@
 
 namespace CorvelGui {
 
-UrlLineEdit::UrlLineEdit(QWidget* parent) : ValidateBaseLineEdit(parent) {}
+struct UrlLineEdit::Private
+{
+    QString host;
+    int port = 0;
+};
+
+UrlLineEdit::UrlLineEdit(QWidget* parent)
+    : ValidateBaseLineEdit(parent), d(std::make_unique<Private>())
+{}
 
 UrlLineEdit::~UrlLineEdit() = default;
 
 QString UrlLineEdit::getHost()
 {
-    return m_host;
+    return d->host;
 }
 
 int UrlLineEdit::getPort() const
 {
-    return m_port;
+    return d->port;
 }
 
 void UrlLineEdit::Validate()
 {
-    setError(!Corvel::UrlChecker::IsUrlValid(text(), m_host, m_port));
+    setError(!Corvel::UrlChecker::IsUrlValid(text(), d->host, d->port));
 }
 
 } // namespace CorvelGui

@@ -2,8 +2,6 @@
 
 #include "validatebaselineedit.h"
 
-#include <QString>
-
 namespace CorvelGui {
 
 /// A field for the address of a server, with or without a scheme, as Corvel::UrlChecker accepts it.
@@ -23,12 +21,12 @@ public:
     void Validate() override;
 
 Q_SIGNALS:
-    /// Never emitted by this class. Clients connect to it.
+    /// Never emitted by this class.
     void signalHostValidate(bool valid);
 
 private:
-    QString m_host;
-    int m_port = 0;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

@@ -4,7 +4,14 @@
 
 namespace CorvelGui {
 
-ValidateBaseLineEdit::ValidateBaseLineEdit(QWidget* parent) : QLineEdit(parent)
+struct ValidateBaseLineEdit::Private
+{
+    bool error = false;
+    bool validationActive = true;
+};
+
+ValidateBaseLineEdit::ValidateBaseLineEdit(QWidget* parent)
+    : QLineEdit(parent), d(std::make_unique<Private>())
 {
     connect(this, &QLineEdit::textChanged, this, &ValidateBaseLineEdit::slotChanged);
     connect(this, &QLineEdit::textEdited, this, &ValidateBaseLineEdit::slotChanged);
@@ -14,30 +21,30 @@ ValidateBaseLineEdit::~ValidateBaseLineEdit() = default;
 
 bool ValidateBaseLineEdit::isValid() const
 {
-    return !m_validationActive || !m_error;
+    return !d->validationActive || !d->error;
 }
 
 void ValidateBaseLineEdit::setValidationActive(bool active)
 {
-    m_validationActive = active;
+    d->validationActive = active;
     slotChanged();
 }
 
 bool ValidateBaseLineEdit::validationActive() const
 {
-    return m_validationActive;
+    return d->validationActive;
 }
 
 void ValidateBaseLineEdit::setError(bool error)
 {
-    m_error = error;
-    markWrongEntry(this, m_error && m_validationActive);
+    d->error = error;
+    markWrongEntry(this, d->error && d->validationActive);
     update();
 }
 
 void ValidateBaseLineEdit::slotChanged()
 {
-    if (!m_validationActive)
+    if (!d->validationActive)
         return;
     Validate();
     Q_EMIT signalValidate(isValid());

@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 
+#include <memory>
+
 namespace CorvelGui {
 
 /// Base of the line edits that judge their own text and turn red while it is unacceptable.
@@ -49,8 +51,8 @@ private Q_SLOTS:
 private:
     void showEvent(QShowEvent* event) override;
 
-    bool m_error = false;
-    bool m_validationActive = true;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

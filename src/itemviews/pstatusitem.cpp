@@ -21,7 +21,7 @@ PStatusItem::PStatusItem(int type) : PTableWidgetItem(type) {}
 
 PStatusItem::PStatusItem(const QString& text, int type) : PTableWidgetItem(text, type) {}
 
-// Clients know these lines: the uptimes have their label behind the value, the maintenance before.
+// Deliberately different: the uptimes have their label behind the value, the maintenance before.
 void PStatusItem::AddStatusSystemUpTime(const QString& upTime)
 {
     addNormalStatus(upTime + u' ' + tr("System uptime"));

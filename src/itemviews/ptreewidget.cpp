@@ -5,12 +5,12 @@
 #include "ptreewidgetitem.h"
 #include "rowdelegate.h"
 
+#include "base/logging.h"
 #include "base/whilealive.h"
 #include "dialogs/pcsvdialog.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QDebug>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPersistentModelIndex>
@@ -255,7 +255,7 @@ void PTreeWidget::ExpandCollapseAll(QTreeWidgetItem* item, bool expand)
     if (!item) {
         const QSignalBlocker blocker(this);
         for (int i = 0; i < topLevelItemCount(); ++i)
-            qDebug().noquote() << topLevelItem(i)->text(0);
+            qCDebug(itemViewsLog).noquote() << topLevelItem(i)->text(0);
         expandBelow({}, expand);
     } else if (isOwn(item)) {
         const QPersistentModelIndex index = indexFromItem(item);

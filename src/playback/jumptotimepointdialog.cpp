@@ -50,67 +50,81 @@ QString clockOffset(const QDateTime& moment)
 
 } // namespace
 
-JumpToTimepointDialog::JumpToTimepointDialog(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
-    , m_ui(std::make_unique<Ui::JumpToTimepointDialog>())
+struct JumpToTimepointDialog::Private
 {
-    m_ui->setupUi(this);
+    Ui::JumpToTimepointDialog ui;
+    QDateTime zone; ///< the moment that was shown first
+    QList<QDateTime> moments;
+    bool wasActive = false;
+    bool wasLeft = false;
+    bool isDone = false;
+};
+
+JumpToTimepointDialog::JumpToTimepointDialog(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), d(std::make_unique<Private>())
+{
+    d->ui.setupUi(this);
     // The dark surface of the view, whose child this is, must not reach into the dialog.
     setStyleSheet(u"QLabel { color: palette(window-text); background-color: transparent; }"_s);
-    m_ui->labelIcon->setPixmap(PPlayerIconHelper::GetDateTimeIcon_32x32(false).pixmap(
+    d->ui.labelIcon->setPixmap(PPlayerIconHelper::GetDateTimeIcon_32x32(false).pixmap(
         headerIconSize, devicePixelRatioF()));
-    m_ui->line->setStyleSheet(
+    d->ui.line->setStyleSheet(
         u"QFrame[frameShape=\"4\"]\n\t\t\t{ \n\t\t\t\tborder: none; \n\t\t\t\tbackground-color: %1; \n\t\t\t}"_s
             .arg(POrvGuiTheme::colorBlue.name()));
-    m_ui->dateEdit->setDisplayFormat(dateFormat());
+    d->ui.dateEdit->setDisplayFormat(dateFormat());
 
     const auto prepare = [](QToolButton* button, QAction* action, const QIcon& icon) {
         action->setIcon(icon);
         button->setDefaultAction(action);
     };
-    prepare(m_ui->buttonClose, m_ui->actionClose, PIconHelper16x16::GetTabCloseIcon());
-    prepare(m_ui->buttonPrevDay, m_ui->actionPreviousDay, PIconHelper::GetMinusIcon_32x32(true));
-    prepare(m_ui->buttonNextDay, m_ui->actionNextDay, PIconHelper::GetPlusIcon_32x32(true));
-    connect(m_ui->actionClose, &QAction::triggered, this, &QDialog::reject);
-    connect(m_ui->actionPreviousDay, &QAction::triggered, this, [this] { moveDate(-1); });
-    connect(m_ui->actionNextDay, &QAction::triggered, this, [this] { moveDate(1); });
-    connect(m_ui->buttonApply, &QPushButton::clicked, this, &QDialog::accept);
+    prepare(d->ui.buttonClose, d->ui.actionClose, PIconHelper16x16::GetTabCloseIcon());
+    prepare(d->ui.buttonPrevDay, d->ui.actionPreviousDay, PIconHelper::GetMinusIcon_32x32(true));
+    prepare(d->ui.buttonNextDay, d->ui.actionNextDay, PIconHelper::GetPlusIcon_32x32(true));
+    connect(d->ui.actionClose, &QAction::triggered, this, &QDialog::reject);
+    connect(d->ui.actionPreviousDay, &QAction::triggered, this, [this] { moveDate(-1); });
+    connect(d->ui.actionNextDay, &QAction::triggered, this, [this] { moveDate(1); });
+    connect(d->ui.buttonApply, &QPushButton::clicked, this, &QDialog::accept);
 
     for (QDateTimeEdit* edit :
-         std::initializer_list<QDateTimeEdit*>{m_ui->dateEdit, m_ui->timeEdit}) {
+         std::initializer_list<QDateTimeEdit*>{d->ui.dateEdit, d->ui.timeEdit}) {
         edit->installEventFilter(this);
         connect(edit, &QDateTimeEdit::dateTimeChanged, this, &JumpToTimepointDialog::findMoments);
     }
     connect(qApp, &QGuiApplication::focusWindowChanged, this,
             &JumpToTimepointDialog::rejectWhenLeft);
     setMoment(QDateTime::fromSecsSinceEpoch(0));
-    m_ui->timeEdit->setFocus();
+    d->ui.timeEdit->setFocus();
 }
 
 JumpToTimepointDialog::~JumpToTimepointDialog() = default;
 
 void JumpToTimepointDialog::setDeviceName(const QString& name)
 {
-    const QFontMetrics metrics(m_ui->labelName->font());
-    m_ui->labelName->setText(
+    const QFontMetrics metrics(d->ui.labelName->font());
+    d->ui.labelName->setText(
         metrics.elidedText(name, Qt::ElideMiddle, longestName * metrics.averageCharWidth()));
 }
 
 void JumpToTimepointDialog::setMoment(const QDateTime& moment)
 {
-    m_zone = moment;
-    m_moments.clear();
+    d->zone = moment;
+    d->moments.clear();
     // The editors count in UTC, where every date and time exists.
-    m_ui->dateEdit->setDate(moment.date());
-    m_ui->timeEdit->setTime(moment.time());
+    d->ui.dateEdit->setDate(moment.date());
+    d->ui.timeEdit->setTime(moment.time());
     findMoments();
 }
 
 QDateTime JumpToTimepointDialog::moment() const
 {
-    if (m_moments.size() < 2)
-        return m_moments.value(0);
-    return m_moments.value(m_ui->comboOccurrence->currentIndex());
+    if (d->moments.size() < 2)
+        return d->moments.value(0);
+    return d->moments.value(d->ui.comboOccurrence->currentIndex());
+}
+
+bool JumpToTimepointDialog::wasLeft() const
+{
+    return d->wasLeft;
 }
 
 void JumpToTimepointDialog::accept()
@@ -122,7 +136,7 @@ void JumpToTimepointDialog::accept()
 void JumpToTimepointDialog::done(int result)
 {
     // Hiding makes another window active.
-    if (!std::exchange(m_isDone, true))
+    if (!std::exchange(d->isDone, true))
         QDialog::done(result);
 }
 
@@ -150,13 +164,17 @@ bool JumpToTimepointDialog::eventFilter(QObject* watched, QEvent* event)
 
 void JumpToTimepointDialog::changeEvent(QEvent* event)
 {
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        m_ui->retranslateUi(this);
-        explainMoments();
-    } else if (event->type() == QEvent::ActivationChange) {
+    if (event->type() == QEvent::ActivationChange)
         rejectWhenLeft();
-    }
+}
+
+void JumpToTimepointDialog::retranslate()
+{
+    d->ui.retranslateUi(this);
+    explainMoments();
 }
 
 void JumpToTimepointDialog::paintEvent(QPaintEvent* event)
@@ -169,40 +187,40 @@ void JumpToTimepointDialog::paintEvent(QPaintEvent* event)
 
 void JumpToTimepointDialog::moveDate(int days)
 {
-    m_ui->dateEdit->setDate(m_ui->dateEdit->date().addDays(days));
+    d->ui.dateEdit->setDate(d->ui.dateEdit->date().addDays(days));
 }
 
 void JumpToTimepointDialog::findMoments()
 {
-    const bool chosenBefore = m_moments.size() == 2;
-    m_moments = localMoments(m_ui->dateEdit->date(), m_ui->timeEdit->time(), m_zone);
-    const int chosen = chosenBefore ? m_ui->comboOccurrence->currentIndex()
-                                    : int(m_moments.size() == 2 && m_moments.at(1) == m_zone);
+    const bool chosenBefore = d->moments.size() == 2;
+    d->moments = localMoments(d->ui.dateEdit->date(), d->ui.timeEdit->time(), d->zone);
+    const int chosen = chosenBefore ? d->ui.comboOccurrence->currentIndex()
+                                    : int(d->moments.size() == 2 && d->moments.at(1) == d->zone);
     explainMoments();
-    m_ui->comboOccurrence->setCurrentIndex(chosen);
+    d->ui.comboOccurrence->setCurrentIndex(chosen);
 }
 
 void JumpToTimepointDialog::explainMoments()
 {
-    const bool unique = m_moments.size() == 1;
-    const bool twice = m_moments.size() == 2;
-    m_ui->labelClockChange->setText(
+    const bool unique = d->moments.size() == 1;
+    const bool twice = d->moments.size() == 2;
+    d->ui.labelClockChange->setText(
         unique  ? QString()
         : twice ? tr("The clocks are put back here, so this time comes twice. Choose one:")
                 : tr("The clocks are put forward here, so this time does not exist."));
-    m_ui->labelClockChange->setVisible(!unique);
+    d->ui.labelClockChange->setVisible(!unique);
 
-    const int chosen = m_ui->comboOccurrence->currentIndex();
-    m_ui->comboOccurrence->clear();
+    const int chosen = d->ui.comboOccurrence->currentIndex();
+    d->ui.comboOccurrence->clear();
     if (twice) {
-        m_ui->comboOccurrence->addItem(tr("The first (%1)").arg(clockOffset(m_moments.at(0))));
-        m_ui->comboOccurrence->addItem(tr("The second (%1)").arg(clockOffset(m_moments.at(1))));
-        m_ui->comboOccurrence->setCurrentIndex(chosen);
+        d->ui.comboOccurrence->addItem(tr("The first (%1)").arg(clockOffset(d->moments.at(0))));
+        d->ui.comboOccurrence->addItem(tr("The second (%1)").arg(clockOffset(d->moments.at(1))));
+        d->ui.comboOccurrence->setCurrentIndex(chosen);
     }
-    m_ui->comboOccurrence->setVisible(twice);
-    m_ui->buttonApply->setEnabled(!m_moments.isEmpty());
+    d->ui.comboOccurrence->setVisible(twice);
+    d->ui.buttonApply->setEnabled(!d->moments.isEmpty());
     if (!unique && isVisible()) {
-        QAccessibleEvent alert(m_ui->labelClockChange, QAccessible::Alert);
+        QAccessibleEvent alert(d->ui.labelClockChange, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
     }
 }
@@ -210,7 +228,7 @@ void JumpToTimepointDialog::explainMoments()
 void JumpToTimepointDialog::rejectWhenLeft()
 {
     if (isActiveWindow()) {
-        m_wasActive = true;
+        d->wasActive = true;
         return;
     }
     // The calendar and the list of choices belong to the dialog.
@@ -219,9 +237,9 @@ void JumpToTimepointDialog::rejectWhenLeft()
         active = QApplication::activeWindow();
     while (active && active != this)
         active = active->parentWidget();
-    if (active || !m_wasActive || m_isDone)
+    if (active || !d->wasActive || d->isDone)
         return;
-    m_wasLeft = true;
+    d->wasLeft = true;
     reject();
 }
 

@@ -4,15 +4,10 @@
 
 #include <QDateTime>
 #include <QDialog>
-#include <QList>
 
 #include <memory>
 
 namespace CorvelGui {
-
-namespace Ui {
-class JumpToTimepointDialog;
-}
 
 /// The pop-up of the date-time view in which the user picks a date and a time. It closes as
 /// rejected when another window becomes active.
@@ -32,7 +27,7 @@ public:
     QDateTime moment() const;
 
     /// Whether it closed because another window became active.
-    bool wasLeft() const { return m_wasLeft; }
+    bool wasLeft() const;
 
 public Q_SLOTS:
     /// Does nothing while moment() is invalid; the dialog says why.
@@ -50,13 +45,10 @@ private:
     void findMoments();
     void explainMoments();
     void rejectWhenLeft();
+    void retranslate();
 
-    const std::unique_ptr<Ui::JumpToTimepointDialog> m_ui;
-    QDateTime m_zone; ///< the moment that was shown first
-    QList<QDateTime> m_moments;
-    bool m_wasActive = false;
-    bool m_wasLeft = false;
-    bool m_isDone = false;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

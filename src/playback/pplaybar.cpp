@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QWheelEvent>
 
 #include <array>
@@ -212,11 +211,12 @@ void PPlaybar::setLiveMode(bool liveMode, bool enableReversePlayback)
     d->reverseEnabled = enableReversePlayback;
 
     const Ui::PPlaybar& ui = d->ui;
-    for (TarvoToolButton* button : d->buttons())
-        button->setEnabled(!liveMode);
+    ui.buttonPause->setEnabled(true);
     for (TarvoToolButton* button : {ui.buttonFastReverse, ui.buttonReverse, ui.buttonFrameBack})
         button->setEnabled(!liveMode && enableReversePlayback);
-    ui.buttonPause->setEnabled(true);
+    for (TarvoToolButton* button : {ui.buttonTrackStart, ui.buttonFrameForward, ui.buttonPlay,
+                                    ui.buttonFastForward, ui.buttonTrackEnd})
+        button->setEnabled(!liveMode);
 
     if (liveMode && d->state != Play)
         enter(Play);
@@ -236,36 +236,56 @@ void PPlaybar::setIconSize(QSize size)
     setMinimumSize(int(buttons.size()) * size.width(), size.height());
 }
 
+void PPlaybar::speedUp()
+{
+    if (!d->liveMode && d->state != Pause)
+        stepByWheel(1);
+}
+
+void PPlaybar::slowDown()
+{
+    if (!d->liveMode && d->state != Pause)
+        stepByWheel(-1);
+}
+
 bool PPlaybar::eventFilter(QObject* watched, QEvent* event)
 {
-    const QPointer<PPlaybar> alive(this);
     bool handled = false;
-    if (event->type() == QEvent::MouseButtonRelease) {
-        const auto* release = static_cast<QMouseEvent*>(event);
-        const auto* button = static_cast<QWidget*>(watched);
-        const Ui::PPlaybar& ui = d->ui;
-        const bool backward = watched == ui.buttonFastReverse || watched == ui.buttonReverse;
-        const bool forward = watched == ui.buttonFastForward || watched == ui.buttonPlay;
-        // Disabled buttons get here too.
-        if (release->button() == Qt::RightButton && button->isEnabled() &&
-            button->rect().contains(release->position().toPoint()) &&
-            ((backward && d->backwardChecked()) || (forward && d->forwardChecked())))
-            gotoPauseState();
-    } else if (event->type() == QEvent::Wheel && !d->liveMode && isEnabled()) {
-        handled = stepByWheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
-        if (handled)
-            event->accept();
-    }
-    return handled || !alive || QWidget::eventFilter(watched, event);
+    const bool lives = whileAlive(this, [&] {
+        if (event->type() == QEvent::MouseButtonRelease)
+            pauseByRightClick(*static_cast<QWidget*>(watched), *static_cast<QMouseEvent*>(event));
+        else if (event->type() == QEvent::Wheel && !d->liveMode && isEnabled())
+            handled = stepByWheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
+    });
+    if (handled)
+        event->accept();
+    return handled || !lives || QWidget::eventFilter(watched, event);
+}
+
+void PPlaybar::pauseByRightClick(const QWidget& button, const QMouseEvent& release)
+{
+    // Disabled buttons get here too.
+    if (release.button() != Qt::RightButton || !button.isEnabled() ||
+        !button.rect().contains(release.position().toPoint()))
+        return;
+    const Ui::PPlaybar& ui = d->ui;
+    const bool backward = &button == ui.buttonFastReverse || &button == ui.buttonReverse;
+    const bool forward = &button == ui.buttonFastForward || &button == ui.buttonPlay;
+    if ((backward && d->backwardChecked()) || (forward && d->forwardChecked()))
+        gotoPauseState();
 }
 
 void PPlaybar::changeEvent(QEvent* event)
 {
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        d->ui.retranslateUi(this);
-        refreshLabel();
-    }
+}
+
+void PPlaybar::retranslate()
+{
+    d->ui.retranslateUi(this);
+    refreshLabel();
 }
 
 void PPlaybar::onTrackStartClicked()

@@ -13,7 +13,7 @@ namespace CorvelGui {
 ///
 /// It keeps a playback state and a speed and moves between them on clicks, on the mouse wheel and
 /// on right-clicks. It plays nothing itself: clients apply what its signals report to their player,
-/// and mirror the player into the bar through the slots, which are silent.
+/// and mirror the player into the bar through the setters, which are silent.
 ///
 /// The wheel steps the speed over any of the nine buttons, and steps frames while paused. A
 /// right-click on the buttons of the direction that is played pauses. Live mode leaves the pause
@@ -101,9 +101,15 @@ public Q_SLOTS:
     /// Sets the size of all icons in pixels, and the bar's minimum size to nine of them in a row.
     void setIconSize(QSize size);
 
+    /// What a notch of the wheel away from the user does while something plays, with the signals of
+    /// that: for keys and menus. Does nothing in pause and in live mode.
+    void speedUp();
+    /// The same for a notch to the user: from 1x on through the speeds below 1.
+    void slowDown();
+
 Q_SIGNALS:
     /// Emitted when the user changed the state by a click, the wheel or a right-click. The speed is
-    /// then that on entry, without a signal of its own. Never emitted by the slots.
+    /// then that on entry, without a signal of its own. Never emitted by the setters.
     void playbackStateChanged(CorvelGui::PPlaybar::PlaybackState playbackState);
     /// Emitted when the user stepped the speed within a state, also if it stayed at the same value.
     void playbackSpeedChanged(CorvelGui::PPlaybar::PlaybackSpeed playbackSpeed);
@@ -146,11 +152,13 @@ private:
     void pauseAndReport(void (PPlaybar::*signal)());
     template <typename... Args>
     void report(void (PPlaybar::*signal)(Args...), Args... args);
+    void pauseByRightClick(const QWidget& button, const QMouseEvent& release);
     bool stepByWheel(int delta);
     bool stepFastByWheel(bool up);
     bool stepSlowByWheel(bool up);
     void checkStateButton();
     void refreshLabel();
+    void retranslate();
 
     const std::unique_ptr<Private> d;
 };

@@ -104,7 +104,7 @@ TarvoDateTimeView::TarvoDateTimeView(QWidget* parent)
         layout->addWidget(caption, 1, columns[field]);
         d->captions[field] = caption;
     }
-    translateTexts();
+    retranslate();
     applyStyle();
     showNothing();
 
@@ -187,7 +187,7 @@ void TarvoDateTimeView::changeEvent(QEvent* event)
         if (d->dialog)
             d->dialog->reject();
     } else if (event->type() == QEvent::LanguageChange) {
-        translateTexts();
+        retranslate();
     }
     QFrame::changeEvent(event);
 }
@@ -266,7 +266,7 @@ void TarvoDateTimeView::applyStyle()
     }
 }
 
-void TarvoDateTimeView::translateTexts()
+void TarvoDateTimeView::retranslate()
 {
     const std::array<QString, FieldCount> texts{tr("DAY"), tr("HR"), tr("MIN"), tr("SEC"),
                                                 tr("MS")};

@@ -52,7 +52,7 @@ private:
 
     void showNothing();
     void applyStyle();
-    void translateTexts();
+    void retranslate();
     void updateMinimumWidth();
     void followScreen();
     void openJumpDialog();

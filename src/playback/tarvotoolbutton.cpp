@@ -11,31 +11,39 @@ constexpr QSize hoverPixels(1000, 1000);
 
 } // namespace
 
-TarvoToolButton::TarvoToolButton(QWidget* parent) : QToolButton(parent)
+struct TarvoToolButton::Private
+{
+    QIcon normalIcon;
+};
+
+TarvoToolButton::TarvoToolButton(QWidget* parent)
+    : QToolButton(parent), d(std::make_unique<Private>())
 {
     setProperty("TarvoPlayback", true);
     connect(this, &QToolButton::toggled, this, &TarvoToolButton::refreshHover);
 }
 
+TarvoToolButton::~TarvoToolButton() = default;
+
 void TarvoToolButton::setIcon(const QIcon& icon)
 {
-    if (m_normalIcon.isNull())
-        m_normalIcon = icon;
+    if (d->normalIcon.isNull())
+        d->normalIcon = icon;
     QToolButton::setIcon(icon);
 }
 
 void TarvoToolButton::enterEvent(QEnterEvent* event)
 {
     QToolButton::enterEvent(event);
-    if (m_normalIcon.isNull())
-        m_normalIcon = icon();
+    if (d->normalIcon.isNull())
+        d->normalIcon = icon();
     QToolButton::setIcon(getHoverIcon(icon()));
 }
 
 void TarvoToolButton::leaveEvent(QEvent* event)
 {
     QToolButton::leaveEvent(event);
-    QToolButton::setIcon(m_normalIcon);
+    QToolButton::setIcon(d->normalIcon);
 }
 
 QIcon TarvoToolButton::getHoverIcon(QIcon icon)

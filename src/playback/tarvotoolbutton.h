@@ -2,8 +2,9 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
-#include <QIcon>
 #include <QToolButton>
+
+#include <memory>
 
 namespace CorvelGui {
 
@@ -17,6 +18,7 @@ class CORVELGUI_EXPORT TarvoToolButton : public QToolButton
 
 public:
     explicit TarvoToolButton(QWidget* parent = nullptr);
+    ~TarvoToolButton() override;
 
     /// Shows @p icon. The first icon that is not empty stays the normal one: after the next visit
     /// of the mouse it is shown again, whatever was set since.
@@ -33,7 +35,8 @@ protected:
 private:
     void refreshHover();
 
-    QIcon m_normalIcon;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

@@ -1,10 +1,10 @@
 #include "busyindicator.h"
 
+#include "base/whilealive.h"
 #include "keyboardguard.h"
 
 #include <QPainter>
 #include <QPixmap>
-#include <QPointer>
 #include <QResizeEvent>
 #include <QTimer>
 
@@ -144,10 +144,8 @@ void BusyIndicator::showEvent(QShowEvent* event)
         d->ringStart = Clock::now() + d->delay;
     }
     QWidget::showEvent(event);
-    const QPointer<BusyIndicator> alive(this);
-    d->keyboard.start();
-    if (alive)
-        repaint();
+    whileAlive(
+        this, [this] { d->keyboard.start(); }, [this] { repaint(); });
 }
 
 void BusyIndicator::hideEvent(QHideEvent* event)

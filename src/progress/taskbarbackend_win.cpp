@@ -1,8 +1,9 @@
 #include "taskbarbackend.h"
 
+#include "base/logging.h"
+
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
-#include <QtDebug>
 
 #include <qt_windows.h>
 #include <shobjidl.h>
@@ -87,15 +88,17 @@ std::unique_ptr<TaskbarBackend> TaskbarBackend::create()
     HRESULT result = CoCreateInstance(taskbarListClass, nullptr, CLSCTX_INPROC_SERVER,
                                       taskbarList3Interface, reinterpret_cast<void**>(&taskbar));
     if (FAILED(result)) {
-        qWarning("TaskbarProgressImpl: Creating ITaskbarList3 failed with error 0x%08lx",
-                 static_cast<unsigned long>(result));
+        qCWarning(progressLog,
+                  "TaskbarProgressImpl: Creating ITaskbarList3 failed with error 0x%08lx",
+                  static_cast<unsigned long>(result));
         return nullptr;
     }
     result = taskbar->HrInit();
     if (FAILED(result)) {
         taskbar->Release();
-        qWarning("TaskbarProgressImpl: Initializing ITaskbarList3 failed with error 0x%08lx",
-                 static_cast<unsigned long>(result));
+        qCWarning(progressLog,
+                  "TaskbarProgressImpl: Initializing ITaskbarList3 failed with error 0x%08lx",
+                  static_cast<unsigned long>(result));
         return nullptr;
     }
     return std::make_unique<ShellTaskbar>(taskbar);

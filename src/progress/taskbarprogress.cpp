@@ -1,11 +1,11 @@
 #include "taskbarprogress.h"
 
+#include "base/logging.h"
 #include "taskbarbackend.h"
 
 #include <QPlatformSurfaceEvent>
 #include <QPointer>
 #include <QWindow>
-#include <QtDebug>
 
 #include <utility>
 
@@ -18,8 +18,8 @@ constexpr qint64 completeValue = 1000;
 void warnOfFailure(const char* operation, long result)
 {
     if (result < 0)
-        qWarning("TaskbarProgressImpl: %s failed with error 0x%08lx", operation,
-                 static_cast<unsigned long>(result) & 0xFFFFFFFFUL);
+        qCWarning(progressLog, "TaskbarProgressImpl: %s failed with error 0x%08lx", operation,
+                  static_cast<unsigned long>(result) & 0xFFFFFFFFUL);
 }
 
 } // namespace

@@ -11,7 +11,18 @@
 
 namespace CorvelGui {
 
-ISettingsPage::ISettingsPage(QObject* parent) : QObject(parent) {}
+struct ISettingsPage::Private
+{
+    QString id;
+    QString displayName;
+    QString category;
+    QString displayCategory;
+    QString categoryIcon;
+    bool keywordsReady = false;
+    QStringList keywords;
+};
+
+ISettingsPage::ISettingsPage(QObject* parent) : QObject(parent), d(std::make_unique<Private>()) {}
 
 ISettingsPage::~ISettingsPage()
 {
@@ -20,65 +31,65 @@ ISettingsPage::~ISettingsPage()
 
 QString ISettingsPage::id() const
 {
-    return m_id;
+    return d->id;
 }
 
 QString ISettingsPage::displayName() const
 {
-    return m_displayName;
+    return d->displayName;
 }
 
 QString ISettingsPage::category() const
 {
-    return m_category;
+    return d->category;
 }
 
 QString ISettingsPage::displayCategory() const
 {
-    return m_displayCategory;
+    return d->displayCategory;
 }
 
 QIcon ISettingsPage::categoryIcon() const
 {
     // The icon of a missing or broken picture can be empty without being null.
-    const QIcon icon(m_categoryIcon);
+    const QIcon icon(d->categoryIcon);
     return icon.pixmap(QSize(16, 16)).isNull() ? QIcon() : icon;
 }
 
 void ISettingsPage::setId(const QString& id)
 {
-    m_id = id;
+    d->id = id;
 }
 
 void ISettingsPage::setDisplayName(const QString& displayName)
 {
-    m_displayName = displayName;
+    d->displayName = displayName;
 }
 
 void ISettingsPage::setCategory(const QString& category)
 {
-    m_category = category;
+    d->category = category;
 }
 
 void ISettingsPage::setDisplayCategory(const QString& displayCategory)
 {
-    m_displayCategory = displayCategory;
+    d->displayCategory = displayCategory;
 }
 
 void ISettingsPage::setCategoryIcon(const QString& path)
 {
-    m_categoryIcon = path;
+    d->categoryIcon = path;
 }
 
 bool ISettingsPage::matches(const QString& text) const
 {
-    if (!m_keywordsReady) {
+    if (!d->keywordsReady) {
         if (!m_widget)
             return false;
         collectKeywords();
-        m_keywordsReady = true;
+        d->keywordsReady = true;
     }
-    return std::ranges::any_of(m_keywords, [&text](const QString& keyword) {
+    return std::ranges::any_of(d->keywords, [&text](const QString& keyword) {
         return keyword.contains(text, Qt::CaseInsensitive);
     });
 }
@@ -86,14 +97,14 @@ bool ISettingsPage::matches(const QString& text) const
 void ISettingsPage::collectKeywords() const
 {
     for (const auto* label : m_widget->findChildren<QLabel*>())
-        m_keywords << label->text();
+        d->keywords << label->text();
     for (const auto* box : m_widget->findChildren<QCheckBox*>())
-        m_keywords << box->text();
+        d->keywords << box->text();
     for (const auto* button : m_widget->findChildren<QPushButton*>())
-        m_keywords << button->text();
+        d->keywords << button->text();
     for (const auto* group : m_widget->findChildren<QGroupBox*>())
-        m_keywords << group->title();
-    for (QString& keyword : m_keywords)
+        d->keywords << group->title();
+    for (QString& keyword : d->keywords)
         keyword.remove(u'&');
 }
 

@@ -6,8 +6,9 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
-#include <QStringList>
 #include <QWidget>
+
+#include <memory>
 
 namespace CorvelGui {
 
@@ -59,22 +60,14 @@ protected:
     /// @p path is the path of a picture, in the file system or among the resources.
     void setCategoryIcon(const QString& path);
 
-private:
-    void collectKeywords() const;
-
-    QString m_id;
-    QString m_displayName;
-    QString m_category;
-    QString m_displayCategory;
-    QString m_categoryIcon;
-
-protected:
     /// To be set by createWidget(); not owned. Guarded, since the widget dies with the dialog.
     QPointer<QWidget> m_widget;
 
 private:
-    mutable bool m_keywordsReady = false;
-    mutable QStringList m_keywords;
+    void collectKeywords() const;
+
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

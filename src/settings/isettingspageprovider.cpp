@@ -4,7 +4,16 @@
 
 namespace CorvelGui {
 
-ISettingsPageProvider::ISettingsPageProvider(QObject* parent) : QObject(parent) {}
+struct ISettingsPageProvider::Private
+{
+    QString category;
+    QString displayCategory;
+    QIcon categoryIcon;
+};
+
+ISettingsPageProvider::ISettingsPageProvider(QObject* parent)
+    : QObject(parent), d(std::make_unique<Private>())
+{}
 
 ISettingsPageProvider::~ISettingsPageProvider()
 {
@@ -13,32 +22,32 @@ ISettingsPageProvider::~ISettingsPageProvider()
 
 QString ISettingsPageProvider::category() const
 {
-    return m_category;
+    return d->category;
 }
 
 QString ISettingsPageProvider::displayCategory() const
 {
-    return m_displayCategory;
+    return d->displayCategory;
 }
 
 QIcon ISettingsPageProvider::categoryIcon() const
 {
-    return m_categoryIcon;
+    return d->categoryIcon;
 }
 
 void ISettingsPageProvider::setCategory(const QString& category)
 {
-    m_category = category;
+    d->category = category;
 }
 
 void ISettingsPageProvider::setDisplayCategory(const QString& displayCategory)
 {
-    m_displayCategory = displayCategory;
+    d->displayCategory = displayCategory;
 }
 
 void ISettingsPageProvider::setCategoryIcon(const QIcon& icon)
 {
-    m_categoryIcon = icon;
+    d->categoryIcon = icon;
 }
 
 } // namespace CorvelGui

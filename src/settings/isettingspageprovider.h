@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 namespace CorvelGui {
 
 class ISettingsPage;
@@ -38,9 +40,8 @@ protected:
     void setCategoryIcon(const QIcon& icon);
 
 private:
-    QString m_category;
-    QString m_displayCategory;
-    QIcon m_categoryIcon;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

@@ -8,7 +8,7 @@ class QSettings;
 /// back from there. The caller chooses the store and the moment; a state that is missing or damaged
 /// in the store leaves the window with its defaults.
 ///
-/// Stands outside the library's namespace, as released clients expect it.
+/// Stands outside the library's namespace.
 class CORVELGUI_EXPORT IUserSettings
 {
 public:

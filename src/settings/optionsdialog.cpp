@@ -1,5 +1,6 @@
 #include "optionsdialog.h"
 
+#include "base/whilealive.h"
 #include "categoryfiltermodel.h"
 #include "categorylistview.h"
 #include "categorylistviewdelegate.h"
@@ -318,16 +319,8 @@ void OptionsDialog::disconnectTabWidgets()
 bool OptionsDialog::execDialog()
 {
     const std::shared_ptr<bool> applied = d->applied;
-    const QPointer<OptionsDialog> alive(this);
     if (d->running) {
-        // Nothing would end the waiting any more.
-        if (d->finished || d->closed)
-            return *applied;
-        const auto loop = std::make_unique<QEventLoop>(this);
-        d->waitingLoops.append(loop.get());
-        loop->exec();
-        if (alive)
-            d->waitingLoops.removeOne(loop.get());
+        waitForEnd();
         return *applied;
     }
 
@@ -336,8 +329,7 @@ bool OptionsDialog::execDialog()
     d->closed = false;
     chooseFirstCategory();
     fitToScreen();
-    exec();
-    if (alive) {
+    if (whileAlive(this, [this] { exec(); })) {
         d->running = false;
         m_instance.clear();
         // They go with this dialog; the next one must not find them.
@@ -346,6 +338,17 @@ bool OptionsDialog::execDialog()
         deleteLater();
     }
     return *applied;
+}
+
+void OptionsDialog::waitForEnd()
+{
+    // Nothing would end the waiting any more.
+    if (d->finished || d->closed)
+        return;
+    const auto loop = std::make_unique<QEventLoop>(this);
+    d->waitingLoops.append(loop.get());
+    whileAlive(
+        this, [&] { loop->exec(); }, [&] { d->waitingLoops.removeOne(loop.get()); });
 }
 
 void OptionsDialog::done(int result)
@@ -363,8 +366,9 @@ void OptionsDialog::slotAccept()
     d->finished = true;
     disconnectTabWidgets();
     *d->applied = true;
-    if (applyVisitedPages() && finishPages())
-        done(Accepted);
+    whileAlive(
+        this, [this] { applyVisitedPages(); }, [this] { finishPages(); },
+        [this] { done(Accepted); });
 }
 
 void OptionsDialog::slotReject()
@@ -373,8 +377,8 @@ void OptionsDialog::slotReject()
         return;
     d->finished = true;
     disconnectTabWidgets();
-    if (finishPages())
-        done(Rejected);
+    whileAlive(
+        this, [this] { finishPages(); }, [this] { done(Rejected); });
 }
 
 void OptionsDialog::slotApply()
@@ -383,25 +387,23 @@ void OptionsDialog::slotApply()
     applyVisitedPages();
 }
 
-// Whether the dialog outlived what the pages did.
-bool OptionsDialog::applyVisitedPages()
+void OptionsDialog::applyVisitedPages()
 {
-    const QPointer<OptionsDialog> alive(this);
-    for (const QPointer<ISettingsPage>& page : QList(d->visitedPages)) {
-        if (page && alive)
-            page->apply();
-    }
-    return alive;
+    tellPages(d->visitedPages, &ISettingsPage::apply);
 }
 
-bool OptionsDialog::finishPages()
+void OptionsDialog::finishPages()
 {
-    const QPointer<OptionsDialog> alive(this);
-    for (const QPointer<ISettingsPage>& page : QList(d->pages)) {
-        if (page && alive)
-            page->finish();
+    tellPages(d->pages, &ISettingsPage::finish);
+}
+
+// Only as long as the dialog lives, which a page may delete.
+void OptionsDialog::tellPages(QList<QPointer<ISettingsPage>> pages, void (ISettingsPage::*what)())
+{
+    for (const QPointer<ISettingsPage>& page : std::as_const(pages)) {
+        if (page && !whileAlive(this, [&] { (page->*what)(); }))
+            return;
     }
-    return alive;
 }
 
 QSize OptionsDialog::sizeHint() const

@@ -14,6 +14,7 @@ class QModelIndex;
 namespace CorvelGui {
 
 struct Category;
+class ISettingsPage;
 class ISettingsPageProvider;
 
 /// The one options dialog of an application, made of the pages and providers in SettingsManager: a
@@ -76,8 +77,10 @@ private:
     QList<QPointer<ISettingsPageProvider>> providers() const;
     void visit(const Category& category, int tab);
     void chooseFirstCategory();
-    bool applyVisitedPages();
-    bool finishPages();
+    void waitForEnd();
+    void applyVisitedPages();
+    void finishPages();
+    void tellPages(QList<QPointer<ISettingsPage>> pages, void (ISettingsPage::*what)());
     void fitToScreen();
     void retranslate();
 

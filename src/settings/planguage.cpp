@@ -1,9 +1,10 @@
 #include "planguage.h"
 
+#include "base/logging.h"
+
 #include <Hueloft/PMessageBox>
 
 #include <QCoreApplication>
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -20,7 +21,7 @@ namespace {
 
 std::unique_ptr<QTranslator> load(const QString& path, const QString& directory)
 {
-    qDebug() << "Loading translation file:" << path;
+    qCDebug(settingsLog) << "Loading translation file:" << path;
     auto translator = std::make_unique<QTranslator>();
     // Without delimiters and suffix: this file, and none with a shorter name.
     return translator->load(path, directory, u""_s, u""_s) ? std::move(translator) : nullptr;
@@ -30,7 +31,7 @@ void reportUnloadable(QWidget* parent, const QString& language, const QString& p
 {
     const QString text =
         QObject::tr("Can not load %1 translations from file\n\"%2\"").arg(language, path);
-    qDebug() << "Warning:" << text;
+    qCDebug(settingsLog) << "Warning:" << text;
     Hueloft::PMessageBox::Warning(parent, QObject::tr("Warning"), text, QMessageBox::Ok,
                                   QMessageBox::Ok);
 }
@@ -66,7 +67,7 @@ void PLanguage::SetLanguage(QWidget* parent, const QString& key, const QString& 
         if (translator->isEmpty())
             continue;
         if (!QCoreApplication::installTranslator(translator))
-            qDebug() << "Language: Can not install Translator Key:" << key;
+            qCDebug(settingsLog) << "Language: Can not install Translator Key:" << key;
     }
 }
 

@@ -1,13 +1,13 @@
 #include "planguagedialog.h"
 
+#include "base/logging.h"
+#include "base/whilealive.h"
 #include "planguage.h"
 #include "ui_planguagedialog.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QEvent>
 #include <QGuiApplication>
-#include <QPointer>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QTimer>
@@ -16,31 +16,40 @@ using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
 
+struct PLanguageDialog::Private
+{
+    Ui::PLanguageDialog ui{};
+    const bool applyOnAccept;
+    const QString directory;
+    const QString prefix;
+    const QString currentKey;
+    QStringList supportedKeys{};
+};
+
 PLanguageDialog::PLanguageDialog(QWidget* parent, const QString& prefix, const QString& directory,
                                  const QString& currentKey, bool applyOnAccept)
     : QDialog(parent, Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
-    , m_form(std::make_unique<Ui::PLanguageDialog>())
-    , m_applyOnAccept(applyOnAccept)
-    , m_directory(directory)
-    , m_prefix(prefix)
-    , m_currentKey(currentKey)
+    , d(new Private{.applyOnAccept = applyOnAccept,
+                    .directory = directory,
+                    .prefix = prefix,
+                    .currentKey = currentKey})
 {
-    m_form->setupUi(this);
-    connect(m_form->buttonBox, &QDialogButtonBox::accepted, this, &PLanguageDialog::slotAccept);
-    connect(m_form->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    updateTexts();
+    d->ui.setupUi(this);
+    connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &PLanguageDialog::slotAccept);
+    connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    retranslate();
 }
 
 PLanguageDialog::~PLanguageDialog() = default;
 
 void PLanguageDialog::addSupportedLanguageKey(const QString& key)
 {
-    m_supportedKeys.append(key);
+    d->supportedKeys.append(key);
 }
 
 QString PLanguageDialog::getCurrentKey() const
 {
-    return m_form->CB_Language->currentData().toString();
+    return d->ui.CB_Language->currentData().toString();
 }
 
 void PLanguageDialog::showEvent(QShowEvent* event)
@@ -53,17 +62,17 @@ void PLanguageDialog::showEvent(QShowEvent* event)
 void PLanguageDialog::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
-        updateTexts();
+        retranslate();
     QDialog::changeEvent(event);
 }
 
-void PLanguageDialog::updateTexts()
+void PLanguageDialog::retranslate()
 {
-    m_form->retranslateUi(this);
-    m_form->CB_Language->setAccessibleName(m_form->groupBox->title());
-    const int none = m_form->CB_Language->findData(QVariant());
+    d->ui.retranslateUi(this);
+    d->ui.CB_Language->setAccessibleName(d->ui.groupBox->title());
+    const int none = d->ui.CB_Language->findData(QVariant());
     if (none >= 0)
-        m_form->CB_Language->setItemText(none, tr("There are no translations available."));
+        d->ui.CB_Language->setItemText(none, tr("There are no translations available."));
 }
 
 void PLanguageDialog::slotInitLanguages()
@@ -72,26 +81,26 @@ void PLanguageDialog::slotInitLanguages()
     const auto restore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
 
     const QStringList files =
-        QDir(m_directory).entryList({m_prefix + u"_*.qm"_s}, QDir::NoFilter, QDir::Name);
+        QDir(d->directory).entryList({d->prefix + u"_*.qm"_s}, QDir::NoFilter, QDir::Name);
     if (files.isEmpty()) {
         showThatThereAreNone();
         return;
     }
     for (const QString& file : files)
         addLanguage(file);
-    const int current = m_form->CB_Language->findData(m_currentKey);
+    const int current = d->ui.CB_Language->findData(d->currentKey);
     if (current >= 0)
-        m_form->CB_Language->setCurrentIndex(current);
+        d->ui.CB_Language->setCurrentIndex(current);
 }
 
 void PLanguageDialog::showThatThereAreNone()
 {
-    QComboBox* languages = m_form->CB_Language;
+    QComboBox* languages = d->ui.CB_Language;
     if (languages->findData(QVariant()) < 0)
         languages->addItem(QString());
-    updateTexts();
+    retranslate();
     languages->setCurrentIndex(languages->findData(QVariant()));
-    m_form->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(false);
+    d->ui.buttonBox->button(QDialogButtonBox::Ok)->setEnabled(false);
 }
 
 void PLanguageDialog::addLanguage(const QString& fileName)
@@ -101,28 +110,27 @@ void PLanguageDialog::addLanguage(const QString& fileName)
         return;
     const QString name = fileName.first(suffix);
     // A key may hold an underscore itself (en_US), and so may what stands before it (app_extra_de).
-    QString key = name.mid(m_prefix.size() + 1);
-    if (!m_supportedKeys.contains(key))
+    QString key = name.mid(d->prefix.size() + 1);
+    if (!d->supportedKeys.contains(key))
         key = name.sliced(name.lastIndexOf(u'_') + 1);
-    if (!m_supportedKeys.contains(key))
+    if (!d->supportedKeys.contains(key))
         return;
 
     const QString language = PLanguage::languageKeyToLanguage(key);
-    if (m_form->CB_Language->findText(language, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0)
+    if (d->ui.CB_Language->findText(language, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0)
         return;
-    m_form->CB_Language->addItem(language, key);
-    qDebug() << "Language=" << language << " key=" << key;
+    d->ui.CB_Language->addItem(language, key);
+    qCDebug(settingsLog) << "Language=" << language << " key=" << key;
 }
 
 void PLanguageDialog::slotAccept()
 {
-    const QPointer<PLanguageDialog> alive(this);
-    const QString key = getCurrentKey();
-    // Without a choice the language stays.
-    if (m_applyOnAccept && !key.isEmpty())
-        PLanguage::SetLanguage(this, key, m_directory);
-    if (alive)
-        accept();
+    const auto apply = [this, key = getCurrentKey()] {
+        // Without a choice the language stays.
+        if (d->applyOnAccept && !key.isEmpty())
+            PLanguage::SetLanguage(this, key, d->directory);
+    };
+    whileAlive(this, apply, [this] { accept(); });
 }
 
 } // namespace CorvelGui

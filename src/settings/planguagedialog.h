@@ -3,15 +3,10 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QDialog>
-#include <QStringList>
 
 #include <memory>
 
 namespace CorvelGui {
-
-namespace Ui {
-class PLanguageDialog;
-}
 
 /// Lets the user choose among the languages that have translation files, as far as the application
 /// supports them.
@@ -43,14 +38,10 @@ private Q_SLOTS:
 private:
     void addLanguage(const QString& fileName);
     void showThatThereAreNone();
-    void updateTexts();
+    void retranslate();
 
-    const std::unique_ptr<Ui::PLanguageDialog> m_form;
-    const bool m_applyOnAccept;
-    const QString m_directory;
-    const QString m_prefix;
-    const QString m_currentKey;
-    QStringList m_supportedKeys;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

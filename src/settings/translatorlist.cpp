@@ -1,20 +1,34 @@
 #include "translatorlist.h"
 
+#include <QHash>
+#include <QPointer>
+
 #include <utility>
 
 namespace CorvelGui {
 
-TranslatorList::TranslatorList() = default;
-
-TranslatorList::TranslatorList(const TranslatorList& other)
+struct TranslatorList::Private
 {
-    share(other);
+    using Guards = QHash<QTranslator*, QPointer<QTranslator>>;
+
+    QList<QTranslator*> list;
+    Guards shared; ///< what another list may delete
+};
+
+TranslatorList::TranslatorList() : d(std::make_unique<Private>()) {}
+
+TranslatorList::TranslatorList(const TranslatorList& other) : TranslatorList()
+{
+    *this = other;
 }
 
 TranslatorList& TranslatorList::operator=(const TranslatorList& other)
 {
-    if (this != &other)
-        share(other);
+    for (QTranslator* translator : std::as_const(other.d->list)) {
+        if (translator && this != &other && !other.d->shared.contains(translator))
+            other.d->shared.insert(translator, translator);
+    }
+    *d = *other.d;
     return *this;
 }
 
@@ -25,27 +39,17 @@ TranslatorList::~TranslatorList()
 
 QList<QTranslator*>& TranslatorList::getList()
 {
-    return m_list;
+    return d->list;
 }
 
 void TranslatorList::cleanUpList()
 {
-    const Guards shared = std::exchange(m_shared, {});
-    for (QTranslator* translator : std::exchange(m_list, {})) {
+    const Private::Guards shared = std::exchange(d->shared, {});
+    for (QTranslator* translator : std::exchange(d->list, {})) {
         const auto guard = shared.constFind(translator);
         if (guard == shared.cend() || *guard)
             delete translator;
     }
-}
-
-void TranslatorList::share(const TranslatorList& other)
-{
-    for (QTranslator* translator : other.m_list) {
-        if (translator && !other.m_shared.contains(translator))
-            other.m_shared.insert(translator, translator);
-    }
-    m_list = other.m_list;
-    m_shared = other.m_shared;
 }
 
 } // namespace CorvelGui

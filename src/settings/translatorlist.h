@@ -2,10 +2,10 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
-#include <QHash>
 #include <QList>
-#include <QPointer>
 #include <QTranslator>
+
+#include <memory>
 
 namespace CorvelGui {
 
@@ -26,13 +26,8 @@ public:
     void cleanUpList();
 
 private:
-    using Guards = QHash<QTranslator*, QPointer<QTranslator>>;
-
-    void share(const TranslatorList& other);
-
-    QList<QTranslator*> m_list;
-    /// What another list may delete.
-    mutable Guards m_shared;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <CorvelGui/corvelgui_export.h>
+
 #include <QDateTime>
 #include <QIcon>
 #include <QList>
@@ -9,10 +11,10 @@
 namespace CorvelGui {
 
 /// Gives the icons of markers. Markers with the same key share one icon.
-class IRulerMarkerIconProvider
+class CORVELGUI_EXPORT IRulerMarkerIconProvider
 {
 public:
-    virtual ~IRulerMarkerIconProvider() = default;
+    virtual ~IRulerMarkerIconProvider();
 
     /// The key of the icon for an index; any number but -1, which is the ruler's own icon.
     virtual int iconKey(int iconIndex) = 0;

@@ -207,7 +207,7 @@ void ZoomTimeline::onZoomTimeLineOperation(ZoomTimelineOperation operation)
 
 void ZoomTimeline::onViewAreaPositionChanged(double position)
 {
-    // Support reads this line in the output of clients.
+    // Part of the interface, on standard output.
     std::printf("Timeline offset: %f\n", position);
     m_ruler->onTimelineOffsetChanged(position);
 }

@@ -1,6 +1,9 @@
 #include "appupdater.h"
 
 #include "appupdaterdialog.h"
+#include "base/logging.h"
+#include "base/whilealive.h"
+#include "busynews.h"
 #include "installerpath.h"
 
 #include <Corvel/FileDownloader>
@@ -31,6 +34,7 @@ struct AppUpdater::Private
     bool showResult = false;
     QPointer<QProgressDialog> progress{};
     qint64 expectedSize = -1;
+    bool toldBusy = false;
 };
 
 AppUpdater::AppUpdater(const QString& applicationName, const QString& serverBase, QWidget* parent)
@@ -59,6 +63,7 @@ void AppUpdater::checkForUpdates(const QString& key, const QVersionNumber& curre
     d->showResult = showResult;
     d->currentVersion = current;
     d->checker->checkForUpdates(key, current);
+    tellBusyLater(this, &d->toldBusy);
 }
 
 bool AppUpdater::isBusy() const
@@ -68,6 +73,7 @@ bool AppUpdater::isBusy() const
 
 void AppUpdater::handleCheckAppUpdateError(const QString& text)
 {
+    tellBusyLater(this, &d->toldBusy);
     PMessageBox::Warning(parentWidget(), tr("Error"),
                          tr("Error while checking for Software Updates:\n") + text, QMessageBox::Ok,
                          QMessageBox::Ok);
@@ -75,6 +81,7 @@ void AppUpdater::handleCheckAppUpdateError(const QString& text)
 
 void AppUpdater::handleCheckAppUpdateResult(const CheckAppUpdate::AppUpdateInfoResult& result)
 {
+    tellBusyLater(this, &d->toldBusy);
     if (!result.updateAvailable) {
         if (d->showResult) {
             PMessageBox::Information(
@@ -84,23 +91,29 @@ void AppUpdater::handleCheckAppUpdateResult(const CheckAppUpdate::AppUpdateInfoR
         return;
     }
     if (!result.releaseDate) {
-        qCritical("An update without a release date is not offered.");
+        qCCritical(updateLog, "An update without a release date is not offered.");
         return;
     }
 
     // The result is the checker's, and a next check may begin while the user thinks.
     const CheckAppUpdate::AppUpdateInfoResult offered = result;
-    const QPointer<AppUpdater> self(this);
-    const QPointer<AppUpdaterDialog> dialog(
-        new AppUpdaterDialog(d->applicationName, d->currentVersion, offered.newVersion,
-                             offered.releaseNotesUrl, *offered.releaseDate, parentWidget()));
-    const bool wanted = dialog->exec() == QDialog::Accepted;
-    delete dialog;
-    if (!wanted || !self)
-        return;
-    const QString path = askForInstallerPath(parentWidget(), tr("Save Software"),
-                                             tr("Executable (*.exe)"), offered.fileName);
-    if (path.isEmpty() || !self)
+    bool wanted = false;
+    QString path;
+    const bool lives = whileAlive(
+        this,
+        [&] {
+            const QPointer<AppUpdaterDialog> dialog(new AppUpdaterDialog(
+                d->applicationName, d->currentVersion, offered.newVersion, offered.releaseNotesUrl,
+                *offered.releaseDate, parentWidget()));
+            wanted = dialog->exec() == QDialog::Accepted;
+            delete dialog;
+        },
+        [&] {
+            if (wanted)
+                path = askForInstallerPath(parentWidget(), tr("Save Software"),
+                                           tr("Executable (*.exe)"), offered.fileName);
+        });
+    if (!lives || path.isEmpty())
         return;
     d->expectedSize = offered.size;
     downloadUpdate(offered.softwareId, path);
@@ -119,6 +132,7 @@ void AppUpdater::downloadUpdate(qint64 id, const QString& path)
                              QMessageBox::Ok);
         return;
     }
+    tellBusyLater(this, &d->toldBusy);
     createProgressDialog();
 }
 
@@ -154,6 +168,7 @@ void AppUpdater::handleDownloadProgress(qint64 received, qint64 total)
 
 void AppUpdater::handleDownloadError(const QString& text)
 {
+    tellBusyLater(this, &d->toldBusy);
     resetProgressDialog();
     PMessageBox::Warning(parentWidget(), tr("Error"),
                          tr("Error during download of Software Update:\n\n%1").arg(text),
@@ -162,6 +177,7 @@ void AppUpdater::handleDownloadError(const QString& text)
 
 void AppUpdater::handleDownloadFinished(const QString& path)
 {
+    tellBusyLater(this, &d->toldBusy);
     resetProgressDialog();
     const int answer = PMessageBox::Question(
         parentWidget(), tr("Download finished"),

@@ -35,6 +35,11 @@ public:
     /// Whether a check or a download is on its way. False while a dialog waits for the user.
     bool isBusy() const;
 
+Q_SIGNALS:
+    /// Emitted from the event loop when isBusy() is no longer what it was at the last emission,
+    /// false at first; before any dialog that waits for the user.
+    void busyChanged(bool busy);
+
 private:
     void handleCheckAppUpdateError(const QString& text);
     void handleCheckAppUpdateResult(const Corvel::CheckAppUpdate::AppUpdateInfoResult& result);

@@ -3,36 +3,48 @@
 #include "ui_appupdaterdialog.h"
 #include "weblink.h"
 
+#include <QDateTime>
 #include <QDesktopServices>
 #include <QEvent>
 #include <QLocale>
 #include <QPushButton>
+#include <QUrl>
+#include <QVersionNumber>
 
 using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
 
+struct AppUpdaterDialog::Private
+{
+    Ui::AppUpdaterDialog ui{};
+    const QString name;
+    const QVersionNumber current;
+    const QVersionNumber available;
+    const QDateTime date;
+    const QUrl releaseNotes;
+};
+
 AppUpdaterDialog::AppUpdaterDialog(const QString& applicationName, const QVersionNumber& current,
                                    const QVersionNumber& available, const QString& releaseNotesUrl,
                                    const QDateTime& releaseDate, QWidget* parent)
     : PBaseDialog(parent)
-    , m_ui(std::make_unique<Ui::AppUpdaterDialog>())
-    , m_name(applicationName)
-    , m_current(current)
-    , m_available(available)
-    , m_date(releaseDate)
-    , m_releaseNotes(releaseNotesUrl)
+    , d(new Private{.name = applicationName,
+                    .current = current,
+                    .available = available,
+                    .date = releaseDate,
+                    .releaseNotes = QUrl(releaseNotesUrl)})
 {
-    m_ui->setupUi(this);
-    m_ui->textEdit->setTabChangesFocus(true);
-    initTextEdit(m_name, m_current, m_available, m_date);
-    QPushButton* yes = m_ui->buttonBox->button(QDialogButtonBox::Yes);
+    d->ui.setupUi(this);
+    d->ui.textEdit->setTabChangesFocus(true);
+    retranslate();
+    QPushButton* yes = d->ui.buttonBox->button(QDialogButtonBox::Yes);
     yes->setDefault(true);
     yes->setFocus();
-    m_ui->buttonReleaseNotes->setVisible(leadsToTheWeb(m_releaseNotes));
-    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_ui->buttonReleaseNotes, &QPushButton::clicked, this,
+    d->ui.buttonReleaseNotes->setVisible(leadsToTheWeb(d->releaseNotes));
+    connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(d->ui.buttonReleaseNotes, &QPushButton::clicked, this,
             &AppUpdaterDialog::showReleaseNotes);
 }
 
@@ -40,11 +52,15 @@ AppUpdaterDialog::~AppUpdaterDialog() = default;
 
 void AppUpdaterDialog::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        m_ui->retranslateUi(this);
-        initTextEdit(m_name, m_current, m_available, m_date);
-    }
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
     PBaseDialog::changeEvent(event);
+}
+
+void AppUpdaterDialog::retranslate()
+{
+    d->ui.retranslateUi(this);
+    initTextEdit(d->name, d->current, d->available, d->date);
 }
 
 void AppUpdaterDialog::initTextEdit(const QString& name, const QVersionNumber& current,
@@ -56,12 +72,12 @@ void AppUpdaterDialog::initTextEdit(const QString& name, const QVersionNumber& c
         text += u'\n' + tr("Release Date: %1")
                             .arg(QLocale::system().toString(date.date(), QLocale::ShortFormat));
     }
-    m_ui->textEdit->setPlainText(text + u"\n\n"_s + tr("Would you like to download this version?"));
+    d->ui.textEdit->setPlainText(text + u"\n\n"_s + tr("Would you like to download this version?"));
 }
 
 void AppUpdaterDialog::showReleaseNotes()
 {
-    QDesktopServices::openUrl(m_releaseNotes);
+    QDesktopServices::openUrl(d->releaseNotes);
 }
 
 } // namespace CorvelGui

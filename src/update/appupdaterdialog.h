@@ -2,17 +2,12 @@
 
 #include <CorvelGui/PBaseDialog>
 
-#include <QDateTime>
-#include <QUrl>
-#include <QVersionNumber>
-
 #include <memory>
 
-namespace CorvelGui {
+class QDateTime;
+class QVersionNumber;
 
-namespace Ui {
-class AppUpdaterDialog;
-}
+namespace CorvelGui {
 
 /// Tells of a newer version and asks whether to download it: accepted means yes.
 class CORVELGUI_EXPORT AppUpdaterDialog : public PBaseDialog
@@ -35,13 +30,10 @@ private:
     void initTextEdit(const QString& name, const QVersionNumber& current,
                       const QVersionNumber& available, const QDateTime& date);
     void showReleaseNotes();
+    void retranslate();
 
-    const std::unique_ptr<Ui::AppUpdaterDialog> m_ui;
-    const QString m_name;
-    const QVersionNumber m_current;
-    const QVersionNumber m_available;
-    const QDateTime m_date;
-    const QUrl m_releaseNotes;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

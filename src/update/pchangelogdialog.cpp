@@ -35,69 +35,72 @@ void openWebPage(const QUrl& url)
 
 } // namespace
 
+struct PChangeLogDialog::Private
+{
+    QTextBrowser* const browser;
+    QString log{};
+    bool hasMarkup = false;
+};
+
 PChangeLogDialog::PChangeLogDialog(QWidget* parent)
-    : PBaseDialog(parent), m_browser(new OfflineBrowser(this))
+    : PBaseDialog(parent), d(new Private{.browser = new OfflineBrowser(this)})
 {
     setSizeGripEnabled(true);
     resize(640, 480);
     retranslate();
-    m_browser->setOpenLinks(false);
-    connect(m_browser, &QTextBrowser::anchorClicked, this, &openWebPage);
+    d->browser->setOpenLinks(false);
+    connect(d->browser, &QTextBrowser::anchorClicked, this, &openWebPage);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_browser);
+    layout->addWidget(d->browser);
     layout->addWidget(buttons);
 }
 
+PChangeLogDialog::~PChangeLogDialog() = default;
+
 void PChangeLogDialog::setHtml(const QString& html)
 {
-    m_hasMarkup = html.contains(u'<');
-    m_log = harmlessHtml(html); // a plain text can be too long, too
+    d->hasMarkup = html.contains(u'<');
+    d->log = harmlessHtml(html); // a plain text can be too long, too
     showLog();
-    m_browser->moveCursor(QTextCursor::Start);
-    m_browser->ensureCursorVisible();
+    d->browser->moveCursor(QTextCursor::Start);
+    d->browser->ensureCursorVisible();
 }
 
 void PChangeLogDialog::changeEvent(QEvent* event)
 {
-    PBaseDialog::changeEvent(event);
-    switch (event->type()) {
-    case QEvent::PaletteChange: {
-        // A document keeps the colour of links that it was read with.
-        const int position = m_browser->verticalScrollBar()->value();
-        showLog();
-        m_browser->verticalScrollBar()->setValue(position);
-        break;
-    }
-    case QEvent::LanguageChange:
+    if (event->type() == QEvent::LanguageChange)
         retranslate();
-        break;
-    default:
-        break;
+    PBaseDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        // A document keeps the colour of links that it was read with.
+        const int position = d->browser->verticalScrollBar()->value();
+        showLog();
+        d->browser->verticalScrollBar()->setValue(position);
     }
 }
 
 void PChangeLogDialog::retranslate()
 {
     setWindowTitle(tr("Change Log"));
-    m_browser->setAccessibleName(tr("Change Log"));
+    d->browser->setAccessibleName(tr("Change Log"));
 }
 
 void PChangeLogDialog::showLog()
 {
-    if (m_hasMarkup)
-        m_browser->setHtml(m_log);
+    if (d->hasMarkup)
+        d->browser->setHtml(d->log);
     else
-        m_browser->setPlainText(m_log);
+        d->browser->setPlainText(d->log);
 }
 
 QString PChangeLogDialog::toPlainText() const
 {
-    return m_browser->toPlainText();
+    return d->browser->toPlainText();
 }
 
 } // namespace CorvelGui

@@ -2,7 +2,7 @@
 
 #include <CorvelGui/PBaseDialog>
 
-class QTextBrowser;
+#include <memory>
 
 namespace CorvelGui {
 
@@ -17,6 +17,7 @@ class CORVELGUI_EXPORT PChangeLogDialog : public PBaseDialog
 public:
     /// An empty change log.
     explicit PChangeLogDialog(QWidget* parent = nullptr);
+    ~PChangeLogDialog() override;
 
     /// Replaces the change log and shows its begin. Text without any markup keeps its line breaks.
     void setHtml(const QString& html);
@@ -30,9 +31,8 @@ private:
     void retranslate();
     void showLog();
 
-    QTextBrowser* m_browser;
-    QString m_log;
-    bool m_hasMarkup = false;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

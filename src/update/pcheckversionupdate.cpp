@@ -1,18 +1,19 @@
 #include "pcheckversionupdate.h"
 
+#include "base/logging.h"
 #include "base/whilealive.h"
-#include "base/wholefile.h"
+#include "busynews.h"
 #include "installerpath.h"
 #include "pchangelogdialog.h"
 #include "pcheckversionupdatedialog.h"
 #include "versionfile.h"
 
+#include <Corvel/FileDownloader>
 #include <Corvel/ProxyNetworkAccessManager>
 #include <Corvel/ProxyUserSettings>
 #include <Hueloft/PMessageBox>
 
 #include <QCoreApplication>
-#include <QDebug>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -22,6 +23,7 @@
 
 #include <utility>
 
+using Corvel::FileDownloader;
 using Corvel::ProxyNetworkAccessManager;
 using Hueloft::PMessageBox;
 using namespace Qt::StringLiterals;
@@ -45,47 +47,25 @@ struct PCheckVersionUpdate::Private
     Corvel::RequestLimits installerLimits{
         .deadline = 2h, .silence = 30s, .size = qint64(1024) * 1024 * 1024};
     ProxyNetworkAccessManager* manager = nullptr;
+    bool toldBusy = false;
 
-    // Of one check.
+    // Of one check, whose requests follow one another.
+    bool wantsChangeLog = false;
     bool showResult = false;
     bool internalChannel = false;
     VersionFile offered{};
-    QString readmeUrl{};
     QString readmeText{};
-    QByteArray intranetData{};
-    QByteArray internetData{};
-    QByteArray readmeData{};
-    QNetworkReply* intranetReply = nullptr;
-    QNetworkReply* internetReply = nullptr;
-    QNetworkReply* readmeReply = nullptr;
+    QNetworkReply* reply = nullptr;
+    QByteArray received{};
 
-    // Of one download.
-    QString savePath{};
-    QByteArray installData{};
-    QNetworkReply* installReply = nullptr;
+    std::unique_ptr<FileDownloader> installer{}; ///< of one download
 
-    static void take(QNetworkReply* reply, QByteArray& buffer)
+    void abandonCheck()
     {
-        if (reply)
-            buffer += reply->readAll();
-    }
-
-    /// The reply of @p member if it is finished; it is not the member's any more, and deletes
-    /// itself later. Null if another request replaced it meanwhile.
-    static QNetworkReply* finished(QNetworkReply*& member)
-    {
-        if (!member || !member->isFinished())
-            return nullptr;
-        member->deleteLater();
-        return std::exchange(member, nullptr);
-    }
-
-    static void abandon(QNetworkReply*& member)
-    {
-        if (QNetworkReply* reply = std::exchange(member, nullptr)) {
-            reply->disconnect();
-            reply->abort();
-            reply->deleteLater();
+        if (QNetworkReply* running = std::exchange(reply, nullptr)) {
+            running->disconnect();
+            running->abort();
+            running->deleteLater();
         }
     }
 };
@@ -107,14 +87,13 @@ PCheckVersionUpdate::~PCheckVersionUpdate() = default;
 
 void PCheckVersionUpdate::checkVersion(bool showResult)
 {
-    Private::abandon(d->intranetReply);
-    Private::abandon(d->internetReply);
-    Private::abandon(d->readmeReply);
     d->showResult = showResult;
-    d->internalChannel = false;
-    d->offered = {};
-    d->readmeText.clear();
-    requestVersionFileIntranet();
+    begin(false);
+}
+
+void PCheckVersionUpdate::fetchChangeLog()
+{
+    begin(true);
 }
 
 void PCheckVersionUpdate::checkChangeLog()
@@ -149,7 +128,7 @@ bool PCheckVersionUpdate::hasInternalReleaseChannelConnection() const
 
 bool PCheckVersionUpdate::isBusy() const
 {
-    return d->intranetReply || d->internetReply || d->readmeReply || d->installReply;
+    return d->reply || (d->installer && d->installer->isBusy());
 }
 
 void PCheckVersionUpdate::setLimits(const Corvel::RequestLimits& texts,
@@ -159,129 +138,95 @@ void PCheckVersionUpdate::setLimits(const Corvel::RequestLimits& texts,
     d->installerLimits = installers;
 }
 
-QNetworkReply* PCheckVersionUpdate::get(const QUrl& url, const Corvel::RequestLimits& limits,
-                                        Slot readyRead, Slot finished)
+void PCheckVersionUpdate::begin(bool wantsChangeLog)
 {
-    d->manager->setLimits(limits);
-    QNetworkReply* reply = d->manager->get(QNetworkRequest(url));
-    connect(reply, &QNetworkReply::readyRead, this, readyRead);
-    // Messages are shown from the event loop, not from within the reply.
-    connect(reply, &QNetworkReply::finished, this, finished, Qt::QueuedConnection);
-    return reply;
-}
-
-void PCheckVersionUpdate::requestVersionFileIntranet()
-{
-    const QString url = d->intranetBase + versionFileName;
-    qDebug() << "requestVersionFileIntranet=" << url;
-    d->intranetData.clear();
-    d->intranetReply =
-        get(QUrl(url), d->textLimits, &PCheckVersionUpdate::httpReadyReadVersionFileIntranet,
-            &PCheckVersionUpdate::httpFinishedVersionFileIntranet);
-}
-
-void PCheckVersionUpdate::httpReadyReadVersionFileIntranet()
-{
-    Private::take(d->intranetReply, d->intranetData);
-}
-
-void PCheckVersionUpdate::httpFinishedVersionFileIntranet()
-{
-    const QNetworkReply* reply = Private::finished(d->intranetReply);
-    if (!reply)
-        return;
-    if (reply->error() != QNetworkReply::NoError) {
-        qDebug() << reply->errorString();
-        requestVersionFileInternet();
-    } else if (parseVersionInfo(d->intranetData)) {
-        d->internalChannel = true;
-        requestReadMeFile(d->intranetBase + d->offered.readmeFile);
-    } else {
-        tellUnreadable();
-    }
-}
-
-void PCheckVersionUpdate::requestVersionFileInternet()
-{
-    const QString url = d->internetBase + versionFileName;
-    qDebug() << "requestVersionFileInternet=" << url;
-    d->internetData.clear();
-    d->internetReply =
-        get(QUrl(url), d->textLimits, &PCheckVersionUpdate::httpReadyReadVersionFileInternet,
-            &PCheckVersionUpdate::httpFinishedVersionFileInternet);
-}
-
-void PCheckVersionUpdate::httpReadyReadVersionFileInternet()
-{
-    Private::take(d->internetReply, d->internetData);
-}
-
-void PCheckVersionUpdate::httpFinishedVersionFileInternet()
-{
-    const QNetworkReply* reply = Private::finished(d->internetReply);
-    if (!reply)
-        return;
-    if (reply->error() != QNetworkReply::NoError) {
-        qDebug() << reply->errorString();
-        if (d->showResult) {
-            PMessageBox::Critical(nullptr, tr("Update check failed"),
-                                  tr("Cannot connect to Orvane Software Update Server!\n"
-                                     "Please check internet connection."));
-        }
-    } else if (parseVersionInfo(d->internetData)) {
-        requestReadMeFile(d->internetBase + d->offered.readmeFile);
-    } else {
-        tellUnreadable();
-    }
-}
-
-bool PCheckVersionUpdate::parseVersionInfo(const QByteArray& content)
-{
-    const std::optional<VersionFile> file = VersionFile::parse(content);
-    d->offered = file.value_or(VersionFile());
-    return file.has_value();
-}
-
-void PCheckVersionUpdate::tellUnreadable()
-{
-    qDebug() << "Cannot parse version file " << versionFileName;
-    PMessageBox::Critical(nullptr, tr("Update check failed"),
-                          tr("Internal error!\nCannot parse version information."));
-}
-
-void PCheckVersionUpdate::requestReadMeFile(const QString& url)
-{
+    d->abandonCheck();
+    d->wantsChangeLog = wantsChangeLog;
+    d->internalChannel = false;
+    d->offered = {};
     d->readmeText.clear();
-    d->readmeData.clear();
-    d->readmeUrl = url;
-    d->readmeReply = get(QUrl(url), d->textLimits, &PCheckVersionUpdate::httpReadyReadReadMeFile,
-                         &PCheckVersionUpdate::httpFinishedReadMeFile);
+    requestVersionFile(Channel::Internal);
 }
 
-void PCheckVersionUpdate::httpReadyReadReadMeFile()
+void PCheckVersionUpdate::fetch(const QString& url, const Answered& answered)
 {
-    Private::take(d->readmeReply, d->readmeData);
+    d->received.clear();
+    d->manager->setLimits(d->textLimits);
+    QNetworkReply* reply = d->manager->get(QNetworkRequest(QUrl(url)));
+    d->reply = reply;
+    connect(reply, &QNetworkReply::readyRead, this,
+            [this, reply] { d->received += reply->readAll(); });
+    // Messages are shown from the event loop, not from within the reply.
+    const auto finish = [this, reply, answered] {
+        if (d->reply != reply) // another check replaced it meanwhile
+            return;
+        d->reply = nullptr;
+        reply->deleteLater();
+        if (reply->error() != QNetworkReply::NoError)
+            qCDebug(updateLog) << reply->errorString();
+        tellBusyLater();
+        answered(reply->error() == QNetworkReply::NoError);
+    };
+    connect(reply, &QNetworkReply::finished, this, finish, Qt::QueuedConnection);
+    tellBusyLater();
 }
 
-void PCheckVersionUpdate::httpFinishedReadMeFile()
+void PCheckVersionUpdate::requestVersionFile(Channel channel)
 {
-    const QNetworkReply* reply = Private::finished(d->readmeReply);
-    if (!reply)
-        return;
-    if (reply->error() != QNetworkReply::NoError) {
-        d->readmeText = u"Error reading %1"_s.arg(d->readmeUrl);
+    const bool internal = channel == Channel::Internal;
+    const QString url = (internal ? d->intranetBase : d->internetBase) + versionFileName;
+    qCDebug(updateLog) << (internal ? "requestVersionFileIntranet=" : "requestVersionFileInternet=")
+                       << url;
+    fetch(url, [this, channel](bool arrived) { takeVersionFile(channel, arrived); });
+}
+
+void PCheckVersionUpdate::takeVersionFile(Channel channel, bool arrived)
+{
+    const bool internal = channel == Channel::Internal;
+    if (!arrived) {
+        if (internal)
+            requestVersionFile(Channel::Public);
+        else
+            giveUp(d->showResult ? tr("Cannot connect to Orvane Software Update Server!\n"
+                                      "Please check internet connection.")
+                                 : QString());
         return;
     }
-    d->readmeText = QString::fromUtf8(d->readmeData);
-    compareVersions();
+    const std::optional<VersionFile> file = VersionFile::parse(d->received);
+    if (!file) {
+        qCDebug(updateLog) << "Cannot parse version file " << versionFileName;
+        giveUp(tr("Internal error!\nCannot parse version information."));
+        return;
+    }
+    d->offered = *file;
+    d->internalChannel = internal;
+    const QString url = base() + file->readmeFile;
+    fetch(url, [this, url](bool notesArrived) { takeReadMeFile(url, notesArrived); });
+}
+
+void PCheckVersionUpdate::giveUp(const QString& text)
+{
+    if (d->wantsChangeLog)
+        checkChangeLog();
+    else if (!text.isEmpty())
+        PMessageBox::Critical(nullptr, tr("Update check failed"), text);
+}
+
+void PCheckVersionUpdate::takeReadMeFile(const QString& url, bool arrived)
+{
+    d->readmeText = arrived ? QString::fromUtf8(d->received) : u"Error reading %1"_s.arg(url);
+    if (d->wantsChangeLog)
+        checkChangeLog();
+    else if (arrived)
+        compareVersions();
 }
 
 void PCheckVersionUpdate::compareVersions()
 {
     const auto current = ReleaseVersion::parse(d->currentVersion).value_or(ReleaseVersion());
     if (current < d->offered.version) {
-        qDebug() << "New version found!";
-        offer();
+        qCDebug(updateLog) << "New version found!";
+        offer(current);
     } else if (d->showResult) {
         PMessageBox::Information(
             parentWidget(), QCoreApplication::applicationName(),
@@ -289,12 +234,11 @@ void PCheckVersionUpdate::compareVersions()
     }
 }
 
-void PCheckVersionUpdate::offer()
+void PCheckVersionUpdate::offer(const ReleaseVersion& current)
 {
     // A next check may begin while the user thinks about this one.
     const VersionFile offered = d->offered;
-    const QString base = d->internalChannel ? d->intranetBase : d->internetBase;
-    const auto current = ReleaseVersion::parse(d->currentVersion).value_or(ReleaseVersion());
+    const QString url = base() + offered.updateFile;
     QString heading = QCoreApplication::applicationName();
     if (d->internalChannel)
         heading += tr(" ") + tr("(Internal Release Channel)");
@@ -304,77 +248,61 @@ void PCheckVersionUpdate::offer()
             .arg(heading, current.text(d->showRevision), offered.version.text(d->showRevision),
                  offered.releaseDate);
 
-    const QPointer<PCheckVersionUpdate> self(this);
-    const QPointer<PCheckVersionUpdateDialog> dialog(
-        new PCheckVersionUpdateDialog(message, d->readmeText, parentWidget()));
-    dialog->setWindowTitle(QCoreApplication::applicationName());
-    const bool wanted = dialog->exec() == QDialog::Accepted;
-    delete dialog;
-    if (!wanted || !self)
-        return;
-
-    const QString path = askForInstallerPath(nullptr, tr("Save Software"), tr("Executable (*.exe)"),
-                                             offered.updateFile);
-    if (path.isEmpty() || !self)
-        return;
-    d->savePath = path;
-    requestInstallFile(base + offered.updateFile);
+    bool wanted = false;
+    QString path;
+    const bool lives = whileAlive(
+        this,
+        [&] {
+            const QPointer<PCheckVersionUpdateDialog> dialog(
+                new PCheckVersionUpdateDialog(message, d->readmeText, parentWidget()));
+            dialog->setWindowTitle(QCoreApplication::applicationName());
+            wanted = dialog->exec() == QDialog::Accepted;
+            delete dialog;
+        },
+        [&] {
+            if (wanted)
+                path = askForInstallerPath(nullptr, tr("Save Software"), tr("Executable (*.exe)"),
+                                           offered.updateFile);
+        });
+    if (lives && !path.isEmpty())
+        requestInstallFile(url, path);
 }
 
-void PCheckVersionUpdate::requestInstallFile(const QString& url)
+void PCheckVersionUpdate::requestInstallFile(const QString& url, const QString& path)
 {
-    Private::abandon(d->installReply);
-    d->installData.clear();
+    d->installer = std::make_unique<FileDownloader>();
     if (!whileAlive(this, [this] { Q_EMIT signalDownloadProgress(-1, -1); }))
         return;
-    d->installReply =
-        get(QUrl(url), d->installerLimits, &PCheckVersionUpdate::httpReadyReadInstallFile,
-            &PCheckVersionUpdate::httpFinishedInstallFile);
-    connect(d->installReply, &QNetworkReply::downloadProgress, this,
-            &PCheckVersionUpdate::httpFileProgressInstallFile, Qt::QueuedConnection);
+    d->installer->setLimits(d->installerLimits);
+    connect(d->installer.get(), &FileDownloader::downloadProgress, this,
+            &PCheckVersionUpdate::signalDownloadProgress);
+    connect(d->installer.get(), &FileDownloader::downloadError, this, [this](const QString& error) {
+        qCDebug(updateLog) << "PCheckVersionUpdate::httpFinishedDownloadFile()";
+        qCDebug(updateLog) << error;
+        tellDownloadFailure(tr("Download failed!\n\nError: %1").arg(error));
+    });
+    connect(d->installer.get(), &FileDownloader::downloadFinished, this,
+            &PCheckVersionUpdate::tellSaved);
+    if (d->installer->downloadFile(QUrl(url), path))
+        tellBusyLater();
+    else
+        tellDownloadFailure(tr("Error while saving file!"));
 }
 
-void PCheckVersionUpdate::httpReadyReadInstallFile()
+void PCheckVersionUpdate::tellDownloadFailure(const QString& text)
 {
-    Private::take(d->installReply, d->installData);
+    tellBusyLater();
+    if (whileAlive(this, [this] { Q_EMIT signalDownloadProgress(0, 0); }))
+        PMessageBox::Critical(parentWidget(), tr("Download failed"), text);
 }
 
-void PCheckVersionUpdate::httpFileProgressInstallFile(qint64 received, qint64 total)
+void PCheckVersionUpdate::tellSaved(const QString& path)
 {
-    // After the last of it, its end is told instead.
-    if (d->installReply && !d->installReply->isFinished())
-        Q_EMIT signalDownloadProgress(received, total);
-}
-
-void PCheckVersionUpdate::httpFinishedInstallFile()
-{
-    const QNetworkReply* reply = Private::finished(d->installReply);
-    if (!reply)
+    qCDebug(updateLog) << "PCheckVersionUpdate::httpFinishedDownloadFile()";
+    tellBusyLater();
+    const qint64 size = QFileInfo(path).size();
+    if (!whileAlive(this, [&] { Q_EMIT signalDownloadProgress(size, size); }))
         return;
-    qDebug() << "PCheckVersionUpdate::httpFinishedDownloadFile()";
-    const QByteArray content = std::exchange(d->installData, {});
-    if (reply->error() == QNetworkReply::NoError) {
-        saveInstaller(content);
-        return;
-    }
-    const QString error = reply->errorString();
-    qDebug() << error;
-    if (!whileAlive(this, [this] { Q_EMIT signalDownloadProgress(0, 0); }))
-        return;
-    PMessageBox::Critical(parentWidget(), tr("Download failed"),
-                          tr("Download failed!\n\nError: %1").arg(error));
-}
-
-void PCheckVersionUpdate::saveInstaller(const QByteArray& content)
-{
-    const QString path = d->savePath;
-    if (!whileAlive(this, [&] { Q_EMIT signalDownloadProgress(content.size(), content.size()); }))
-        return;
-    if (!writeWholeFile(path, content).isEmpty()) {
-        PMessageBox::Critical(parentWidget(), tr("Download failed"),
-                              tr("Error while saving file!"));
-        return;
-    }
     const int answer = PMessageBox::Question(
         parentWidget(), QCoreApplication::applicationName(),
         tr("Downloading of new version was finished successfully!\n\nLocation: %1\n\n"
@@ -383,6 +311,16 @@ void PCheckVersionUpdate::saveInstaller(const QByteArray& content)
         QMessageBox::Yes);
     if (answer == QMessageBox::Yes)
         QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absolutePath()));
+}
+
+void PCheckVersionUpdate::tellBusyLater()
+{
+    CorvelGui::tellBusyLater(this, &d->toldBusy);
+}
+
+QString PCheckVersionUpdate::base() const
+{
+    return d->internalChannel ? d->intranetBase : d->internetBase;
 }
 
 QWidget* PCheckVersionUpdate::parentWidget() const

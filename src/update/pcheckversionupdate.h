@@ -6,12 +6,12 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
-class QNetworkReply;
-class QUrl;
-
 namespace CorvelGui {
+
+struct ReleaseVersion;
 
 /// Looks for a newer release of the application: in the version file of an internal release channel
 /// first and, if that cannot be had, in the one of the public update server. A newer release is
@@ -22,7 +22,8 @@ namespace CorvelGui {
 /// "updatefile" (the installer) and, if wanted, "readmefile" (release notes in HTML) and
 /// "releasedate" (any text). Files are relative to the base URL of their channel.
 ///
-/// All requests go by Corvel::ProxyUserSettings::m_Settings as they are when the object is made.
+/// Requests go by Corvel::ProxyUserSettings::m_Settings: as they are when the object is made, and
+/// for an installer as they are when its download begins.
 /// Messages are shown in nested event loops; the object may be deleted in any of them, and in any
 /// slot.
 class CORVELGUI_EXPORT PCheckVersionUpdate : public QObject
@@ -43,6 +44,9 @@ public:
     void checkVersion(bool showResult);
     /// Shows the release notes of the last check, or says that there are none.
     void checkChangeLog();
+    /// Fetches the release notes, and ends with checkChangeLog(). A newer release is not offered.
+    /// A check that still runs is abandoned.
+    void fetchChangeLog();
     void setCurrentVersion(const QString& version);
 
     /// The release notes of the last check (HTML of the server), or why there are none.
@@ -62,33 +66,30 @@ Q_SIGNALS:
     /// a total of -1 when the server does not announce it. At its end both are the size, or 0 when
     /// it failed.
     void signalDownloadProgress(qint64 received, qint64 total);
+    /// Emitted from the event loop when isBusy() is no longer what it was at the last emission,
+    /// false at first; before any dialog that waits for the user.
+    void busyChanged(bool busy);
 
 private:
-    void httpReadyReadVersionFileIntranet();
-    void httpFinishedVersionFileIntranet();
-    void httpReadyReadVersionFileInternet();
-    void httpFinishedVersionFileInternet();
-    void httpReadyReadReadMeFile();
-    void httpFinishedReadMeFile();
-    void httpReadyReadInstallFile();
-    void httpFinishedInstallFile();
-    void httpFileProgressInstallFile(qint64 received, qint64 total);
+    enum class Channel { Internal, Public };
+    using Answered = std::function<void(bool arrived)>;
 
-    void requestVersionFileIntranet();
-    void requestVersionFileInternet();
-    void requestReadMeFile(const QString& url);
-    void requestInstallFile(const QString& url);
-    bool parseVersionInfo(const QByteArray& content);
+    void begin(bool wantsChangeLog);
+    void fetch(const QString& url, const Answered& answered);
+    void requestVersionFile(Channel channel);
+    void takeVersionFile(Channel channel, bool arrived);
+    void giveUp(const QString& text);
+    void takeReadMeFile(const QString& url, bool arrived);
     void compareVersions();
-    void offer();
-    void saveInstaller(const QByteArray& content);
-    void tellUnreadable();
+    void offer(const ReleaseVersion& current);
+    void requestInstallFile(const QString& url, const QString& path);
+    void tellDownloadFailure(const QString& text);
+    void tellSaved(const QString& path);
+    void tellBusyLater();
+    QString base() const;
     QWidget* parentWidget() const;
 
-    using Slot = void (PCheckVersionUpdate::*)();
     struct Private;
-    QNetworkReply* get(const QUrl& url, const Corvel::RequestLimits& limits, Slot readyRead,
-                       Slot finished);
     const std::unique_ptr<Private> d;
 };
 

@@ -6,24 +6,33 @@
 #include <QEvent>
 #include <QPushButton>
 
+#include <utility>
+
 namespace CorvelGui {
+
+struct PCheckVersionUpdateDialog::Private
+{
+    Ui::PCheckVersionUpdateDialog ui{};
+    const QString changeLog;
+    QString ownTitle{};
+};
 
 PCheckVersionUpdateDialog::PCheckVersionUpdateDialog(const QString& message,
                                                      const QString& changeLog, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
-    , m_ui(std::make_unique<Ui::PCheckVersionUpdateDialog>())
-    , m_changeLog(changeLog)
+    , d(new Private{.changeLog = changeLog})
 {
-    m_ui->setupUi(this);
-    m_ui->plainTextEdit->setPlainText(message);
-    m_ui->plainTextEdit->setTabChangesFocus(true);
-    QPushButton* yes = m_ui->buttonBox->button(QDialogButtonBox::Yes);
+    d->ui.setupUi(this);
+    d->ownTitle = windowTitle();
+    d->ui.plainTextEdit->setPlainText(message);
+    d->ui.plainTextEdit->setTabChangesFocus(true);
+    QPushButton* yes = d->ui.buttonBox->button(QDialogButtonBox::Yes);
     yes->setAutoDefault(true);
     yes->setDefault(true);
     yes->setFocus();
-    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_ui->pushButtonShowChangeLog, &QPushButton::clicked, this,
+    connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(d->ui.pushButtonShowChangeLog, &QPushButton::clicked, this,
             &PCheckVersionUpdateDialog::showChangeLog);
 }
 
@@ -31,20 +40,25 @@ PCheckVersionUpdateDialog::~PCheckVersionUpdateDialog() = default;
 
 void PCheckVersionUpdateDialog::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        // The title is the caller's.
-        const QString title = windowTitle();
-        m_ui->retranslateUi(this);
-        setWindowTitle(title);
-    }
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
     QDialog::changeEvent(event);
+}
+
+void PCheckVersionUpdateDialog::retranslate()
+{
+    const QString title = windowTitle();
+    d->ui.retranslateUi(this);
+    // A title of the caller's stays.
+    if (title != std::exchange(d->ownTitle, windowTitle()))
+        setWindowTitle(title);
 }
 
 void PCheckVersionUpdateDialog::showChangeLog()
 {
     auto* dialog = new PChangeLogDialog(this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setHtml(m_changeLog);
+    dialog->setHtml(d->changeLog);
     dialog->open();
 }
 

@@ -8,10 +8,6 @@
 
 namespace CorvelGui {
 
-namespace Ui {
-class PCheckVersionUpdateDialog;
-}
-
 /// Tells of a newer version, shows its change log on request, and asks whether to download it:
 /// accepted means yes.
 class CORVELGUI_EXPORT PCheckVersionUpdateDialog : public QDialog
@@ -29,9 +25,10 @@ protected:
 
 private:
     void showChangeLog();
+    void retranslate();
 
-    const std::unique_ptr<Ui::PCheckVersionUpdateDialog> m_ui;
-    const QString m_changeLog;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

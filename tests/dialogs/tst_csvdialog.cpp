@@ -234,31 +234,39 @@ void TestCsvDialog::opensTheFile()
 void TestCsvDialog::keepsTheFileOnFailure_data()
 {
     QTest::addColumn<Spoil>("spoil");
-    QTest::newRow("directory") << Spoil([](const QString& file) { return QDir().mkpath(file); });
+    QTest::addColumn<int>("size");
+    QTest::newRow("directory") << Spoil([](const QString& file) { return QDir().mkpath(file); })
+                               << 10;
     QTest::newRow("/dev/full") << Spoil([](const QString& file) {
         return QFile::exists(u"/dev/full"_s) && QFile::link(u"/dev/full"_s, file);
-    });
+    }) << 10;
     QTest::newRow("read-only directory") << Spoil([](const QString& file) {
         const QString directory = QFileInfo(file).path();
         return writeOld(file) &&
                QFile::setPermissions(directory, QFile::ReadOwner | QFile::ExeOwner) &&
                !QFileInfo(directory).isWritable();
-    });
-    QTest::newRow("full disk") << Spoil(
-        [](const QString& file) { return writeOld(file) && limitFiles(5'000); });
+    }) << 10;
+    // A small file reaches the disk only when it is flushed.
+    for (const auto& [size, limit] : {std::pair(10, 5), {1'000'000, 5'000}}) {
+        QTest::addRow("%d bytes, full disk", size) << Spoil([limit = limit](const QString& file) {
+            return writeOld(file) && limitFiles(quint64(limit));
+        }) << size;
+    }
     QTest::newRow("open in another program") << Spoil([](const QString& file) {
         otherProgram = std::make_unique<QFile>(file);
         return isWindows() && writeOld(file) && otherProgram->open(QIODevice::ReadOnly);
-    });
+    }) << 10;
 }
 
 void TestCsvDialog::keepsTheFileOnFailure()
 {
     QFETCH(const Spoil, spoil);
+    QFETCH(const int, size);
     QTableWidget table(1, 1);
-    table.setItem(0, 0, new QTableWidgetItem(QString(1'000'000, u'x')));
+    table.setItem(0, 0, new QTableWidgetItem(QString(size - 3, u'x')));
     table.selectAll();
     PCsvDialog dialog(&table);
+    part<QCheckBox>(dialog, u"checkBoxAddColumns"_s)->setChecked(false);
     dialog.show();
     field(dialog)->setText(m_file);
     if (!spoil(m_file))

@@ -103,13 +103,19 @@ void TestZoomGraphicsView::wheel()
     View whole{QVariant()};
     whole.wheel({20, 350}, 120);
     QVERIFY(!whole.view->visibleRect().contains(sceneRect));
-    for (const int delta : {-120, -120, 0}) {
+    for (const int delta : {-120, -120, 0, -120, -120}) {
         whole.wheel({20, 350}, delta);
         QVERIFY(whole.showsWholeScene());
+        QVERIFY(isNear(QPointF(whole.view->transform().dx(), whole.view->transform().dy()), {}));
     }
+    // From a view that was moved before it fits again to the same place.
+    const QPointF center = whole.view->viewportTransform().map(sceneRect.center());
+    for (int i = 0; i < 20; ++i)
+        whole.wheel({20, 350}, i < 10 ? 120 : -120);
+    QVERIFY(isNear(whole.view->viewportTransform().map(sceneRect.center()), center, 1e-6));
     whole.press({100, 100});
     whole.move({150, 120});
-    QCOMPARE(whole.changes->size(), 4);
+    QCOMPARE(whole.changes->size(), 26);
     for (int i = 0; i < 400; ++i)
         whole.wheel({20, 350}, 120);
     QVERIFY(sceneRect.contains(whole.view->visibleRect().center()));

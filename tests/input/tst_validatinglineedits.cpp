@@ -9,6 +9,7 @@
 #include <CorvelGui/NotEmptyLineEdit>
 #include <CorvelGui/PFileCheckLineEdit>
 #include <CorvelGui/PIpLineEdit>
+#include <CorvelGui/PMainWindow>
 #include <CorvelGui/UrlLineEdit>
 #include <Hueloft/POrvGuiTheme>
 
@@ -286,8 +287,18 @@ void TestValidatingLineEdits::checkedFile()
         field.setText(text);
         QCOMPARE(base(), Hueloft::POrvGuiTheme::statusRed());
     }
+    // A verdict follows the look.
+    PMainWindow window;
+    for (const bool dark : {true, false}) {
+        window.createDarkFusionStyle(dark);
+        QCOMPARE(base(), Hueloft::POrvGuiTheme::statusRed());
+    }
     paste(field, u"a file.txt"_s);
-    QCOMPARE(field.palette(), normal);
+    for (const bool dark : {true, false}) {
+        window.createDarkFusionStyle(dark);
+        QCOMPARE(base(), QApplication::palette().color(QPalette::Base));
+    }
+    qApp->setStyleSheet(QString());
 }
 
 QTEST_MAIN(TestValidatingLineEdits)

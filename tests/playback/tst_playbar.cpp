@@ -53,6 +53,8 @@ public:
             setPlaybackSpeed(PlaybackSpeed(number));
         } else if (way == u"live") {
             setLiveMode(number / 10, number % 10);
+        } else if (way == u"keys") {
+            number > 0 ? speedUp() : slowDown();
         } else if (way == u"enable") {
             setEnabled(number);
         } else if (way == u"click" || way == u"right") {
@@ -160,6 +162,8 @@ unknown state > state 0: x -2, FastReverse > state 9: x 2, FastReverse > speed 8
 live > live 11: x 1, Play > click Pause: live, x 1, Play > right Play: x 1, Play
   > up Pause: unhandled, x 1, Play > click FastForward: x 1, Play > live 1: x 1, Play
   > click Pause: state 3, x 0, Pause > live 0: x 0, Pause > click FastReverse: x 0, Pause
+keys > keys -1: x 0, Pause > state 5: x 1, Play > keys -1: speed 3, x 1/2, Play
+  > keys 1: speed 4, x 1, Play > keys 1: state 6, x 2, FastForward > live 11: x 1, Play > keys -1: x 1, Play
 disabled > state 5: x 1, Play > enable 0: x 1, Play > up Play: x 1, Play > right Play: x 1, Play)"_s;
     QTest::addColumn<QStringList>("steps");
     for (const QString& journey :
@@ -207,11 +211,15 @@ void TestPlaybar::allowedSpeeds()
 void TestPlaybar::enabledButtons()
 {
     LoggedBar bar;
+    TarvoToolButton* pause = bar.button(u"Pause"_s);
+    pause->setFocus();
+    QTest::mousePress(pause, Qt::LeftButton);
     for (const auto& [mode, marks] : {std::pair(u"live 11"_s, u"----x----"_s),
                                       {u"live 0"_s, u"x---xxxxx"_s},
                                       {u"live 1"_s, u"xxxxxxxxx"_s}}) {
         bar.act(mode);
         QCOMPARE(bar.enabledButtons(), marks);
+        QVERIFY(pause->isDown() && bar.focusWidget() == pause);
     }
     bar.setButtonEnabled(Bar::SlowForwardButton, false);
     bar.setButtonEnabled(Bar::PlaybackButton(11), false);

@@ -1,8 +1,21 @@
 #include "testsupport.h"
+#include "visibletexts.h"
 #include "whenshown.h"
 
+#include <CorvelGui/AppUpdaterDialog>
+#include <CorvelGui/BusyIndicator>
+#include <CorvelGui/FilterLineEdit>
+#include <CorvelGui/OptionsDialog>
+#include <CorvelGui/PAskRefreshDialog>
+#include <CorvelGui/PChangeLogDialog>
+#include <CorvelGui/PCheckVersionUpdateDialog>
+#include <CorvelGui/PCsvDialog>
+#include <CorvelGui/PIpRangeDialog>
 #include <CorvelGui/PLanguage>
 #include <CorvelGui/PLanguageDialog>
+#include <CorvelGui/PPasswordInputDialog>
+#include <CorvelGui/PPlaybar>
+#include <CorvelGui/TarvoDateTimeView>
 #include <CorvelGui/TranslatorList>
 
 #include <QComboBox>
@@ -13,6 +26,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QVersionNumber>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
@@ -43,7 +57,11 @@ public:
     int count = 0;
 };
 
+using Maker = std::function<QWidget*()>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Maker)
 
 class TestLanguage : public WarningFreeTest
 {
@@ -59,6 +77,8 @@ private Q_SLOTS:
     void dialogListsSupportedLanguages_data();
     void dialogListsSupportedLanguages();
     void dialogAppliesTheChoice();
+    void widgetsFollow_data();
+    void widgetsFollow();
 
 private:
     void provide(const QString& name) const;
@@ -205,6 +225,45 @@ void TestLanguage::dialogAppliesTheChoice()
         QCOMPARE(texts(), apply ? german : untranslated);
         QTRY_COMPARE(dialog.windowTitle() == u"Spracheinstellungen der Anwendung"_s, apply);
     }
+}
+
+void TestLanguage::widgetsFollow_data()
+{
+    QTest::addColumn<Maker>("make");
+    const auto row = [](const char* name, const Maker& make) {
+        QTest::newRow(name) << make;
+    };
+    row("refresh",
+        [] { return new PAskRefreshDialog(nullptr, QDateTime::currentDateTime(), true); });
+    row("CSV", [] { return new PCsvDialog; });
+    row("range", [] { return new PIpRangeDialog; });
+    row("password", [] { return new PPasswordInputDialog({}); });
+    row("filter", [] { return new FilterLineEdit; });
+    row("playbar", [] { return new PPlaybar; });
+    row("time", [] { return new TarvoDateTimeView; });
+    row("busy", [] { return new BusyIndicator; });
+    row("language", [] { return new PLanguageDialog(nullptr, {}, {}, {}, false); });
+    row("options", [] { return OptionsDialog::getSettingsDialog(nullptr, {}, {}); });
+    row("update", [] {
+        return new AppUpdaterDialog(u"App"_s, QVersionNumber(1), QVersionNumber(2), {},
+                                    QDateTime::currentDateTime());
+    });
+    row("version", [] { return new PCheckVersionUpdateDialog({}, {}); });
+    row("change log", [] { return new PChangeLogDialog; });
+}
+
+void TestLanguage::widgetsFollow()
+{
+    QFETCH(const Maker, make);
+    std::unique_ptr<QWidget> widget(make());
+    const QStringList before = visibleTexts(*widget);
+    switchTo(u"de"_s);
+    QCoreApplication::sendPostedEvents();
+    const QStringList after = visibleTexts(*widget);
+    QVERIFY(after != before);
+    widget.reset();
+    widget.reset(make());
+    QCOMPARE(after, visibleTexts(*widget));
 }
 
 QTEST_MAIN(TestLanguage)

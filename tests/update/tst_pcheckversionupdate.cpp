@@ -158,10 +158,12 @@ void TestPCheckVersionUpdate::channelsAreAskedInOrder()
     bench.user.wantsDownload = false;
     for (const QByteArray& channel : channels)
         bench.script(channel);
+    const QSignalSpy busy(bench.update, &PCheckVersionUpdate::busyChanged);
     bench.update->checkVersion(showResult);
     QVERIFY(bench.update->isBusy());
     QTRY_COMPARE(bench.server.targets(), requests);
     settle(bench, said);
+    QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
     QCOMPARE(bench.server.targets(), requests);
     QCOMPARE(bench.update->hasInternalReleaseChannelConnection(), channels.contains("/in/"));
     QCOMPARE(bench.update->GetReadMeFile().toUtf8(), channels.isEmpty() ? QByteArray() : notes);
@@ -246,7 +248,7 @@ void TestPCheckVersionUpdate::installerIsSaved()
     QCOMPARE(bench.saved(), installer);
     QCOMPARE(bench.files(), QStringList{u"saved.exe"_s});
     QCOMPARE(m_opened, QList<QUrl>{QUrl::fromLocalFile(bench.folder.path())});
-    QVERIFY(progress.size() >= 2);
+    QVERIFY(progress.size() >= 3); // also of an installer that arrives at once
     QCOMPARE(progress.first(), std::pair(qint64(-1), qint64(-1)));
     QCOMPARE(progress.last(), std::pair(qint64(installer.size()), qint64(installer.size())));
     QVERIFY(std::is_sorted(progress.begin(), progress.end()));
@@ -385,10 +387,27 @@ void TestPCheckVersionUpdate::changeLogIsShown()
     QCOMPARE(log, u"2.1"_s);
     QTRY_VERIFY(!QApplication::activeModalWidget());
 
-    bench.update->checkChangeLog();
-    auto* changeLog = bench.parent.findChild<PChangeLogDialog*>();
-    QVERIFY(changeLog->isVisible() && changeLog->isModal());
-    QCOMPARE(changeLog->toPlainText(), u"2.1"_s);
+    for (const bool fetched : {false, true}) {
+        if (fetched)
+            bench.update->fetchChangeLog();
+        else
+            bench.update->checkChangeLog();
+        QTRY_VERIFY(bench.parent.findChild<PChangeLogDialog*>());
+        const std::unique_ptr<PChangeLogDialog> changeLog(
+            bench.parent.findChild<PChangeLogDialog*>());
+        QVERIFY(changeLog->isVisible() && changeLog->isModal());
+        QCOMPARE(changeLog->toPlainText(), u"2.1"_s);
+    }
+    QCOMPARE(bench.user.said().size(), 2);
+    for (const QByteArray& answer : {QByteArray("hello"), QByteArray()}) {
+        bench.server.script("/in/version.txt", answer,
+                            answer.isEmpty() ? Misbehaviour::NotFound : Misbehaviour::None);
+        bench.update->fetchChangeLog();
+        QTRY_VERIFY(!bench.update->isBusy());
+        QTRY_COMPARE(bench.user.said().last(),
+                     u"Warning: Error Download: Could not download change log information."_s);
+    }
+    QTRY_COMPARE(bench.user.said().size(), 4);
 }
 
 void TestPCheckVersionUpdate::windowStaysResponsive()

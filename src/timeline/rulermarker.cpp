@@ -1,0 +1,7 @@
+#include "rulermarker.h"
+
+namespace CorvelGui {
+
+IRulerMarkerIconProvider::~IRulerMarkerIconProvider() = default;
+
+} // namespace CorvelGui
