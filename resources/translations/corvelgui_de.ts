@@ -674,6 +674,17 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::RulerArrows</name>
+    <message>
+        <source>Earlier</source>
+        <translation>Früher</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::RulerMarkers</name>
     <message numerus="yes">
         <source>and %n more</source>

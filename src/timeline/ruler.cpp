@@ -15,7 +15,6 @@ namespace {
 
 constexpr int initialHeight = 60;
 constexpr int minimumRulerWidth = 800;
-constexpr int mouseInterval = 100; // milliseconds
 
 std::optional<TimeSpan> span(const QDateTime& from, const QDateTime& to)
 {
@@ -39,17 +38,20 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     d->headerHeight = initialHeight / 4;
     d->scale.setWidth(width());
     d->indicator = new Indicator(this);
-    d->indicator->installEventFilter(this);
     d->indicator->hide();
-    d->arrows = new RulerArrows(this, [this](int direction) { return canMoveViewPort(direction); });
+    d->arrows = new RulerArrows(this);
     // Above the indicator, so that a double click on a marker does not end on an indicator that
     // followed the first.
     d->markers = new RulerMarkers(this, d->arrows->lowestButton());
-    connect(d->arrows, &RulerArrows::step, this, &Ruler::moveViewPort);
-    connect(d->arrows, &RulerArrows::released, this, [this] { changedTimeLineView(false); });
-    d->mouseTimer.setParent(this);
-    d->mouseTimer.setInterval(mouseInterval);
-    connect(&d->mouseTimer, &QTimer::timeout, this, &Ruler::onMouseTimerTimeout);
+    connect(d->markers, &RulerMarkers::pressed, this, &Ruler::jumpToTime);
+    connect(d->markers, &RulerMarkers::doubleClicked, this, &Ruler::jumpToTrackTime);
+    d->hover = std::make_unique<RulerHover>(this, d->scale, *d->markers);
+    connect(d->hover.get(), &RulerHover::previewPositionChanged, this,
+            &Ruler::previewPositionChanged);
+    connect(d->hover.get(), &RulerHover::previewIndicatorPositionChanged, this,
+            &Ruler::previewIndicatorPositionChanged);
+    d->hover->setAreaHeight(2 * d->headerHeight);
+    d->gestures = std::make_unique<RulerGestures>(this, *d);
 
     setUpAccessibility();
     applyLook();
@@ -183,11 +185,11 @@ bool Ruler::setIndicatorPosition(quint64 msecs)
     const quint64 distance = msecs > current ? msecs - current : current - msecs;
     if (distance == 0 || double(distance) * lengthPerMillisecond() < 1.0) {
         showIndicatorTime(msecs);
-        if (!d->indicatorDragging)
+        if (!d->gestures->isDraggingIndicator())
             d->exactIndicator = msecs;
         return false;
     }
-    if (d->indicatorDragging)
+    if (d->gestures->isDraggingIndicator())
         return true;
     if (msecs == 0) {
         setIndicatorTime(QDateTime());
@@ -227,33 +229,6 @@ quint64 Ruler::exactIndicatorMSecs() const
 double Ruler::getIndicatorPosition() const
 {
     return d->scale.getPosition(qint64(getIndicatorMSecs()));
-}
-
-bool Ruler::setPreviewIndicatorPosition(quint64 msecs)
-{
-    d->previewTime = msecs == 0 ? QDateTime() : d->scale.inZone(TimeScale::instant(msecs));
-    if (d->active)
-        update();
-    if (d->previewTime.isValid())
-        QTimer::singleShot(0, this, &Ruler::checkPreviewLine);
-    return true;
-}
-
-void Ruler::setIndicatorDragEnabled(bool on)
-{
-    d->indicatorDragEnabled = on;
-}
-
-void Ruler::setPreviewEnabled(bool on)
-{
-    d->previewEnabled = on;
-    if (on) {
-        if (d->takesInput() && d->hovering)
-            startMouseTimer(mapFromGlobal(QCursor::pos()));
-    } else {
-        d->previewVisible = false;
-        stopMouseTimer();
-    }
 }
 
 void Ruler::setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom)
@@ -358,26 +333,6 @@ void Ruler::setPlayMode(bool on)
     d->playMode = on;
 }
 
-void Ruler::setActive(bool active, bool blocked)
-{
-    d->active = active;
-    d->blocked = blocked;
-    const bool usable = d->takesInput();
-    if (!active)
-        d->indicator->hide();
-    d->arrows->setEnabled(usable);
-    d->indicator->setCursor(blocked ? Qt::ArrowCursor : Qt::SizeHorCursor);
-    d->indicator->setMouseTracking(!blocked);
-    if (!usable)
-        endGestures();
-    whileAlive(
-        this, [this] { updateChildren(false); },
-        [&] {
-            if (usable && d->inPreviewArea && d->previewEnabled)
-                startMouseTimer(mapFromGlobal(QCursor::pos()));
-        });
-}
-
 void Ruler::blockSignalTimeLineViewChanged(bool block)
 {
     d->viewChangeBlocked = block;
@@ -413,14 +368,6 @@ void Ruler::onTimelineOffsetChanged(double position)
     whileAlive(
         this, [this] { updateChildren(true); }, [this] { changedTimeLineView(false); },
         [this] { noticeView(); });
-}
-
-void Ruler::onPreviewVisible(bool visible, bool pending)
-{
-    d->previewVisible = visible;
-    d->previewPending = pending;
-    if (d->active)
-        update();
 }
 
 void Ruler::onTimeLineViewSettingsNeeded()
@@ -465,7 +412,7 @@ void Ruler::setUpAccessibility()
             .move =
                 [this](double msecs) {
                     if (d->takesInput() && d->scale.hasView())
-                        moveIndicatorByKey(qint64(msecs));
+                        d->gestures->moveIndicatorTo(qint64(msecs));
                 }});
 }
 
@@ -527,21 +474,6 @@ void Ruler::viewMoved(bool moving)
         this, [this] { updateChildren(true); },
         [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
         [&] { changedTimeLineView(moving); });
-}
-
-bool Ruler::canMoveViewPort(int direction) const
-{
-    if (!d->scale.hasView())
-        return false;
-    return direction < 0 ? d->scale.beginLimitMs() < d->scale.viewStartMs()
-                         : d->scale.viewEndMs() <= d->scale.endLimitMs();
-}
-
-void Ruler::moveViewPort(int direction)
-{
-    d->scale.setViewStart(
-        d->scale.viewStart().addMSecs(direction * d->scale.millisecondsPerInterval()));
-    viewMovedByUser(true);
 }
 
 } // namespace CorvelGui

@@ -12,8 +12,6 @@
 
 namespace CorvelGui {
 
-class RulerMarkerButton;
-
 /// The time ruler: a horizontal, zoomable scale over a recording period, with a play indicator and
 /// the recorded spans of the described tracks.
 ///
@@ -131,6 +129,13 @@ public:
     /// Whether a resting mouse asks for previews.
     void setPreviewEnabled(bool on);
 
+    /// Whether the user holds the timeline: from the press of the left mouse button on the ruler,
+    /// its indicator or one of its arrows, whether it becomes a drag or not, until the release. It
+    /// also ends where the release may go elsewhere: with a move without the button, a second
+    /// finger, an opened popup or modal window, and when the ruler is hidden, disabled, blocked or
+    /// made inactive, or its window loses the activation. A press on a marker does not count.
+    bool isHeld() const;
+
     // Search range and result range
 
     /// Stores the range, and with @p adjustZoom shows it at the closest level that holds it.
@@ -215,6 +220,10 @@ Q_SIGNALS:
     /// Emitted when the user placed the indicator: by a click, at the end of a drag, by a key, and
     /// at every move of a drag if setIndicatorDragEnabled() says so.
     void indicatorPositionChanged(quint64 msecs, double position);
+    /// Emitted when isHeld() changed: before what a press does, and after the last report of what
+    /// was done meanwhile. Where a hold ends without a release, that is on the next turn of the
+    /// event loop, except for setActive().
+    void heldChanged(bool held);
     /// Emitted when the view moved, except by onTimelineOffsetChanged() and, without a follow mode,
     /// by setIndicatorPosition().
     void centerPositionChanged(double position);
@@ -225,7 +234,9 @@ Q_SIGNALS:
     /// Emitted with the times of markers that are in view for the first time, in order.
     void newVisibleRulerMarkers(const QList<QDateTime>& times);
     /// Asks for a preview of the time under the mouse at @p position, or of the marker whose button
-    /// has its centre there (@p onMarker). A time of 0 means that no preview is wanted.
+    /// has its centre there (@p onMarker). A time of 0 means that no preview is wanted; when the
+    /// mouse leaves or the ruler goes out of sight, that is said on the next turn of the event
+    /// loop.
     void previewPositionChanged(quint64 msecs, const QPoint& position, bool onMarker);
     /// Emitted on the turn of the event loop after setPreviewIndicatorPosition() when the preview
     /// line stands in another column than the last preview was asked for.
@@ -236,10 +247,8 @@ Q_SIGNALS:
                              const QDateTime& viewBegin, const QDateTime& viewEnd, bool moving);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -268,25 +277,8 @@ private:
     bool followIndicator();
     void noticeView();
     void reportFollowing();
-    bool isHeld() const;
-    bool canMoveViewPort(int direction) const;
-    void moveViewPort(int direction);
 
-    bool placeIndicator(int x);
-    bool indicatorEvent(QEvent* event);
-    bool markerEvent(RulerMarkerButton* button, QEvent* event);
-    bool checkRulerMarkerEvent(RulerMarkerButton* button, QEvent* event);
-    void dragView(int x);
-    void moveIndicatorByKey(qint64 msecs);
-    void moveViewByKey(qint64 msecs);
-    void jumpToNeighbour(int direction);
-    void startMouseTimer(QPoint position);
-    void stopMouseTimer();
-    void onMouseTimerTimeout();
-    void emitPrviewPositionChanged();
-    void checkPreviewLine();
-    void endGestures();
-
+    friend class RulerGestures; // carries out what the user does
     struct Private;
     const std::unique_ptr<Private> d;
 };

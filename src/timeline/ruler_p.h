@@ -2,33 +2,22 @@
 
 #include "accessiblerange.h"
 #include "base/whilealive.h"
-#include "hoverpreview.h"
 #include "indicator.h"
 #include "keyboardfocus.h"
 #include "ruler.h"
 #include "rulerarrows.h"
+#include "rulergestures.h"
+#include "rulerhover.h"
 #include "rulermarkers.h"
 #include "rulerpainter.h"
 #include "timescale.h"
 #include "tracksegments.h"
 #include "viewfollower.h"
 
-#include <QPointer>
-#include <QTimer>
-
 #include <memory>
 #include <optional>
 
 namespace CorvelGui {
-
-/// A drag of the view, from the press on.
-struct ViewDrag
-{
-    QPoint pressPosition;
-    qint64 pressTime = 0;
-    bool pressed = false; ///< the left button went down on the ruler itself and is held
-    bool active = false;  ///< it was moved far enough since
-};
 
 struct Ruler::Private
 {
@@ -47,17 +36,6 @@ struct Ruler::Private
     QDateTime indicatorTime;
     quint64 exactIndicator = 0; ///< with the steps below a pixel; 0 without an indicator
     bool indicatorDragEnabled = false;
-    bool indicatorDragging = false;
-
-    ViewDrag viewDrag;
-
-    HoverPreview hover;
-    QTimer mouseTimer;
-    bool hovering = false;
-    bool inPreviewArea = false;
-    bool previewEnabled = false;
-    bool previewVisible = false;
-    bool previewPending = false;
     QDateTime previewTime;
 
     std::optional<TimeSpan> searchRange;
@@ -78,6 +56,9 @@ struct Ruler::Private
 
     ViewFollower follower;
     bool followingReported = false;
+
+    std::unique_ptr<RulerHover> hover;
+    std::unique_ptr<RulerGestures> gestures;
 
     // Last, so that it stops asking before anything else is gone.
     std::unique_ptr<AccessibleRange> accessible;

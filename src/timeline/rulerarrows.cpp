@@ -4,8 +4,8 @@
 
 #include <Hueloft/PIconHelperBase>
 
-#include <QEvent>
 #include <QIcon>
+#include <QMouseEvent>
 #include <QPainter>
 
 using Hueloft::PIconHelperBase;
@@ -15,9 +15,6 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr int repeatInterval = 200; // milliseconds
-constexpr double halfMargin = TimeScale::margin() / 2;
-
 /// A strip as narrow as the ruler's outer margin. The icon is wider than that: its sides, which are
 /// empty, are cut.
 class ArrowButton : public QAbstractButton
@@ -26,6 +23,7 @@ public:
     ArrowButton(QWidget* parent, const QString& iconPath) : QAbstractButton(parent)
     {
         setFocusPolicy(Qt::NoFocus);
+        setMouseTracking(true);
         setCursor(Qt::PointingHandCursor);
         setIcon(PIconHelperBase::GetIcon(iconPath, true));
         setIconSize(QSize(12, 12));
@@ -46,18 +44,23 @@ protected:
 
 } // namespace
 
-RulerArrows::RulerArrows(QWidget* ruler, std::function<bool(int)> canStep)
+RulerArrows::RulerArrows(QWidget* ruler)
     : QObject(ruler)
     , m_ruler(ruler)
-    , m_canStep(std::move(canStep))
-    , m_left(new ArrowButton(ruler, u":/CorvelGui/common/leftarrow.png"_s))
-    , m_right(new ArrowButton(ruler, u":/CorvelGui/common/rightarrow.png"_s))
-    , m_timer(this)
+    , m_left(createButton(u":/CorvelGui/common/leftarrow.png"_s, -1))
+    , m_right(createButton(u":/CorvelGui/common/rightarrow.png"_s, +1))
 {
-    m_left->installEventFilter(this);
-    m_right->installEventFilter(this);
-    m_timer.setInterval(repeatInterval);
-    connect(&m_timer, &QTimer::timeout, this, &RulerArrows::repeat);
+    retranslate();
+}
+
+QAbstractButton* RulerArrows::createButton(const QString& iconPath, int direction)
+{
+    auto* button = new ArrowButton(m_ruler, iconPath);
+    button->installEventFilter(this);
+    // The mouse does not get as far as the button.
+    connect(button, &QAbstractButton::clicked, this,
+            [this, direction] { Q_EMIT activated(direction); });
+    return button;
 }
 
 void RulerArrows::setEnabled(bool enabled)
@@ -66,53 +69,67 @@ void RulerArrows::setEnabled(bool enabled)
         if (button)
             button->setEnabled(enabled);
     }
-    if (!enabled)
-        m_timer.stop();
+}
+
+void RulerArrows::letGo()
+{
+    for (QAbstractButton* button : {m_left.data(), m_right.data()}) {
+        if (button)
+            button->setDown(false);
+    }
 }
 
 void RulerArrows::layOut(int top)
 {
-    const QSize size(int(halfMargin), m_ruler->height() - 2 * top);
+    const QSize size(int(TimeScale::halfMargin()), m_ruler->height() - 2 * top);
     if (m_left)
         m_left->setGeometry(QRect(QPoint(0, top), size));
     if (m_right)
-        m_right->setGeometry(QRect(QPoint(int(m_ruler->width() - halfMargin), top), size));
+        m_right->setGeometry(
+            QRect(QPoint(int(m_ruler->width() - TimeScale::halfMargin()), top), size));
 }
 
 bool RulerArrows::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isPress = event->type() == QEvent::MouseButtonPress;
-    if (!isPress && event->type() != QEvent::MouseButtonRelease)
-        return false;
-    if (!static_cast<QWidget*>(watched)->isEnabled())
-        return false;
-
-    const QPointer<QObject> alive(watched);
-    if (isPress) {
-        press(watched == m_left ? -1 : +1);
-    } else {
-        m_timer.stop();
-        Q_EMIT released();
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove: {
+        auto* button = static_cast<QAbstractButton*>(watched);
+        return button->isEnabled() && mouseEvent(button, static_cast<QMouseEvent*>(event));
     }
-    // A button that is gone handles no event any more.
-    return alive.isNull();
+    case QEvent::LanguageChange:
+        retranslate();
+        return false;
+    default:
+        return false;
+    }
 }
 
-void RulerArrows::press(int direction)
+bool RulerArrows::mouseEvent(QAbstractButton* button, const QMouseEvent* event)
 {
-    if (!m_canStep(direction))
-        return;
-    m_direction = direction;
-    m_timer.start();
-    Q_EMIT step(direction);
+    const bool isMove = event->type() == QEvent::MouseMove;
+    const bool isRelease =
+        isMove ? !(event->buttons() & Qt::LeftButton) : event->type() == QEvent::MouseButtonRelease;
+    if (isRelease) {
+        if (button->isDown()) {
+            button->setDown(false);
+            Q_EMIT released();
+        }
+    } else if (!isMove && event->button() == Qt::LeftButton) {
+        button->setDown(true);
+        Q_EMIT pressed(button == m_left ? -1 : +1);
+    }
+    return true;
 }
 
-void RulerArrows::repeat()
+void RulerArrows::retranslate()
 {
-    if (m_canStep(m_direction))
-        Q_EMIT step(m_direction);
-    else
-        m_timer.stop();
+    if (m_left)
+        m_left->setAccessibleName(tr("Earlier"));
+    if (m_right)
+        m_right->setAccessibleName(tr("Later"));
 }
 
 } // namespace CorvelGui

@@ -3,46 +3,43 @@
 #include <QAbstractButton>
 #include <QObject>
 #include <QPointer>
-#include <QTimer>
-
-#include <functional>
 
 namespace CorvelGui {
 
-/// The two buttons at the ends of the ruler: one step on a press, and another every 200 ms while a
-/// button is held.
+/// The two buttons at the ends of the ruler. A direction is -1 (earlier) or +1 (later).
 class RulerArrows : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p canStep says whether there is still something in a direction (-1 earlier, +1 later).
-    RulerArrows(QWidget* ruler, std::function<bool(int direction)> canStep);
+    explicit RulerArrows(QWidget* ruler);
 
     void setEnabled(bool enabled);
-    /// Ends the repetition of a held button.
-    void stop() { m_timer.stop(); }
+    /// Lets go of a button whose release may never come.
+    void letGo();
     QWidget* lowestButton() const { return m_left; }
     /// Puts the buttons to the ends of the ruler, below @p top.
     void layOut(int top);
 
 Q_SIGNALS:
-    void step(int direction);
+    /// The left mouse button went down on an arrow.
+    void pressed(int direction);
+    /// It came up again, or turned out to be up.
     void released();
+    /// An arrow was activated in another way, such as by assistive technology.
+    void activated(int direction);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void press(int direction);
-    void repeat();
+    QAbstractButton* createButton(const QString& iconPath, int direction);
+    bool mouseEvent(QAbstractButton* button, const QMouseEvent* event);
+    void retranslate();
 
     QWidget* const m_ruler;
-    const std::function<bool(int)> m_canStep;
     const QPointer<QAbstractButton> m_left;
     const QPointer<QAbstractButton> m_right;
-    QTimer m_timer;
-    int m_direction = 0;
 };
 
 } // namespace CorvelGui

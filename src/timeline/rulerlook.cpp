@@ -77,6 +77,7 @@ void Ruler::setBodyColor(const QColor& color)
 void Ruler::updateSize()
 {
     d->headerHeight = d->indicator->labelHeight();
+    d->hover->setAreaHeight(2 * d->headerHeight);
     const int rulerHeight = 4 * d->headerHeight;
     setMinimumHeight(rulerHeight);
     setMaximumHeight(rulerHeight);
@@ -105,7 +106,7 @@ void Ruler::paintEvent(QPaintEvent*)
                      .dateFormat = d->dateFormat};
     if (d->searchDisplayed)
         scene.searchRange = d->searchRange;
-    if (d->previewVisible)
+    if (d->hover->isPreviewVisible())
         scene.previewTime = msecs(d->previewTime);
     if (d->resultRange && d->resultBeginMarked)
         scene.resultMarks.push_back(d->resultRange->begin);

@@ -39,6 +39,8 @@ struct RulerMarker
     QString text = {};
     /// Not owned; must live as long as the marker is on a ruler.
     IRulerMarkerIconProvider* iconProvider = nullptr;
+
+    bool operator==(const RulerMarker&) const = default;
 };
 
 /// What to do with the markers of a ruler. Codes beyond those listed do nothing.

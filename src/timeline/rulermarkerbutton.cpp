@@ -40,7 +40,7 @@ void RulerMarkerButton::setMarker(const RulerMarker& marker, const RulerIconSet*
     m_icons = icons;
     m_hovered = false;
     m_alternativeHover = false;
-    setToolTip(plainToolTip(marker.text));
+    resetToolTip();
     setAccessibleName(marker.text);
     update();
 }
@@ -50,6 +50,7 @@ void RulerMarkerButton::setMerge(Merge merge)
     if (m_merge == merge)
         return;
     m_merge = merge;
+    resetToolTip();
     update();
 }
 
@@ -81,6 +82,11 @@ void RulerMarkerButton::moveTo(int centerX, const QRect& markerArea)
 {
     m_centerX = centerX;
     move(centerX - width() / 2, markerArea.top() + (markerArea.height() - height()) / 2);
+}
+
+void RulerMarkerButton::resetToolTip()
+{
+    setToolTip(plainToolTip(m_marker.text));
 }
 
 void RulerMarkerButton::paintEvent(QPaintEvent*)

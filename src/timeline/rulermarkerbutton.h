@@ -52,6 +52,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void resetToolTip();
     QPixmap shownPicture() const;
 
     RulerMarker m_marker;

@@ -4,6 +4,8 @@
 
 #include <Hueloft/PIconHelper>
 
+#include <QMouseEvent>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -39,14 +41,58 @@ RulerMarkers::RulerMarkers(QWidget* ruler, QWidget* ceiling)
     addIcon(ownIconKey, ownIcon());
 }
 
+// Buttons keep their markers through a change of the store, until update() groups these again.
+template <typename Change>
+void RulerMarkers::changeStore(Change change, std::size_t removed)
+{
+    // Others of its time come behind a marker, and those before it may go.
+    const auto rankOf = [this](std::size_t marker) {
+        return marker - m_store.firstFrom(m_store.time(marker));
+    };
+    const auto find = [&](const RulerMarker& marker, std::size_t rank) {
+        const qint64 msecs = marker.time.toMSecsSinceEpoch();
+        const std::size_t first = m_store.firstFrom(msecs);
+        const std::size_t highest = std::min(first + rank + 1, m_store.firstAfter(msecs));
+        for (std::size_t next = highest; next > first && next + removed >= highest; --next) {
+            if (m_store.marker(next - 1) == marker)
+                return std::optional(next - 1);
+        }
+        return std::optional<std::size_t>();
+    };
+    std::vector<std::size_t> ranks;
+    for (const Symbol& symbol : m_symbols)
+        ranks.push_back(rankOf(symbol.marker));
+    const bool hasSpare = m_spare && m_spare->isVisibleTo(m_ruler);
+    const std::size_t spareRank = hasSpare ? rankOf(m_spareMarker) : 0;
+
+    change();
+
+    auto rank = ranks.begin();
+    for (const Symbol& symbol : std::exchange(m_symbols, {})) {
+        const auto marker =
+            symbol.button ? find(symbol.button->marker(), *rank) : std::optional<std::size_t>();
+        ++rank;
+        if (marker)
+            m_symbols.push_back({*marker, *marker, *marker, symbol.x, symbol.button});
+        else
+            releaseButton(symbol.button);
+    }
+    const auto spare = hasSpare ? find(m_spare->marker(), spareRank) : std::optional<std::size_t>();
+    if (spare)
+        m_spareMarker = *spare;
+    else
+        hideSpare();
+    m_reached.reset();
+    m_changed = true;
+}
+
 void RulerMarkers::add(const QList<RulerMarker>& markers)
 {
     std::vector<quint32> icons;
     icons.reserve(std::size_t(markers.size()));
     for (const RulerMarker& marker : markers)
         icons.push_back(iconOf(marker));
-    releaseButtons();
-    m_store.add(markers, icons);
+    changeStore([&] { m_store.add(markers, icons); }, 0);
 }
 
 void RulerMarkers::remove(const QList<RulerMarker>& markers)
@@ -56,8 +102,8 @@ void RulerMarkers::remove(const QList<RulerMarker>& markers)
         if (marker.time.isValid())
             times.push_back(marker.time.toMSecsSinceEpoch());
     }
-    releaseButtons();
-    m_store.remove(std::move(times));
+    const std::size_t count = times.size();
+    changeStore([&] { m_store.remove(std::move(times)); }, count);
 }
 
 void RulerMarkers::clear()
@@ -112,9 +158,9 @@ QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area,
     m_view = view;
     m_changed = false;
 
-    hideSpare();
     if (!m_shown || !scale.hasView()) {
         showSymbols({});
+        hideSpare();
         return {};
     }
     const MarkerView markers = markersInView();
@@ -123,6 +169,8 @@ QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area,
         symbols.push_back(
             {run.representative, run.first, run.last, markers.xOf(run.representative)});
     showSymbols(std::move(symbols));
+    if (!isSpareNeeded())
+        hideSpare();
 
     const MarkerView::Indices shown = markers.shown();
     return m_store.takeUnseen(shown.first, shown.last);
@@ -146,24 +194,11 @@ void RulerMarkers::hoverAt(QPoint position)
         return;
     m_spareMarker = *nearest;
     setMarker(m_spare, m_spareMarker);
+    applySize(m_spare);
     m_spare->setMerge(RulerMarkerButton::Merge::MergedAway);
     m_spare->moveTo(markers.xOf(m_spareMarker), m_view.area);
     m_spare->stackUnder(symbol->button);
     m_spare->show();
-}
-
-void RulerMarkers::setHovered(RulerMarkerButton* button, bool hovered)
-{
-    button->setHovered(hovered);
-    if (hovered) {
-        m_hovered = button;
-        if (button->merge() == RulerMarkerButton::Merge::Representative)
-            button->setToolTip(mergedToolTip(button));
-    } else {
-        m_hovered = nullptr;
-        if (button == m_spare)
-            hideSpare();
-    }
 }
 
 RulerMarkerButton* RulerMarkers::takeHovered()
@@ -194,6 +229,79 @@ std::optional<RulerMarker> RulerMarkers::takeNeighbour(qint64 msecs, int directi
     }
     m_reached = next;
     return m_store.marker(next);
+}
+
+bool RulerMarkers::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* button = qobject_cast<RulerMarkerButton*>(watched);
+    if (!button || m_blocked)
+        return false;
+    if (m_hoverable && checkRulerMarkerEvent(button, event))
+        return true;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+        return buttonEvent(button, static_cast<QMouseEvent*>(event));
+    default:
+        return false;
+    }
+}
+
+bool RulerMarkers::checkRulerMarkerEvent(RulerMarkerButton* button, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::MouseMove: {
+        const QPointF position = static_cast<QSinglePointEvent*>(event)->position();
+        setHovered(button, true);
+        Q_EMIT hovered(button->mapToParent(position.toPoint()));
+        if (event->type() == QEvent::Enter || static_cast<QMouseEvent*>(event)->buttons())
+            return false;
+        button->setAlternativeHover(false);
+        // Passed on to the ruler, a move would count as one outside the preview area.
+        return true;
+    }
+    case QEvent::Leave:
+        setHovered(button, false);
+        return false;
+    default:
+        return false;
+    }
+}
+
+// The left mouse button does not get as far as a marker's button, so that a click of one is always
+// that of something else, such as assistive technology.
+bool RulerMarkers::buttonEvent(RulerMarkerButton* button, const QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return false;
+    button->setAlternativeHover(event->type() == QEvent::MouseButtonPress);
+    const QDateTime time = button->marker().time;
+    const QUuid identifier = button->marker().identifier;
+    if (event->type() == QEvent::MouseButtonPress)
+        Q_EMIT pressed(time, identifier);
+    else if (event->type() == QEvent::MouseButtonDblClick)
+        Q_EMIT doubleClicked(time, identifier);
+    return true;
+}
+
+void RulerMarkers::setHovered(RulerMarkerButton* button, bool hovered)
+{
+    button->setHovered(hovered);
+    if (hovered) {
+        m_hovered = button;
+        if (button != m_spare)
+            hideSpare();
+        if (button->merge() == RulerMarkerButton::Merge::Representative)
+            button->setToolTip(mergedToolTip(button));
+    } else {
+        button->setAlternativeHover(false);
+        if (button == m_hovered)
+            m_hovered = nullptr;
+        if (button == m_spare)
+            hideSpare();
+    }
 }
 
 quint32 RulerMarkers::iconOf(const RulerMarker& marker)
@@ -238,12 +346,12 @@ void RulerMarkers::showSymbols(std::vector<Symbol> symbols)
     auto old = m_symbols.begin();
     for (Symbol& symbol : symbols) {
         for (; old != m_symbols.end() && old->marker < symbol.marker; ++old)
-            m_idleButtons.push_back(old->button);
+            releaseButton(old->button);
         if (old != m_symbols.end() && old->marker == symbol.marker)
             symbol.button = (old++)->button;
     }
     for (; old != m_symbols.end(); ++old)
-        m_idleButtons.push_back(old->button);
+        releaseButton(old->button);
     m_symbols = std::move(symbols);
 
     for (Symbol& symbol : m_symbols) {
@@ -257,6 +365,8 @@ void RulerMarkers::showSymbols(std::vector<Symbol> symbols)
                                     ? RulerMarkerButton::Merge::Alone
                                     : RulerMarkerButton::Merge::Representative);
         applySize(symbol.button);
+        if (symbol.button == m_hovered && symbol.first != symbol.last)
+            symbol.button->setToolTip(mergedToolTip(symbol.button));
         symbol.button->moveTo(symbol.x, m_view.area);
         symbol.button->show();
     }
@@ -271,13 +381,18 @@ void RulerMarkers::hideReleased()
     }
 }
 
+void RulerMarkers::releaseButton(RulerMarkerButton* button)
+{
+    if (button == m_hovered)
+        m_hovered = nullptr;
+    m_idleButtons.push_back(button);
+}
+
 void RulerMarkers::releaseButtons()
 {
-    // Indices are about to change, so no button keeps its marker.
     for (const Symbol& symbol : std::exchange(m_symbols, {}))
-        m_idleButtons.push_back(symbol.button);
+        releaseButton(symbol.button);
     hideSpare();
-    m_hovered = nullptr;
     m_reached.reset();
     m_changed = true;
 }
@@ -297,7 +412,12 @@ RulerMarkerButton* RulerMarkers::createButton()
 {
     auto* button = new RulerMarkerButton(&m_mergedIcons, m_ruler);
     button->setOrvaneGuiTheme(m_theme);
-    button->installEventFilter(m_ruler);
+    button->installEventFilter(this);
+    connect(button, &QAbstractButton::clicked, this, [this, button] {
+        const RulerMarker marker = button->marker();
+        if (!m_blocked)
+            Q_EMIT pressed(marker.time, marker.identifier);
+    });
     applySize(button);
     return button;
 }
@@ -314,10 +434,22 @@ void RulerMarkers::applySize(RulerMarkerButton* button) const
                          std::min(m_iconSize.height() + 2, m_view.area.height()));
 }
 
+bool RulerMarkers::isSpareNeeded() const
+{
+    if (!m_spare || !m_spare->isVisibleTo(m_ruler))
+        return false;
+    const Symbol* symbol = symbolOf(m_spareMarker);
+    return symbol && symbol->marker != m_spareMarker &&
+           markersInView().xOf(m_spareMarker) == m_spare->centerX();
+}
+
 void RulerMarkers::hideSpare()
 {
-    if (m_spare)
-        m_spare->hide();
+    if (!m_spare)
+        return;
+    if (m_spare == m_hovered)
+        m_hovered = nullptr;
+    m_spare->hide();
 }
 
 QString RulerMarkers::mergedToolTip(const RulerMarkerButton* button) const

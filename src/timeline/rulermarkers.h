@@ -32,8 +32,7 @@ class RulerMarkers : public QObject
     Q_OBJECT
 
 public:
-    /// Buttons become children of @p ruler, below its child @p ceiling, and have @p ruler as their
-    /// event filter.
+    /// Buttons become children of @p ruler, below its child @p ceiling.
     RulerMarkers(QWidget* ruler, QWidget* ceiling);
 
     void add(const QList<RulerMarker>& markers);
@@ -55,14 +54,29 @@ public:
     /// The mouse is at @p position of the ruler, on none of the buttons: a marker that merging
     /// hides there gets the spare button.
     void hoverAt(QPoint position);
-    void setHovered(RulerMarkerButton* button, bool hovered);
-    RulerMarkerButton* hovered() const { return m_hovered; }
+    /// The mouse has left the ruler.
+    void hoverNothing() { hideSpare(); }
+    /// Whether buttons answer a mouse that is on them; not while it drags the view.
+    void setHoverable(bool on) { m_hoverable = on; }
+    /// Whether buttons ignore the mouse altogether.
+    void setBlocked(bool blocked) { m_blocked = blocked; }
+    RulerMarkerButton* hoveredButton() const { return m_hovered; }
     /// The hovered button, which is no longer known as hovered afterwards.
     RulerMarkerButton* takeHovered();
 
     /// The marker next to a time in direction +1 or -1, among those shown within @p limits. Of
     /// several at one instant each call reaches the next one.
     std::optional<RulerMarker> takeNeighbour(qint64 msecs, int direction, const TimeSpan& limits);
+
+Q_SIGNALS:
+    /// A marker was pressed with the left mouse button, or activated by assistive technology.
+    void pressed(const QDateTime& time, const QUuid& identifier);
+    void doubleClicked(const QDateTime& time, const QUuid& identifier);
+    /// The mouse came to or moved on a button, at @p position of the ruler.
+    void hovered(QPoint position);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// A symbol in view.
@@ -88,12 +102,19 @@ private:
     MarkerView markersInView() const;
     const Symbol* symbolOf(std::size_t marker) const;
     void showSymbols(std::vector<Symbol> symbols);
+    template <typename Change>
+    void changeStore(Change change, std::size_t removed);
+    void releaseButton(RulerMarkerButton* button);
     void releaseButtons();
     RulerMarkerButton* takeButton();
     RulerMarkerButton* createButton();
     void setMarker(RulerMarkerButton* button, std::size_t marker) const;
     void applySize(RulerMarkerButton* button) const;
+    bool isSpareNeeded() const;
     void hideSpare();
+    bool checkRulerMarkerEvent(RulerMarkerButton* button, QEvent* event);
+    bool buttonEvent(RulerMarkerButton* button, const QMouseEvent* event);
+    void setHovered(RulerMarkerButton* button, bool hovered);
     QString mergedToolTip(const RulerMarkerButton* button) const;
 
     QWidget* const m_ruler;
@@ -106,6 +127,8 @@ private:
     std::optional<TimeSpan> m_range;
     bool m_shown = true;
     bool m_theme = true;
+    bool m_hoverable = true;
+    bool m_blocked = false;
 
     View m_view;
     bool m_changed = false;

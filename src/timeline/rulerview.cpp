@@ -73,11 +73,6 @@ void Ruler::resumeFollowing()
         [this] { reportFollowing(); });
 }
 
-bool Ruler::isHeld() const
-{
-    return d->viewDrag.pressed || d->indicatorDragging;
-}
-
 bool Ruler::followIndicator()
 {
     return d->exactIndicator != 0 && !isHeld() &&

@@ -4,6 +4,7 @@
 
 #include <CorvelGui/Ruler>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QStringList>
 #include <QTest>
@@ -27,6 +28,21 @@ inline void moveMouse(QWidget& widget, QPoint position, Qt::MouseButtons buttons
     QMouseEvent event(QEvent::MouseMove, position, widget.mapToGlobal(position), Qt::NoButton,
                       buttons, Qt::NoModifier);
     QApplication::sendEvent(&widget, &event);
+}
+
+/// Presses the left button once more, so soon that it counts as a double click.
+inline void pressAgain(QWidget& widget, QPoint position)
+{
+    QMouseEvent event(QEvent::MouseButtonDblClick, position, widget.mapToGlobal(position),
+                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+/// What assistive technology does with a button.
+inline void pressByAssistiveTechnology(QWidget* button)
+{
+    QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
 }
 
 inline void leaveMouse(QWidget& widget)

@@ -1,3 +1,4 @@
+#include "base/whilealive.h"
 #include "indicator.h"
 #include "loggedruler.h"
 #include "testsupport.h"
@@ -29,6 +30,29 @@ void pressRightArrow(LoggedRuler& ruler)
     QTest::mousePress(ruler.childAt(1017, 30), Qt::LeftButton);
 }
 
+void send(QWidget& widget, QEvent::Type type)
+{
+    QEvent event(type);
+    QApplication::sendEvent(&widget, &event);
+}
+
+/// The place on the indicator that is at column @p x of the ruler.
+QPoint inIndicator(const LoggedRuler& ruler, int x)
+{
+    return ruler.findChild<Indicator*>()->mapFrom(&ruler, QPoint(x, 5));
+}
+
+void pressIndicator(LoggedRuler& ruler)
+{
+    auto* indicator = ruler.findChild<Indicator*>();
+    QTest::mousePress(indicator, Qt::LeftButton, {}, QPoint(indicator->hotSpot(), 5));
+}
+
+void dragIndicatorTo(LoggedRuler& ruler, int x)
+{
+    moveMouse(*ruler.findChild<Indicator*>(), inIndicator(ruler, x), Qt::LeftButton);
+}
+
 /// The ruler's timers that run.
 int runningTimers(const Ruler& ruler)
 {
@@ -54,7 +78,10 @@ private Q_SLOTS:
     void previewLineReports();
     void blockedRulerIgnoresInput();
     void keys();
-    void timersNeedAVisibleActiveRuler();
+    void lostReleases();
+    void quickPresses();
+    void arrows();
+    void fingers();
     void assistiveTechnology();
     void deletionInSignals();
 };
@@ -196,7 +223,9 @@ void TestRulerInput::previewComesAndGoes()
     QSignalSpy spy(&ruler, &Ruler::previewPositionChanged);
     QVERIFY(!spy.wait(350));
     leaveMouse(ruler);
-    QCOMPARE(ruler.takeLog(), QStringList{u"no preview"_s});
+    // Not yet: a client may not delete anything while Qt tells of the leaving.
+    QCOMPARE(ruler.log, QStringList());
+    QTRY_COMPARE(ruler.log, QStringList{u"no preview"_s});
     QCOMPARE(runningTimers(ruler), 0);
 }
 
@@ -217,7 +246,7 @@ void TestRulerInput::previewNeedsItsArea()
     ruler.takeLog();
     moveMouse(ruler, QPoint(510, 5));
     leaveMouse(ruler);
-    QCOMPARE(ruler.takeLog(), QStringList{u"no preview"_s});
+    QTRY_COMPARE(ruler.log, QStringList{u"no preview"_s});
 }
 
 void TestRulerInput::previewLineReports()
@@ -319,26 +348,142 @@ void TestRulerInput::keys()
     QCOMPARE(atBegin.endTime(), at(10 * day));
 }
 
-void TestRulerInput::timersNeedAVisibleActiveRuler()
+void TestRulerInput::lostReleases()
 {
-    const std::vector<Act> stops{
-        [](LoggedRuler& ruler) { ruler.hide(); },
-        [](LoggedRuler& ruler) { ruler.setActive(false, false); },
-        [](LoggedRuler& ruler) { ruler.setActive(true, true); },
+    const struct
+    {
+        QString name;
+        Act begin, go;
+        QStringList end;
+    } gestures[] = {
+        {u"press"_s,
+         [](LoggedRuler& ruler) { ruler.press(600); },
+         [](LoggedRuler& ruler) { ruler.dragTo(500); },
+         {}},
+        {u"view drag"_s,
+         [](LoggedRuler& ruler) { ruler.press(600), ruler.dragTo(500); },
+         [](LoggedRuler& ruler) { ruler.dragTo(400); },
+         {u"view 06 23:35 - 07 00:36"_s}},
+        {u"indicator drag"_s,
+         [](LoggedRuler& ruler) {
+             pressIndicator(ruler);
+             dragIndicatorTo(ruler, 610);
+         },
+         [](LoggedRuler& ruler) { dragIndicatorTo(ruler, 710); },
+         {u"indicator 432360"_s}},
+        {u"arrow"_s, pressRightArrow, [](LoggedRuler&) {}, {u"view 06 23:34 - 07 00:35"_s}},
     };
-    for (const Act& stop : stops) {
+    const struct
+    {
+        QString name;
+        Act act;
+        bool endsPreview;
+    } losses[] = {
+        {u"move"_s, [](LoggedRuler& ruler) { moveMouse(ruler, QPoint(300, 5)); }, false},
+        {u"hide"_s, [](LoggedRuler& ruler) { ruler.hide(); }, true},
+        {u"block"_s, [](LoggedRuler& ruler) { ruler.setActive(true, true); }, true},
+        {u"deactivate"_s, [](LoggedRuler& ruler) { ruler.setActive(false, false); }, true},
+        {u"disable"_s, [](LoggedRuler& ruler) { ruler.setEnabled(false); }, true},
+        {u"other window"_s, [](LoggedRuler& ruler) { send(ruler, QEvent::WindowDeactivate); },
+         false},
+        {u"modal window"_s, [](LoggedRuler& ruler) { send(ruler, QEvent::WindowBlocked); }, true},
+        {u"popup"_s,
+         [](LoggedRuler& ruler) {
+             QFocusEvent event(QEvent::FocusOut, Qt::PopupFocusReason);
+             QApplication::sendEvent(&ruler, &event);
+         },
+         false},
+    };
+    for (const auto& gesture : gestures) {
+        for (const auto& loss : losses) {
+            LoggedRuler ruler;
+            ruler.onTimelineOffsetChanged(0.5);
+            ruler.setIndicatorPosition(at(5 * day));
+            ruler.setPreviewEnabled(true);
+            moveMouse(ruler, QPoint(510, 5));
+            connect(&ruler, &Ruler::heldChanged, &ruler, [&ruler](bool held) {
+                ruler.log << (held ? u"held"_s : u"free"_s);
+                QCOMPARE(ruler.isHeld(), held);
+            });
+            ruler.takeLog();
+            gesture.begin(ruler);
+            QCOMPARE(ruler.log.front(), u"held"_s);
+            ruler.takeLog();
+            loss.act(ruler);
+            QVERIFY(!ruler.isHeld());
+            QTRY_VERIFY(ruler.log.contains(u"free"_s));
+            QStringList log = gesture.end + QStringList{u"free"_s};
+            if (loss.endsPreview && gesture.name != u"view drag")
+                log << u"no preview"_s; // which a drag of the view has said at its beginning
+            const QString name = gesture.name + u", "_s + loss.name + u": "_s;
+            QCOMPARE(name + ruler.takeLog().join(u'|'), name + log.join(u'|'));
+
+            // The hand that moves on moves nothing.
+            const quint64 begin = ruler.beginTime();
+            const quint64 indicator = ruler.getIndicatorMSecs();
+            gesture.go(ruler);
+            QCOMPARE(ruler.beginTime(), begin);
+            QCOMPARE(ruler.getIndicatorMSecs(), indicator);
+            QVERIFY(ruler.setIndicatorPosition(at(5 * day + 10 * minute)));
+            QCOMPARE(ruler.getIndicatorMSecs(), at(5 * day + 10 * minute));
+        }
+    }
+}
+
+void TestRulerInput::quickPresses()
+{
+    LoggedRuler ruler;
+    auto* indicator = ruler.findChild<Indicator*>();
+    ruler.click(510);
+    pressAgain(*indicator, inIndicator(ruler, 510));
+    dragIndicatorTo(ruler, 610);
+    QCOMPARE(ruler.getIndicatorMSecs(), at(36 * minute));
+    QTest::mouseRelease(indicator, Qt::LeftButton, {}, inIndicator(ruler, 610));
+
+    ruler.takeLog();
+    QWidget* arrow = ruler.childAt(1017, 30);
+    pressAgain(*arrow, QPoint(2, 10));
+    QTest::mouseRelease(arrow, Qt::LeftButton);
+    QTest::mousePress(arrow, Qt::RightButton);
+    QTest::mouseRelease(arrow, Qt::RightButton);
+    QCOMPARE(ruler.takeLog(),
+             (QStringList{u"center 0.002431"_s, u"view 02 00:04 - 02 01:05 moving"_s,
+                          u"view 02 00:04 - 02 01:05"_s}));
+}
+
+void TestRulerInput::arrows()
+{
+    LoggedRuler ruler;
+    QWidget* left = ruler.childAt(2, 30);
+    QWidget* right = ruler.childAt(1017, 30);
+    QCOMPARE(left->accessibleName(), u"Earlier"_s);
+    QCOMPARE(right->accessibleName(), u"Later"_s);
+    pressByAssistiveTechnology(left);
+    pressByAssistiveTechnology(right);
+    const QStringList step{u"center 0.002431"_s, u"view 02 00:04 - 02 01:05 moving"_s,
+                           u"view 02 00:04 - 02 01:05"_s};
+    QTRY_COMPARE(ruler.log, step);
+}
+
+void TestRulerInput::fingers()
+{
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    const auto touch = [&](Ruler& ruler) {
+        return QTest::touchEvent(ruler.windowHandle(), screen.get(), false);
+    };
+    for (const bool pinch : {false, true}) {
         LoggedRuler ruler;
-        ruler.setPreviewEnabled(true);
         ruler.onTimelineOffsetChanged(0.5);
-        moveMouse(ruler, QPoint(510, 5));
-        pressRightArrow(ruler);
-        QCOMPARE(runningTimers(ruler), 2);
-        stop(ruler);
-        QCOMPARE(runningTimers(ruler), 0);
-        ruler.setPreviewEnabled(false);
-        ruler.setPreviewEnabled(true);
-        moveMouse(ruler, QPoint(300, 5));
-        QCOMPARE(runningTimers(ruler), 0);
+        const quint64 begin = ruler.beginTime();
+        ruler.takeLog();
+        touch(ruler).press(0, QPoint(600, 30)).commit();
+        if (pinch)
+            touch(ruler).stationary(0).press(1, QPoint(400, 30)).commit();
+        touch(ruler).move(0, QPoint(700, 30)).commit();
+        QCOMPARE(ruler.beginTime() != begin, !pinch);
+        touch(ruler).release(0, QPoint(700, 30)).commit();
+        QVERIFY(!ruler.isHeld());
+        QCOMPARE(ruler.getIndicatorMSecs(), at(0));
     }
 }
 
@@ -372,17 +517,30 @@ void TestRulerInput::deletionInSignals()
         [](LoggedRuler& ruler) { ruler.onZoomerOut(1, 0.5), ruler.changeLevel(8, 0.5); },
         [](LoggedRuler& ruler) { ruler.setIndicatorPosition(at(5 * day)); },
         [](LoggedRuler& ruler) {
-            QTest::mouseClick(&ruler, Qt::LeftButton, {}, {510, 30});
+            whileAlive(
+                &ruler, [&] { ruler.press(510); }, [&] { ruler.release(510); });
         },
         [](LoggedRuler& ruler) { wheel(ruler, -120); },
         [](LoggedRuler& ruler) { QTest::keyClick(&ruler, Qt::Key_End); },
         pressRightArrow,
-        [](LoggedRuler& ruler) { ruler.press(600), ruler.dragTo(300); },
+        [](LoggedRuler& ruler) {
+            whileAlive(
+                &ruler, [&] { ruler.press(600); }, [&] { ruler.dragTo(300); },
+                [&] { ruler.release(300); });
+        },
+        [](LoggedRuler& ruler) {
+            whileAlive(
+                &ruler, [&] { pressRightArrow(ruler); }, [&] { ruler.hide(); },
+                [] { QCoreApplication::processEvents(); });
+        },
         [](LoggedRuler& ruler) { ruler.onAddMarkers({{.time = timeAt(minute)}}); },
         [](LoggedRuler& ruler) {
             ruler.setResultTimeRange(timeAt(day), timeAt(2 * day), true, true, true, true);
         },
-        [](LoggedRuler& ruler) { leaveMouse(ruler); },
+        [](LoggedRuler& ruler) {
+            leaveMouse(ruler);
+            QCoreApplication::processEvents();
+        },
     };
     for (const Act& act : acts) {
         // Whatever signal comes first, second and so on deletes the ruler.
@@ -398,6 +556,7 @@ void TestRulerInput::deletionInSignals()
             connect(ruler, &Ruler::centerPositionChanged, &context, mayDelete);
             connect(ruler, &Ruler::timeLineViewChanged, &context, mayDelete);
             connect(ruler, &Ruler::indicatorPositionChanged, &context, mayDelete);
+            connect(ruler, &Ruler::heldChanged, &context, mayDelete);
             connect(ruler, &Ruler::newVisibleRulerMarkers, &context, mayDelete);
             connect(ruler, &Ruler::previewPositionChanged, &context, mayDelete);
             act(*ruler);

@@ -188,6 +188,9 @@ void TestRulerMarkers::pressAndDoubleClick()
     QCOMPARE(ruler.takeLog(), QStringList{u"jump 02 00:20"_s});
     QTest::mouseDClick(button, Qt::LeftButton);
     QCOMPARE(ruler.takeLog(), QStringList{u"track jump 02 00:20"_s});
+    pressByAssistiveTechnology(button);
+    QTRY_COMPARE(ruler.log, QStringList{u"jump 02 00:20"_s});
+    ruler.takeLog();
     ruler.setActive(true, true);
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(ruler.takeLog(), QStringList());
@@ -208,10 +211,21 @@ void TestRulerMarkers::hiddenMarkersAnswerTheMouse()
     QTest::mouseClick(hidden, Qt::LeftButton);
     QCOMPARE(ruler.takeLog(), QStringList{u"jump 02 00:17"_s});
 
+    const std::vector<std::function<void()>> ends{
+        [&] { moveMouse(ruler, QPoint(400, y)); },
+        [&] { leaveMouse(ruler); },
+        [&] { enterMouse(*visibleButtons(ruler).front()); },
+    };
+    for (const auto& end : ends) {
+        moveMouse(ruler, QPoint(318, y));
+        QCOMPARE(symbols(ruler), u"307+ 314"_s);
+        end();
+        QCOMPARE(symbols(ruler), u"307+"_s);
+    }
+    // It grows with the others.
+    ruler.setIconSize(QSize(40, 40));
     moveMouse(ruler, QPoint(318, y));
-    QCOMPARE(symbols(ruler), u"307+ 314"_s);
-    moveMouse(ruler, QPoint(400, y));
-    QCOMPARE(symbols(ruler), u"307+"_s);
+    QCOMPARE(visibleButtons(ruler).back()->size(), visibleButtons(ruler).front()->size());
 }
 
 void TestRulerMarkers::toolTips()
@@ -232,6 +246,16 @@ void TestRulerMarkers::toolTips()
     QCOMPARE(lines.size(), 13);
     QCOMPARE(lines.front(), u"0"_s);
     QVERIFY(lines.back().contains(u"28"_s));
+
+    // Zoomed in until the middle one stands alone, it has its own text, under the mouse or not.
+    ruler.onClearMarkers();
+    ruler.onAddMarkers(markersAtPixels({295, 300, 305}));
+    QCOMPARE(firstToolTip(), u"295\n300\n305"_s);
+    auto* middle = visibleButtons(ruler).front();
+    ruler.changeLevel(0, 290.0 / 999);
+    QCOMPARE(middle->toolTip(), u"300"_s);
+    ruler.changeLevel(1, 0.0);
+    ruler.onTimelineOffsetChanged(0.5 / 240);
 
     // The second of a time stays when one is removed, and its text stays text.
     ruler.onClearMarkers();
@@ -292,16 +316,36 @@ void TestRulerMarkers::iconsAreSharedAtTheirSize()
 
 void TestRulerMarkers::markerPreview()
 {
-    LoggedRuler ruler;
-    ruler.onAddMarkers(markersAtPixels({300}));
-    ruler.setPreviewEnabled(true);
-    ruler.onPreviewVisible(true, false);
-    auto* button = visibleButtons(ruler).front();
-    ruler.takeLog();
-    enterMouse(*button);
-    moveMouse(*button, QPoint(10, 8));
-    QTRY_COMPARE(ruler.log.size(), 2);
-    QCOMPARE(ruler.log, (QStringList{u"preview 1044 at 299 marker"_s, u"preview 1051 at 302"_s}));
+    const QString ofMarker = u"preview 1044 at 299 marker"_s;
+    const std::pair<std::function<void(Ruler&)>, QStringList> cases[] = {
+        {[](Ruler&) {}, {ofMarker, u"preview 1051 at 302"_s}},
+        // Others come and go, the marker stays.
+        {[](Ruler& ruler) {
+             ruler.onAddMarkers(markersAtPixels({100, 500}));
+         },
+         {ofMarker, u"preview 1051 at 302"_s}},
+        {[](Ruler& ruler) { ruler.onRemoveMarkers(markersAtPixels({200})); },
+         {ofMarker, u"preview 1051 at 302"_s}},
+        // Its button goes, perhaps to another marker.
+        {[](Ruler& ruler) { ruler.onTimelineOffsetChanged(0.5); }, {u"preview 431251 at 302"_s}},
+        {[](Ruler& ruler) { ruler.onClearMarkers(); }, {u"preview 1051 at 302"_s}},
+    };
+    for (const auto& [change, log] : cases) {
+        LoggedRuler ruler;
+        ruler.onAddMarkers(markersAtPixels({200, 300}));
+        ruler.onAddMarkers({marker(5 * day)});
+        ruler.setPreviewEnabled(true);
+        ruler.onPreviewVisible(true, false);
+        auto* button = visibleButtons(ruler).back();
+        enterMouse(*button);
+        moveMouse(*button, QPoint(10, 8));
+        change(ruler);
+        const auto previews = [&ruler] {
+            return ruler.log.filter(u"preview"_s);
+        };
+        QTRY_COMPARE(previews().size(), log.size());
+        QCOMPARE(previews(), log);
+    }
 }
 
 void TestRulerMarkers::sizes()

@@ -1,0 +1,447 @@
+#include "rulergestures.h"
+
+#include "ruler_p.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTouchEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr int repeatInterval = 200; // milliseconds
+constexpr double centerAnchor = 0.5;
+
+} // namespace
+
+/// Sees another finger come down on a touch screen. The first one arrives as the left mouse button,
+/// others do not arrive at all.
+class RulerGestures::SecondFinger : public QObject
+{
+public:
+    explicit SecondFinger(RulerGestures* gestures) : m_gestures(gestures) {}
+
+    void watch(bool on)
+    {
+        if (on)
+            qApp->installEventFilter(this);
+        else
+            qApp->removeEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if ((event->type() == QEvent::TouchUpdate || event->type() == QEvent::TouchEnd) &&
+            static_cast<const QTouchEvent*>(event)->pointCount() > 1)
+            m_gestures->end(Report::NextTurn);
+        return false;
+    }
+
+private:
+    RulerGestures* const m_gestures;
+};
+
+RulerGestures::RulerGestures(Ruler* ruler, Ruler::Private& rulerState)
+    : QObject(ruler)
+    , m_ruler(ruler)
+    , d(rulerState)
+    , m_moveTimer(this)
+    , m_secondFinger(std::make_unique<SecondFinger>(this))
+{
+    m_ruler->installEventFilter(this);
+    d.indicator->installEventFilter(this);
+    connect(d.arrows, &RulerArrows::pressed, this, &RulerGestures::holdArrow);
+    connect(d.arrows, &RulerArrows::released, this, [this] {
+        if (m_gesture == Gesture::ArrowHold)
+            end();
+    });
+    connect(d.arrows, &RulerArrows::activated, this, &RulerGestures::activateArrow);
+    m_moveTimer.setInterval(repeatInterval);
+    connect(&m_moveTimer, &QTimer::timeout, this, &RulerGestures::onMoveTimerTimeout);
+}
+
+RulerGestures::~RulerGestures() = default;
+
+// Begin and end
+
+bool RulerGestures::begin(Gesture gesture)
+{
+    const bool alive = whileAlive(
+        this, [this] { end(); }, [&] { setGesture(gesture); }, [this] { tellHeld(); });
+    return alive && m_gesture == gesture;
+}
+
+void RulerGestures::end(Report report)
+{
+    if (m_gesture != Gesture::None) {
+        m_untoldView = m_gesture == Gesture::ViewDrag || m_gesture == Gesture::ArrowHold;
+        m_moveTimer.stop();
+        d.arrows->letGo();
+        setGesture(Gesture::None);
+    }
+    if (report == Report::Now)
+        tellEnd();
+    else
+        QTimer::singleShot(0, this, &RulerGestures::tellEnd);
+}
+
+void RulerGestures::setGesture(Gesture gesture)
+{
+    m_gesture = gesture;
+    m_secondFinger->watch(gesture != Gesture::None);
+    d.markers->setHoverable(gesture != Gesture::ViewDrag);
+    d.hover->setDragging(gesture == Gesture::ViewDrag || gesture == Gesture::IndicatorDrag);
+}
+
+void RulerGestures::tellEnd()
+{
+    whileAlive(
+        this, [this] { tellIndicator(); },
+        [this] {
+            if (std::exchange(m_untoldView, false))
+                m_ruler->changedTimeLineView(false);
+        },
+        [this] { tellHeld(); });
+}
+
+void RulerGestures::tellIndicator()
+{
+    const quint64 msecs = m_ruler->getIndicatorMSecs();
+    if (std::exchange(m_untoldIndicator, {}) == msecs)
+        Q_EMIT m_ruler->indicatorPositionChanged(msecs, m_ruler->getIndicatorPosition());
+}
+
+void RulerGestures::tellHeld()
+{
+    if (std::exchange(m_toldHeld, isHolding()) != isHolding())
+        Q_EMIT m_ruler->heldChanged(isHolding());
+}
+
+bool RulerGestures::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == d.indicator)
+        return indicatorEvent(event);
+    if (!mayLoseRelease(event))
+        return false;
+    if (isHolding())
+        end(Report::NextTurn);
+    if (event->type() != QEvent::WindowDeactivate && event->type() != QEvent::FocusOut)
+        d.hover->abandon();
+    return false;
+}
+
+// Whether the ruler may not hear of what the mouse does from now on.
+bool RulerGestures::mayLoseRelease(const QEvent* event) const
+{
+    switch (event->type()) {
+    case QEvent::Hide:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+        return true;
+    case QEvent::EnabledChange:
+        return !m_ruler->isEnabled();
+    case QEvent::FocusOut:
+        return static_cast<const QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
+    default:
+        return false;
+    }
+}
+
+// The mouse on the ruler itself
+
+void RulerGestures::press(const QMouseEvent* event)
+{
+    if (d.blocked || event->button() != Qt::LeftButton)
+        return;
+    m_pressPosition = event->position().toPoint();
+    m_pressTime = d.scale.msecsAt(m_pressPosition.x());
+    begin(Gesture::Press);
+}
+
+void RulerGestures::move(const QMouseEvent* event)
+{
+    if (d.blocked)
+        return;
+    const QPoint position = event->position().toPoint();
+    const bool isHeld = event->buttons() & Qt::LeftButton;
+    if (!isHeld && !whileAlive(this, [this] { end(); }))
+        return;
+
+    d.hover->moved(position);
+    const bool isFar =
+        std::abs(position.x() - m_pressPosition.x()) >= QApplication::startDragDistance();
+    if (m_gesture == Gesture::Press && isFar && d.scale.hasView()) {
+        setGesture(Gesture::ViewDrag);
+        if (!whileAlive(this, [this] { d.hover->stop(); }))
+            return;
+    }
+    if (m_gesture != Gesture::ViewDrag)
+        d.hover->hover(position);
+    else if (isFar)
+        dragView(position.x());
+}
+
+void RulerGestures::dragView(int x)
+{
+    const TimeScale& scale = d.scale;
+    const double pixelsPerMillisecond = scale.lengthPerMillisecond();
+    if (!scale.hasView() || !(pixelsPerMillisecond > 0))
+        return;
+    const qint64 span = qint64(scale.millisecondsPerLevel());
+    qint64 start = m_pressTime - qint64((x - TimeScale::margin()) / pixelsPerMillisecond);
+    start = std::max(start, scale.beginLimitMs());
+    if (start + span > scale.endLimitMs())
+        start = scale.endLimitMs() - span;
+    moveViewTo(start, true);
+}
+
+void RulerGestures::release(const QMouseEvent* event)
+{
+    if (d.blocked)
+        return;
+    const bool wasViewDrag = m_gesture == Gesture::ViewDrag;
+    if (m_gesture == Gesture::Press && event->button() == Qt::LeftButton && !d.resultMode) {
+        const double x = event->position().x();
+        if (x > TimeScale::margin() && x <= m_ruler->width() - TimeScale::margin() - 1)
+            placeIndicator(int(x));
+    }
+    const QPoint position = event->position().toPoint();
+    whileAlive(
+        this, [this] { end(); },
+        [&] {
+            if (wasViewDrag)
+                d.hover->resume(position);
+        });
+}
+
+void RulerGestures::turnWheel(const QWheelEvent* event)
+{
+    const QPoint degrees = event->angleDelta() / 8.0;
+    if (degrees.isNull() || d.blocked)
+        return;
+    const double anchor = event->position().x() / m_ruler->width();
+    const int level = d.scale.level();
+    whileAlive(
+        this,
+        [&] {
+            if (degrees.y() <= 0)
+                m_ruler->onZoomerOut(level + 1, anchor);
+            else if (level > 0)
+                m_ruler->changeLevel(level - 1, anchor);
+        },
+        [this] { Q_EMIT m_ruler->changeSliderZoom(d.scale.level()); });
+}
+
+// The indicator
+
+bool RulerGestures::indicatorEvent(QEvent* event)
+{
+    if (event->type() == QEvent::Hide && isDraggingIndicator())
+        end(Report::NextTurn);
+    if (d.blocked)
+        return false;
+
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto position = [&] {
+        return d.indicator->mapToParent(mouse->position().toPoint());
+    };
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        if (mouse->button() != Qt::LeftButton)
+            return false;
+        begin(Gesture::IndicatorDrag);
+        return true;
+    case QEvent::MouseMove:
+        dragIndicator(position(), mouse->buttons() & Qt::LeftButton);
+        return true;
+    case QEvent::MouseButtonRelease:
+        if (!isDraggingIndicator())
+            return false;
+        dropIndicator(position().x());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void RulerGestures::dragIndicator(QPoint position, bool isHeld)
+{
+    d.hover->movedOnIndicator(position);
+    if (!isHeld)
+        return end();
+    if (!isDraggingIndicator())
+        return;
+    const bool isInScale =
+        position.x() > TimeScale::margin() && position.x() < m_ruler->width() - TimeScale::margin();
+    if (isInScale)
+        placeIndicator(position.x());
+    whileAlive(
+        this,
+        [this] {
+            if (d.indicatorDragEnabled)
+                tellIndicator();
+        },
+        [&] { Q_EMIT m_ruler->previewPositionChanged(0, position, false); });
+}
+
+void RulerGestures::dropIndicator(int x)
+{
+    const int leftmost = int(TimeScale::margin());
+    const int rightmost = std::max(int(m_ruler->width() - TimeScale::margin()), leftmost);
+    m_untoldIndicator.reset();
+    placeIndicator(std::clamp(x, leftmost, rightmost));
+    end();
+}
+
+void RulerGestures::placeIndicator(int x)
+{
+    if (!d.scale.hasView() || !d.scale.isWithinLimits(d.scale.msecsAt(x)))
+        return;
+    m_ruler->setIndicatorTime(d.scale.inZone(d.scale.msecsAt(x)));
+    m_untoldIndicator = m_ruler->getIndicatorMSecs();
+    m_ruler->showIndicatorTime(*m_untoldIndicator);
+    d.indicator->moveHotSpotTo(x);
+    d.indicator->setVisible(d.active);
+}
+
+// The arrows
+
+void RulerGestures::holdArrow(int direction)
+{
+    if (!begin(Gesture::ArrowHold) || !canMoveViewPort(direction))
+        return;
+    m_direction = direction;
+    m_moveTimer.start();
+    moveViewPort(direction);
+}
+
+void RulerGestures::activateArrow(int direction)
+{
+    if (!d.takesInput() || !canMoveViewPort(direction))
+        return;
+    whileAlive(
+        this, [&] { moveViewPort(direction); }, [this] { m_ruler->changedTimeLineView(false); });
+}
+
+void RulerGestures::onMoveTimerTimeout()
+{
+    if (canMoveViewPort(m_direction))
+        moveViewPort(m_direction);
+    else
+        m_moveTimer.stop();
+}
+
+bool RulerGestures::canMoveViewPort(int direction) const
+{
+    if (!d.scale.hasView())
+        return false;
+    return direction < 0 ? d.scale.beginLimitMs() < d.scale.viewStartMs()
+                         : d.scale.viewEndMs() <= d.scale.endLimitMs();
+}
+
+void RulerGestures::moveViewPort(int direction)
+{
+    d.scale.setViewStart(
+        d.scale.viewStart().addMSecs(direction * d.scale.millisecondsPerInterval()));
+    m_ruler->viewMovedByUser(true);
+}
+
+// Keys
+
+bool RulerGestures::pressKey(const QKeyEvent* event)
+{
+    if (!d.takesInput() || !d.scale.hasView())
+        return false;
+    const TimeScale& scale = d.scale;
+    const qint64 step = event->modifiers() & Qt::ShiftModifier
+                            ? scale.millisecondsPerInterval()
+                            : scale.millisecondsPerMinorDivision();
+    const qint64 indicator = qint64(d.exactIndicator);
+    const qint64 span = qint64(scale.millisecondsPerLevel());
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return moveIndicatorTo(indicator - step), true;
+    case Qt::Key_Right:
+        return moveIndicatorTo(indicator + step), true;
+    case Qt::Key_Home:
+        return moveIndicatorTo(scale.beginLimitMs()), true;
+    case Qt::Key_End:
+        return moveIndicatorTo(scale.endLimitMs()), true;
+    case Qt::Key_PageUp:
+        return moveViewByKey(scale.viewStartMs() - span), true;
+    case Qt::Key_PageDown:
+        return moveViewByKey(scale.viewStartMs() + span), true;
+    case Qt::Key_Plus:
+        return m_ruler->onZoomerIn(scale.level() - 1, centerAnchor), true;
+    case Qt::Key_Minus:
+        return m_ruler->onZoomerOut(scale.level() + 1, centerAnchor), true;
+    case Qt::Key_0:
+        if (!(event->modifiers() & Qt::ControlModifier))
+            return false;
+        return m_ruler->onZoomerOut(TimeScale::wholeRangeLevel, centerAnchor), true;
+    case Qt::Key_N:
+        return jumpToNeighbour(+1), true;
+    case Qt::Key_P:
+        return jumpToNeighbour(-1), true;
+    default:
+        return false;
+    }
+}
+
+void RulerGestures::moveIndicatorTo(qint64 msecs)
+{
+    const qint64 target = std::clamp(msecs, d.scale.beginLimitMs(), d.scale.endLimitMs());
+    if (d.resultMode || target == qint64(d.exactIndicator))
+        return;
+    m_ruler->setIndicatorTime(d.scale.inZone(target));
+    whileAlive(
+        this,
+        [this] {
+            if (d.scale.pageTo(d.indicatorTime))
+                m_ruler->viewMovedByUser(false);
+            else
+                m_ruler->updateChildren(false);
+        },
+        [this] {
+            Q_EMIT m_ruler->indicatorPositionChanged(m_ruler->getIndicatorMSecs(),
+                                                     m_ruler->getIndicatorPosition());
+        });
+}
+
+void RulerGestures::moveViewByKey(qint64 msecs)
+{
+    const TimeScale& scale = d.scale;
+    const qint64 latest = scale.endLimitMs() - qint64(scale.millisecondsPerLevel());
+    moveViewTo(std::max(std::min(msecs, latest), scale.beginLimitMs()), false);
+}
+
+void RulerGestures::moveViewTo(qint64 start, bool moving)
+{
+    if (start == d.scale.viewStartMs())
+        return;
+    d.scale.setViewStart(d.scale.inZone(start));
+    m_ruler->viewMovedByUser(moving);
+}
+
+void RulerGestures::jumpToNeighbour(int direction)
+{
+    const std::optional<RulerMarker> marker =
+        d.markers->takeNeighbour(qint64(d.exactIndicator), direction,
+                                 {.begin = d.scale.beginLimitMs(), .end = d.scale.endLimitMs()});
+    if (!marker)
+        return;
+    whileAlive(
+        this, [&] { moveIndicatorTo(marker->time.toMSecsSinceEpoch()); },
+        [&] { Q_EMIT m_ruler->jumpToTime(marker->time, marker->identifier); });
+}
+
+} // namespace CorvelGui

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "ruler.h"
+
+#include <QObject>
+#include <QPoint>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+namespace CorvelGui {
+
+/// What the user does to a ruler with mouse, wheel and keys.
+///
+/// At most one gesture runs: from the press of the left mouse button on the ruler, its indicator or
+/// one of its arrows until end(), which comes with the release, or with whatever means that the
+/// release went elsewhere.
+class RulerGestures : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Acts on @p ruler, whose private state @p d must outlive it.
+    RulerGestures(Ruler* ruler, Ruler::Private& d);
+    ~RulerGestures() override;
+
+    /// Whether the user holds the ruler, its indicator or an arrow.
+    bool isHolding() const { return m_gesture != Gesture::None; }
+    bool isDraggingIndicator() const { return m_gesture == Gesture::IndicatorDrag; }
+
+    void press(const QMouseEvent* event);
+    void move(const QMouseEvent* event);
+    void release(const QMouseEvent* event);
+    void turnWheel(const QWheelEvent* event);
+    /// Returns false for a key that means nothing to a ruler.
+    bool pressKey(const QKeyEvent* event);
+    /// Puts the indicator to an instant, as a key does.
+    void moveIndicatorTo(qint64 msecs);
+
+    /// Clients may act on reports at once, unless Qt is in the middle of something.
+    enum class Report { Now, NextTurn };
+    /// Ends the gesture and reports that it is over.
+    void end(Report report = Report::Now);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    enum class Gesture {
+        None,
+        Press, ///< of the ruler, which is a click unless it becomes a drag of the view
+        ViewDrag,
+        IndicatorDrag,
+        ArrowHold
+    };
+    class SecondFinger;
+
+    /// Returns whether the gesture runs, because clients hear of it at once.
+    bool begin(Gesture gesture);
+    void setGesture(Gesture gesture);
+    void tellEnd();
+    void tellIndicator();
+    void tellHeld();
+    bool mayLoseRelease(const QEvent* event) const;
+
+    void dragView(int x);
+    bool indicatorEvent(QEvent* event);
+    void dragIndicator(QPoint position, bool isHeld);
+    void dropIndicator(int x);
+    void placeIndicator(int x);
+
+    void holdArrow(int direction);
+    void activateArrow(int direction);
+    void onMoveTimerTimeout();
+    bool canMoveViewPort(int direction) const;
+    void moveViewPort(int direction);
+
+    void moveViewTo(qint64 start, bool moving);
+    void moveViewByKey(qint64 msecs);
+    void jumpToNeighbour(int direction);
+
+    Ruler* const m_ruler;
+    Ruler::Private& d;
+    Gesture m_gesture = Gesture::None;
+    QPoint m_pressPosition;
+    qint64 m_pressTime = 0;
+    QTimer m_moveTimer;
+    int m_direction = 0;
+    const std::unique_ptr<SecondFinger> m_secondFinger;
+
+    // What clients have not been told yet.
+    std::optional<quint64> m_untoldIndicator;
+    bool m_untoldView = false;
+    bool m_toldHeld = false;
+};
+
+} // namespace CorvelGui
