@@ -1,6 +1,7 @@
 #include "timelinescroll.h"
 
 #include "accessiblerange.h"
+#include "base/whilealive.h"
 #include "devicegrid.h"
 #include "keyboardfocus.h"
 #include "viewareabox.h"
@@ -96,6 +97,7 @@ struct TimelineScroll::Private
     bool hover = false;
     std::optional<int> mouseX; // while the mouse is inside
     Hold hold = Hold::None;
+    bool toldHeld = false;
     int pressX = 0;
     int dragOffset = 0;
     int step = 0;
@@ -276,10 +278,17 @@ void TimelineScroll::mousePressEvent(QMouseEvent* event)
         d->repeatTimer.start();
     }
     update();
+    tellHeld();
 }
 
 void TimelineScroll::mouseMoveEvent(QMouseEvent* event)
 {
+    if (d->hold != Private::Hold::None && !(event->buttons() & Qt::LeftButton)) {
+        // The release went elsewhere.
+        endHold();
+        if (!whileAlive(this, [this] { tellHeld(); }))
+            return;
+    }
     const int x = event->position().toPoint().x();
     const bool wasHovered = d->hovered();
     d->mouseX = x;
@@ -302,10 +311,15 @@ void TimelineScroll::mouseReleaseEvent(QMouseEvent* event)
 
     const ViewAreaBox box = d->box();
     const int x = event->position().toPoint().x();
-    if (!besideBox || box.contains(x))
-        return;
-    d->step = x > box.right() ? box.width() : -box.width();
-    translateViewAreaCenter();
+    whileAlive(
+        this,
+        [&] {
+            if (!besideBox || box.contains(x))
+                return;
+            d->step = x > box.right() ? box.width() : -box.width();
+            translateViewAreaCenter();
+        },
+        [this] { tellHeld(); });
 }
 
 void TimelineScroll::keyPressEvent(QKeyEvent* event)
@@ -350,14 +364,17 @@ void TimelineScroll::leaveEvent(QEvent*)
 void TimelineScroll::hideEvent(QHideEvent* event)
 {
     endHold();
+    QTimer::singleShot(0, this, &TimelineScroll::tellHeld);
     QLabel::hideEvent(event);
 }
 
 void TimelineScroll::changeEvent(QEvent* event)
 {
     // A dialog that opens during a drag gets the release.
-    if (!isEnabled() || (event->type() == QEvent::ActivationChange && !isActiveWindow()))
+    if (!isEnabled() || (event->type() == QEvent::ActivationChange && !isActiveWindow())) {
         endHold();
+        QTimer::singleShot(0, this, &TimelineScroll::tellHeld);
+    }
     QLabel::changeEvent(event);
 }
 
@@ -411,6 +428,17 @@ void TimelineScroll::endHold()
     d->repeatTimer.stop();
     d->hold = Private::Hold::None;
     update();
+}
+
+bool TimelineScroll::isHeld() const
+{
+    return d->hold != Private::Hold::None;
+}
+
+void TimelineScroll::tellHeld()
+{
+    if (std::exchange(d->toldHeld, isHeld()) != isHeld())
+        Q_EMIT heldChanged(isHeld());
 }
 
 } // namespace CorvelGui

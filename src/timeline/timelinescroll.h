@@ -36,6 +36,9 @@ public:
     /// The position of the view's centre: the latest of onCenterPositionChanged() and the user's.
     double centerPosition() const;
 
+    /// Whether the user holds the box, or the mouse beside it.
+    bool isHeld() const;
+
     /// An inactive strip is disabled and shows nothing but its border.
     void setActive(bool active);
 
@@ -63,6 +66,10 @@ Q_SIGNALS:
     /// 200 ms while the mouse is held beside the box, and once when it is released there), for the
     /// keys, and for assistive technology. Also emitted when the box cannot go any further.
     void viewAreaMoved(double centerPosition);
+    /// Emitted when isHeld() changed: before the first move of the box, and after the last. Where
+    /// the strip is hidden or disabled or its window loses the activation, that is on the next turn
+    /// of the event loop.
+    void heldChanged(bool held);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -82,6 +89,7 @@ private:
     void moveView(double centerPosition);
     void storeCenterPosition(double position);
     void endHold();
+    void tellHeld();
 
     struct Private;
     const std::unique_ptr<Private> d;

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QEnterEvent>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
@@ -171,13 +172,21 @@ void TestTimelineScroll::holdEndsWithTheStrip()
         [](LoggedStrip& strip, bool on) { strip.setVisible(on); },
         [](LoggedStrip& strip, bool on) { strip.setEnabled(on); },
         [](LoggedStrip& strip, bool on) { strip.setActive(on); },
+        [](LoggedStrip& strip, bool) {
+            QMouseEvent move(QEvent::MouseMove, QPointF(35, middle), QPointF(35, middle),
+                             Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&strip, &move);
+        },
     };
     for (const auto& setOn : switches) {
         for (const int pressX : {30, 60}) {
             LoggedStrip strip;
+            QSignalSpy held(&strip, &TimelineScroll::heldChanged);
             strip.press(pressX);
             setOn(strip, false);
             QVERIFY(!strip.isTimerActive());
+            QTRY_COMPARE(held.count(), 2);
+            QVERIFY(held[0][0].toBool() && !held[1][0].toBool());
             setOn(strip, true);
             strip.moveTo(80);
             strip.release(80);

@@ -12,8 +12,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 using CorvelGui::Ruler;
@@ -31,11 +29,15 @@ namespace {
 constexpr double viewCentre = 0.5;
 constexpr qint64 spanAroundMarker = qint64(20) * 60 * 1'000;
 
+QDateTime dateTime(qint64 msecs)
+{
+    return QDateTime::fromMSecsSinceEpoch(msecs);
+}
+
 } // namespace
 
 TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* parent)
     : Translated(parent)
-    , m_clock(clock)
     , m_selection(selection)
     , m_timeline(new ZoomTimeline(this))
     , m_ruler(m_timeline->ruler())
@@ -45,13 +47,12 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
     m_timeline->setTimeZone(clock.zoneName());
     m_ruler->setIndicatorDragEnabled(true);
     m_ruler->setPreviewEnabled(true);
+    m_ruler->setFollowMode(Ruler::FollowMode::Pages);
     retranslate();
 
     connect(m_ruler, &Ruler::timeLineViewChanged, this, &TimelinePane::viewChanged);
-    connect(m_ruler, &Ruler::indicatorPositionChanged, this, [this](quint64 msecs) {
-        m_indicated = qint64(msecs);
-        m_selection.setMoment(m_indicated);
-    });
+    connect(m_ruler, &Ruler::indicatorPositionChanged, this,
+            [this](quint64 msecs) { m_selection.setMoment(qint64(msecs)); });
     connect(m_ruler, &Ruler::jumpToTime, this, [this](const QDateTime& time, const QUuid& marker) {
         m_selection.goTo(time.toMSecsSinceEpoch());
         Q_EMIT markerChosen(marker);
@@ -63,7 +64,7 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
                 Q_EMIT markerChosen(marker);
             });
     connect(m_ruler, &Ruler::previewPositionChanged, this, &TimelinePane::showPreview);
-    connect(&clock, &Clock::changed, this, &TimelinePane::followClock);
+    connect(&clock, &Clock::changed, this, [&] { m_timeline->setTimeZone(clock.zoneName()); });
     connect(&selection, &Selection::momentChanged, this, &TimelinePane::followMoment);
     connect(&selection, &Selection::viewWanted, this, &TimelinePane::bringIntoView);
 
@@ -104,125 +105,43 @@ void TimelinePane::setMarkersShown(bool shown)
         {.markers = {}, .code = shown ? RulerMarkerOperation::show : RulerMarkerOperation::hide});
 }
 
-void TimelinePane::followClock()
-{
-    m_timeline->setTimeZone(m_clock.zoneName());
-    // The indicator's label follows when its time is set again.
-    m_timeline->setIndicatorPosition(quint64(m_indicated));
-}
-
 void TimelinePane::retranslate()
 {
     m_ruler->setAccessibleName(tr("Timeline"));
 }
 
-// One report for all that changes the view in one go.
-template <typename Change>
-void TimelinePane::changeView(Change change)
-{
-    m_ruler->blockSignalTimeLineViewChanged(true);
-    change();
-    m_timeline->timelineScroll()->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
-    m_ruler->blockSignalTimeLineViewChanged(false);
-    m_ruler->processTimeLineViewChanges();
-}
-
 void TimelinePane::followMoment()
 {
-    const qint64 msecs = m_selection.moment();
-    if (msecs == m_indicated)
-        return;
-    if (!m_period.isEmpty() && !isInView(msecs)) {
-        if (isInView(m_indicated))
-            changeView([&] { turnPagesTo(msecs); });
-        else
-            placeIndicatorOutside(msecs);
-    }
-    m_indicated = msecs;
-    m_timeline->setIndicatorPosition(quint64(msecs));
-}
-
-// The ruler follows its indicator wherever it is set.
-void TimelinePane::placeIndicatorOutside(qint64 msecs)
-{
-    const TimeSpan shown = view();
-    m_ruler->blockSignalTimeLineViewChanged(true);
-    m_timeline->setIndicatorPosition(quint64(msecs));
-    beginViewAt(shown.begin);
-    m_timeline->timelineScroll()->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
-    m_ruler->blockSignalTimeLineViewChanged(false);
+    // Asked of the ruler, whose indicator may have been the first to move.
+    const quint64 msecs = quint64(m_selection.moment());
+    if (msecs != m_ruler->exactIndicatorMSecs())
+        m_timeline->setIndicatorPosition(msecs);
 }
 
 void TimelinePane::bringIntoView(qint64 msecs)
 {
-    if (!m_period.isEmpty() && !isInView(msecs))
-        changeView([&] { centreOn(msecs); });
+    // Both ends count, as they do for the indicator.
+    const TimeSpan shown = view();
+    if (msecs < shown.begin || msecs > shown.end)
+        m_ruler->centerOn(msecs);
 }
 
 void TimelinePane::showAround(qint64 msecs, qint64 span)
 {
-    if (m_period.isEmpty())
-        return;
-    changeView([&] {
-        for (int level = 0; level <= m_ruler->getNrOfZooomLevels(); ++level) {
-            m_ruler->changeLevel(level, viewCentre);
-            if (qint64(m_ruler->endTime() - m_ruler->beginTime()) >= span)
-                break;
-        }
-        centreOn(msecs);
-    });
-}
-
-void TimelinePane::centreOn(qint64 msecs)
-{
-    const TimeSpan shown = view();
-    beginViewWithin(msecs - (shown.end - shown.begin) / 2);
-}
-
-void TimelinePane::turnPagesTo(qint64 msecs)
-{
-    const TimeSpan shown = view();
-    const qint64 page = shown.end - shown.begin;
-    const qint64 distance = msecs - shown.begin;
-    const qint64 pages = distance / page - (distance % page < 0 ? 1 : 0);
-    beginViewWithin(shown.begin + pages * page);
-}
-
-void TimelinePane::beginViewWithin(qint64 msecs)
-{
-    const TimeSpan shown = view();
-    const qint64 latest = m_period.end - (shown.end - shown.begin);
-    beginViewAt(std::clamp(msecs, m_period.begin, std::max(m_period.begin, latest)));
-}
-
-void TimelinePane::beginViewAt(qint64 msecs)
-{
-    const TimeSpan shown = view();
-    const qint64 middle = msecs + (shown.end - shown.begin) / 2;
-    // The ruler cuts off what is less than a millisecond.
-    constexpr double half = 0.5;
-    m_ruler->onTimelineOffsetChanged((double(middle - m_period.begin) + half) /
-                                     double(m_period.end - m_period.begin));
-}
-
-// As the ruler sees it, which lets an indicator stand on both ends.
-bool TimelinePane::isInView(qint64 msecs) const
-{
-    const TimeSpan shown = view();
-    return shown.begin <= msecs && msecs <= shown.end;
+    m_ruler->setView(msecs - span / 2, msecs + span / 2);
 }
 
 void TimelinePane::setSearchRange(const TimeSpan& range)
 {
     m_searchRange = range;
     m_timeline->onZoomTimeLineOperation({.code = ZoomTimelineOperation::setSearchRange,
-                                         .from = inZone(range.begin),
-                                         .to = inZone(range.end)});
+                                         .from = dateTime(range.begin),
+                                         .to = dateTime(range.end)});
 }
 
 void TimelinePane::setResultRange(const TimeSpan& range, const ResultLook& look)
 {
-    m_ruler->setResultTimeRange(inZone(range.begin), inZone(range.end), look.markBegin,
+    m_ruler->setResultTimeRange(dateTime(range.begin), dateTime(range.end), look.markBegin,
                                 look.markEnd, look.onlyInside, look.zoom);
 }
 
@@ -273,9 +192,7 @@ bool TimelinePane::eventFilter(QObject* watched, QEvent* event)
 
 TimeSpan TimelinePane::view() const
 {
-    if (m_period.isEmpty())
-        return {};
-    return {.begin = qint64(m_ruler->beginTime()), .end = qint64(m_ruler->endTime())};
+    return m_ruler->view();
 }
 
 bool TimelinePane::showsWholePeriod() const
@@ -294,15 +211,15 @@ bool TimelinePane::canZoomOut() const
     return shown.end - shown.begin < m_period.end - m_period.begin;
 }
 
-// What is left to move must be worth a pixel: the ruler rounds its view to whole milliseconds.
+// What is left to move must be worth a pixel: zooming rounds the view to whole milliseconds.
 bool TimelinePane::canStepEarlier() const
 {
-    return !m_period.isEmpty() && view().begin - m_period.begin >= msecsPerPixel();
+    return pixelsBetween(m_period.begin, view().begin) >= 1;
 }
 
 bool TimelinePane::canStepLater() const
 {
-    return !m_period.isEmpty() && m_period.end - view().end >= msecsPerPixel();
+    return pixelsBetween(view().end, m_period.end) >= 1;
 }
 
 void TimelinePane::zoomIn()
@@ -320,36 +237,22 @@ void TimelinePane::zoomOut()
 
 void TimelinePane::showWholePeriod()
 {
-    changeView([this] {
-        m_ruler->changeLevel(m_ruler->getNrOfZooomLevels(), viewCentre);
-        // At that level already, the ruler leaves a view that was moved where it is.
-        m_ruler->onTimelineOffsetChanged(viewCentre);
-    });
+    m_ruler->setView(m_period.begin, m_period.end);
 }
 
 void TimelinePane::stepEarlier()
 {
-    const TimeSpan shown = view();
-    if (!m_period.isEmpty())
-        changeView([&] { centreOn(shown.begin); });
+    m_ruler->centerOn(view().begin);
 }
 
 void TimelinePane::stepLater()
 {
-    const TimeSpan shown = view();
-    if (!m_period.isEmpty())
-        changeView([&] { centreOn(shown.end); });
+    m_ruler->centerOn(view().end);
 }
 
-// A view that begins at one of these times shows its labels on their clock.
-QDateTime TimelinePane::inZone(qint64 msecs) const
+double TimelinePane::pixelsBetween(qint64 begin, qint64 end) const
 {
-    return QDateTime::fromMSecsSinceEpoch(msecs, m_clock.times().zone());
-}
-
-qint64 TimelinePane::msecsPerPixel() const
-{
-    return std::max<qint64>(1, std::llround(1.0 / m_ruler->lengthPerMillisecond()));
+    return m_ruler->xAt(end) - m_ruler->xAt(begin);
 }
 
 } // namespace Review

@@ -77,29 +77,16 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    template <typename Change>
-    void changeView(Change change);
-    void followClock();
     void followMoment();
     void bringIntoView(qint64 msecs);
-    void centreOn(qint64 msecs);
-    void turnPagesTo(qint64 msecs);
-    void placeIndicatorOutside(qint64 msecs);
-    void beginViewWithin(qint64 msecs);
-    void beginViewAt(qint64 msecs);
-    bool isInView(qint64 msecs) const;
     void showPreview(quint64 msecs, const QPoint& position, bool onMarker);
-    QDateTime inZone(qint64 msecs) const;
-    qint64 msecsPerPixel() const;
+    double pixelsBetween(qint64 begin, qint64 end) const;
 
-    const Clock& m_clock;
     Selection& m_selection;
     CorvelGui::ZoomTimeline* m_timeline;
     CorvelGui::Ruler* m_ruler;
     CorvelGui::TimeSpan m_period;
     CorvelGui::TimeSpan m_searchRange;
-    /// Where the indicator stands.
-    qint64 m_indicated = 0;
     bool m_markerPreviewed = false;
 };
 
