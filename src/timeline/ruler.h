@@ -275,6 +275,7 @@ private:
     void viewMoved(bool moving);
     void viewMovedByUser(bool moving);
     bool followIndicator();
+    bool bringIndicatorIntoView();
     void noticeView();
     void reportFollowing();
 

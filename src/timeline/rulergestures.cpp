@@ -195,12 +195,7 @@ void RulerGestures::dragView(int x)
     const double pixelsPerMillisecond = scale.lengthPerMillisecond();
     if (!scale.hasView() || !(pixelsPerMillisecond > 0))
         return;
-    const qint64 span = qint64(scale.millisecondsPerLevel());
-    qint64 start = m_pressTime - qint64((x - TimeScale::margin()) / pixelsPerMillisecond);
-    start = std::max(start, scale.beginLimitMs());
-    if (start + span > scale.endLimitMs())
-        start = scale.endLimitMs() - span;
-    moveViewTo(start, true);
+    moveViewTo(m_pressTime - qint64((x - TimeScale::margin()) / pixelsPerMillisecond), true);
 }
 
 void RulerGestures::release(const QMouseEvent* event)
@@ -209,9 +204,9 @@ void RulerGestures::release(const QMouseEvent* event)
         return;
     const bool wasViewDrag = m_gesture == Gesture::ViewDrag;
     if (m_gesture == Gesture::Press && event->button() == Qt::LeftButton && !d.resultMode) {
-        const double x = event->position().x();
-        if (x > TimeScale::margin() && x <= m_ruler->width() - TimeScale::margin() - 1)
-            placeIndicator(int(x));
+        const int x = int(event->position().x());
+        if (d.scale.isOnScale(x))
+            placeIndicator(x);
     }
     const QPoint position = event->position().toPoint();
     whileAlive(
@@ -280,9 +275,7 @@ void RulerGestures::dragIndicator(QPoint position, bool isHeld)
         return end();
     if (!isDraggingIndicator())
         return;
-    const bool isInScale =
-        position.x() > TimeScale::margin() && position.x() < m_ruler->width() - TimeScale::margin();
-    if (isInScale)
+    if (d.scale.isOnScale(position.x()))
         placeIndicator(position.x());
     whileAlive(
         this,
@@ -377,9 +370,9 @@ bool RulerGestures::pressKey(const QKeyEvent* event)
     case Qt::Key_End:
         return moveIndicatorTo(scale.endLimitMs()), true;
     case Qt::Key_PageUp:
-        return moveViewByKey(scale.viewStartMs() - span), true;
+        return moveViewTo(scale.viewStartMs() - span, false), true;
     case Qt::Key_PageDown:
-        return moveViewByKey(scale.viewStartMs() + span), true;
+        return moveViewTo(scale.viewStartMs() + span, false), true;
     case Qt::Key_Plus:
         return m_ruler->onZoomerIn(scale.level() - 1, centerAnchor), true;
     case Qt::Key_Minus:
@@ -406,7 +399,7 @@ void RulerGestures::moveIndicatorTo(qint64 msecs)
     whileAlive(
         this,
         [this] {
-            if (d.scale.pageTo(d.indicatorTime))
+            if (m_ruler->bringIndicatorIntoView())
                 m_ruler->viewMovedByUser(false);
             else
                 m_ruler->updateChildren(false);
@@ -417,15 +410,9 @@ void RulerGestures::moveIndicatorTo(qint64 msecs)
         });
 }
 
-void RulerGestures::moveViewByKey(qint64 msecs)
+void RulerGestures::moveViewTo(qint64 msecs, bool moving)
 {
-    const TimeScale& scale = d.scale;
-    const qint64 latest = scale.endLimitMs() - qint64(scale.millisecondsPerLevel());
-    moveViewTo(std::max(std::min(msecs, latest), scale.beginLimitMs()), false);
-}
-
-void RulerGestures::moveViewTo(qint64 start, bool moving)
-{
+    const qint64 start = d.scale.startWithinLimits(msecs);
     if (start == d.scale.viewStartMs())
         return;
     d.scale.setViewStart(d.scale.inZone(start));

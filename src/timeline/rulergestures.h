@@ -76,8 +76,7 @@ private:
     bool canMoveViewPort(int direction) const;
     void moveViewPort(int direction);
 
-    void moveViewTo(qint64 start, bool moving);
-    void moveViewByKey(qint64 msecs);
+    void moveViewTo(qint64 msecs, bool moving);
     void jumpToNeighbour(int direction);
 
     Ruler* const m_ruler;

@@ -167,8 +167,7 @@ void RulerHover::emitPrviewPositionChanged()
     const auto previewMousePosition = [this] {
         m_rules.emitted(m_scale.viewStartMs());
         const QPoint position = m_rules.mousePosition();
-        if (position.x() <= TimeScale::margin() ||
-            position.x() >= m_ruler->width() - TimeScale::margin() || !m_scale.hasView())
+        if (!m_scale.isOnScale(position.x()) || !m_scale.hasView())
             return;
         const qint64 msecs = m_scale.msecsAt(position.x());
         if (m_scale.isWithinLimits(msecs))

@@ -79,6 +79,12 @@ bool Ruler::followIndicator()
            d->follower.follow(d->scale, qint64(d->exactIndicator));
 }
 
+// For a user who moves the indicator, even where the view has yielded to him.
+bool Ruler::bringIndicatorIntoView()
+{
+    return isFollowing() ? followIndicator() : d->scale.pageTo(d->indicatorTime);
+}
+
 void Ruler::noticeView()
 {
     if (d->exactIndicator != 0 && d->scale.hasView())

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace CorvelGui {
 
@@ -47,6 +48,8 @@ ZoomTimeline::ZoomTimeline(QWidget* parent)
             &TimelineScroll::onIndicatorPositionChanged);
     connect(m_ruler, &Ruler::centerPositionChanged, m_scroll,
             &TimelineScroll::onCenterPositionChanged);
+    connect(m_ruler, &Ruler::heldChanged, this, &ZoomTimeline::tellHeld);
+    connect(m_scroll, &TimelineScroll::heldChanged, this, &ZoomTimeline::tellHeld);
 }
 
 void ZoomTimeline::setZoomerEnabled(bool enabled)
@@ -177,6 +180,17 @@ void ZoomTimeline::setPlayMode(bool on)
 {
     m_ruler->setPlayMode(on);
     setOrvaneGuiTheme(m_theme);
+}
+
+bool ZoomTimeline::isHeld() const
+{
+    return m_ruler->isHeld() || m_scroll->isHeld();
+}
+
+void ZoomTimeline::tellHeld()
+{
+    if (std::exchange(m_toldHeld, isHeld()) != isHeld())
+        Q_EMIT heldChanged(isHeld());
 }
 
 void ZoomTimeline::onZoomTimeLineOperation(ZoomTimelineOperation operation)

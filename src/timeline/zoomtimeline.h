@@ -59,6 +59,9 @@ public:
     /// Selects the indicator's colour.
     void setPlayMode(bool on);
 
+    /// Whether the user holds the ruler, as Ruler::isHeld() says, or the strip.
+    bool isHeld() const;
+
 public Q_SLOTS:
     /// Performs an operation; unknown codes do nothing.
     void onZoomTimeLineOperation(CorvelGui::ZoomTimelineOperation operation);
@@ -69,10 +72,15 @@ public Q_SLOTS:
     /// Moves the ruler's preview line; 0 clears it.
     void onChangedPreviewIndicatorTime(quint64 msecs);
 
+Q_SIGNALS:
+    /// Emitted when isHeld() changed: before what a press does, and after what a release does.
+    void heldChanged(bool held);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void tellHeld();
     void updateViewArea();
     void updateSearchTimeRange();
     void displaySearchTimeRange(bool display);
@@ -86,6 +94,7 @@ private:
     QDateTime m_searchEnd;
     bool m_theme = true;
     bool m_resultMode = false;
+    bool m_toldHeld = false;
     bool m_searchDisplayed = false; ///< outside result mode
 };
 

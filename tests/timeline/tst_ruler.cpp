@@ -160,6 +160,10 @@ void TestRuler::following()
     const Act drag = [](LoggedRuler& r) {
         r.press(600), r.dragTo(500), r.release(500);
     };
+    const Act keys = [](LoggedRuler& r) {
+        for (int i = 0; i < 6; ++i)
+            QTest::keyClick(&r, Qt::Key_Right); // a minute each
+    };
     const auto zoomAt = [](double anchor) -> Act {
         return [=](LoggedRuler& r) {
             r.changeLevel(0, anchor);
@@ -197,6 +201,8 @@ void TestRuler::following()
         {Mode::Centered, {play(0.2)}, 0, true},
         {Mode::Centered, {drag, play(7)}, 5.1, false},
         {Mode::Centered, {drag, play(7), resume}, 6.5, true},
+        {Mode::Centered, {keys}, 5.1, true},
+        {Mode::Centered, {drag, keys}, 5.1, false},
         {Mode::Centered, {zoomAt(0)}, 5.5 - 1.0 / 6, true},
     };
     for (const auto& [mode, acts, begin, follows] : cases) {

@@ -61,7 +61,7 @@ private Q_SLOTS:
     void withoutZoomer();
     void activity();
     void zoneKeepsTheView();
-    void hoverReachesTheStrip();
+    void handAndMouseReachTheParts();
     void deletionInSignals();
 };
 
@@ -257,9 +257,17 @@ void TestZoomTimeline::zoneKeepsTheView()
     }
 }
 
-void TestZoomTimeline::hoverReachesTheStrip()
+void TestZoomTimeline::handAndMouseReachTheParts()
 {
     TestedTimeline timeline;
+    for (QWidget* part : QList<QWidget*>{timeline.ruler(), timeline.timelineScroll()}) {
+        QSignalSpy held(&timeline, &ZoomTimeline::heldChanged);
+        QTest::mousePress(part, Qt::LeftButton, {}, {200, 5});
+        QVERIFY(timeline.isHeld());
+        QTest::mouseRelease(part, Qt::LeftButton, {}, {200, 5});
+        QVERIFY(!timeline.isHeld());
+        QCOMPARE(held.count(), 2);
+    }
     timeline.ruler()->changeLevel(4, 0.0);
     const auto boxColor = [&] {
         return timeline.strip().pixelColor(40, timeline.strip().height() / 2);

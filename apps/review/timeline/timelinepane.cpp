@@ -3,12 +3,9 @@
 #include "session/clock.h"
 #include "session/selection.h"
 
-#include <CorvelGui/Indicator>
 #include <CorvelGui/Ruler>
-#include <CorvelGui/TimelineScroll>
 #include <CorvelGui/ZoomTimeline>
 
-#include <QMouseEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -64,13 +61,10 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
                 Q_EMIT markerChosen(marker);
             });
     connect(m_ruler, &Ruler::previewPositionChanged, this, &TimelinePane::showPreview);
+    connect(m_timeline, &ZoomTimeline::heldChanged, &selection, &Selection::setHeld);
     connect(&clock, &Clock::changed, this, [&] { m_timeline->setTimeZone(clock.zoneName()); });
     connect(&selection, &Selection::momentChanged, this, &TimelinePane::followMoment);
     connect(&selection, &Selection::viewWanted, this, &TimelinePane::bringIntoView);
-
-    for (QWidget* part : QList<QWidget*>{m_ruler, m_ruler->findChild<CorvelGui::Indicator*>(),
-                                         m_timeline->timelineScroll()})
-        part->installEventFilter(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -162,32 +156,6 @@ void TimelinePane::showPreview(quint64 msecs, const QPoint& position, bool onMar
     m_ruler->setPreviewIndicatorPosition(msecs);
     m_ruler->onPreviewVisible(msecs > 0, false);
     Q_EMIT previewChanged(qint64(msecs), m_ruler->mapTo(this, QPoint(position.x(), 0)), onMarker);
-}
-
-bool TimelinePane::eventFilter(QObject* watched, QEvent* event)
-{
-    const auto isLeft = [event] {
-        return static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-    };
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        if (isLeft())
-            m_selection.setHeld(true);
-        break;
-    case QEvent::MouseButtonRelease:
-        if (isLeft())
-            m_selection.setHeld(false);
-        break;
-    case QEvent::Hide:
-    case QEvent::WindowDeactivate:
-        // The release may go elsewhere, such as to a dialog.
-        m_selection.setHeld(false);
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 TimeSpan TimelinePane::view() const

@@ -74,7 +74,6 @@ Q_SIGNALS:
 
 protected:
     void retranslate() final;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void followMoment();
