@@ -177,6 +177,7 @@ void TestReviewPlayback::handHoldsTheTime()
     QCOMPARE(playing.timeline.view(), view);
     QEvent deactivate(QEvent::WindowDeactivate);
     QApplication::sendEvent(ruler, &deactivate);
+    QTRY_VERIFY(!playing.selection.isHeld());
     playing.tick(3'000);
     QCOMPARE(playing.selection.moment(), dragged + 5'000);
 }
