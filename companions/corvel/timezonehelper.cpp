@@ -53,8 +53,11 @@ QByteArray availableId(const QByteArray& id)
 
 QDateTime TimeZoneHelper::fromMSecsSinceEpoch(qint64 msecs, const QTimeZone& zone)
 {
-    return zone.isValid() ? QDateTime::fromMSecsSinceEpoch(msecs, zone)
-                          : QDateTime::fromMSecsSinceEpoch(msecs, Qt::LocalTime);
+    // Qt's own local time cannot tell the two passes of an hour that repeats without a change of
+    // summer time.
+    const QTimeZone known = zone.isValid() ? zone : QTimeZone::systemTimeZone();
+    return known.isValid() ? QDateTime::fromMSecsSinceEpoch(msecs, known)
+                           : QDateTime::fromMSecsSinceEpoch(msecs);
 }
 
 QString TimeZoneHelper::getTimeZone(const QString& name)

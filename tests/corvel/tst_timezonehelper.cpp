@@ -19,6 +19,7 @@ private Q_SLOTS:
     void renamedZones();
     void instants_data();
     void instants();
+    void machineChangesItsStandardTime();
 };
 
 void TestTimeZoneHelper::names_data()
@@ -82,6 +83,19 @@ void TestTimeZoneHelper::instants()
     const QDateTime time = TimeZoneHelper::fromMSecsSinceEpoch(msecs, zone);
     QTEST(time.time(), "clock");
     QCOMPARE(time.toMSecsSinceEpoch(), msecs);
+}
+
+void TestTimeZoneHelper::machineChangesItsStandardTime()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Windows takes the zone of the machine from its settings");
+#endif
+    qputenv("TZ", "Asia/Almaty");
+    const auto back = qScopeGuard([] { qputenv("TZ", "Europe/Brussels"); });
+    // The hour before midnight of 29 February 2024 passed twice.
+    const qint64 firstPass = 1'709'227'800'000;
+    for (const qint64 pass : {firstPass, firstPass + hour})
+        QCOMPARE(TimeZoneHelper::fromMSecsSinceEpoch(pass, QTimeZone()).toMSecsSinceEpoch(), pass);
 }
 
 QTEST_GUILESS_MAIN(TestTimeZoneHelper)
