@@ -1,6 +1,12 @@
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
 
+# Wherever an installation is moved, its libraries find each other and its programs the libraries. Debian's packages
+# have no run path: CMAKE_SKIP_INSTALL_RPATH.
+file(RELATIVE_PATH from_programs_to_libraries "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/${from_programs_to_libraries}")
+set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
+
 # corvelgui_add_library(<Package> HEADERS <[folder/]Name>...)
 #
 # Makes the shared library <Package> with the alias <Package>::<Package>, its export header, a forwarding header
