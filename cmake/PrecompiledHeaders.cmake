@@ -1,0 +1,37 @@
+set(CORVELGUI_PRECOMPILE_IN "" CACHE STRING
+    "Folders of this tree in which the headers of Qt are precompiled: faster, but missing includes are not noticed")
+
+# corvelgui_use_precompiled_headers(<folder>)
+#
+# Every library and program made in <folder> or below takes the one set of precompiled headers.
+function(corvelgui_use_precompiled_headers folder)
+    if(NOT TARGET corvelgui_precompiled)
+        set(source "${PROJECT_BINARY_DIR}/precompiled.cpp")
+        file(CONFIGURE OUTPUT "${source}" CONTENT "")
+        add_library(corvelgui_precompiled OBJECT "${source}")
+        # GCC takes the result only where all macros of this target are defined and the code is of the same kind, so it
+        # links what every other links, and programs are made of the same kind of code as libraries.
+        if(NOT WIN32)
+            target_compile_options(corvelgui_settings INTERFACE -fPIC)
+        endif()
+        target_link_libraries(corvelgui_precompiled PRIVATE Qt6::Core corvelgui_settings)
+        foreach(component IN ITEMS Gui Widgets Network)
+            target_include_directories(corvelgui_precompiled SYSTEM PRIVATE
+                "$<TARGET_PROPERTY:Qt6::${component},INTERFACE_INCLUDE_DIRECTORIES>")
+        endforeach()
+        target_precompile_headers(corvelgui_precompiled PRIVATE
+            <QtWidgets> <QtNetwork> <algorithm> <functional> <memory> <optional>)
+        set_target_properties(corvelgui_precompiled PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    endif()
+    get_property(targets DIRECTORY "${folder}" PROPERTY BUILDSYSTEM_TARGETS)
+    foreach(target IN LISTS targets)
+        get_target_property(type ${target} TYPE)
+        if(type MATCHES "^(SHARED_LIBRARY|STATIC_LIBRARY|EXECUTABLE)$")
+            set_target_properties(${target} PROPERTIES PRECOMPILE_HEADERS_REUSE_FROM corvelgui_precompiled)
+        endif()
+    endforeach()
+    get_property(folders DIRECTORY "${folder}" PROPERTY SUBDIRECTORIES)
+    foreach(below IN LISTS folders)
+        corvelgui_use_precompiled_headers("${below}")
+    endforeach()
+endfunction()
