@@ -4,6 +4,7 @@
 #include <CorvelGui/PIpRangeDialog>
 #include <CorvelGui/PPasswordInputDialog>
 
+#include <QDateTime>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPointer>

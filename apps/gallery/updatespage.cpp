@@ -6,9 +6,11 @@
 #include <CorvelGui/PCheckVersionUpdate>
 #include <CorvelGui/PCheckVersionUpdateDialog>
 
+#include <QDateTime>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVersionNumber>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
