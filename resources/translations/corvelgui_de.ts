@@ -239,6 +239,10 @@ Speicherort öffnen?</translation>
         <source>The second (%1)</source>
         <translation>Die zweite (%1)</translation>
     </message>
+    <message>
+        <source>There is nothing at this time. Choose one from %1 to %2.</source>
+        <translation>Zu dieser Zeit gibt es nichts. Wählen Sie eine von %1 bis %2.</translation>
+    </message>
 </context>
 <context>
     <name>CorvelGui::NetworkInterfaceComboBox</name>

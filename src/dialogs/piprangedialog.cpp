@@ -26,6 +26,11 @@ PIpRangeDialog::PIpRangeDialog(QWidget* parent)
 
 PIpRangeDialog::~PIpRangeDialog() = default;
 
+void PIpRangeDialog::setMask(int prefixLength)
+{
+    d->ui.comboBoxMask->setSubNetMask(unsigned(prefixLength));
+}
+
 QString PIpRangeDialog::getIp() const
 {
     return d->address;

@@ -18,6 +18,8 @@ public:
     explicit PIpRangeDialog(QWidget* parent = nullptr);
     ~PIpRangeDialog() override;
 
+    /// Selects the mask with @p prefixLength, 1 to 30; at first it is 15.
+    void setMask(int prefixLength);
     /// The address as it was typed, not reduced to its network part. Empty until the dialog is
     /// accepted.
     QString getIp() const;

@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPainter>
 #include <QWindow>
@@ -32,6 +33,16 @@ constexpr int longestName = 40; // in average characters
 bool isEnter(const QKeyEvent* event)
 {
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+/// A part that is full moves on to the next by itself: the separator behind it has been passed
+/// then.
+bool isPassedSeparator(const QDateTimeEdit& edit, const QKeyEvent& event)
+{
+    const auto* line = edit.findChild<QLineEdit*>();
+    const int place = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
+    return event.text().size() == 1 && !event.text()[0].isLetterOrNumber() && place > 0 &&
+           line->text()[place - 1] == event.text()[0];
 }
 
 /// The locale's short date, with all digits of the year.
@@ -55,6 +66,8 @@ struct JumpToTimepointDialog::Private
     Ui::JumpToTimepointDialog ui;
     QDateTime zone; ///< the moment that was shown first
     QList<QDateTime> moments;
+    QDateTime earliest;
+    QDateTime latest;
     bool wasActive = false;
     bool wasLeft = false;
     bool isDone = false;
@@ -105,6 +118,18 @@ void JumpToTimepointDialog::setDeviceName(const QString& name)
         metrics.elidedText(name, Qt::ElideMiddle, longestName * metrics.averageCharWidth()));
 }
 
+void JumpToTimepointDialog::setDateFormat(const QString& format)
+{
+    d->ui.dateEdit->setDisplayFormat(format.isEmpty() ? dateFormat() : format);
+}
+
+void JumpToTimepointDialog::setLimits(const QDateTime& earliest, const QDateTime& latest)
+{
+    d->earliest = earliest;
+    d->latest = latest;
+    findMoments();
+}
+
 void JumpToTimepointDialog::setMoment(const QDateTime& moment)
 {
     d->zone = moment;
@@ -117,6 +142,8 @@ void JumpToTimepointDialog::setMoment(const QDateTime& moment)
 
 QDateTime JumpToTimepointDialog::moment() const
 {
+    if (!isWithinLimits())
+        return {};
     if (d->moments.size() < 2)
         return d->moments.value(0);
     return d->moments.value(d->ui.comboOccurrence->currentIndex());
@@ -154,8 +181,12 @@ void JumpToTimepointDialog::keyPressEvent(QKeyEvent* event)
 
 bool JumpToTimepointDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || !isEnter(static_cast<QKeyEvent*>(event)))
+    if (event->type() != QEvent::KeyPress)
         return QDialog::eventFilter(watched, event);
+    if (!isEnter(static_cast<QKeyEvent*>(event)))
+        return isPassedSeparator(*static_cast<QDateTimeEdit*>(watched),
+                                 *static_cast<QKeyEvent*>(event)) ||
+               QDialog::eventFilter(watched, event);
     // What is half typed counts.
     static_cast<QAbstractSpinBox*>(watched)->interpretText();
     keyPressEvent(static_cast<QKeyEvent*>(event));
@@ -200,15 +231,34 @@ void JumpToTimepointDialog::findMoments()
     d->ui.comboOccurrence->setCurrentIndex(chosen);
 }
 
+bool JumpToTimepointDialog::isWithinLimits() const
+{
+    return d->moments.isEmpty() || ((!d->earliest.isValid() || d->moments.last() >= d->earliest) &&
+                                    (!d->latest.isValid() || d->moments.first() <= d->latest));
+}
+
+// Empty for what needs no explanation.
+QString JumpToTimepointDialog::explanation() const
+{
+    if (!isWithinLimits()) {
+        const QString format =
+            d->ui.dateEdit->displayFormat() + u' ' + d->ui.timeEdit->displayFormat();
+        return tr("There is nothing at this time. Choose one from %1 to %2.")
+            .arg(d->earliest.toString(format), d->latest.toString(format));
+    }
+    if (d->moments.isEmpty())
+        return tr("The clocks are put forward here, so this time does not exist.");
+    if (d->moments.size() == 2)
+        return tr("The clocks are put back here, so this time comes twice. Choose one:");
+    return {};
+}
+
 void JumpToTimepointDialog::explainMoments()
 {
-    const bool unique = d->moments.size() == 1;
-    const bool twice = d->moments.size() == 2;
-    d->ui.labelClockChange->setText(
-        unique  ? QString()
-        : twice ? tr("The clocks are put back here, so this time comes twice. Choose one:")
-                : tr("The clocks are put forward here, so this time does not exist."));
-    d->ui.labelClockChange->setVisible(!unique);
+    const bool twice = d->moments.size() == 2 && isWithinLimits();
+    const QString text = explanation();
+    d->ui.labelClockChange->setText(text);
+    d->ui.labelClockChange->setVisible(!text.isEmpty());
 
     const int chosen = d->ui.comboOccurrence->currentIndex();
     d->ui.comboOccurrence->clear();
@@ -218,8 +268,8 @@ void JumpToTimepointDialog::explainMoments()
         d->ui.comboOccurrence->setCurrentIndex(chosen);
     }
     d->ui.comboOccurrence->setVisible(twice);
-    d->ui.buttonApply->setEnabled(!d->moments.isEmpty());
-    if (!unique && isVisible()) {
+    d->ui.buttonApply->setEnabled(!d->moments.isEmpty() && isWithinLimits());
+    if (!text.isEmpty() && isVisible()) {
         QAccessibleEvent alert(d->ui.labelClockChange, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
     }

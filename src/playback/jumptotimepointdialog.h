@@ -20,10 +20,14 @@ public:
     ~JumpToTimepointDialog() override;
 
     void setDeviceName(const QString& name);
+    /// See TarvoDateTimeView.
+    void setDateFormat(const QString& format);
+    void setLimits(const QDateTime& earliest, const QDateTime& latest);
 
     /// Shows @p moment on the clock of its own zone, in which moment() will be as well.
     void setMoment(const QDateTime& moment);
-    /// What the user picked; invalid while the clocks skip the time that is shown.
+    /// What the user picked; invalid while the clocks skip the time that is shown, and beyond the
+    /// limits.
     QDateTime moment() const;
 
     /// Whether it closed because another window became active.
@@ -43,6 +47,8 @@ protected:
 private:
     void moveDate(int days);
     void findMoments();
+    bool isWithinLimits() const;
+    QString explanation() const;
     void explainMoments();
     void rejectWhenLeft();
     void retranslate();

@@ -72,6 +72,9 @@ struct TarvoDateTimeView::Private
     bool playMode = true;
     bool showMilliseconds = true;
     QString deviceName;
+    QString dateFormat;
+    QDateTime earliest;
+    QDateTime latest;
     QPointer<JumpToTimepointDialog> dialog;
     QPointer<QWindow> followedWindow;
     QDeadlineTimer pressClosedDialog;
@@ -160,6 +163,17 @@ void TarvoDateTimeView::setShowMilliseconds(bool show)
 void TarvoDateTimeView::setDeviceName(const QString& name)
 {
     d->deviceName = name;
+}
+
+void TarvoDateTimeView::setDateFormat(const QString& format)
+{
+    d->dateFormat = format;
+}
+
+void TarvoDateTimeView::setJumpLimits(const QDateTime& earliest, const QDateTime& latest)
+{
+    d->earliest = earliest;
+    d->latest = latest;
 }
 
 QString TarvoDateTimeView::shownText() const
@@ -308,6 +322,8 @@ void TarvoDateTimeView::openJumpDialog()
     d->dialog = new JumpToTimepointDialog(this);
     connect(d->dialog, &QDialog::finished, this, &TarvoDateTimeView::onJumpDialogFinished);
     d->dialog->setDeviceName(d->deviceName);
+    d->dialog->setDateFormat(d->dateFormat);
+    d->dialog->setLimits(d->earliest, d->latest);
     d->dialog->setMoment(d->shown);
     d->dialog->show();
     placeJumpDialog();

@@ -31,6 +31,15 @@ public:
     /// What the header of the pop-up says, from the next time it opens.
     void setDeviceName(const QString& name);
 
+    /// How the pop-up writes dates from the next time it opens, in the notation of
+    /// QDate::toString(). Empty, as at first, for the short format of the locale with all digits of
+    /// the year.
+    void setDateFormat(const QString& format);
+    /// The first and the last moment that can be jumped to, both included, from the next time that
+    /// the pop-up opens. It tells them to who enters another, and stays. Invalid ones, as at first,
+    /// are no limits; give both or none.
+    void setJumpLimits(const QDateTime& earliest, const QDateTime& latest);
+
     /// What the view reads, to the second, in one line.
     QString shownText() const;
 

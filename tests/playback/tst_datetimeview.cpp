@@ -90,6 +90,7 @@ private Q_SLOTS:
     void waysToApply();
     void closesWithoutASignal();
     void clockChanges();
+    void typingWithinLimits();
     void deletionInTheSlot();
 };
 
@@ -299,6 +300,31 @@ void TestDateTimeView::clockChanges()
     QCOMPARE(jumps.size(), 1);
     QCOMPARE(jumps.at(0).at(0).toDateTime(), second);
     QCOMPARE(jumps.at(0).at(0).toDateTime().offsetFromUtc(), 3600);
+}
+
+void TestDateTimeView::typingWithinLimits()
+{
+    View view;
+    view.setDateFormat(u"dd.MM.yyyy"_s);
+    const QDateTime latest = at(u"2026-03-15T23:00:00.125"_s, brussels);
+    view.setJumpLimits(at(u"2026-03-02T00:00:00"_s, brussels), latest);
+    view.updateDateTime(at(u"2026-03-03T11:11:11.125"_s, brussels));
+    JumpToTimepointDialog* dialog = view.open();
+    QVERIFY(dialog);
+    QCOMPARE(part<QDateEdit>(dialog, u"dateEdit"_s)->text(), u"03.03.2026"_s);
+    auto* time = part<QTimeEdit>(dialog, u"timeEdit"_s);
+    time->setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(time, u"12:30:00"_s);
+    QCOMPARE(time->time(), QTime(12, 30, 0, 125));
+
+    enter(dialog, u"2026-03-16"_s, u"00:00:00.126"_s);
+    QCOMPARE(part<QLabel>(dialog, u"labelClockChange"_s)->text(),
+             u"There is nothing at this time. Choose one from 02.03.2026 01:00:00.000 to "
+             "16.03.2026 00:00:00.125."_s);
+    QTest::keyClick(dialog, Qt::Key_Return);
+    QVERIFY(dialog->isVisible());
+    enter(dialog, u"2026-03-16"_s, u"00:00:00.125"_s);
+    QCOMPARE(dialog->moment(), latest);
 }
 
 void TestDateTimeView::deletionInTheSlot()
