@@ -40,6 +40,7 @@ void EventWriter::add(const Event& event)
 {
     addRecord({timeText(event.time, m_zone), event.kind.toUtf8(), event.text.toUtf8(),
                event.track.toUtf8()});
+    ++m_count;
 }
 
 void EventWriter::addRecord(const QList<QByteArray>& fields)

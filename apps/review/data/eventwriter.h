@@ -18,6 +18,8 @@ public:
 
     void add(const Event& event);
     const QByteArray& text() const { return m_text; }
+    /// How many events it holds.
+    qsizetype count() const { return m_count; }
 
 private:
     void addRecord(const QList<QByteArray>& fields);
@@ -25,6 +27,7 @@ private:
     const QTimeZone m_zone;
     const char m_separator;
     QByteArray m_text;
+    qsizetype m_count = 0;
 };
 
 } // namespace Review

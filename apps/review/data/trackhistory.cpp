@@ -8,7 +8,7 @@ using CorvelGui::TrackDescription;
 namespace Review {
 
 TrackHistory::TrackHistory(const TrackDescription& track)
-    : m_described{.begin = track.begin, .end = track.end}
+    : m_known{.begin = track.begin, .end = track.end}
 {
     QList<TimeSpan> spans = track.recorded;
     std::sort(spans.begin(), spans.end(),
@@ -22,8 +22,8 @@ TrackHistory::TrackHistory(const TrackDescription& track)
             m_recorded.last().end = std::max(m_recorded.last().end, span.end);
     }
     if (!m_recorded.isEmpty()) {
-        m_described.begin = std::min(m_described.begin, m_recorded.first().begin);
-        m_described.end = std::max(m_described.end, m_recorded.last().end);
+        m_known.begin = std::min(m_known.begin, m_recorded.first().begin);
+        m_known.end = std::max(m_known.end, m_recorded.last().end);
     }
 }
 
@@ -33,8 +33,8 @@ TrackState TrackHistory::stateAt(qint64 msecs) const
                                            [msecs](const TimeSpan& s) { return s.begin <= msecs; });
     if (next != m_recorded.begin() && msecs < std::prev(next)->end)
         return TrackState::Recorded;
-    return m_described.begin <= msecs && msecs < m_described.end ? TrackState::Gap
-                                                                 : TrackState::NotDescribed;
+    return m_known.begin <= msecs && msecs < m_known.end ? TrackState::Gap
+                                                         : TrackState::NothingKnown;
 }
 
 qint64 TrackHistory::recordedTime() const

@@ -7,7 +7,7 @@ namespace Review {
 enum class TrackState {
     Recorded,
     Gap, ///< known to be without recording
-    NotDescribed
+    NothingKnown
 };
 
 /// A track by its name.
@@ -29,12 +29,12 @@ public:
     /// Milliseconds that are recorded. What overlaps counts once.
     qint64 recordedTime() const;
     /// Empty if nothing is known.
-    const CorvelGui::TimeSpan& described() const { return m_described; }
+    const CorvelGui::TimeSpan& known() const { return m_known; }
     /// Sorted, none empty, with a gap between any two.
     const QList<CorvelGui::TimeSpan>& recorded() const { return m_recorded; }
 
 private:
-    CorvelGui::TimeSpan m_described;
+    CorvelGui::TimeSpan m_known;
     /// Sorted, without overlaps.
     QList<CorvelGui::TimeSpan> m_recorded;
 };

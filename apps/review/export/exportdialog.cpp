@@ -2,6 +2,7 @@
 
 #include <CorvelGui/CheckDirLineEdit>
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -29,13 +30,14 @@ namespace {
 constexpr int longestInterval = 24 * 60 * 60; // seconds
 
 /// A round number of seconds that makes a handful of pictures, not thousands.
-int proposedInterval(const TimeSpan& range)
+int proposedInterval(const TimeSpan& range, const TrackHistory& camera)
 {
     constexpr qint64 manyPictures = 200;
     constexpr std::array intervals{1,   2,   5,     10,    30,    60,     120,
                                    300, 600, 1'800, 3'600, 7'200, 21'600, longestInterval};
-    const auto found = std::ranges::find_if(intervals, [&range](int seconds) {
-        return ExportPlan{.range = range, .interval = seconds}.count() <= manyPictures;
+    const auto found = std::ranges::find_if(intervals, [&](int seconds) {
+        const ExportPlan plan{.range = range, .interval = seconds};
+        return plan.times(camera).count() <= manyPictures;
     });
     return found != intervals.end() ? *found : longestInterval;
 }
@@ -50,11 +52,13 @@ QString rangeText(const TimeTexts& times, const TimeSpan& range)
 ExportDialog::ExportDialog(const CameraFeed& feed, const TimeSpan& view,
                            const TimeSpan& searchRange, const QString& folder, QWidget* parent)
     : PBaseDialog(parent)
+    , m_camera(feed.history())
     , m_viewRange(view)
     , m_searchRange(searchRange)
     , m_view(new QRadioButton(this))
     , m_search(new QRadioButton(this))
     , m_interval(new QSpinBox(this))
+    , m_recordedOnly(new QCheckBox(tr("&Only where something is recorded"), this))
     , m_folder(new CorvelGui::CheckDirLineEdit(this))
     , m_message(new QLabel(this))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
@@ -68,13 +72,15 @@ ExportDialog::ExportDialog(const CameraFeed& feed, const TimeSpan& view,
     (hasSearch ? m_search : m_view)->setChecked(true);
     m_interval->setRange(1, longestInterval);
     m_interval->setSuffix(tr(" s"));
-    m_interval->setValue(proposedInterval(hasSearch ? searchRange : view));
+    m_interval->setValue(proposedInterval(hasSearch ? searchRange : view, m_camera));
+    m_recordedOnly->setChecked(true);
     m_folder->setText(QDir::toNativeSeparators(folder));
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Export"));
     createLayout(feed.camera());
 
     connect(m_view, &QRadioButton::toggled, this, &ExportDialog::checkPlan);
     connect(m_interval, &QSpinBox::valueChanged, this, &ExportDialog::checkPlan);
+    connect(m_recordedOnly, &QCheckBox::toggled, this, &ExportDialog::checkPlan);
     connect(m_folder, &QLineEdit::textChanged, this, &ExportDialog::checkPlan);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -85,6 +91,7 @@ ExportPlan ExportDialog::plan() const
 {
     return {.range = m_search->isChecked() ? m_searchRange : m_viewRange,
             .interval = m_interval->value(),
+            .recordedOnly = m_recordedOnly->isChecked(),
             .folder = QDir::fromNativeSeparators(m_folder->text())};
 }
 
@@ -110,6 +117,7 @@ void ExportDialog::createLayout(const QString& camera)
     form->addRow(tr("Camera"), name);
     form->addRow(tr("Range"), ranges);
     form->addRow(tr("A picture every"), m_interval);
+    form->addRow(QString(), m_recordedOnly);
     form->addRow(tr("Folder"), folder);
     form->addRow(QString(), m_message);
     m_interval->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
@@ -133,12 +141,16 @@ void ExportDialog::chooseFolder()
 void ExportDialog::checkPlan()
 {
     const ExportPlan wanted = plan();
-    const qint64 count = wanted.count();
+    const qint64 count = wanted.times(m_camera).count();
     const bool tooMany = count > mostPictures;
     const QString number = QLocale().toString(count);
-    m_message->setText(tooMany ? tr("%1 pictures are too many: the most at once is %2.")
-                                     .arg(number, QLocale().toString(mostPictures))
-                               : tr("Pictures: %1").arg(number));
+    if (count == 0)
+        m_message->setText(tr("Nothing is recorded in this range."));
+    else if (tooMany)
+        m_message->setText(tr("%1 pictures are too many: the most at once is %2.")
+                               .arg(number, QLocale().toString(mostPictures)));
+    else
+        m_message->setText(tr("Pictures: %1").arg(number));
     m_buttons->button(QDialogButtonBox::Ok)
         ->setEnabled(count > 0 && !tooMany && QFileInfo(wanted.folder).isDir());
 }

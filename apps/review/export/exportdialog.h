@@ -4,6 +4,7 @@
 
 #include <CorvelGui/PBaseDialog>
 
+class QCheckBox;
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
@@ -33,11 +34,13 @@ private:
     void chooseFolder();
     void checkPlan();
 
+    const TrackHistory m_camera;
     CorvelGui::TimeSpan m_viewRange;
     CorvelGui::TimeSpan m_searchRange;
     QRadioButton* m_view;
     QRadioButton* m_search;
     QSpinBox* m_interval;
+    QCheckBox* m_recordedOnly;
     QLineEdit* m_folder;
     QLabel* m_message;
     QDialogButtonBox* m_buttons;

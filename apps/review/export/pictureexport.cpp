@@ -12,8 +12,6 @@ namespace Review {
 
 namespace {
 
-constexpr qint64 msecsPerSecond = 1'000;
-
 /// Names of cameras are any text.
 QString fileNamePart(const QString& camera)
 {
@@ -35,15 +33,15 @@ QString timePart(qint64 msecs, const QTimeZone& zone)
 
 } // namespace
 
-qint64 ExportPlan::count() const
+PictureTimes ExportPlan::times(const TrackHistory& camera) const
 {
-    if (range.isEmpty())
-        return 0;
-    return (range.end - range.begin - 1) / (interval * msecsPerSecond) + 1;
+    constexpr qint64 msecsPerSecond = 1'000;
+    const qint64 step = interval * msecsPerSecond;
+    return recordedOnly ? PictureTimes(range, step, camera.recorded()) : PictureTimes(range, step);
 }
 
 PictureExport::PictureExport(const CameraFeed& feed, const ExportPlan& plan, QObject* parent)
-    : QObject(parent), m_feed(feed), m_plan(plan), m_count(int(plan.count()))
+    : QObject(parent), m_feed(feed), m_plan(plan), m_times(plan.times(feed.history()).all())
 {
     connect(&m_timer, &QTimer::timeout, this, &PictureExport::writeNext);
 }
@@ -51,7 +49,7 @@ PictureExport::PictureExport(const CameraFeed& feed, const ExportPlan& plan, QOb
 int PictureExport::existingFiles() const
 {
     int existing = 0;
-    for (int i = 0; i < m_count; ++i)
+    for (int i = 0; i < count(); ++i)
         existing += QFileInfo::exists(path(i)) ? 1 : 0;
     return existing;
 }
@@ -64,14 +62,14 @@ void PictureExport::cancel()
 
 void PictureExport::writeNext()
 {
-    if (m_written == m_count)
+    if (m_written == count())
         return end(Outcome::Complete);
     const QString file = path(m_written);
     if (!m_replacing && QFileInfo::exists(file)) {
         m_error = tr("%1 exists already.").arg(QDir::toNativeSeparators(file));
         return end(Outcome::Failed);
     }
-    const QImage picture = m_picture.draw(m_feed.sceneAt(instant(m_written)));
+    const QImage picture = m_picture.draw(m_feed.sceneAt(m_times[m_written]));
     const QString error = writePicture(picture, file);
     if (!error.isEmpty()) {
         m_error = tr("%1 cannot be written: %2").arg(QDir::toNativeSeparators(file), error);
@@ -87,15 +85,10 @@ void PictureExport::end(Outcome outcome)
     Q_EMIT ended(outcome);
 }
 
-qint64 PictureExport::instant(int index) const
-{
-    return m_plan.range.begin + index * m_plan.interval * msecsPerSecond;
-}
-
 QString PictureExport::path(int index) const
 {
     const QString name =
-        fileNamePart(m_feed.camera()) + u'_' + timePart(instant(index), m_feed.times().zone());
+        fileNamePart(m_feed.camera()) + u'_' + timePart(m_times[index], m_feed.times().zone());
     return QDir(m_plan.folder).filePath(name + u".png"_s);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "picturetimes.h"
 #include "video/camerafeed.h"
 
 #include <QObject>
@@ -13,10 +14,11 @@ struct ExportPlan
     CorvelGui::TimeSpan range = {};
     /// Seconds from one picture to the next.
     int interval = 1;
+    /// Whether times without a recording are passed over. Their pictures only say so.
+    bool recordedOnly = true;
     QString folder = {};
 
-    /// How many pictures that makes.
-    qint64 count() const;
+    PictureTimes times(const TrackHistory& camera) const;
 };
 
 /// Writes pictures of a camera as PNG files, one per turn of the event loop. Each file is written
@@ -30,7 +32,7 @@ public:
 
     PictureExport(const CameraFeed& feed, const ExportPlan& plan, QObject* parent = nullptr);
 
-    int count() const { return m_count; }
+    int count() const { return int(m_times.size()); }
     /// How many pictures are written so far.
     int written() const { return m_written; }
     /// How many of the files exist already.
@@ -43,6 +45,7 @@ public:
     void cancel();
     /// What went wrong, after Outcome::Failed.
     const QString& error() const { return m_error; }
+    const QString& folder() const { return m_plan.folder; }
 
 Q_SIGNALS:
     /// Emitted after each picture.
@@ -53,15 +56,14 @@ Q_SIGNALS:
 private:
     void writeNext();
     void end(Outcome outcome);
-    qint64 instant(int index) const;
     QString path(int index) const;
 
     CameraFeed m_feed;
     ExportPlan m_plan;
+    QList<qint64> m_times;
     CameraPicture m_picture;
     QTimer m_timer;
     QString m_error;
-    int m_count;
     int m_written = 0;
     bool m_replacing = false;
 };

@@ -1,5 +1,6 @@
 #include "eventpane.h"
 
+#include "data/eventwriter.h"
 #include "eventtable.h"
 #include "look/listlook.h"
 #include "session/clock.h"
@@ -9,6 +10,7 @@
 
 #include <QAction>
 #include <QHeaderView>
+#include <QLocale>
 #include <QVBoxLayout>
 
 using CorvelGui::FilterLineEdit;
@@ -32,7 +34,7 @@ EventPane::EventPane(const Clock& clock, QWidget* parent)
     layout->addWidget(m_table);
 
     connect(m_filter, &FilterLineEdit::filterChanged, this, &EventPane::showRows);
-    connect(m_export, &QAction::triggered, m_table, &EventTable::exportRows);
+    connect(m_export, &QAction::triggered, this, &EventPane::exportEvents);
     connect(m_table, &QTableWidget::activated, this, [this](const QModelIndex& index) {
         if (!m_table->isRowHidden(index.row()))
             Q_EMIT eventOpened(m_table->eventOf(index.row()));
@@ -62,6 +64,16 @@ void EventPane::showRows()
     m_table->showRows(m_list, m_filter->text());
 }
 
+void EventPane::exportEvents()
+{
+    // As spreadsheets of the user's country expect it.
+    const char separator = QLocale().decimalPoint() == u',' ? ';' : ',';
+    EventWriter writer(m_clock.times().zone(), separator);
+    for (const qsizetype event : m_table->chosenEvents())
+        writer.add(m_list.event(event));
+    Q_EMIT exportWanted(writer);
+}
+
 void EventPane::select(qsizetype index)
 {
     m_table->goTo(index);
@@ -79,7 +91,7 @@ void EventPane::retranslate()
 {
     m_filter->setAccessibleName(tr("Filter events"));
     m_table->setAccessibleName(tr("Events"));
-    m_table->setHorizontalHeaderLabels({tr("Time"), tr("Kind"), tr("Event"), tr("Track")});
+    m_table->setHorizontalHeaderLabels({tr("Time"), tr("Kind"), tr("Event"), tr("Camera")});
     m_export->setText(tr("Export events…"));
     m_export->setStatusTip(
         tr("Write the events in the table, or several selected ones, to a file"));

@@ -16,6 +16,7 @@ namespace Review {
 
 class Clock;
 class EventTable;
+class EventWriter;
 
 /// The events in a table that sorts, copies and exports, below a field that filters it.
 class EventPane : public Translated<QWidget>
@@ -35,12 +36,13 @@ public:
     void setHiddenTracks(const QSet<QString>& identifiers);
     /// Makes an event the current one and brings it into view, if it is in the table.
     void select(qsizetype index);
-    /// Writes the events that are in the table, or several selected ones, into a file.
+    /// Asks for an export of the events that are in the table, or of several selected ones.
     QAction* exportAction() const { return m_export; }
 
 Q_SIGNALS:
     /// Emitted when the user opens an event: with a double click, or with Return.
     void eventOpened(qsizetype index);
+    void exportWanted(const Review::EventWriter& events);
 
 protected:
     void retranslate() final;
@@ -48,6 +50,7 @@ protected:
 private:
     void followClock();
     void showRows();
+    void exportEvents();
 
     const Clock& m_clock;
     EventList m_list;

@@ -6,10 +6,10 @@
 #include <CorvelGui/PTableWidgetItem>
 
 #include <QHeaderView>
-#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <numeric>
 
 using CorvelGui::PTableWidgetItem;
 
@@ -132,28 +132,23 @@ void EventTable::goTo(qsizetype event)
     }
 }
 
-QItemSelection EventTable::shownSelection() const
+QList<qsizetype> EventTable::chosenEvents() const
 {
-    QItemSelection selection;
-    for (const int row : GetSelectedRows()) {
-        if (!isRowHidden(row))
-            selection.append({model()->index(row, 0), model()->index(row, columnCount() - 1)});
+    QList<int> rows = GetSelectedRows();
+    const auto isHidden = [this](int row) {
+        return isRowHidden(row);
+    };
+    rows.removeIf(isHidden);
+    if (rows.size() < 2) {
+        rows.resize(rowCount());
+        std::iota(rows.begin(), rows.end(), 0);
+        rows.removeIf(isHidden);
     }
-    return selection;
-}
-
-void EventTable::exportRows()
-{
-    const QItemSelection before = selectionModel()->selection();
-    const QItemSelection chosen = shownSelection();
-    if (chosen.size() > 1)
-        selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
-    else
-        selectAll();
-    const QPointer<EventTable> alive(this);
-    CsvExport();
-    if (alive)
-        selectionModel()->select(before, QItemSelectionModel::ClearAndSelect);
+    std::ranges::sort(rows);
+    QList<qsizetype> events;
+    for (const int row : std::as_const(rows))
+        events.append(eventOf(row));
+    return events;
 }
 
 } // namespace Review

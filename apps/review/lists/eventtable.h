@@ -26,13 +26,12 @@ public:
     /// Makes an event the current one and brings it into view, unless its row is hidden.
     void goTo(qsizetype event);
 
-    /// Runs the CSV dialog for the rows that are shown, or for the selected ones of them if there
-    /// are several. What was selected is selected afterwards.
-    void exportRows();
+    /// The events of the rows that are shown, or of the selected ones of them if there are several,
+    /// from top to bottom.
+    QList<qsizetype> chosenEvents() const;
 
 private:
     void fitColumns();
-    QItemSelection shownSelection() const;
 };
 
 } // namespace Review

@@ -26,7 +26,7 @@ struct CameraScene
     QString time = {};
     /// Hours since midnight where the camera hangs.
     double hour = 12;
-    TrackState state = TrackState::NotDescribed;
+    TrackState state = TrackState::NothingKnown;
     QList<Visitor> visitors = {};
 
     bool operator==(const CameraScene&) const = default;

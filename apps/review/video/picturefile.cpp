@@ -1,9 +1,10 @@
 #include "picturefile.h"
 
+#include "data/filewriter.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImage>
-#include <QSaveFile>
 
 namespace Review {
 
@@ -15,11 +16,7 @@ QString writePicture(const QImage& picture, const QString& path)
     buffer.open(QIODevice::WriteOnly);
     if (!picture.save(&buffer, "PNG"))
         return QCoreApplication::translate("Review", "The picture cannot be encoded.");
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush() &&
-        file.commit())
-        return {};
-    return file.errorString();
+    return writeFile(data, path);
 }
 
 } // namespace Review
