@@ -4,7 +4,7 @@
 #include "data/reviewloader.h"
 #include "data/sampledata.h"
 #include "data/trackhistory.h"
-#include "look/timetexts.h"
+#include "look/typedtime.h"
 #include "testsupport.h"
 #include "times.h"
 
@@ -75,6 +75,8 @@ private Q_SLOTS:
     void garbageHarmsNothing();
     void historyKnowsThreeStates();
     void clockChanges();
+    void typedTimes_data();
+    void typedTimes();
     void sampleIsSound();
 
 private:
@@ -339,7 +341,7 @@ void TestReviewData::historyKnowsThreeStates()
         states += u"rg-"_s[int(history.stateAt(time))];
     QCOMPARE(states, u"-ggrrrggrr-"_s);
     QCOMPARE(history.recordedTime(), 50); // overlaps count once
-    QCOMPARE(int(TrackHistory({}).stateAt(0)), int(TrackState::NotDescribed));
+    QCOMPARE(int(TrackHistory({}).stateAt(0)), int(TrackState::NothingKnown));
 }
 
 void TestReviewData::clockChanges()
@@ -358,6 +360,36 @@ void TestReviewData::clockChanges()
         QCOMPARE(instant, time(utc).toMSecsSinceEpoch());
         QCOMPARE(times.wallClock(instant), time(clockAgain));
     }
+}
+
+void TestReviewData::typedTimes_data()
+{
+    QTest::addColumn<int>("order");
+    QTest::addColumn<QString>("read");
+    const auto row = [](const char* typed, const QString& read,
+                        TimeFormat::Order order = TimeFormat::Order::DayFirst) {
+        QTest::newRow(typed) << int(order) << read;
+    };
+    // Instead of 2026-02-28T11:11:11.125.
+    row("12:30:00", u"2026-02-28T12:30:00.000"_s);
+    row(" 9:5 ", u"2026-02-28T09:05:00.000"_s);
+    row("31.03.2026", u"2026-03-31T11:11:11.125"_s);
+    row("29.2.2024  1:02:03.5", u"2024-02-29T01:02:03.500"_s);
+    row("3/4/2026", u"2026-03-04T11:11:11.125"_s, TimeFormat::Order::MonthFirst);
+    row("2026-04-03 00:00", u"2026-04-03T00:00:00.000"_s);
+    row("2026-4-3", u"2026-04-03T11:11:11.125"_s, TimeFormat::Order::YearFirst);
+    for (const char* bad : {"", "noon", "12", "24:00", "12:60", "1.2", "29.2.2026", "1.13.2026",
+                            "1.2-2026", "12:30 1.2.2026", "1.2.202612:30"})
+        row(bad, {});
+}
+
+void TestReviewData::typedTimes()
+{
+    QFETCH(const int, order);
+    const QDateTime shown(QDate(2026, 2, 28), QTime(11, 11, 11, 125), Qt::UTC);
+    const auto typed = readTypedTime(QString::fromLatin1(QTest::currentDataTag()),
+                                     {.order = TimeFormat::Order(order)}, shown);
+    QTEST(typed ? typed->toString(u"yyyy-MM-ddTHH:mm:ss.zzz"_s) : QString(), "read");
 }
 
 void TestReviewData::sampleIsSound()

@@ -9,20 +9,17 @@
 #include "testsupport.h"
 #include "times.h"
 #include "whenshown.h"
+#include "window/reviewpanes.h"
 
 #include <CorvelGui/FilterLineEdit>
-#include <CorvelGui/PCsvDialog>
 #include <CorvelGui/PIpRangeDialog>
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -64,7 +61,6 @@ private Q_SLOTS:
     void eventsSort_data();
     void eventsSort();
     void eventsAreFiltered();
-    void eventsAreExported();
     void stateFollowsTheIndicator();
     void groupChecksItsCameras();
     void rangeAddsCameras();
@@ -131,38 +127,6 @@ void TestReviewLists::eventsAreFiltered()
     QCOMPARE(shown({}), u"No 10, no 9, Älter"_s);
 }
 
-void TestReviewLists::eventsAreExported()
-{
-    const QTemporaryDir dir;
-    SampleWindow sample(u"UTC"_s, {}, review());
-    const auto exported = [&] {
-        const QString path = dir.filePath(u"events.csv"_s);
-        whenShown<CorvelGui::PCsvDialog>(&sample.window, [&path](CorvelGui::PCsvDialog& dialog) {
-            dialog.findChild<QLineEdit*>(u"lineEditExportToFile"_s)->setText(path);
-            dialog.findChild<QCheckBox*>(u"checkBoxOpenExcel"_s)->setChecked(false);
-            dialog.findChild<QCheckBox*>(u"checkBoxAddColumns"_s)->setChecked(false);
-            QMetaObject::invokeMethod(&dialog, "slotAccept");
-        });
-        sample.action(u"Export events…"_s)->trigger();
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray();
-    };
-    const QByteArray gate = "\"28.02.2026 12:00:00\";\"Person\";\"No 10\";\"<b>Gate</b>\"\n";
-    const QByteArray fence = "\"01.03.2026 12:00:00\";\"Vehicle\";\"no 9\";\"Fence\"\n";
-    const QByteArray alarm = "\"02.03.2026 06:00:00\";\"Alarm\";\"Älter\";\"<b>Gate</b>\"\n";
-    sample.events()->setCurrentCell(1, 0);
-    QCOMPARE(exported(), gate + fence + alarm);
-    QCOMPARE(sample.events()->GetSelectedRows(), QList<int>{1});
-
-    // Several selected events, without those that are hidden.
-    sample.events()->selectAll();
-    filter(sample, u"Filter events"_s)->setText(u"gate"_s);
-    QCOMPARE(exported(), gate + alarm);
-    QCOMPARE(sample.events()->GetSelectedRows().size(), 3);
-    filter(sample, u"Filter events"_s)->setText(u"alarm"_s);
-    QCOMPARE(exported(), alarm);
-}
-
 void TestReviewLists::stateFollowsTheIndicator()
 {
     const SampleWindow sample(u"Australia/Darwin"_s, {}, review());
@@ -207,13 +171,14 @@ void TestReviewLists::groupChecksItsCameras()
 
 void TestReviewLists::rangeAddsCameras()
 {
-    const SampleWindow sample(u"UTC"_s, {}, review());
+    SampleWindow sample(u"UTC"_s, {}, review());
     sample.device(u"Fence"_s)->setCheckState(0, Qt::Unchecked);
     int refusals = 0;
     const auto add = [&](const QString& address, int prefix) {
         whenShown<PIpRangeDialog>(this, [&, address, prefix](PIpRangeDialog& dialog) {
             dialog.findChild<QLineEdit*>(u"lineEditIp"_s)->setText(address);
             auto* masks = dialog.findChild<QComboBox*>(u"comboBoxMask"_s);
+            QCOMPARE(masks->currentData(), 24);
             if (masks->findData(prefix) < 0)
                 qFatal("There is no such mask");
             masks->setCurrentIndex(masks->findData(prefix));
@@ -245,6 +210,14 @@ void TestReviewLists::rangeAddsCameras()
     QVERIFY(!sample.action(u"Remove added cameras"_s)->isEnabled());
     QCOMPARE(sample.device(u"Fence"_s)->checkState(0), Qt::Unchecked);
     QCOMPARE(sample.device(u"Roof"_s)->checkState(0), Qt::Checked);
+
+    // The same data in another language, and other data.
+    sample.window.findChild<ReviewPanes*>()->setTexts(review());
+    QCOMPARE(sample.device(u"Added cameras"_s)->childCount(), 12);
+    QCOMPARE(sample.device(u"Fence"_s)->checkState(0), Qt::Unchecked);
+    sample.window.setReview(review());
+    QCOMPARE(sample.device(u"Added cameras"_s)->childCount(), 0);
+    QCOMPARE(sample.device(u"Cameras"_s)->checkState(0), Qt::Checked);
 }
 
 void TestReviewLists::addressesSortAndFilter()

@@ -1,28 +1,20 @@
 #include "data/trackhistory.h"
-#include "export/exportdialog.h"
 #include "playback/player.h"
+#include "playback/speedmenu.h"
 #include "samplewindow.h"
 #include "session/clock.h"
 #include "session/selection.h"
 #include "testsupport.h"
 #include "timeline/timelinepane.h"
 #include "times.h"
-#include "whenshown.h"
+#include "video/camerafeed.h"
 
 #include <CorvelGui/BusyIndicator>
 #include <CorvelGui/Indicator>
 #include <CorvelGui/TarvoDateTimeView>
 
-#include <QDialogButtonBox>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QPointer>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -91,9 +83,7 @@ private Q_SLOTS:
     void spaceBarIsShared();
     void loadingIsCovered();
     void visitorsComeAndGo();
-    void exportEnds_data();
-    void exportEnds();
-    void exportIsAsked();
+    void speedsHaveKeys();
 };
 
 void TestReviewPlayback::aDayTurnsPages()
@@ -275,92 +265,30 @@ void TestReviewPlayback::visitorsComeAndGo()
     QCOMPARE(feed.sceneAt(monday + 2 * hour).state, TrackState::Gap);
 }
 
-void TestReviewPlayback::exportEnds_data()
+void TestReviewPlayback::speedsHaveKeys()
 {
-    QTest::addColumn<PictureExport::Outcome>("outcome");
-    QTest::addColumn<int>("cancelAfter");
-    QTest::addColumn<QString>("obstacle");
-    QTest::addColumn<int>("files");
-    QTest::newRow("complete") << PictureExport::Outcome::Complete << -1 << QString() << 6;
-    QTest::newRow("cancelled") << PictureExport::Outcome::Cancelled << 2 << QString() << 2;
-    QTest::newRow("existing file")
-        << PictureExport::Outcome::Failed << -1 << u"Gate__1___2026-03-02T000004Z.png"_s << 3;
-    QTest::newRow("no folder") << PictureExport::Outcome::Failed << -1 << u"."_s << 0;
-}
-
-void TestReviewPlayback::exportEnds()
-{
-    QFETCH(const PictureExport::Outcome, outcome);
-    QFETCH(const int, cancelAfter);
-    QFETCH(const QString, obstacle);
-    QTemporaryDir folder;
-    if (obstacle == u"."_s) {
-        folder.remove();
-    } else if (!obstacle.isEmpty()) {
-        QFile file(folder.filePath(obstacle));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    const CameraFeed feed({u"a"_s, u"Gate/(1)?"_s, monday, monday + day}, {}, TimeTexts(u"UTC"_s));
-    PictureExport job(feed, {{monday, monday + 10'001}, 2, folder.path()});
-    QCOMPARE(job.existingFiles(), obstacle.endsWith(u".png"_s) ? 1 : 0);
-    QList<PictureExport::Outcome> outcomes;
-    connect(&job, &PictureExport::progressed, this, [&](int written) {
-        if (written == cancelAfter)
-            job.cancel();
-    });
-    connect(&job, &PictureExport::ended, this, [&](auto how) { outcomes.append(how); });
-    job.start();
-    QTRY_COMPARE(outcomes.size(), 1);
-    QCoreApplication::processEvents();
-    QCOMPARE(outcomes, {outcome});
-
-    const QStringList names = QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
-    QTEST(int(names.size()), "files");
-    for (const QString& name : names) {
-        if (name != obstacle)
-            QCOMPARE(QImage(folder.filePath(name)).size(), CameraPicture::size);
-        else
-            QCOMPARE(QFileInfo(folder.filePath(name)).size(), 0);
-    }
-}
-
-void TestReviewPlayback::exportIsAsked()
-{
-    const QTemporaryDir folder;
-    const SampleWindow sample(u"UTC"_s);
-    const auto exportDays = [&] {
-        whenShown<ExportDialog>(this, [&](ExportDialog& dialog) {
-            auto* interval = dialog.findChild<QSpinBox*>();
-            QPushButton* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-            dialog.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)
-                ->setText(folder.path());
-            interval->setValue(1); // a million pictures
-            QVERIFY(!ok->isEnabled());
-            interval->setValue(86'400);
-            QTest::mouseClick(ok, Qt::LeftButton);
-        });
-        sample.action(u"Export &pictures…"_s)->trigger();
+    Playing playing;
+    SpeedMenu menu(playing.player);
+    QAction* slower = menu.actions()[0];
+    QAction* faster = menu.actions()[1];
+    const auto speedsAfter = [&](QAction* action, int times) {
+        for (int i = 0; i < times; ++i)
+            action->trigger();
+        return playing.bar.playbackSpeed();
     };
-    const auto files = [&] {
-        return QDir(folder.path()).entryList(QDir::Files).size();
-    };
-    exportDays();
-    QVERIFY(sample.withText<QProgressBar>(u"0.0%"_s)->isVisible());
-    QVERIFY(!sample.action(u"Export &pictures…"_s)->isEnabled());
-    QTRY_COMPARE(sample.window.statusBar()->currentMessage(), u"Pictures exported: 14"_s);
-    QCOMPARE(files(), 14);
-
-    QString question;
-    whenShown<QMessageBox>(this, [&](QMessageBox& box) {
-        question = box.text();
-        box.button(QMessageBox::No)->click();
-    });
-    QFile first(QDir(folder.path()).filePath(u"Main_gate_2026-03-02T000000Z.png"_s));
-    QVERIFY(first.resize(0));
-    exportDays();
-    QCOMPARE(question, u"Files that exist already: 14 of 14. Replace them?"_s);
-    QCOMPARE(first.size(), 0);
-    QVERIFY(sample.action(u"Export &pictures…"_s)->isEnabled());
+    QCOMPARE(speedsAfter(slower, 1), PPlaybar::Speed1_2);
+    QCOMPARE(playing.bar.playbackState(), PPlaybar::SlowForward);
+    playing.tick(1'000);
+    QCOMPARE(playing.selection.moment(), monday + 500);
+    QCOMPARE(speedsAfter(slower, 3), PPlaybar::Speed1_8);
+    QCOMPARE(speedsAfter(faster, 20), PPlaybar::Speed1024);
+    playing.player.pause();
+    QCOMPARE(speedsAfter(faster, 1), PPlaybar::Speed2);
+    playing.setSpeed(PPlaybar::Reverse, PPlaybar::Speed1);
+    QCOMPARE(speedsAfter(slower, 1), PPlaybar::Speed1_2);
+    QCOMPARE(playing.bar.playbackState(), PPlaybar::SlowReverse);
+    speedsAfter(faster, 1);
+    QCOMPARE(playing.bar.playbackState(), PPlaybar::Reverse);
 }
 
 QTEST_MAIN(TestReviewPlayback)

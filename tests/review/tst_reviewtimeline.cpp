@@ -254,7 +254,7 @@ void TestReviewTimeline::previewSaysWhatIsKnown()
     QCOMPARE(preview(monday + 30 * minute).sliced(1),
              QStringList({u"<b>Gate</b>: no recording"_s, u"Fence: recorded"_s}));
     QCOMPARE(preview(monday + 12 * hour).sliced(1),
-             QStringList({u"<b>Gate</b>: recorded"_s, u"Fence: not described"_s}));
+             QStringList({u"<b>Gate</b>: recorded"_s, u"Fence: nothing known"_s}));
     QVERIFY(card->isVisible());
     preview(0);
     QVERIFY(!card->isVisible());
@@ -287,7 +287,7 @@ void TestReviewTimeline::zoneChangesAllTexts()
     sample.action(u"Ranges"_s)->trigger();
     const auto texts = [&] {
         QStringList all;
-        all.append(sample.device(u"Fence"_s)->text(DeviceItem::DescribedFrom));
+        all.append(sample.device(u"Fence"_s)->text(DeviceItem::KnownFrom));
         all.append(sample.events()->item(0, EventTexts::Time)->text());
         for (const InstantEdit* edit : sample.window.findChildren<InstantEdit*>())
             all.append(edit->text());
@@ -323,8 +323,13 @@ void TestReviewTimeline::rangesAreAsked()
     Ruler* ruler = sample.ruler();
     sample.action(u"Ranges"_s)->trigger();
     const QList<InstantEdit*> edits = sample.window.findChildren<InstantEdit*>();
-    edits[0]->setDateTime(edits[0]->dateTime().addSecs(11 * 3'600));
-    edits[1]->setDateTime(edits[0]->dateTime().addSecs(3 * 3'600));
+    const auto type = [](InstantEdit* edit, const QString& text) {
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+        QTest::keyClick(edit, Qt::Key_Return);
+    };
+    type(edits[0], u"11:00:00"_s);
+    type(edits[1], u"2.3.2026 14:00"_s);
 
     press(sample, u"Search range"_s);
     QCOMPARE(viewSpan(ruler), 3 * hour);
@@ -358,11 +363,19 @@ void TestReviewTimeline::rangesAreAsked()
     }
     QCOMPARE(edits[0]->instant(), monday + 3 * hour);
     QCOMPARE(edits[1]->instant(), monday + 2 * hour);
-    edits[1]->setDateTime(edits[1]->dateTime().addDays(40));
+    type(edits[1], u"noon"_s);
     QVERIFY(!sample.says(reversed));
-    edits[0]->setDateTime(edits[0]->dateTime().addDays(30));
+    QCOMPARE(edits[1]->text(), u"noon"_s);
+    const QString unreadable = u"“noon” is not a date and time such as 02.03.2026 02:00:00."_s;
+    QVERIFY(sample.says(unreadable));
+    type(edits[0], u"3.3.2026 00:00:02"_s);
+    const QString unknown = u"Nothing is known of 03.03.2026 00:00:02. Choose a time from "
+                            "02.03.2026 00:00:00 to 03.03.2026 00:00:00."_s;
+    QVERIFY(sample.says(unknown));
+    edits[1]->setInstant(monday + 3 * hour);
     press(sample, u"Search range"_s);
-    QVERIFY(sample.says(u"Nothing is known of this range."_s));
+    QVERIFY(sample.says(unknown));
+    QCOMPARE(edits[0]->instant(), monday + day + 2 * second);
     QCOMPARE(ruler->grab().toImage(), before);
 }
 
@@ -378,8 +391,21 @@ void TestReviewTimeline::instantsOutlastTheClock()
     clock.setZone(u"America/New_York"_s);
     QCOMPARE(edit.text(), u"24.10.2026 21:30:00"_s);
     QCOMPARE(edit.instant(), second0230);
-    edit.stepUp();
-    QVERIFY(edit.instant() != second0230);
+    clock.setZone(u"Europe/Brussels"_s);
+    QTest::keyClicks(&edit, u"x"_s);
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+    QCOMPARE(edit.instant(), second0230);
+    QTest::keyClick(&edit, Qt::Key_Up);
+    QCOMPARE(edit.instant(), second0230 + second);
+    for (const auto& [place, sum] : {std::pair(0, day), std::pair(12, -hour)}) {
+        const qint64 before = edit.instant();
+        edit.setCursorPosition(place);
+        QTest::keyClick(&edit, sum > 0 ? Qt::Key_Up : Qt::Key_Down);
+        QCOMPARE(edit.instant(), before + sum);
+    }
+    edit.setText({});
+    QTest::keyClicks(&edit, u"29.3.2026 02:30"_s);
+    QCOMPARE(edit.fault(), u"The clocks are put forward past 29.3.2026 02:30."_s);
 }
 
 void TestReviewTimeline::manyEventsLoad()

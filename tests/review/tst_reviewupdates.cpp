@@ -1,16 +1,21 @@
 #include "samplewindow.h"
 #include "testsupport.h"
 #include "useranswers.h"
+#include "whenshown.h"
 #include "window/updatemenu.h"
 
+#include <CorvelGui/PChangeLogDialog>
+
 #include <QProcess>
-#include <QProgressBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextEdit>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString waiting = u"Waiting for the update server"_s;
 
 /// The update server's program, on a free port.
 class ServerProgram
@@ -51,7 +56,21 @@ private Q_SLOTS:
     void initTestCase();
     void updatesAreDownloaded_data();
     void updatesAreDownloaded();
+    void changeLogIsFetched();
+    void requestsAreShown();
 };
+
+namespace {
+
+void useServer(const SampleWindow& sample, const QString& base)
+{
+    sample.window.findChild<Review::UpdateMenu*>()->setServers(
+        {.internalChannel = base + u"/internal/"_s,
+         .publicServer = base + u'/',
+         .queryServer = base});
+}
+
+} // namespace
 
 void TestReviewUpdates::initTestCase()
 {
@@ -86,10 +105,7 @@ void TestReviewUpdates::updatesAreDownloaded()
     const ServerProgram program(server);
     QVERIFY2(program.base().startsWith(u"http://127.0.0.1:"_s), qPrintable(program.base()));
     const SampleWindow sample(u"UTC"_s);
-    sample.window.findChild<Review::UpdateMenu*>()->setServers(
-        {.internalChannel = program.base() + u"/internal/"_s,
-         .publicServer = program.base() + u'/',
-         .queryServer = program.base()});
+    useServer(sample, program.base());
     const QTemporaryDir folder;
     UserAnswers user;
     user.savePath = folder.filePath(u"setup.exe"_s);
@@ -106,7 +122,39 @@ void TestReviewUpdates::updatesAreDownloaded()
     QCOMPARE(kinds(), said);
     const QFileInfo installer(user.savePath);
     QCOMPARE(installer.size(), said.contains(u"Save"_s) ? 300'000 : 0);
-    QVERIFY(!sample.window.findChild<QProgressBar*>()->isVisible());
+    QTRY_VERIFY(!sample.withText<QLabel>(waiting)->isVisible());
+}
+
+void TestReviewUpdates::changeLogIsFetched()
+{
+    const ServerProgram program({});
+    const SampleWindow sample(u"UTC"_s);
+    useServer(sample, program.base());
+    for (const bool again : {false, true}) {
+        QString notes;
+        whenShown<CorvelGui::PChangeLogDialog>(this, [&](CorvelGui::PChangeLogDialog& dialog) {
+            notes = dialog.findChild<QTextEdit*>()->toPlainText();
+            dialog.close();
+        });
+        sample.action(u"Show change log"_s)->trigger();
+        QTRY_VERIFY2(!notes.isEmpty(), again ? "once more" : "before a check");
+    }
+}
+
+void TestReviewUpdates::requestsAreShown()
+{
+    const ServerProgram program({u"--misbehave"_s, u"never"_s});
+    const SampleWindow sample(u"UTC"_s);
+    useServer(sample, program.base());
+    for (const QString& name :
+         {u"Check version file"_s, u"Show change log"_s, u"Ask update server"_s}) {
+        sample.action(name)->trigger();
+        QTRY_VERIFY(sample.withText<QLabel>(waiting)->isVisible());
+        QVERIFY(!sample.action(name)->isEnabled());
+        useServer(sample, program.base() + name.left(1)); // gives up
+        QVERIFY(!sample.withText<QLabel>(waiting)->isVisible());
+        useServer(sample, program.base());
+    }
 }
 
 QTEST_MAIN(TestReviewUpdates)

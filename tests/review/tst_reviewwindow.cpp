@@ -46,7 +46,7 @@ void TestReviewWindow::actionsMoveTheView()
 {
     const SampleWindow sample(u"UTC"_s);
     QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
-    QVERIFY(sample.says(u"Tracks: 4    Recordings: 2,721    Events: 1,631"_s));
+    QVERIFY(sample.says(u"Cameras: 4    Recordings: 2,721    Events: 1,631"_s));
     QCOMPARE(enabledActions(sample), u"Zoom in"_s);
 
     // The level of fourteen days would show the same as the whole period. The indicator at its
@@ -100,8 +100,8 @@ void TestReviewWindow::timesStandInTheZone()
     const SampleWindow sample(u"Australia/Darwin"_s);
     QVERIFY(sample.says(u"02.03.2026 09:30:00 – 16.03.2026 09:30:00 (Australia/Darwin)"_s));
     const QTreeWidgetItem* fence = sample.device(u"North fence"_s);
-    QCOMPARE(fence->text(DeviceItem::DescribedFrom), u"02.03.2026 09:30:00"_s);
-    QCOMPARE(fence->text(DeviceItem::DescribedTo), u"12.03.2026 19:30:00"_s);
+    QCOMPARE(fence->text(DeviceItem::KnownFrom), u"02.03.2026 09:30:00"_s);
+    QCOMPARE(fence->text(DeviceItem::KnownTo), u"12.03.2026 19:30:00"_s);
 }
 
 void TestReviewWindow::problemsAreListed()

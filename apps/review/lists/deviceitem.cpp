@@ -68,8 +68,8 @@ void DeviceItem::showTexts()
     setText(Recordings, QLocale().toString(m_track.recorded.size()));
     setText(RecordedTime, TimeTexts::duration(m_history.recordedTime()));
     if (m_hasTrack) {
-        setText(DescribedFrom, m_moment.times.dateTime(m_track.begin));
-        setText(DescribedTo, m_moment.times.dateTime(m_track.end));
+        setText(KnownFrom, m_moment.times.dateTime(m_track.begin));
+        setText(KnownTo, m_moment.times.dateTime(m_track.end));
     }
     showState();
 }
@@ -93,9 +93,9 @@ qint64 DeviceItem::sortValue(int column) const
         return m_track.recorded.size();
     case RecordedTime:
         return m_history.recordedTime();
-    case DescribedFrom:
+    case KnownFrom:
         return m_track.begin;
-    case DescribedTo:
+    case KnownTo:
         return m_track.end;
     case Address:
         return m_address ? qint64(*m_address) : -1;

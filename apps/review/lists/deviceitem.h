@@ -29,16 +29,7 @@ class DeviceItem : public CorvelGui::PTreeWidgetItem
     Q_DECLARE_TR_FUNCTIONS(Review::DeviceItem)
 
 public:
-    enum Column {
-        Name,
-        State,
-        Recordings,
-        RecordedTime,
-        DescribedFrom,
-        DescribedTo,
-        Address,
-        ColumnCount
-    };
+    enum Column { Name, State, Recordings, RecordedTime, KnownFrom, KnownTo, Address, ColumnCount };
 
     /// Becomes the last child of @p group, checked. The moment must outlive the item.
     DeviceItem(QTreeWidgetItem* group, const CorvelGui::TrackDescription& track,

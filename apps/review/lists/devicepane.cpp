@@ -64,6 +64,11 @@ DevicePane::DevicePane(const Clock& clock, Selection& selection, QWidget* parent
     retranslate();
 }
 
+void DevicePane::removeAll()
+{
+    m_tree->removeAll();
+}
+
 void DevicePane::setReview(const ReviewData& review)
 {
     m_tree->setReview(review);
@@ -93,6 +98,8 @@ void DevicePane::askForRange()
 {
     // The dialog keeps what was typed until it can be used. It goes with the pane.
     const QPointer<PIpRangeDialog> dialog = new PIpRangeDialog(this);
+    constexpr int usualMask = 24;
+    dialog->setMask(usualMask);
     while (dialog && dialog->exec() == QDialog::Accepted && dialog) {
         const auto address = DeviceAddress::parse(dialog->getIp());
         const int prefix = dialog->getMask();

@@ -28,7 +28,9 @@ public:
     /// Owns neither; both must live longer.
     DevicePane(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
 
-    /// Replaces all tracks.
+    /// Forgets all cameras, also those that were added.
+    void removeAll();
+    /// Replaces all tracks. What the user unchecked or added stays.
     void setReview(const ReviewData& review);
 
     /// In the order of the rows. All tracks are checked at first.

@@ -59,21 +59,32 @@ QList<DeviceItem*> DeviceTree::devices() const
     return devicesOf(m_cameras) + devicesOf(m_added);
 }
 
+void DeviceTree::removeAll()
+{
+    const QSignalBlocker blocker(this);
+    m_cameras->DeleteAllChildren();
+    remove(devicesOf(m_added));
+    showRows(m_filter);
+    scrollToTop();
+}
+
 void DeviceTree::setReview(const ReviewData& review)
 {
     m_moment.events = review.events;
+    const QSet<QString> unchecked = uncheckedTracks();
     const QSignalBlocker blocker(this);
     m_cameras->DeleteAllChildren();
     QSet<quint32> taken;
     for (const TrackDescription& track : review.tracks) {
-        const auto* device = new DeviceItem(m_cameras, track, m_moment);
+        auto* device = new DeviceItem(m_cameras, track, m_moment);
+        device->setChecked(DeviceItem::Name, !unchecked.contains(track.identifier));
         if (device->address())
             taken.insert(*device->address());
     }
     QList<DeviceItem*> known = devicesOf(m_added);
     known.removeIf([&](const DeviceItem* device) { return !taken.contains(*device->address()); });
     remove(known);
-    m_cameras->setChecked(DeviceItem::Name, true);
+    showChecksOfGroup();
     sortGroups();
     showRows(m_filter);
     fitColumns();
@@ -85,7 +96,7 @@ void DeviceTree::fitColumns()
         resizeColumnToContentsWithOffset(column, 0);
     // The state changes while the time goes on; the column does not.
     int widest = 0;
-    for (const TrackState state : {TrackState::Recorded, TrackState::Gap, TrackState::NotDescribed})
+    for (const TrackState state : {TrackState::Recorded, TrackState::Gap, TrackState::NothingKnown})
         widest = std::max(widest, fontMetrics().horizontalAdvance(StateSign::text(state)));
     constexpr int signAndMargins = 44;
     setColumnWidth(DeviceItem::State,
@@ -243,7 +254,7 @@ void DeviceTree::retranslate()
 {
     const QSignalBlocker blocker(this);
     setHeaderLabels({tr("Camera"), tr("State"), tr("Recordings"), tr("Recorded time"),
-                     tr("Described from"), tr("Described to"), tr("Address")});
+                     tr("Known from"), tr("Known to"), tr("Address")});
     for (const int column : {DeviceItem::Recordings, DeviceItem::RecordedTime})
         headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     m_cameras->setText(DeviceItem::Name, tr("Cameras"));

@@ -22,8 +22,10 @@ public:
     /// Owns neither; both must live longer.
     DeviceTree(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
 
-    /// Replaces all cameras with tracks; all are checked. What was added by address stays, unless
-    /// one of the tracks has the address.
+    /// Forgets all cameras, also those that were added by address.
+    void removeAll();
+    /// Replaces all cameras with tracks. Those that were unchecked are so again, and what was added
+    /// by address stays, unless one of the tracks has the address.
     void setReview(const ReviewData& review);
     /// Adds a camera for each address that has none. Returns how many were added.
     int addCameras(const QList<quint32>& addresses);

@@ -51,7 +51,7 @@ QString StateSign::text(TrackState state)
         return tr("Recorded");
     case TrackState::Gap:
         return tr("No recording");
-    case TrackState::NotDescribed:
+    case TrackState::NothingKnown:
         break;
     }
     return tr("Nothing known");
@@ -68,7 +68,7 @@ void StateSign::paint(QPainter& painter, const QRectF& area, TrackState state, c
         painter.setPen(QPen(line, 1));
         painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));
         break;
-    case TrackState::NotDescribed:
+    case TrackState::NothingKnown:
         painter.setPen(QPen(line, 1, Qt::DotLine));
         painter.drawLine(QPointF(area.left(), area.center().y()),
                          QPointF(area.right(), area.center().y()));

@@ -11,15 +11,20 @@ namespace Review {
 
 QString TimeFormat::pattern() const
 {
+    return datePattern() + u" HH:mm:ss"_s;
+}
+
+QString TimeFormat::datePattern() const
+{
     switch (order) {
     case Order::YearFirst:
-        return u"yyyy-MM-dd HH:mm:ss"_s;
+        return u"yyyy-MM-dd"_s;
     case Order::MonthFirst:
-        return u"MM/dd/yyyy HH:mm:ss"_s;
+        return u"MM/dd/yyyy"_s;
     case Order::DayFirst:
         break;
     }
-    return u"dd.MM.yyyy HH:mm:ss"_s;
+    return u"dd.MM.yyyy"_s;
 }
 
 TimeTexts::TimeTexts(const QString& zoneName, const TimeFormat& format)

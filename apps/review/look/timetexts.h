@@ -15,7 +15,8 @@ struct TimeFormat
     /// Where a single moment is shown; lists do without.
     bool milliseconds = true;
 
-    /// For QDateTime::toString() and edits, down to the seconds.
+    /// For QDateTime::toString() and edits: the date, and all down to the seconds.
+    QString datePattern() const;
     QString pattern() const;
 
     bool operator==(const TimeFormat&) const = default;

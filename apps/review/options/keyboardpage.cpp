@@ -1,5 +1,7 @@
 #include "keyboardpage.h"
 
+#include "playback/speedmenu.h"
+
 #include <QFormLayout>
 #include <QKeySequenceEdit>
 #include <QLabel>
@@ -36,6 +38,7 @@ void KeyboardPage::build(QFormLayout& form)
         m_rows.append({button, addRow(form, edit), edit});
         connect(edit, &QKeySequenceEdit::keySequenceChanged, this, &KeyboardPage::showConflicts);
     }
+    m_speeds = addNote(form);
     m_message = addNote(form);
     m_message->setTextFormat(Qt::PlainText);
 }
@@ -73,6 +76,9 @@ void KeyboardPage::retranslateFields()
         row.edit->clear();
         row.edit->setKeySequence(keys);
     }
+    m_speeds->setText(tr("%1 plays slower, %2 faster. The playback menu has all speeds.")
+                          .arg(SpeedMenu::slowerKeys().toString(QKeySequence::NativeText),
+                               SpeedMenu::fasterKeys().toString(QKeySequence::NativeText)));
     showConflicts();
 }
 

@@ -45,6 +45,7 @@ private:
 
     const UsedShortcuts m_usedElsewhere;
     QList<Row> m_rows;
+    QLabel* m_speeds = nullptr;
     QLabel* m_message = nullptr;
 };
 

@@ -72,7 +72,7 @@ void Player::setPeriod(const TimeSpan& period)
 void Player::setTrack(const TrackHistory* track)
 {
     m_hasTrack = track != nullptr;
-    m_track = track ? track->described() : TimeSpan();
+    m_track = track ? track->known() : TimeSpan();
     m_clock.setRecorded(track ? track->recorded() : QList<TimeSpan>());
     applyGaps();
 }
@@ -86,6 +86,28 @@ void Player::setSkippingGaps(bool skip)
 void Player::applyGaps()
 {
     m_clock.setSkippingGaps(m_skippingGaps && m_hasTrack);
+}
+
+PPlaybar::PlaybackSpeed Player::speed() const
+{
+    return m_bar->playbackSpeed();
+}
+
+void Player::setSpeed(PPlaybar::PlaybackSpeed speed)
+{
+    if (m_period.isEmpty())
+        return;
+    if (!m_playing)
+        m_selection.reveal();
+    const bool backwards = m_bar->playbackState() < PPlaybar::Pause;
+    if (speed < PPlaybar::Speed1)
+        m_bar->setPlaybackState(backwards ? PPlaybar::SlowReverse : PPlaybar::SlowForward);
+    else if (speed == PPlaybar::Speed1)
+        m_bar->setPlaybackState(backwards ? PPlaybar::Reverse : PPlaybar::Play);
+    else
+        m_bar->setPlaybackState(backwards ? PPlaybar::FastBackward : PPlaybar::FastForward);
+    m_bar->setPlaybackSpeed(speed);
+    followBar();
 }
 
 void Player::pause()

@@ -39,6 +39,11 @@ public:
     void setShortcuts(const Shortcuts& shortcuts) { m_keys.setShortcuts(shortcuts); }
     const Shortcuts& shortcuts() const { return m_keys.shortcuts(); }
 
+    /// Zero while paused.
+    CorvelGui::PPlaybar::PlaybackSpeed speed() const;
+    /// Plays at @p speed in the direction in which it plays already, or forwards.
+    void setSpeed(CorvelGui::PPlaybar::PlaybackSpeed speed);
+
     bool isPlaying() const { return m_playing; }
 
 public Q_SLOTS:

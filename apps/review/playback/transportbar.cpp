@@ -43,16 +43,29 @@ TransportBar::TransportBar(const Clock& clock, Selection& selection, QWidget* pa
     connect(m_time, &TarvoDateTimeView::jumoToTime, &selection,
             [&selection](const QDateTime& time) { selection.goTo(time.toMSecsSinceEpoch()); });
     connect(&selection, &Selection::momentChanged, this, &TransportBar::showMoment);
-    connect(&clock, &Clock::changed, this, &TransportBar::showMoment);
-    connect(&clock, &Clock::changed, this, &TransportBar::showView);
-    setPlayable(false);
+    connect(&clock, &Clock::changed, this, &TransportBar::followClock);
+    setPeriod({});
     retranslate();
 }
 
-void TransportBar::setPlayable(bool playable)
+void TransportBar::setPeriod(const TimeSpan& period)
 {
+    m_period = period;
     for (QWidget* part : QList<QWidget*>{m_time, m_playbar, m_skipGaps})
-        part->setEnabled(playable);
+        part->setEnabled(!period.isEmpty());
+    followClock();
+}
+
+void TransportBar::followClock()
+{
+    const TimeTexts& times = m_clock.times();
+    const auto inZone = [&times](qint64 msecs) {
+        return QDateTime::fromMSecsSinceEpoch(msecs, times.zone());
+    };
+    m_time->setDateFormat(times.format().datePattern());
+    m_time->setJumpLimits(inZone(m_period.begin), inZone(m_period.end));
+    showMoment();
+    showView();
 }
 
 void TransportBar::setView(const TimeSpan& view)

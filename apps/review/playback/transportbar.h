@@ -33,8 +33,8 @@ public:
     CorvelGui::TarvoDateTimeView* timeView() const { return m_time; }
     QCheckBox* skipGaps() const { return m_skipGaps; }
 
-    /// Without a period there is nothing to play.
-    void setPlayable(bool playable);
+    /// What there is to play. Without it the bar is disabled.
+    void setPeriod(const CorvelGui::TimeSpan& period);
     /// What the timeline shows; empty for nothing.
     void setView(const CorvelGui::TimeSpan& view);
 
@@ -42,11 +42,13 @@ protected:
     void retranslate() final;
 
 private:
+    void followClock();
     void showMoment();
     void showView();
 
     const Clock& m_clock;
     Selection& m_selection;
+    CorvelGui::TimeSpan m_period;
     CorvelGui::TimeSpan m_view;
     CorvelGui::TarvoDateTimeView* m_time;
     CorvelGui::PPlaybar* m_playbar;

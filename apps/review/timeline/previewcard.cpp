@@ -70,7 +70,7 @@ void PreviewCard::setContent(const PreviewContent& content)
     for (const auto& track : content.tracks.first(std::min(mostTracks, content.tracks.size()))) {
         const QString remark = track.state == TrackState::Recorded ? tr("recorded")
                                : track.state == TrackState::Gap    ? tr("no recording")
-                                                                   : tr("not described");
+                                                                   : tr("nothing known");
         m_lines.append({.sign = Line::Sign::Track,
                         .state = track.state,
                         .text = track.name,

@@ -52,7 +52,7 @@ private:
 
         Sign sign = Sign::None;
         EventKind kind = EventKind::Other;
-        TrackState state = TrackState::NotDescribed;
+        TrackState state = TrackState::NothingKnown;
         QString text = {};
         QString remark = {};
     };

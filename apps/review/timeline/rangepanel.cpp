@@ -1,12 +1,16 @@
 #include "rangepanel.h"
 
 #include "instantedit.h"
+#include "session/clock.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+
+#include <algorithm>
 
 using CorvelGui::TimeSpan;
 
@@ -25,6 +29,7 @@ QCheckBox* createCheckBox(bool checked, QWidget* parent)
 
 RangePanel::RangePanel(const Clock& clock, QWidget* parent)
     : Translated(parent)
+    , m_clock(clock)
     , m_fromLabel(new QLabel(this))
     , m_from(new InstantEdit(clock, this))
     , m_toLabel(new QLabel(this))
@@ -44,8 +49,10 @@ RangePanel::RangePanel(const Clock& clock, QWidget* parent)
     m_message->setWordWrap(true);
     createLayout();
 
-    for (InstantEdit* edit : {m_from, m_to})
-        connect(edit, &QDateTimeEdit::dateTimeChanged, m_message, &QLabel::clear);
+    for (InstantEdit* edit : {m_from, m_to}) {
+        connect(edit, &InstantEdit::edited, m_message, &QLabel::clear);
+        connect(edit, &QLineEdit::editingFinished, this, [this, edit] { tell(faultOf(*edit)); });
+    }
     connect(m_fromView, &QPushButton::clicked, this, &RangePanel::viewWanted);
     connect(m_search, &QPushButton::clicked, this, [this] {
         if (checkRange())
@@ -73,7 +80,10 @@ void RangePanel::setPeriod(const TimeSpan& period)
 
 TimeSpan RangePanel::range() const
 {
-    return {.begin = m_from->instant(), .end = m_to->instant()};
+    const auto inPeriod = [this](qint64 msecs) {
+        return std::min(std::max(msecs, m_period.begin), m_period.end);
+    };
+    return {.begin = inPeriod(m_from->instant()), .end = inPeriod(m_to->instant())};
 }
 
 void RangePanel::setRange(const TimeSpan& range)
@@ -124,16 +134,42 @@ void RangePanel::retranslate()
     m_message->clear();
 }
 
+// Why the edit cannot be used, or an empty string.
+QString RangePanel::faultOf(const InstantEdit& edit) const
+{
+    if (const QString fault = edit.fault(); !fault.isEmpty())
+        return fault;
+    // The edits show whole seconds: what looks like the begin or the end is meant to be that.
+    constexpr qint64 second = 1'000;
+    const qint64 msecs = edit.instant();
+    if (msecs > m_period.begin - second && msecs < m_period.end + second)
+        return {};
+    const TimeTexts& times = m_clock.times();
+    return tr("Nothing is known of %1. Choose a time from %2 to %3.")
+        .arg(times.dateTime(msecs), times.dateTime(m_period.begin), times.dateTime(m_period.end));
+}
+
+void RangePanel::tell(const QString& fault)
+{
+    m_message->setText(fault);
+    if (fault.isEmpty())
+        return;
+    QAccessibleEvent alert(m_message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
 bool RangePanel::checkRange()
 {
-    const TimeSpan wanted = range();
-    if (wanted.isEmpty())
-        m_message->setText(tr("The range must end after it begins."));
-    else if (wanted.end <= m_period.begin || wanted.begin >= m_period.end)
-        m_message->setText(tr("Nothing is known of this range."));
-    else
-        m_message->clear();
-    return m_message->text().isEmpty();
+    for (InstantEdit* edit : {m_from, m_to}) {
+        if (const QString fault = faultOf(*edit); !fault.isEmpty()) {
+            edit->setFocus();
+            tell(fault);
+            return false;
+        }
+    }
+    const bool isRange = !range().isEmpty();
+    tell(isRange ? QString() : tr("The range must end after it begins."));
+    return isRange;
 }
 
 } // namespace Review

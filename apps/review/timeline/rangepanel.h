@@ -24,9 +24,10 @@ class RangePanel : public Translated<QWidget>
 public:
     explicit RangePanel(const Clock& clock, QWidget* parent = nullptr);
 
-    /// Ranges that do not touch @p period are not asked for.
+    /// Ranges beyond @p period are not asked for.
     void setPeriod(const CorvelGui::TimeSpan& period);
 
+    /// What is in the edits, within the period.
     CorvelGui::TimeSpan range() const;
     void setRange(const CorvelGui::TimeSpan& range);
 
@@ -42,8 +43,11 @@ protected:
 
 private:
     void createLayout();
+    QString faultOf(const InstantEdit& edit) const;
+    void tell(const QString& fault);
     bool checkRange();
 
+    const Clock& m_clock;
     CorvelGui::TimeSpan m_period;
     QLabel* m_fromLabel;
     InstantEdit* m_from;

@@ -269,14 +269,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Aufgezeichnete Zeit</translation>
     </message>
     <message>
-        <source>Described from</source>
-        <translation>Beschrieben von</translation>
-    </message>
-    <message>
-        <source>Described to</source>
-        <translation>Beschrieben bis</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>Adresse</translation>
     </message>
@@ -287,6 +279,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Added cameras</source>
         <translation>Hinzugefügte Kameras</translation>
+    </message>
+    <message>
+        <source>Known from</source>
+        <translation>Bekannt ab</translation>
+    </message>
+    <message>
+        <source>Known to</source>
+        <translation>Bekannt bis</translation>
     </message>
 </context>
 <context>
@@ -339,16 +339,16 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Ereignis</translation>
     </message>
     <message>
-        <source>Track</source>
-        <translation>Spur</translation>
-    </message>
-    <message>
         <source>Export events…</source>
         <translation>Ereignisse exportieren …</translation>
     </message>
     <message>
         <source>Write the events in the table, or several selected ones, to a file</source>
         <translation>Schreibt die Ereignisse der Tabelle oder mehrere ausgewählte in eine Datei</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
     </message>
 </context>
 <context>
@@ -405,6 +405,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Pictures: %1</source>
         <translation>Bilder: %1</translation>
     </message>
+    <message>
+        <source>&amp;Only where something is recorded</source>
+        <translation>&amp;Nur wo etwas aufgezeichnet ist</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded in this range.</source>
+        <translation>In diesem Bereich ist nichts aufgezeichnet.</translation>
+    </message>
 </context>
 <context>
     <name>Review::ExportPanel</name>
@@ -417,16 +425,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Dateien, die es schon gibt: %1 von %2. Sollen sie ersetzt werden?</translation>
     </message>
     <message>
-        <source>The export has stopped. Pictures written: %1 of %2.</source>
-        <translation>Der Export wurde angehalten. Geschriebene Bilder: %1 von %2.</translation>
-    </message>
-    <message>
         <source>Pictures exported: %1</source>
         <translation>Exportierte Bilder: %1</translation>
-    </message>
-    <message>
-        <source>Export cancelled. Pictures written: %1 of %2.</source>
-        <translation>Export abgebrochen. Geschriebene Bilder: %1 von %2.</translation>
     </message>
     <message>
         <source>Exporting pictures</source>
@@ -435,6 +435,69 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Export events</source>
+        <translation>Ereignisse exportieren</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Durch Komma getrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Events exported: %1</source>
+        <translation>Ereignisse exportiert: %1</translation>
+    </message>
+    <message>
+        <source>Pictures are still being exported: %1 of %2 are written. Quit all the same?</source>
+        <translation>Es werden noch Bilder exportiert: %1 von %2 sind geschrieben. Trotzdem beenden?</translation>
+    </message>
+    <message>
+        <source>The export has stopped.</source>
+        <translation>Der Export wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Export ended early. Pictures written: %1 of %2.</source>
+        <translation>Export vorzeitig beendet. Bilder geschrieben: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>No program shows %1.</source>
+        <translation>Kein Programm zeigt %1 an.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Review::InstantEdit</name>
+    <message>
+        <source>“%1” is not a date and time such as %2.</source>
+        <translation>„%1“ ist kein Datum mit Uhrzeit wie %2.</translation>
+    </message>
+    <message>
+        <source>The clocks are put forward past %1.</source>
+        <translation>Die Uhren werden über %1 hinweg vorgestellt.</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>Einen Tag im Kalender auswählen</translation>
     </message>
 </context>
 <context>
@@ -462,6 +525,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Such shortcuts are not taken over.</source>
         <translation>Solche Tastenkürzel werden nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>%1 plays slower, %2 faster. The playback menu has all speeds.</source>
+        <translation>%1 spielt langsamer, %2 schneller. Das Menü „Wiedergabe“ hat alle Geschwindigkeiten.</translation>
     </message>
 </context>
 <context>
@@ -627,8 +694,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>keine Aufzeichnung</translation>
     </message>
     <message>
-        <source>not described</source>
-        <translation>nicht beschrieben</translation>
+        <source>nothing known</source>
+        <translation>nichts bekannt</translation>
     </message>
 </context>
 <context>
@@ -752,8 +819,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Der Bereich muss nach seinem Anfang enden.</translation>
     </message>
     <message>
-        <source>Nothing is known of this range.</source>
-        <translation>Über diesen Bereich ist nichts bekannt.</translation>
+        <source>Nothing is known of %1. Choose a time from %2 to %3.</source>
+        <translation>Über %1 ist nichts bekannt. Wählen Sie eine Zeit von %2 bis %3.</translation>
     </message>
 </context>
 <context>
@@ -819,12 +886,12 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Es gibt keine Zeitzone „%1“. Die Zeiten bleiben in %2.</translation>
     </message>
     <message>
-        <source>Tracks: %1    Recordings: %2    Events: %3</source>
-        <translation>Spuren: %1    Aufzeichnungen: %2    Ereignisse: %3</translation>
-    </message>
-    <message>
         <source>Time zone</source>
         <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>Cameras: %1    Recordings: %2    Events: %3</source>
+        <translation>Kameras: %1    Aufzeichnungen: %2    Ereignisse: %3</translation>
     </message>
 </context>
 <context>
@@ -875,6 +942,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Marked by an operator</source>
         <translation>Vom Bediener markiert</translation>
+    </message>
+</context>
+<context>
+    <name>Review::SpeedMenu</name>
+    <message>
+        <source>&amp;Playback</source>
+        <translation>&amp;Wiedergabe</translation>
+    </message>
+    <message>
+        <source>&amp;Slower</source>
+        <translation>&amp;Langsamer</translation>
+    </message>
+    <message>
+        <source>&amp;Faster</source>
+        <translation>&amp;Schneller</translation>
     </message>
 </context>
 <context>
@@ -1003,8 +1085,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Update-Server fragen</translation>
     </message>
     <message>
-        <source>Download of the update</source>
-        <translation>Download der Aktualisierung</translation>
+        <source>Waiting for the update server</source>
+        <translation>Warten auf den Update-Server</translation>
     </message>
 </context>
 <context>

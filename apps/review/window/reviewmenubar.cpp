@@ -3,15 +3,14 @@
 #include "lists/devicepane.h"
 #include "lists/eventpane.h"
 #include "timeline/timelinetoolbar.h"
-#include "updatemenu.h"
 
 #include <QAction>
 
 namespace Review {
 
 ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
-                             const TimelineToolBar& toolBar, QAction* darkLook, UpdateMenu* updates,
-                             QWidget* parent)
+                             const TimelineToolBar& toolBar, QAction* darkLook, QMenu* speeds,
+                             QMenu* updates, QWidget* parent)
     : Translated(parent)
 {
     m_file = addMenu(QString());
@@ -37,6 +36,7 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     m_view->addSeparator();
     m_view->addAction(darkLook);
 
+    addMenu(speeds);
     m_tools = addMenu(QString());
     m_tools->menuAction()->setVisible(false);
 

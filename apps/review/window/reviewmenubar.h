@@ -9,7 +9,6 @@ namespace Review {
 class DevicePane;
 class EventPane;
 class TimelineToolBar;
-class UpdateMenu;
 
 /// The client's menus, made of the actions of its panes and of some of their own.
 class ReviewMenuBar : public Translated<QMenuBar>
@@ -18,7 +17,7 @@ class ReviewMenuBar : public Translated<QMenuBar>
 
 public:
     ReviewMenuBar(const EventPane& events, const DevicePane& devices,
-                  const TimelineToolBar& toolBar, QAction* darkLook, UpdateMenu* updates,
+                  const TimelineToolBar& toolBar, QAction* darkLook, QMenu* speeds, QMenu* updates,
                   QWidget* parent = nullptr);
 
     QAction* open() const { return m_open; }

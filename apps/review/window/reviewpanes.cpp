@@ -105,9 +105,10 @@ void ReviewPanes::setReview(const ReviewData& review)
 {
     const TimeSpan period = review.period();
     m_player->setPeriod(period);
-    m_transport->setPlayable(!period.isEmpty());
+    m_transport->setPeriod(period);
     m_ranges->setPeriod(period);
     m_timeline->setPeriod(period);
+    m_devices->removeAll();
     setTexts(review);
     m_selection.setMoment(period.begin);
 }

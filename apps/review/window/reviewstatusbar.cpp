@@ -25,7 +25,6 @@ ReviewStatusBar::ReviewStatusBar(Clock& clock, QWidget* parent)
     addPermanentWidget(m_zoneLabel);
     addPermanentWidget(m_zone);
 
-    connect(m_export, &ExportPanel::reported, this, &ReviewStatusBar::tell);
     connect(m_zone, &ZoneCombo::zoneChanged, this, &ReviewStatusBar::chooseZone);
     connect(m_zone, &ZoneCombo::zoneRefused, this, &ReviewStatusBar::refuseZone);
     connect(&clock, &Clock::changed, this, [this] {
@@ -63,7 +62,7 @@ void ReviewStatusBar::refuseZone(const QString& text)
 void ReviewStatusBar::retranslate()
 {
     const QLocale locale;
-    m_counts->setText(tr("Tracks: %1    Recordings: %2    Events: %3")
+    m_counts->setText(tr("Cameras: %1    Recordings: %2    Events: %3")
                           .arg(locale.toString(m_tracks), locale.toString(m_recordings),
                                locale.toString(m_events)));
     m_zoneLabel->setText(tr("Time zone"));

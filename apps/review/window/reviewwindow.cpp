@@ -9,6 +9,7 @@
 #include "options/reviewsettings.h"
 #include "playback/playbackpane.h"
 #include "playback/player.h"
+#include "playback/speedmenu.h"
 #include "playback/transportbar.h"
 #include "reviewmenubar.h"
 #include "reviewopener.h"
@@ -21,6 +22,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -53,7 +55,7 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
     createToolBar(dark);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     m_menus = new ReviewMenuBar(m_panes->events(), m_panes->devices(), *m_toolBar, m_darkLook,
-                                m_updates, this);
+                                new SpeedMenu(*m_panes->player(), this), m_updates, this);
     setMenuBar(m_menus);
     connectParts();
     enableExport();
@@ -118,6 +120,8 @@ void ReviewWindow::connectParts()
     connect(m_opener, &ReviewOpener::loadingChanged, m_menus->open(), &QAction::setDisabled);
     connect(m_opener, &ReviewOpener::ended, this, &ReviewWindow::showLoaded);
     connect(m_menus->exportPictures(), &QAction::triggered, this, &ReviewWindow::exportPictures);
+    connect(&m_panes->events(), &EventPane::exportWanted, m_status->exportPanel(),
+            &ExportPanel::askForEvents);
     connect(m_status->exportPanel(), &ExportPanel::exportingChanged, this,
             &ReviewWindow::enableExport);
     connect(&m_panes->playback(), &PlaybackPane::feedChanged, this, &ReviewWindow::enableExport);
@@ -145,7 +149,15 @@ void ReviewWindow::exportPictures()
 {
     const TimelinePane* timeline = m_panes->timeline();
     if (const CameraFeed* feed = m_panes->playback().feed())
-        m_status->exportPanel()->ask(*feed, timeline->view(), timeline->searchRange());
+        m_status->exportPanel()->askForPictures(*feed, timeline->view(), timeline->searchRange());
+}
+
+void ReviewWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_status->exportPanel()->mayQuit())
+        Translated::closeEvent(event);
+    else
+        event->ignore();
 }
 
 void ReviewWindow::enableExport()

@@ -64,6 +64,8 @@ Q_SIGNALS:
 
 protected:
     void retranslate() final;
+    /// Asks first while pictures are exported.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void createToolBar(bool dark);

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class QLabel;
 class QProgressBar;
 class QStatusBar;
 
@@ -23,7 +24,7 @@ class UpdateMenu : public Translated<QMenu>
     Q_OBJECT
 
 public:
-    /// Dialogs stand over @p window. The progress of a download is shown in @p statusBar.
+    /// Dialogs stand over @p window. What is under way is shown in @p statusBar.
     UpdateMenu(QWidget* window, QStatusBar* statusBar);
     ~UpdateMenu() override;
 
@@ -34,9 +35,11 @@ protected:
     void retranslate() final;
 
 private:
+    void showBusy();
     void showDownload(qint64 received, qint64 total);
 
     QWidget* m_window;
+    QLabel* m_label;
     QProgressBar* m_progress;
     UpdateServers m_servers;
     std::unique_ptr<CorvelGui::PCheckVersionUpdate> m_versionCheck;
