@@ -30,14 +30,6 @@ inline void moveMouse(QWidget& widget, QPoint position, Qt::MouseButtons buttons
     QApplication::sendEvent(&widget, &event);
 }
 
-/// Presses the left button once more, so soon that it counts as a double click.
-inline void pressAgain(QWidget& widget, QPoint position)
-{
-    QMouseEvent event(QEvent::MouseButtonDblClick, position, widget.mapToGlobal(position),
-                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
-
 /// What assistive technology does with a button.
 inline void pressByAssistiveTechnology(QWidget* button)
 {

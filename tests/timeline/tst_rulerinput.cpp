@@ -1,22 +1,65 @@
-#include "base/whilealive.h"
 #include "indicator.h"
 #include "loggedruler.h"
 #include "testsupport.h"
 
-#include <QAccessible>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QWheelEvent>
+
+#include <functional>
+#include <map>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Act = std::function<void(LoggedRuler&)>;
+/// Sends a mouse event to the widget at a place of the ruler, or to its indicator.
+bool mouse(LoggedRuler& ruler, const QString& kind, const QString& place)
+{
+    struct Kind
+    {
+        QEvent::Type type;
+        Qt::MouseButton button;
+        Qt::MouseButtons buttons;
+    };
+    static const std::map<QString, Kind> kinds{
+        {u"press"_s, {QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton}},
+        {u"press-again"_s, {QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton}},
+        {u"press-right"_s, {QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton}},
+        {u"drag"_s, {QEvent::MouseMove, Qt::NoButton, Qt::LeftButton}},
+        {u"hover"_s, {QEvent::MouseMove, Qt::NoButton, Qt::NoButton}},
+        {u"release"_s, {QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton}},
+        {u"release-right"_s, {QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton}},
+    };
+    const auto known = kinds.find(kind);
+    if (known == kinds.end())
+        return false;
+    const QStringList words = place.split(u' ');
+    const QStringList xy = words.back().split(u',');
+    // A y of +n is that far below the area of previews.
+    const int y = xy.size() < 2 ? 30 : xy[1].toInt() + (xy[1][0] == u'+' ? ruler.height() / 2 : 0);
+    const QPoint position(xy[0].toInt(), y);
+    QWidget* target = &ruler;
+    if (words.front() == u"indicator")
+        target = ruler.findChild<Indicator*>();
+    else if (words.front() == u"arrow")
+        target = ruler.childAt(position);
+    const auto& [type, button, buttons] = known->second;
+    QMouseEvent event(type, target->mapFrom(&ruler, position), ruler.mapToGlobal(position), button,
+                      buttons, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+    return true;
+}
 
-void wheel(QWidget& widget, int angle)
+void send(QWidget& widget, QEvent&& event)
+{
+    QApplication::sendEvent(&widget, &event);
+}
+
+void turnWheel(QWidget& widget, int angle)
 {
     const QPointF position(255, 30);
     QWheelEvent event(position, widget.mapToGlobal(position), {}, QPoint(0, angle), Qt::NoButton,
@@ -25,32 +68,111 @@ void wheel(QWidget& widget, int angle)
     QVERIFY(event.isAccepted());
 }
 
-void pressRightArrow(LoggedRuler& ruler)
+void strike(QWidget& widget, const QString& keys)
 {
-    QTest::mousePress(ruler.childAt(1017, 30), Qt::LeftButton);
+    const QKeyCombination key = QKeySequence(keys)[0];
+    QTest::keyClick(&widget, key.key(), key.keyboardModifiers());
 }
 
-void send(QWidget& widget, QEvent::Type type)
-{
-    QEvent event(type);
-    QApplication::sendEvent(&widget, &event);
-}
+using R = LoggedRuler;
+using S = const QString&;
 
-/// The place on the indicator that is at column @p x of the ruler.
-QPoint inIndicator(const LoggedRuler& ruler, int x)
-{
-    return ruler.findChild<Indicator*>()->mapFrom(&ruler, QPoint(x, 5));
-}
+/// What else a user, the desktop and the client do, with an argument.
+const std::map<QString, std::function<void(R&, S)>> verbs{
+    {u"wheel"_s,
+     [](R& r, S angle) {
+         turnWheel(r, angle.toInt());
+     }},
+    {u"key"_s,
+     [](R& r, S keys) {
+         strike(r, keys);
+     }},
+    {u"leave"_s,
+     [](R& r, S) {
+         leaveMouse(r);
+     }},
+    {u"hide"_s,
+     [](R& r, S) {
+         r.hide();
+     }},
+    {u"other-window"_s,
+     [](R& r, S) {
+         send(r, QEvent(QEvent::WindowDeactivate));
+     }},
+    {u"modal-window"_s,
+     [](R& r, S) {
+         send(r, QEvent(QEvent::WindowBlocked));
+     }},
+    {u"popup"_s,
+     [](R& r, S) {
+         send(r, QFocusEvent(QEvent::FocusOut, Qt::PopupFocusReason));
+     }},
+    {u"turn"_s,
+     [](R&, S) {
+         QCoreApplication::processEvents();
+     }},
+    {u"disable"_s,
+     [](R& r, S) {
+         r.setEnabled(false);
+     }},
+    {u"block"_s,
+     [](R& r, S) {
+         r.setActive(true, true);
+     }},
+    {u"deactivate"_s,
+     [](R& r, S) {
+         r.setActive(false, false);
+     }},
+    {u"result"_s,
+     [](R& r, S) {
+         r.setResultMode(true);
+     }},
+    {u"previews"_s,
+     [](R& r, S) {
+         r.setPreviewEnabled(true);
+     }},
+    {u"reports"_s,
+     [](R& r, S) {
+         r.setIndicatorDragEnabled(true);
+     }},
+    {u"level"_s,
+     [](R& r, S level) {
+         r.changeLevel(level.toInt(), 0.5);
+     }},
+    {u"offset"_s,
+     [](R& r, S position) {
+         r.onTimelineOffsetChanged(position.toDouble());
+     }},
+    {u"hour"_s,
+     [](R& r, S hour) {
+         r.onTimelineOffsetChanged((hour.toInt() + 0.5) / 240);
+     }},
+    {u"place"_s,
+     [](R& r, S time) {
+         r.setIndicatorPosition(at(time.toInt() * second));
+     }},
+    {u"marker"_s,
+     [](R& r, S time) {
+         r.onAddMarkers({{.time = timeAt(time.toInt() * second)}});
+     }},
+    // Writes down where the indicator stands.
+    {u"where"_s,
+     [](R& r, S) {
+         r.log << u"at %1"_s.arg((qint64(r.getIndicatorMSecs()) - monday) / second);
+     }},
+};
 
-void pressIndicator(LoggedRuler& ruler)
+/// Plays what is done, one after the other, while the ruler lives. Returns what it said.
+QString play(LoggedRuler* ruler, const QString& script)
 {
-    auto* indicator = ruler.findChild<Indicator*>();
-    QTest::mousePress(indicator, Qt::LeftButton, {}, QPoint(indicator->hotSpot(), 5));
-}
-
-void dragIndicatorTo(LoggedRuler& ruler, int x)
-{
-    moveMouse(*ruler.findChild<Indicator*>(), inIndicator(ruler, x), Qt::LeftButton);
+    const QPointer<LoggedRuler> alive(ruler);
+    for (const QString& step : script.split(u"; "_s, Qt::SkipEmptyParts)) {
+        const QString verb = step.section(u' ', 0, 0);
+        const QString argument = step.section(u' ', 1);
+        if (alive && !mouse(*ruler, verb, argument))
+            verbs.at(verb)(*ruler, argument);
+    }
+    return alive ? ruler->takeLog().join(u" | "_s) : QString();
 }
 
 /// The ruler's timers that run.
@@ -69,400 +191,179 @@ class TestRulerInput : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void clicks();
-    void drags();
-    void wheelSteps();
-    void indicatorDrag();
-    void previewComesAndGoes();
-    void previewNeedsItsArea();
-    void previewLineReports();
-    void blockedRulerIgnoresInput();
-    void keys();
+    void hands();
     void lostReleases();
-    void quickPresses();
-    void arrows();
+    void heldArrow();
     void fingers();
+    void previewComesAndGoes();
+    void previewLineReports();
+    void neighbours();
     void assistiveTechnology();
     void deletionInSignals();
 };
 
-void TestRulerInput::clicks()
+void TestRulerInput::hands()
 {
-    const std::pair<int, QStringList> cases[] = {{510, {u"indicator 1800"_s}},
-                                                 {10, {}}, // on the margin
-                                                 {11, {u"indicator 3"_s}},
-                                                 {1009, {u"indicator 3596"_s}},
-                                                 {1010, {}}};
-    for (const auto& [x, log] : cases) {
-        LoggedRuler ruler;
-        QCOMPARE(ruler.click(x, Qt::RightButton), QStringList());
-        QCOMPARE(ruler.click(x), log);
-        const auto* indicator = ruler.findChild<Indicator*>();
-        if (!log.isEmpty())
-            QCOMPARE(indicator->x() + indicator->hotSpot(), x);
-        ruler.setResultMode(true);
-        QCOMPARE(ruler.click(x - 100), QStringList());
-        ruler.setResultMode(false);
-        // Beyond the limits there is nothing to click on.
-        ruler.onTimelineOffsetChanged(1.5);
-        ruler.takeLog();
-        QCOMPARE(ruler.click(x), QStringList());
-    }
-}
-
-void TestRulerInput::drags()
-{
-    LoggedRuler ruler;
-    ruler.onTimelineOffsetChanged(0.5);
-    const quint64 start = ruler.beginTime();
-    ruler.takeLog();
-    ruler.press(600);
-    ruler.dragTo(500);
-    QCOMPARE(ruler.beginTime(), start + 360'000);
-    ruler.dragTo(500, 40);
-    ruler.dragTo(610);
-    QCOMPARE(ruler.beginTime(), start - 36'000);
-    ruler.release(610);
-    QCOMPARE(ruler.takeLog(),
-             (QStringList{u"no preview"_s, u"center 0.5004"_s, u"view 06 23:35 - 07 00:36 moving"_s,
-                          u"center 0.5"_s, u"view 06 23:28 - 07 00:29 moving"_s,
-                          u"view 06 23:28 - 07 00:29"_s}));
-    QCOMPARE(ruler.getIndicatorMSecs(), at(0));
-
-    // The view stays within the limits.
-    ruler.onTimelineOffsetChanged(0.5 / 240);
-    ruler.press(100);
-    ruler.dragTo(900);
-    QCOMPARE(ruler.beginTime(), at(0));
-    ruler.release(900);
-    ruler.onTimelineOffsetChanged(1.0);
-    ruler.press(510);
-    ruler.dragTo(500);
-    QCOMPARE(ruler.endTime(), at(10 * day));
-    ruler.release(500);
-
-    // A short way is a click.
-    ruler.onTimelineOffsetChanged(0.5 / 240);
-    ruler.takeLog();
-    ruler.press(500);
-    ruler.dragTo(500 + QApplication::startDragDistance() - 1, 55);
-    ruler.release(510);
-    QCOMPARE(ruler.takeLog(), QStringList{u"indicator 1800"_s});
-}
-
-void TestRulerInput::wheelSteps()
-{
-    // The time under the mouse stays there.
-    const QStringList in{u"level 0"_s, u"center 0.4993"_s, u"view 06 23:39 - 06 23:59"_s,
-                         u"level 0"_s};
-    const QStringList out{u"level 1"_s, u"center 0.5007"_s, u"view 06 23:39 - 07 00:40"_s,
-                          u"level 1"_s};
+    QApplication::setStartDragDistance(10);
+    const QString keys = u"marker 10800; marker 19920; hour 5; place 19800"_s;
     const struct
     {
-        int level, angle;
-        QStringList log;
-    } cases[] = {{1, 120, in},
-                 {1, 1200, in}, // many notches at once are one step
-                 {0, 120, {u"level 0"_s}},
-                 {0, -120, out},
-                 {8, -120, {u"level 8"_s}},
-                 {1, 3, {}}}; // less than a degree
-    for (const auto& turn : cases) {
-        LoggedRuler ruler;
-        ruler.changeLevel(turn.level, 0.5);
-        ruler.onTimelineOffsetChanged(0.5);
-        ruler.takeLog();
-        wheel(ruler, turn.angle);
-        QCOMPARE(ruler.takeLog(), turn.log);
-    }
-}
-
-void TestRulerInput::indicatorDrag()
-{
-    for (const bool reportsMoves : {false, true}) {
-        LoggedRuler ruler;
-        auto* indicator = ruler.findChild<Indicator*>();
-        ruler.setIndicatorDragEnabled(reportsMoves);
-        ruler.setIndicatorPosition(at(30 * minute));
-        const auto inIndicator = [&](int x) {
-            return indicator->mapFrom(&ruler, QPoint(x, 5));
-        };
-        QTest::mousePress(indicator, Qt::LeftButton, {}, inIndicator(510));
-        // While it is dragged it is the user's alone.
-        QVERIFY(ruler.setIndicatorPosition(at(40 * minute)));
-        QCOMPARE(ruler.getIndicatorMSecs(), at(30 * minute));
-        moveMouse(*indicator, inIndicator(610), Qt::LeftButton);
-        QCOMPARE(ruler.getIndicatorMSecs(), at(36 * minute));
-        // Outside the scale the indicator waits; at the end it goes to the nearest place.
-        moveMouse(*indicator, inIndicator(1015), Qt::LeftButton);
-        QCOMPARE(ruler.getIndicatorMSecs(), at(36 * minute));
-        QTest::mouseRelease(indicator, Qt::LeftButton, {}, inIndicator(1300));
-        QStringList log{u"no preview"_s, u"no preview"_s, u"indicator 3600"_s};
-        if (reportsMoves)
-            log.prepend(u"indicator 2160"_s);
-        QCOMPARE(ruler.takeLog(), log);
-        QCOMPARE(ruler.beginTime(), at(0));
-        QVERIFY(ruler.setIndicatorPosition(at(40 * minute)));
-        QCOMPARE(ruler.getIndicatorMSecs(), at(40 * minute));
-    }
-}
-
-void TestRulerInput::previewComesAndGoes()
-{
-    LoggedRuler ruler;
-    ruler.setPreviewEnabled(true);
-    moveMouse(ruler, QPoint(510, 5));
-    QTRY_COMPARE(ruler.log, QStringList{u"preview 1800 at 510"_s});
-    ruler.takeLog();
-    ruler.onPreviewVisible(true, false);
-    moveMouse(ruler, QPoint(610, 5));
-    QTRY_COMPARE(ruler.log, QStringList{u"preview 2160 at 610"_s});
-    ruler.takeLog();
-
-    // Nothing moves, so nothing is asked for; leaving ends it.
-    QSignalSpy spy(&ruler, &Ruler::previewPositionChanged);
-    QVERIFY(!spy.wait(350));
-    leaveMouse(ruler);
-    // Not yet: a client may not delete anything while Qt tells of the leaving.
-    QCOMPARE(ruler.log, QStringList());
-    QTRY_COMPARE(ruler.log, QStringList{u"no preview"_s});
-    QCOMPARE(runningTimers(ruler), 0);
-}
-
-void TestRulerInput::previewNeedsItsArea()
-{
-    LoggedRuler ruler;
-    const int lowest = ruler.height() / 4 * 2;
-    leaveMouse(ruler);
-    ruler.takeLog();
-    ruler.setPreviewEnabled(true);
-    moveMouse(ruler, QPoint(510, lowest + 1));
-    QCOMPARE(ruler.takeLog(), QStringList());
-    moveMouse(ruler, QPoint(510, lowest));
-    moveMouse(ruler, QPoint(510, lowest + 1));
-    QCOMPARE(ruler.takeLog(), QStringList{u"no preview"_s});
-
-    ruler.setPreviewEnabled(false);
-    ruler.takeLog();
-    moveMouse(ruler, QPoint(510, 5));
-    leaveMouse(ruler);
-    QTRY_COMPARE(ruler.log, QStringList{u"no preview"_s});
-}
-
-void TestRulerInput::previewLineReports()
-{
-    LoggedRuler ruler;
-    ruler.setPreviewIndicatorPosition(at(30 * minute));
-    QCOMPARE(ruler.log, QStringList());
-    QTRY_COMPARE(ruler.log, QStringList{u"line 510,-1"_s});
-    ruler.takeLog();
-    ruler.setPreviewIndicatorPosition(at(5 * day));
-    QTRY_COMPARE(ruler.log, QStringList{u"line 1015,-1"_s});
-    ruler.takeLog();
-
-    // The column at which the last preview was asked for is known already.
-    ruler.setPreviewEnabled(true);
-    moveMouse(ruler, QPoint(510, 5));
-    QTRY_COMPARE(ruler.log, QStringList{u"preview 1800 at 510"_s});
-    ruler.takeLog();
-    ruler.setPreviewIndicatorPosition(at(30 * minute));
-    ruler.setPreviewIndicatorPosition(0);
-    QCoreApplication::processEvents();
-    QCOMPARE(ruler.takeLog(), QStringList());
-}
-
-void TestRulerInput::blockedRulerIgnoresInput()
-{
-    LoggedRuler ruler;
-    ruler.setPreviewEnabled(true);
-    ruler.setActive(true, true);
-    ruler.takeLog();
-    QCOMPARE(ruler.click(510), QStringList());
-    ruler.press(510);
-    ruler.dragTo(300);
-    ruler.release(300);
-    wheel(ruler, 120);
-    QTest::keyClick(&ruler, Qt::Key_Right);
-    moveMouse(ruler, QPoint(300, 5));
-    QCOMPARE(ruler.takeLog(), QStringList());
-    QCOMPARE(ruler.beginTime(), at(0));
-}
-
-void TestRulerInput::keys()
-{
-    // One hour from 5:00 in view with ticks every 5 minutes, the indicator at 5:30.
-    const std::pair<QString, QStringList> cases[] = {
-        {u"Right"_s, {u"indicator 19860"_s}},
-        {u"Left"_s, {u"indicator 19740"_s}},
-        {u"Shift+Right"_s, {u"indicator 20100"_s}},
-        {u"Shift+Left"_s, {u"indicator 19500"_s}},
-        {u"Home"_s, {u"center 0.002083"_s, u"view 02 00:00 - 02 01:00"_s, u"indicator 0"_s}},
-        {u"End"_s, {u"center 0.9979"_s, u"view 11 22:59 - 12 00:00"_s, u"indicator 864000"_s}},
-        {u"PgUp"_s, {u"center 0.01875"_s, u"view 02 03:59 - 02 05:00"_s}},
-        {u"PgDown"_s, {u"center 0.02708"_s, u"view 02 05:59 - 02 07:00"_s}},
-        {u"+"_s, {u"level 0"_s, u"center 0.02291"_s, u"view 02 05:19 - 02 05:39"_s}},
-        {u"-"_s, {u"level 2"_s, u"center 0.02292"_s, u"view 02 03:58 - 02 07:00"_s}},
-        {u"Ctrl+0"_s, {u"level 8"_s, u"center 0.5"_s, u"view 02 00:00 - 12 00:00"_s}},
-        {u"N"_s, {u"indicator 19920"_s, u"jump 02 05:32"_s}},
-        {u"P"_s,
-         {u"center 0.01458"_s, u"view 02 02:59 - 02 04:00"_s, u"indicator 10800"_s,
-          u"jump 02 03:00"_s}},
-        {u"X"_s, {}},
+        QString setUp, script, log;
+    } cases[] = {
+        // Clicks; the margin is no part of the scale
+        {{}, u"press 510; release 510"_s, u"indicator 1800"_s},
+        {{}, u"press 10; release 10"_s, {}},
+        {{}, u"press 11; release 11"_s, u"indicator 3"_s},
+        {{}, u"press 1009; release 1009"_s, u"indicator 3596"_s},
+        {{}, u"press 1010; release 1010"_s, {}},
+        {{}, u"press-right 510; release-right 510"_s, {}},
+        {{}, u"press 510; press-right 510; release-right 510; release 510"_s, {}},
+        {{}, u"press 500; drag 509; release 510"_s, u"indicator 1800"_s},
+        {u"result"_s, u"press 510; release 510"_s, {}},
+        {u"offset 1.5"_s, u"press 510; release 510"_s, {}},
+        {u"block"_s,
+         u"press 510; release 510; press 510; drag 300; release 300; wheel 120; key Right"_s,
+         {}},
+        {u"deactivate"_s, u"press 510; release 510; where"_s, u"indicator 1800 | at 1800"_s},
+        // Drags of the view, which stays within the limits
+        {u"offset 0.5"_s, u"press 600; drag 500; drag 500; drag 605; drag 610; release 610"_s,
+         u"no preview | center 0.5004 | view 06 23:35 - 07 00:36 moving | center 0.5 | "
+         "view 06 23:28 - 07 00:29 moving | view 06 23:28 - 07 00:29"_s},
+        {{}, u"press 100; drag 900; release 900"_s, u"no preview | view 02 00:00 - 02 01:00"_s},
+        {u"offset 1.0"_s, u"press 510; drag 500; release 500"_s,
+         u"no preview | center 0.9979 | view 11 22:59 - 12 00:00 moving | view 11 22:59 - 12 00:00"_s},
+        // Drags of the indicator, which is the user's alone meanwhile
+        {u"place 1800"_s,
+         u"press indicator 510,5; place 2400; where; drag indicator 610,5; where; drag indicator 1015,5; where; release indicator 1300,5; where"_s,
+         u"at 1800 | no preview | at 2160 | no preview | at 2160 | indicator 3600 | at 3600"_s},
+        {u"place 1800; reports"_s,
+         u"press indicator 510,5; drag indicator 610,5; drag indicator 1010,5; release indicator 0,5; place 2400; where"_s,
+         u"indicator 2160 | no preview | no preview | indicator 0 | at 2400"_s},
+        {u"place 1800"_s,
+         u"drag indicator 610,5; hover indicator 610,5; release indicator 610,5; where"_s,
+         u"at 1800"_s},
+        // A second press counts, however soon it comes
+        {{},
+         u"press 510; release 510; press-again indicator 510,5; drag indicator 610,5; where"_s,
+         u"indicator 1800 | no preview | at 2160"_s},
+        {u"hour 5"_s, u"press-again arrow 1017; release arrow 1017; release arrow 1017"_s,
+         u"center 0.02326 | view 02 05:04 - 02 06:05 moving | view 02 05:04 - 02 06:05"_s},
+        {u"hour 5"_s, u"press-right arrow 1017; release-right arrow 1017"_s, {}},
+        {u"offset 1.0"_s, u"press arrow 1017; release arrow 1017"_s, u"view 11 23:29 - 12 00:30"_s},
+        // Many notches at once are one step of the wheel, less than a degree is none
+        {u"offset 0.5"_s, u"wheel 1200"_s,
+         u"level 0 | center 0.4993 | view 06 23:39 - 06 23:59 | level 0"_s},
+        {u"level 0; offset 0.5"_s, u"wheel 120"_s, u"level 0"_s},
+        {u"level 0; offset 0.5"_s, u"wheel -120"_s,
+         u"level 1 | center 0.5007 | view 06 23:39 - 07 00:40 | level 1"_s},
+        {u"level 8"_s, u"wheel -120"_s, u"level 8"_s},
+        {{}, u"wheel 3"_s, {}},
+        // Keys: an hour from 5:00 in view, ticks every 5 minutes, the indicator at 5:30
+        {keys, u"key Right"_s, u"indicator 19860"_s},
+        {keys, u"key Left"_s, u"indicator 19740"_s},
+        {keys, u"key Shift+Right"_s, u"indicator 20100"_s},
+        {keys, u"key Shift+Left"_s, u"indicator 19500"_s},
+        {keys, u"key Home"_s, u"center 0.002083 | view 02 00:00 - 02 01:00 | indicator 0"_s},
+        {keys, u"key End"_s, u"center 0.9979 | view 11 22:59 - 12 00:00 | indicator 864000"_s},
+        {keys, u"key PgUp"_s, u"center 0.01875 | view 02 03:59 - 02 05:00"_s},
+        {keys, u"key PgDown"_s, u"center 0.02708 | view 02 05:59 - 02 07:00"_s},
+        {keys, u"key +"_s, u"level 0 | center 0.02291 | view 02 05:19 - 02 05:39"_s},
+        {keys, u"key -"_s, u"level 2 | center 0.02292 | view 02 03:58 - 02 07:00"_s},
+        {keys, u"key 0; key Ctrl+0"_s, u"level 8 | center 0.5 | view 02 00:00 - 12 00:00"_s},
+        {keys, u"key N"_s, u"indicator 19920 | jump 02 05:32"_s},
+        {keys, u"key P"_s,
+         u"center 0.01458 | view 02 02:59 - 02 04:00 | indicator 10800 | jump 02 03:00"_s},
+        {keys, u"key X"_s, {}},
+        {{}, u"key Left; key PgUp; key P; key N"_s, {}},
+        {u"hour 239"_s, u"key PgDown"_s, {}},
+        // Previews are for the upper half, and for a ruler that takes input
+        {u"leave; turn; previews"_s, u"hover 510,+1; hover 510,+0; hover 510,+1"_s,
+         u"no preview"_s},
+        {{}, u"hover 510,5; leave"_s, {}},
+        {{}, u"hover 510,5; leave; leave; turn"_s, u"no preview"_s},
+        {u"block; previews"_s, u"hover 510,5; block"_s, {}},
     };
-    for (const auto& [keys, log] : cases) {
+    for (const auto& [setUp, script, log] : cases) {
         LoggedRuler ruler;
-        ruler.onAddMarkers({{.time = timeAt(3 * hour)}, {.time = timeAt(332 * minute)}});
-        ruler.onTimelineOffsetChanged(5.5 / 240);
-        ruler.setIndicatorPosition(at(330 * minute));
-        ruler.takeLog();
-        const QKeyCombination key = QKeySequence(keys)[0];
-        QTest::keyClick(&ruler, key.key(), key.keyboardModifiers());
+        play(&ruler, setUp);
+        const QString name = setUp + u" - "_s + script + u": "_s;
+        QString said = play(&ruler, script);
         // What comes into view is reported in between.
-        ruler.log.removeIf([](const QString& line) { return line.startsWith(u"new"); });
-        QCOMPARE(ruler.takeLog(), log);
+        said.remove(QRegularExpression(u"new [^|]*\\| "_s));
+        QCOMPARE(name + said, name + log);
     }
-    // Outside the limits, three at one instant, and on both sides of a range.
-    for (const bool onlyInside : {false, true}) {
-        LoggedRuler ruler;
-        for (const qint64 time : {-hour, hour, hour, hour, 3 * hour, 5 * hour, 11 * day})
-            ruler.onAddMarkers({{.time = timeAt(time)}});
-        ruler.setResultTimeRange(timeAt(2 * hour), timeAt(4 * hour), false, false, onlyInside,
-                                 false);
-        ruler.setIndicatorPosition(0);
-        for (const Qt::Key key : {Qt::Key_N, Qt::Key_P})
-            for (int i = 0; i < 9; ++i)
-                QTest::keyClick(&ruler, key);
-        ruler.log.removeIf([](const QString& line) { return !line.startsWith(u"jump"); });
-        for (QString& line : ruler.log)
-            line = line.right(5);
-        QCOMPARE(ruler.takeLog().join(u' '),
-                 onlyInside ? u"03:00"_s
-                            : u"01:00 01:00 01:00 03:00 05:00 03:00 01:00 01:00 01:00"_s);
-    }
-    LoggedRuler atBegin;
-    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_PageUp, Qt::Key_P, Qt::Key_N})
-        QTest::keyClick(&atBegin, key);
-    QCOMPARE(atBegin.takeLog(), QStringList());
-    for (int i = 0; i < 500; ++i)
-        QTest::keyClick(&atBegin, Qt::Key_PageDown);
-    QCOMPARE(atBegin.endTime(), at(10 * day));
 }
 
 void TestRulerInput::lostReleases()
 {
     const struct
     {
-        QString name;
-        Act begin, go;
-        QStringList end;
+        QString begin, goOn, end;
     } gestures[] = {
-        {u"press"_s,
-         [](LoggedRuler& ruler) { ruler.press(600); },
-         [](LoggedRuler& ruler) { ruler.dragTo(500); },
-         {}},
-        {u"view drag"_s,
-         [](LoggedRuler& ruler) { ruler.press(600), ruler.dragTo(500); },
-         [](LoggedRuler& ruler) { ruler.dragTo(400); },
-         {u"view 06 23:35 - 07 00:36"_s}},
-        {u"indicator drag"_s,
-         [](LoggedRuler& ruler) {
-             pressIndicator(ruler);
-             dragIndicatorTo(ruler, 610);
-         },
-         [](LoggedRuler& ruler) { dragIndicatorTo(ruler, 710); },
-         {u"indicator 432360"_s}},
-        {u"arrow"_s, pressRightArrow, [](LoggedRuler&) {}, {u"view 06 23:34 - 07 00:35"_s}},
-    };
-    const struct
-    {
-        QString name;
-        Act act;
-        bool endsPreview;
-    } losses[] = {
-        {u"move"_s, [](LoggedRuler& ruler) { moveMouse(ruler, QPoint(300, 5)); }, false},
-        {u"hide"_s, [](LoggedRuler& ruler) { ruler.hide(); }, true},
-        {u"block"_s, [](LoggedRuler& ruler) { ruler.setActive(true, true); }, true},
-        {u"deactivate"_s, [](LoggedRuler& ruler) { ruler.setActive(false, false); }, true},
-        {u"disable"_s, [](LoggedRuler& ruler) { ruler.setEnabled(false); }, true},
-        {u"other window"_s, [](LoggedRuler& ruler) { send(ruler, QEvent::WindowDeactivate); },
-         false},
-        {u"modal window"_s, [](LoggedRuler& ruler) { send(ruler, QEvent::WindowBlocked); }, true},
-        {u"popup"_s,
-         [](LoggedRuler& ruler) {
-             QFocusEvent event(QEvent::FocusOut, Qt::PopupFocusReason);
-             QApplication::sendEvent(&ruler, &event);
-         },
-         false},
-    };
-    for (const auto& gesture : gestures) {
-        for (const auto& loss : losses) {
+        {u"press 600"_s, u"drag 500"_s, {}},
+        {u"press 600; drag 500"_s, u"drag 400"_s, u"view 06 23:35 - 07 00:36 | "_s},
+        {u"press indicator 510,5; drag indicator 610,5"_s, u"drag indicator 710,5"_s,
+         u"indicator 432360 | "_s},
+        {u"reports; press indicator 510,5; drag indicator 610,5"_s, u"drag indicator 710,5"_s, {}},
+        {u"press arrow 1017"_s, {}, u"view 06 23:34 - 07 00:35 | "_s}};
+    // Some of them end the hover preview as well.
+    const std::pair<QString, bool> losses[] = {
+        {u"hover 300,5"_s, false},      {u"hover indicator 300,5"_s, false},
+        {u"hover arrow 1017"_s, false}, {u"hide"_s, true},
+        {u"disable"_s, true},           {u"block"_s, true},
+        {u"deactivate"_s, true},        {u"modal-window"_s, true},
+        {u"other-window"_s, false},     {u"popup"_s, false}};
+    for (const auto& [begin, goOn, end] : gestures) {
+        for (const auto& [loss, endsPreview] : losses) {
+            if (loss == u"hover arrow 1017"_s && begin != u"press arrow 1017"_s)
+                continue;
             LoggedRuler ruler;
-            ruler.onTimelineOffsetChanged(0.5);
-            ruler.setIndicatorPosition(at(5 * day));
-            ruler.setPreviewEnabled(true);
-            moveMouse(ruler, QPoint(510, 5));
+            play(&ruler, u"offset 0.5; place 432000; previews; hover 510,5"_s);
             connect(&ruler, &Ruler::heldChanged, &ruler, [&ruler](bool held) {
                 ruler.log << (held ? u"held"_s : u"free"_s);
                 QCOMPARE(ruler.isHeld(), held);
             });
-            ruler.takeLog();
-            gesture.begin(ruler);
-            QCOMPARE(ruler.log.front(), u"held"_s);
-            ruler.takeLog();
-            loss.act(ruler);
-            QVERIFY(!ruler.isHeld());
-            QTRY_VERIFY(ruler.log.contains(u"free"_s));
-            QStringList log = gesture.end + QStringList{u"free"_s};
-            if (loss.endsPreview && gesture.name != u"view drag")
-                log << u"no preview"_s; // which a drag of the view has said at its beginning
-            const QString name = gesture.name + u", "_s + loss.name + u": "_s;
-            QCOMPARE(name + ruler.takeLog().join(u'|'), name + log.join(u'|'));
+            QVERIFY(play(&ruler, begin).startsWith(u"held"_s));
+            // A drag of the view has ended the preview at its beginning.
+            const bool hasPreview = runningTimers(ruler) > (begin == u"press arrow 1017"_s ? 1 : 0);
+            const QString name = begin + u" - "_s + loss + u": "_s;
+            QCOMPARE(name + play(&ruler, loss + u"; turn"_s),
+                     name + end + u"free"_s +
+                         (endsPreview && hasPreview ? u" | no preview"_s : QString()));
+            QVERIFY(runningTimers(ruler) <= (endsPreview ? 0 : 1));
 
-            // The hand that moves on moves nothing.
-            const quint64 begin = ruler.beginTime();
+            // The hand that goes on moves nothing.
+            const quint64 start = ruler.beginTime();
             const quint64 indicator = ruler.getIndicatorMSecs();
-            gesture.go(ruler);
-            QCOMPARE(ruler.beginTime(), begin);
+            play(&ruler, goOn);
+            QCOMPARE(ruler.beginTime(), start);
             QCOMPARE(ruler.getIndicatorMSecs(), indicator);
             QVERIFY(ruler.setIndicatorPosition(at(5 * day + 10 * minute)));
-            QCOMPARE(ruler.getIndicatorMSecs(), at(5 * day + 10 * minute));
         }
     }
 }
 
-void TestRulerInput::quickPresses()
+void TestRulerInput::heldArrow()
 {
     LoggedRuler ruler;
-    auto* indicator = ruler.findChild<Indicator*>();
-    ruler.click(510);
-    pressAgain(*indicator, inIndicator(ruler, 510));
-    dragIndicatorTo(ruler, 610);
-    QCOMPARE(ruler.getIndicatorMSecs(), at(36 * minute));
-    QTest::mouseRelease(indicator, Qt::LeftButton, {}, inIndicator(ruler, 610));
-
-    ruler.takeLog();
-    QWidget* arrow = ruler.childAt(1017, 30);
-    pressAgain(*arrow, QPoint(2, 10));
-    QTest::mouseRelease(arrow, Qt::LeftButton);
-    QTest::mousePress(arrow, Qt::RightButton);
-    QTest::mouseRelease(arrow, Qt::RightButton);
-    QCOMPARE(ruler.takeLog(),
-             (QStringList{u"center 0.002431"_s, u"view 02 00:04 - 02 01:05 moving"_s,
-                          u"view 02 00:04 - 02 01:05"_s}));
-}
-
-void TestRulerInput::arrows()
-{
-    LoggedRuler ruler;
-    QWidget* left = ruler.childAt(2, 30);
-    QWidget* right = ruler.childAt(1017, 30);
-    QCOMPARE(left->accessibleName(), u"Earlier"_s);
-    QCOMPARE(right->accessibleName(), u"Later"_s);
-    pressByAssistiveTechnology(left);
-    pressByAssistiveTechnology(right);
-    const QStringList step{u"center 0.002431"_s, u"view 02 00:04 - 02 01:05 moving"_s,
-                           u"view 02 00:04 - 02 01:05"_s};
-    QTRY_COMPARE(ruler.log, step);
+    QSignalSpy steps(&ruler, &Ruler::centerPositionChanged);
+    play(&ruler, u"offset 0.997; press arrow 1017"_s);
+    QTRY_COMPARE(runningTimers(ruler), 0);
+    // The last one goes beyond the limit.
+    QCOMPARE(steps.size(), 3);
+    QVERIFY(ruler.endTime() > at(10 * day));
+    QVERIFY(ruler.isHeld());
+    // For assistive technology an arrow is a button with a name, which makes a step.
+    for (const auto& [x, name] : {std::pair(2, u"Earlier"_s), {1017, u"Later"_s}}) {
+        LoggedRuler stepped;
+        play(&stepped, u"hour 5"_s);
+        QWidget* arrow = stepped.childAt(x, 30);
+        QCOMPARE(arrow->accessibleName(), name);
+        pressByAssistiveTechnology(arrow);
+        QTRY_COMPARE(stepped.log.size(), 3);
+        QVERIFY(!stepped.isHeld());
+        QCOMPARE(stepped.beginTime() > at(5 * hour), x > 2);
+    }
 }
 
 void TestRulerInput::fingers()
@@ -484,6 +385,73 @@ void TestRulerInput::fingers()
         touch(ruler).release(0, QPoint(700, 30)).commit();
         QVERIFY(!ruler.isHeld());
         QCOMPARE(ruler.getIndicatorMSecs(), at(0));
+    }
+}
+
+void TestRulerInput::previewComesAndGoes()
+{
+    LoggedRuler ruler;
+    play(&ruler, u"previews; hover 510,5"_s);
+    QTRY_COMPARE(ruler.log, QStringList{u"preview 1800 at 510"_s});
+    ruler.takeLog();
+    ruler.onPreviewVisible(true, false);
+    moveMouse(ruler, QPoint(610, 5));
+    QTRY_COMPARE(ruler.log, QStringList{u"preview 2160 at 610"_s});
+    ruler.takeLog();
+    // Not yet while Qt tells of the leaving: a client may not delete anything then.
+    QCOMPARE(play(&ruler, u"leave"_s), QString());
+    QCOMPARE(play(&ruler, u"turn"_s), u"no preview"_s);
+    QCOMPARE(runningTimers(ruler), 0);
+
+    // Without previews there is no line either.
+    ruler.setPreviewIndicatorPosition(at(30 * minute));
+    const auto lineColor = [&ruler] {
+        return ruler.grab().toImage().pixelColor(510, 50);
+    };
+    const QColor withLine = lineColor();
+    ruler.setPreviewEnabled(false);
+    QVERIFY(lineColor() != withLine);
+}
+
+void TestRulerInput::previewLineReports()
+{
+    LoggedRuler ruler;
+    ruler.setPreviewIndicatorPosition(at(30 * minute));
+    QCOMPARE(ruler.log, QStringList());
+    QTRY_COMPARE(ruler.log, QStringList{u"line 510,-1"_s});
+    ruler.takeLog();
+    ruler.setPreviewIndicatorPosition(at(5 * day));
+    QTRY_COMPARE(ruler.log, QStringList{u"line 1015,-1"_s});
+    ruler.takeLog();
+
+    // The column at which the last preview was asked for is known already.
+    play(&ruler, u"previews; hover 510,5"_s);
+    QTRY_COMPARE(ruler.log, QStringList{u"preview 1800 at 510"_s});
+    ruler.takeLog();
+    ruler.setPreviewIndicatorPosition(at(30 * minute));
+    ruler.setPreviewIndicatorPosition(0);
+    QCOMPARE(play(&ruler, u"turn"_s), QString());
+}
+
+void TestRulerInput::neighbours()
+{
+    // Outside the limits, three at one instant, and on both sides of a range.
+    for (const bool onlyInside : {false, true}) {
+        LoggedRuler ruler;
+        for (const qint64 time : {-hour, hour, hour, hour, 3 * hour, 5 * hour, 11 * day})
+            ruler.onAddMarkers({{.time = timeAt(time)}});
+        ruler.setResultTimeRange(timeAt(2 * hour), timeAt(4 * hour), false, false, onlyInside,
+                                 false);
+        ruler.setIndicatorPosition(0);
+        for (const Qt::Key key : {Qt::Key_N, Qt::Key_P})
+            for (int i = 0; i < 9; ++i)
+                QTest::keyClick(&ruler, key);
+        ruler.log.removeIf([](const QString& line) { return !line.startsWith(u"jump"); });
+        for (QString& line : ruler.log)
+            line = line.right(5);
+        QCOMPARE(ruler.takeLog().join(u' '),
+                 onlyInside ? u"03:00"_s
+                            : u"01:00 01:00 01:00 03:00 05:00 03:00 01:00 01:00 01:00"_s);
     }
 }
 
@@ -511,36 +479,30 @@ void TestRulerInput::assistiveTechnology()
 
 void TestRulerInput::deletionInSignals()
 {
+    using Act = std::function<void(LoggedRuler*)>;
+    const auto script = [](const QString& text) -> Act {
+        return [text](LoggedRuler* ruler) {
+            play(ruler, text);
+        };
+    };
     const std::vector<Act> acts{
-        [](LoggedRuler& ruler) { ruler.setTimeLimits(at(day), at(9 * day)); },
-        [](LoggedRuler& ruler) { ruler.changeLevel(3, 0.5); },
-        [](LoggedRuler& ruler) { ruler.onZoomerOut(1, 0.5), ruler.changeLevel(8, 0.5); },
-        [](LoggedRuler& ruler) { ruler.setIndicatorPosition(at(5 * day)); },
-        [](LoggedRuler& ruler) {
-            whileAlive(
-                &ruler, [&] { ruler.press(510); }, [&] { ruler.release(510); });
+        [](LoggedRuler* ruler) { ruler->setTimeLimits(at(day), at(9 * day)); },
+        [](LoggedRuler* ruler) {
+            ruler->setResultTimeRange(timeAt(day), timeAt(2 * day), true, true, true, true);
         },
-        [](LoggedRuler& ruler) { wheel(ruler, -120); },
-        [](LoggedRuler& ruler) { QTest::keyClick(&ruler, Qt::Key_End); },
-        pressRightArrow,
-        [](LoggedRuler& ruler) {
-            whileAlive(
-                &ruler, [&] { ruler.press(600); }, [&] { ruler.dragTo(300); },
-                [&] { ruler.release(300); });
-        },
-        [](LoggedRuler& ruler) {
-            whileAlive(
-                &ruler, [&] { pressRightArrow(ruler); }, [&] { ruler.hide(); },
-                [] { QCoreApplication::processEvents(); });
-        },
-        [](LoggedRuler& ruler) { ruler.onAddMarkers({{.time = timeAt(minute)}}); },
-        [](LoggedRuler& ruler) {
-            ruler.setResultTimeRange(timeAt(day), timeAt(2 * day), true, true, true, true);
-        },
-        [](LoggedRuler& ruler) {
-            leaveMouse(ruler);
-            QCoreApplication::processEvents();
-        },
+        script(u"level 3"_s),
+        script(u"place 432000"_s),
+        script(u"marker 60"_s),
+        script(u"press 510; release 510"_s),
+        script(u"wheel -120"_s),
+        script(u"key End"_s),
+        script(u"press arrow 1017; release arrow 1017"_s),
+        script(u"press 600; drag 300; release 300"_s),
+        script(
+            u"place 1800; reports; press indicator 510,5; drag indicator 610,5; release indicator 610,5"_s),
+        script(u"press arrow 1017; hide; turn"_s),
+        script(u"place 1800; press indicator 510,5; drag indicator 610,5; block"_s),
+        script(u"leave; turn"_s),
     };
     for (const Act& act : acts) {
         // Whatever signal comes first, second and so on deletes the ruler.
@@ -559,7 +521,7 @@ void TestRulerInput::deletionInSignals()
             connect(ruler, &Ruler::heldChanged, &context, mayDelete);
             connect(ruler, &Ruler::newVisibleRulerMarkers, &context, mayDelete);
             connect(ruler, &Ruler::previewPositionChanged, &context, mayDelete);
-            act(*ruler);
+            act(ruler);
             QVERIFY(count > 0);
             QCOMPARE(ruler.isNull(), count > survived);
             delete ruler;
