@@ -242,6 +242,8 @@ void TestRulerInput::hands()
         {u"place 1800"_s,
          u"drag indicator 610,5; hover indicator 610,5; release indicator 610,5; where"_s,
          u"at 1800"_s},
+        {u"place 1800"_s, u"press-right indicator 510,5; drag indicator 610,5; where"_s,
+         u"at 1800"_s},
         // A second press counts, however soon it comes
         {{},
          u"press 510; release 510; press-again indicator 510,5; drag indicator 610,5; where"_s,
@@ -250,6 +252,8 @@ void TestRulerInput::hands()
          u"center 0.02326 | view 02 05:04 - 02 06:05 moving | view 02 05:04 - 02 06:05"_s},
         {u"hour 5"_s, u"press-right arrow 1017; release-right arrow 1017"_s, {}},
         {u"offset 1.0"_s, u"press arrow 1017; release arrow 1017"_s, u"view 11 23:29 - 12 00:30"_s},
+        {u"key End"_s, u"press arrow 1017; release arrow 1017"_s,
+         u"center 0.9983 | view 11 23:04 - 12 00:05 moving | view 11 23:04 - 12 00:05"_s},
         // Many notches at once are one step of the wheel, less than a degree is none
         {u"offset 0.5"_s, u"wheel 1200"_s,
          u"level 0 | center 0.4993 | view 06 23:39 - 06 23:59 | level 0"_s},
@@ -359,6 +363,7 @@ void TestRulerInput::heldArrow()
         play(&stepped, u"hour 5"_s);
         QWidget* arrow = stepped.childAt(x, 30);
         QCOMPARE(arrow->accessibleName(), name);
+        QVERIFY(stepped.rect().contains(arrow->geometry()));
         pressByAssistiveTechnology(arrow);
         QTRY_COMPARE(stepped.log.size(), 3);
         QVERIFY(!stepped.isHeld());
