@@ -50,6 +50,8 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
             &Ruler::previewPositionChanged);
     connect(d->hover.get(), &RulerHover::previewIndicatorPositionChanged, this,
             &Ruler::previewIndicatorPositionChanged);
+    // An arrow covers the ruler, and is at no time of the scale.
+    connect(d->arrows, &RulerArrows::entered, d->hover.get(), &RulerHover::abandon);
     d->hover->setAreaHeight(2 * d->headerHeight);
     d->gestures = std::make_unique<RulerGestures>(this, *d);
 

@@ -99,6 +99,9 @@ bool RulerArrows::eventFilter(QObject* watched, QEvent* event)
         auto* button = static_cast<QAbstractButton*>(watched);
         return button->isEnabled() && mouseEvent(button, static_cast<QMouseEvent*>(event));
     }
+    case QEvent::Enter:
+        Q_EMIT entered();
+        return false;
     case QEvent::LanguageChange:
         retranslate();
         return false;

@@ -28,6 +28,8 @@ Q_SIGNALS:
     void released();
     /// An arrow was activated in another way, such as by assistive technology.
     void activated(int direction);
+    /// The mouse came onto an arrow.
+    void entered();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

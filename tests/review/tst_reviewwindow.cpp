@@ -3,6 +3,7 @@
 #include "testsupport.h"
 #include "times.h"
 
+#include <QComboBox>
 #include <QDockWidget>
 #include <QListWidget>
 #include <QTest>
@@ -16,8 +17,8 @@ namespace {
 QString enabledActions(const SampleWindow& sample)
 {
     QStringList texts;
-    for (const QString& text :
-         {u"Zoom in"_s, u"Zoom out"_s, u"Whole period"_s, u"Earlier"_s, u"Later"_s})
+    for (const QString& text : {u"Zoom in"_s, u"Zoom out"_s, u"Whole period"_s, u"Earlier"_s,
+                                u"Later"_s, u"Current time"_s})
         texts += sample.action(text)->isEnabled() ? QStringList{text} : QStringList();
     return texts.join(u", "_s);
 }
@@ -40,6 +41,8 @@ private Q_SLOTS:
     void timesStandInTheZone();
     void problemsAreListed();
     void lookIsSwitched();
+    void camerasAreChosen();
+    void largeFontsFit();
 };
 
 void TestReviewWindow::actionsMoveTheView()
@@ -49,17 +52,21 @@ void TestReviewWindow::actionsMoveTheView()
     QVERIFY(sample.says(u"Cameras: 4    Recordings: 2,721    Events: 1,631"_s));
     QCOMPARE(enabledActions(sample), u"Zoom in"_s);
 
-    // The level of fourteen days would show the same as the whole period. The indicator at its
-    // begin stays in view.
-    sample.action(u"Zoom in"_s)->trigger();
-    QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Later"_s);
+    // The level of fourteen days would show the same as the whole period.
     Ruler* ruler = sample.ruler();
-    QCOMPARE(qint64(ruler->getIndicatorMSecs()), monday);
+    QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(ruler->width() * 2 / 5, 5));
+    const qint64 time = qint64(ruler->getIndicatorMSecs());
+    sample.action(u"Zoom in"_s)->trigger();
+    QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Earlier, Later"_s);
     QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 7 * day);
-    const qint64 begin = qint64(ruler->beginTime());
 
+    const qint64 begin = qint64(ruler->beginTime());
     sample.action(u"Later"_s)->trigger();
     QCOMPARE(qint64(ruler->beginTime()), begin + 7 * day / 2);
+    QCOMPARE(enabledActions(sample),
+             u"Zoom in, Zoom out, Whole period, Earlier, Later, Current time"_s);
+    sample.action(u"Current time"_s)->trigger();
+    QVERIFY(time > qint64(ruler->beginTime()) && time < qint64(ruler->endTime()));
     sample.action(u"Earlier"_s)->trigger();
     sample.action(u"Earlier"_s)->trigger();
     QCOMPARE(qint64(ruler->beginTime()), monday);
@@ -68,7 +75,7 @@ void TestReviewWindow::actionsMoveTheView()
     for (int i = 0; i < 10; ++i)
         sample.action(u"Zoom in"_s)->trigger();
     QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 20 * minute);
-    QCOMPARE(enabledActions(sample), u"Zoom out, Whole period, Later"_s);
+    QCOMPARE(enabledActions(sample), u"Zoom out, Whole period, Earlier, Later"_s);
     sample.action(u"Zoom out"_s)->trigger();
     QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), hour);
 
@@ -134,6 +141,47 @@ void TestReviewWindow::lookIsSwitched()
     QVERIFY(tableLightness() > 200);
     sample.action(u"Dark look"_s)->trigger();
     QVERIFY(tableLightness() < 60);
+}
+
+void TestReviewWindow::camerasAreChosen()
+{
+    const SampleWindow sample(u"UTC"_s);
+    const auto* shown = sample.window.findChild<QComboBox*>();
+    QTreeWidgetItem* park = sample.device(u"Car park"_s);
+    QTreeWidget* tree = sample.devices();
+    const auto click = [&](QTreeWidgetItem* item) {
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
+                          tree->visualItemRect(item).topLeft() + QPoint(60, 8));
+    };
+    click(park);
+    QCOMPARE(shown->currentText(), u"Car park"_s);
+
+    park->setCheckState(DeviceItem::Name, Qt::Unchecked);
+    click(park);
+    QCOMPARE(shown->currentText(), u"Main gate"_s);
+    const auto data = SampleData::make();
+    for (const CorvelGui::TimeSpan& recording : data.tracks[1].recorded.first(2)) {
+        QTest::keyClick(tree, Qt::Key_Return);
+        const QDateTime begin = QDateTime::fromMSecsSinceEpoch(recording.begin, Qt::UTC);
+        QVERIFY(sample.showsTime(begin.toString(u"dd MMM HH:mm:ss"_s)));
+        QCOMPARE(shown->currentText(), u"Car park"_s);
+    }
+}
+
+void TestReviewWindow::largeFontsFit()
+{
+    const auto sizes = [] {
+        const SampleWindow sample(u"UTC"_s);
+        return QSize(sample.window.minimumSizeHint().width(), sample.ruler()->minimumHeight());
+    };
+    const QSize before = sizes();
+    QVERIFY(before.width() <= 480);
+    const QFont font = QApplication::font();
+    QApplication::setFont({font.family(), 20});
+    const QSize large = sizes();
+    QApplication::setFont(font);
+    QVERIFY(large.width() <= 800);
+    QVERIFY(large.height() > before.height() * 3 / 2);
 }
 
 QTEST_MAIN(TestReviewWindow)

@@ -5,9 +5,7 @@
 namespace Review {
 
 LoadJob::LoadJob(const ReviewFiles& files, QObject* parent)
-    : QObject(parent)
-    , m_isSample(files.isEmpty())
-    , m_thread(QThread::create([this, files] { load(files); }))
+    : QObject(parent), m_files(files), m_thread(QThread::create([this] { load(); }))
 {
     connect(m_thread.get(), &QThread::finished, this, &LoadJob::loaded);
 }
@@ -17,14 +15,14 @@ LoadJob::~LoadJob()
     m_thread->wait();
 }
 
-void LoadJob::load(const ReviewFiles& files)
+void LoadJob::load()
 {
-    if (files.isEmpty()) {
+    if (m_files.isEmpty()) {
         m_data = SampleData::make();
         return;
     }
     ReviewLoader loader;
-    m_error = loader.load(files);
+    m_error = loader.load(m_files);
     if (m_error.isEmpty()) {
         m_data = loader.data();
         m_problems = loader.problems();

@@ -27,16 +27,16 @@ public:
     const ProblemList& problems() const { return m_problems; }
     /// Why a file could not be read, or an empty string.
     const QString& error() const { return m_error; }
-    bool isSample() const { return m_isSample; }
+    const ReviewFiles& files() const { return m_files; }
 
 Q_SIGNALS:
     /// Emitted once, from the event loop of the thread that made the job.
     void loaded();
 
 private:
-    void load(const ReviewFiles& files);
+    void load();
 
-    const bool m_isSample;
+    const ReviewFiles m_files;
     ReviewData m_data;
     ProblemList m_problems;
     QString m_error;

@@ -30,6 +30,20 @@ TimeSpan ReviewData::period() const
     return period;
 }
 
+Sight ReviewData::firstSight() const
+{
+    if (!events.isEmpty())
+        return {.msecs = events.first().time, .track = events.first().track};
+    Sight first{.msecs = period().end};
+    for (const TrackDescription& track : tracks) {
+        for (const TimeSpan& span : track.recorded) {
+            if (span.begin < first.msecs)
+                first = {.msecs = span.begin, .track = track.identifier};
+        }
+    }
+    return first.track.isEmpty() ? Sight{.msecs = period().begin} : first;
+}
+
 qsizetype ReviewData::recordingCount() const
 {
     qsizetype count = 0;

@@ -20,6 +20,14 @@ struct Event
     bool operator==(const Event&) const = default;
 };
 
+/// A moment at a camera.
+struct Sight
+{
+    qint64 msecs = 0;
+    /// Identifier of its track; may be empty.
+    QString track = {};
+};
+
 /// What the client shows.
 struct ReviewData
 {
@@ -29,6 +37,9 @@ struct ReviewData
 
     /// From the first to the last instant of all that is there; empty if there is nothing.
     CorvelGui::TimeSpan period() const;
+    /// Where there is something to see for the first time: the first event, or without events the
+    /// first recording.
+    Sight firstSight() const;
     qsizetype recordingCount() const;
 };
 

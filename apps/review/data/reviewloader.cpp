@@ -3,6 +3,7 @@
 #include "lineparser.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <limits>
@@ -34,6 +35,14 @@ ReviewFiles ReviewFiles::inFolder(const QString& folder)
     return {.recordings = existing(u"recordings.csv"_s),
             .events = existing(u"events.csv"_s),
             .deployments = existing(u"deployments.csv"_s)};
+}
+
+QString ReviewFiles::name() const
+{
+    const QString first = !recordings.isEmpty() ? recordings
+                          : !events.isEmpty()   ? events
+                                                : deployments;
+    return first.isEmpty() ? QString() : QFileInfo(first).absoluteDir().dirName();
 }
 
 QString ReviewLoader::load(const ReviewFiles& files)

@@ -23,6 +23,8 @@ struct ReviewFiles
     {
         return recordings.isEmpty() && events.isEmpty() && deployments.isEmpty();
     }
+    /// What the user calls them: the folder that they are in.
+    QString name() const;
 };
 
 /// Loads recordings, events and deployments from files. Malformed lines are left out and noted.

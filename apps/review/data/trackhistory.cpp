@@ -37,6 +37,12 @@ TrackState TrackHistory::stateAt(qint64 msecs) const
                                                          : TrackState::NothingKnown;
 }
 
+std::optional<TimeSpan> TrackHistory::nextRecording(qint64 msecs) const
+{
+    const auto next = std::ranges::upper_bound(m_recorded, msecs, {}, &TimeSpan::begin);
+    return next == m_recorded.end() ? std::nullopt : std::optional(*next);
+}
+
 qint64 TrackHistory::recordedTime() const
 {
     qint64 total = 0;

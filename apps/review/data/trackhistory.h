@@ -2,6 +2,8 @@
 
 #include <CorvelGui/TrackDescription>
 
+#include <optional>
+
 namespace Review {
 
 enum class TrackState {
@@ -30,6 +32,8 @@ public:
     qint64 recordedTime() const;
     /// Empty if nothing is known.
     const CorvelGui::TimeSpan& known() const { return m_known; }
+    /// The recording that begins next after @p msecs.
+    std::optional<CorvelGui::TimeSpan> nextRecording(qint64 msecs) const;
     /// Sorted, none empty, with a gap between any two.
     const QList<CorvelGui::TimeSpan>& recorded() const { return m_recorded; }
 

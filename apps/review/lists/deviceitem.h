@@ -39,6 +39,7 @@ public:
     /// What is recorded; an empty one, called like the address, if there is only that.
     const CorvelGui::TrackDescription& track() const { return m_track; }
     std::optional<quint32> address() const { return m_address; }
+    const TrackHistory& history() const { return m_history; }
     TrackState stateAt(qint64 msecs) const { return m_history.stateAt(msecs); }
 
     /// Writes all columns again.

@@ -51,6 +51,7 @@ DevicePane::DevicePane(const Clock& clock, Selection& selection, QWidget* parent
 
     connect(m_filter, &FilterLineEdit::filterChanged, m_tree, &DeviceTree::showRows);
     connect(m_tree, &DeviceTree::checkedTracksChanged, this, &DevicePane::checkedTracksChanged);
+    connect(m_tree, &DeviceTree::told, this, &DevicePane::told);
     connect(m_tree, &QTreeWidget::itemSelectionChanged, this,
             [this] { m_remove->setEnabled(m_tree->canRemoveSelected()); });
     connect(m_addRange, &QAction::triggered, this, &DevicePane::askForRange);
@@ -128,7 +129,7 @@ void DevicePane::addRange(quint32 address, int prefix)
     QString text = tr("%n camera(s) added.", nullptr, added);
     if (known > 0)
         text += u' ' + tr("%n address(es) had a camera already.", nullptr, known);
-    Q_EMIT camerasAdded(text);
+    Q_EMIT told(text);
 }
 
 void DevicePane::retranslate()

@@ -46,8 +46,8 @@ public:
 Q_SIGNALS:
     /// Emitted when a check box was changed.
     void checkedTracksChanged();
-    /// Emitted after cameras were added, with a sentence for the user that says how many.
-    void camerasAdded(const QString& text);
+    /// Tells the user in a sentence what has happened.
+    void told(const QString& sentence);
 
 protected:
     void retranslate() final;

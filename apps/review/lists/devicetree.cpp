@@ -39,6 +39,14 @@ DeviceTree::DeviceTree(const Clock& clock, Selection& selection, QWidget* parent
     header()->setSortIndicator(-1, Qt::AscendingOrder);
     connect(header(), &QHeaderView::sortIndicatorChanged, this, &DeviceTree::sortGroups);
     connect(this, &QTreeWidget::itemChanged, this, &DeviceTree::followCheck);
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        if (const DeviceItem* device = deviceOf(item))
+            choose(*device);
+    });
+    connect(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+        if (DeviceItem* device = deviceOf(item))
+            open(*device);
+    });
     InitCopyMenus(true);
     ListLook::offerActions(this);
     connect(&clock, &Clock::changed, this, &DeviceTree::followClock);
@@ -178,6 +186,30 @@ QList<NamedState> DeviceTree::statesAt(qint64 msecs) const
             states.append({device->track().name, device->stateAt(msecs)});
     }
     return states;
+}
+
+DeviceItem* DeviceTree::deviceOf(QTreeWidgetItem* item) const
+{
+    return item == m_cameras || item == m_added ? nullptr : static_cast<DeviceItem*>(item);
+}
+
+void DeviceTree::choose(const DeviceItem& device)
+{
+    if (device.isChecked(DeviceItem::Name))
+        m_selection.setCamera(device.track().identifier);
+}
+
+void DeviceTree::open(DeviceItem& device)
+{
+    const auto next = device.history().nextRecording(m_selection.moment());
+    if (device.parent() == m_cameras) {
+        device.setChecked(DeviceItem::Name, true);
+        choose(device);
+    }
+    if (next)
+        m_selection.goTo(next->begin);
+    else
+        Q_EMIT told(tr("There are no more recordings of this camera."));
 }
 
 void DeviceTree::followCheck(const QTreeWidgetItem* item, int column)

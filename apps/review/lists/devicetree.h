@@ -14,6 +14,9 @@ class Selection;
 
 /// The cameras in groups: those with tracks, each with a check box that says whether the timeline
 /// shows it, and those that were added by their addresses.
+///
+/// A click on a checked camera selects it. A double click or Return also checks it, and goes on to
+/// its next recording.
 class DeviceTree : public Translated<CorvelGui::PTreeWidget>
 {
     Q_OBJECT
@@ -46,6 +49,8 @@ public:
 Q_SIGNALS:
     /// Emitted once after the user has changed a check box, whether of a camera or of a group.
     void checkedTracksChanged();
+    /// Tells the user in a sentence what has happened.
+    void told(const QString& sentence);
 
 protected:
     void retranslate() final;
@@ -56,6 +61,9 @@ private:
     QList<DeviceItem*> devices() const;
     QList<DeviceItem*> devicesOf(const QTreeWidgetItem* group) const;
     QList<DeviceItem*> removable() const;
+    DeviceItem* deviceOf(QTreeWidgetItem* item) const;
+    void choose(const DeviceItem& device);
+    void open(DeviceItem& device);
     void followCheck(const QTreeWidgetItem* item, int column);
     void showChecksOfGroup();
     void sortGroups();

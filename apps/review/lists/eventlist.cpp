@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+using CorvelGui::TimeSpan;
 using CorvelGui::TrackDescription;
 
 namespace Review {
@@ -42,12 +43,12 @@ bool EventList::isShown(qsizetype index) const
     return m_hiddenTracks.isEmpty() || !m_hiddenTracks.contains(m_events[index].track);
 }
 
-QList<Event> EventList::eventsAt(qint64 msecs) const
+QList<Event> EventList::eventsIn(const TimeSpan& span) const
 {
     QList<Event> events;
     auto shown = std::partition_point(m_shown.begin(), m_shown.end(),
-                                      [&](qsizetype i) { return m_events[i].time < msecs; });
-    for (; shown != m_shown.end() && m_events[*shown].time == msecs; ++shown)
+                                      [&](qsizetype i) { return m_events[i].time < span.begin; });
+    for (; shown != m_shown.end() && m_events[*shown].time < span.end; ++shown)
         events.append(m_events[*shown]);
     return events;
 }

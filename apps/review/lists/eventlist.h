@@ -27,8 +27,8 @@ public:
     bool isShown(qsizetype index) const;
     /// Numbers of the events that are not left out, in their order.
     const std::vector<qsizetype>& shownEvents() const { return m_shown; }
-    /// Those of them that happened at exactly @p msecs.
-    QList<Event> eventsAt(qint64 msecs) const;
+    /// Those of them that happened within @p span.
+    QList<Event> eventsIn(const CorvelGui::TimeSpan& span) const;
 
 private:
     void findShown();

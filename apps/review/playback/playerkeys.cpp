@@ -18,7 +18,7 @@ namespace {
 bool needsSpaceBar(const QObject* widget)
 {
     if (const auto* view = qobject_cast<const QAbstractItemView*>(widget))
-        return view->currentIndex().flags().testFlag(Qt::ItemIsUserCheckable);
+        return view->currentIndex().data(Qt::CheckStateRole).isValid();
     return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QComboBox*>(widget) ||
            qobject_cast<const TarvoDateTimeView*>(widget);
 }

@@ -1,5 +1,7 @@
 #include "transportbar.h"
 
+#include "look/elidedlabel.h"
+#include "look/flowlayout.h"
 #include "session/clock.h"
 #include "session/selection.h"
 
@@ -7,8 +9,6 @@
 #include <CorvelGui/TarvoDateTimeView>
 
 #include <QCheckBox>
-#include <QHBoxLayout>
-#include <QLabel>
 
 using CorvelGui::PPlaybar;
 using CorvelGui::TarvoDateTimeView;
@@ -23,23 +23,21 @@ TransportBar::TransportBar(const Clock& clock, Selection& selection, QWidget* pa
     , m_time(new TarvoDateTimeView(this))
     , m_playbar(new PPlaybar(this))
     , m_skipGaps(new QCheckBox(this))
-    , m_viewLabel(new QLabel(this))
+    , m_viewLabel(new ElidedLabel(this))
 {
     m_time->setPlayMode(false);
     // Leaves the space bar to the player after a click.
     m_skipGaps->setFocusPolicy(Qt::TabFocus);
-    m_viewLabel->setTextFormat(Qt::PlainText);
     m_viewLabel->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-    // On a narrow window it takes two lines.
-    m_viewLabel->setWordWrap(true);
+    m_viewLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 
-    auto* layout = new QHBoxLayout(this);
+    auto* layout = new FlowLayout(this);
     layout->setContentsMargins(8, 2, 8, 2);
     layout->setSpacing(16);
     layout->addWidget(m_time);
     layout->addWidget(m_playbar);
     layout->addWidget(m_skipGaps);
-    layout->addWidget(m_viewLabel, 1);
+    layout->addWidget(m_viewLabel);
     connect(m_time, &TarvoDateTimeView::jumoToTime, &selection,
             [&selection](const QDateTime& time) { selection.goTo(time.toMSecsSinceEpoch()); });
     connect(&selection, &Selection::momentChanged, this, &TransportBar::showMoment);

@@ -7,7 +7,6 @@
 #include <QWidget>
 
 class QCheckBox;
-class QLabel;
 
 namespace CorvelGui {
 class PPlaybar;
@@ -17,6 +16,7 @@ class TarvoDateTimeView;
 namespace Review {
 
 class Clock;
+class ElidedLabel;
 class Selection;
 
 /// What belongs to playing, in a row: the selected moment, the playbar, the switch for gaps, and
@@ -53,7 +53,7 @@ private:
     CorvelGui::TarvoDateTimeView* m_time;
     CorvelGui::PPlaybar* m_playbar;
     QCheckBox* m_skipGaps;
-    QLabel* m_viewLabel;
+    ElidedLabel* m_viewLabel;
 };
 
 } // namespace Review

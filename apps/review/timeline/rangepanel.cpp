@@ -1,12 +1,12 @@
 #include "rangepanel.h"
 
 #include "instantedit.h"
+#include "look/flowlayout.h"
 #include "session/clock.h"
 
 #include <QAccessible>
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -109,11 +109,10 @@ void RangePanel::createLayout()
     layout->addWidget(m_search, 0, 3);
     layout->addWidget(m_result, 1, 3);
 
-    auto* result = new QHBoxLayout;
+    auto* result = new FlowLayout;
     result->setSpacing(14);
     for (QCheckBox* box : {m_markBegin, m_markEnd, m_onlyInside, m_zoom})
         result->addWidget(box);
-    result->addStretch();
     layout->addWidget(m_message, 0, 4);
     layout->addLayout(result, 1, 4);
     layout->setColumnStretch(4, 1);

@@ -2,14 +2,13 @@
 
 #include "session/clock.h"
 #include "session/selection.h"
+#include "timelinepreview.h"
 
 #include <CorvelGui/Ruler>
 #include <CorvelGui/ZoomTimeline>
 
-#include <QTimer>
+#include <QFontInfo>
 #include <QVBoxLayout>
-
-#include <utility>
 
 using CorvelGui::Ruler;
 using CorvelGui::RulerMarker;
@@ -24,6 +23,7 @@ namespace Review {
 namespace {
 
 constexpr double viewCentre = 0.5;
+constexpr int smallestWidth = 320;
 constexpr qint64 spanAroundMarker = qint64(20) * 60 * 1'000;
 
 QDateTime dateTime(qint64 msecs)
@@ -42,9 +42,10 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
     m_timeline->setOrvaneGuiTheme(true);
     m_timeline->setActive(true, false);
     m_timeline->setTimeZone(clock.zoneName());
+    m_ruler->setMinimumWidth(smallestWidth);
     m_ruler->setIndicatorDragEnabled(true);
-    m_ruler->setPreviewEnabled(true);
     m_ruler->setFollowMode(Ruler::FollowMode::Pages);
+    followFont();
     retranslate();
 
     connect(m_ruler, &Ruler::timeLineViewChanged, this, &TimelinePane::viewChanged);
@@ -60,8 +61,12 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
                 m_selection.setMoment(time.toMSecsSinceEpoch());
                 Q_EMIT markerChosen(marker);
             });
-    connect(m_ruler, &Ruler::previewPositionChanged, this, &TimelinePane::showPreview);
     connect(m_timeline, &ZoomTimeline::heldChanged, &selection, &Selection::setHeld);
+    connect(new TimelinePreview(m_ruler), &TimelinePreview::changed, this,
+            [this](qint64 msecs, int x, const TimeSpan& symbol) {
+                Q_EMIT previewChanged(msecs, m_ruler->mapTo(this, QPoint(x, 0)), symbol);
+            });
+    connect(m_ruler, &Ruler::followingChanged, this, &TimelinePane::followingChanged);
     connect(&clock, &Clock::changed, this, [&] { m_timeline->setTimeZone(clock.zoneName()); });
     connect(&selection, &Selection::momentChanged, this, &TimelinePane::followMoment);
     connect(&selection, &Selection::viewWanted, this, &TimelinePane::bringIntoView);
@@ -97,6 +102,18 @@ void TimelinePane::setMarkersShown(bool shown)
 {
     m_ruler->onMarkerOperation(
         {.markers = {}, .code = shown ? RulerMarkerOperation::show : RulerMarkerOperation::hide});
+}
+
+void TimelinePane::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        followFont();
+    Translated::changeEvent(event);
+}
+
+void TimelinePane::followFont()
+{
+    m_timeline->setFontSize(QFontInfo(font()).pointSize());
 }
 
 void TimelinePane::retranslate()
@@ -146,18 +163,6 @@ void TimelinePane::clearRanges()
     m_ruler->setResultTimeRange({}, {}, false, false, false, false);
 }
 
-void TimelinePane::showPreview(quint64 msecs, const QPoint& position, bool onMarker)
-{
-    // On a marker the ruler reports twice in a row: the marker, and the time under the mouse.
-    if (std::exchange(m_markerPreviewed, onMarker && msecs > 0) && msecs > 0 && !onMarker)
-        return;
-    if (m_markerPreviewed)
-        QTimer::singleShot(0, this, [this] { m_markerPreviewed = false; });
-    m_ruler->setPreviewIndicatorPosition(msecs);
-    m_ruler->onPreviewVisible(msecs > 0, false);
-    Q_EMIT previewChanged(qint64(msecs), m_ruler->mapTo(this, QPoint(position.x(), 0)), onMarker);
-}
-
 TimeSpan TimelinePane::view() const
 {
     return m_ruler->view();
@@ -166,6 +171,11 @@ TimeSpan TimelinePane::view() const
 bool TimelinePane::showsWholePeriod() const
 {
     return view() == m_period;
+}
+
+bool TimelinePane::isFollowing() const
+{
+    return m_ruler->isFollowing();
 }
 
 bool TimelinePane::canZoomIn() const
@@ -188,6 +198,11 @@ bool TimelinePane::canStepEarlier() const
 bool TimelinePane::canStepLater() const
 {
     return pixelsBetween(view().end, m_period.end) >= 1;
+}
+
+void TimelinePane::showMoment()
+{
+    m_ruler->resumeFollowing();
 }
 
 void TimelinePane::zoomIn()

@@ -49,6 +49,8 @@ public:
     /// What is in view; empty without a period.
     CorvelGui::TimeSpan view() const;
     bool showsWholePeriod() const;
+    /// Whether the view turns pages after the moment.
+    bool isFollowing() const;
     bool canZoomIn() const;
     bool canZoomOut() const;
     bool canStepEarlier() const;
@@ -61,6 +63,8 @@ public Q_SLOTS:
     /// Half a view towards the begin or the end of the period.
     void stepEarlier();
     void stepLater();
+    /// Brings the moment back into view, and follows it from there.
+    void showMoment();
     void setMarkersShown(bool shown);
 
 Q_SIGNALS:
@@ -68,17 +72,19 @@ Q_SIGNALS:
     void viewChanged();
     /// Emitted when a marker was pressed or opened; its moment is the selected one already.
     void markerChosen(const QUuid& identifier);
-    /// The mouse rests at a time, or on the marker of that time (@p onMarker). @p position is on
-    /// the upper edge of the timeline. A time of 0 ends the preview.
-    void previewChanged(qint64 msecs, const QPoint& position, bool onMarker);
+    /// Emitted when isFollowing() changed.
+    void followingChanged();
+    /// As TimelinePreview::changed(). @p position is on the upper edge of the timeline.
+    void previewChanged(qint64 msecs, const QPoint& position, const CorvelGui::TimeSpan& symbol);
 
 protected:
     void retranslate() final;
+    void changeEvent(QEvent* event) override;
 
 private:
     void followMoment();
     void bringIntoView(qint64 msecs);
-    void showPreview(quint64 msecs, const QPoint& position, bool onMarker);
+    void followFont();
     double pixelsBetween(qint64 begin, qint64 end) const;
 
     Selection& m_selection;
@@ -86,7 +92,6 @@ private:
     CorvelGui::Ruler* m_ruler;
     CorvelGui::TimeSpan m_period;
     CorvelGui::TimeSpan m_searchRange;
-    bool m_markerPreviewed = false;
 };
 
 } // namespace Review

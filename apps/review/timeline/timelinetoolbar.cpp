@@ -24,6 +24,7 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     addSeparator();
     m_earlier = addAction(QString());
     m_later = addAction(QString());
+    m_moment = addAction(QString());
     addSeparator();
     m_showMarkers = addAction(QString());
     m_showMarkers->setCheckable(true);
@@ -36,22 +37,25 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_wholePeriod->setShortcut(Qt::CTRL | Qt::Key_0);
     m_earlier->setShortcut(Qt::ALT | Qt::Key_Left);
     m_later->setShortcut(Qt::ALT | Qt::Key_Right);
+    m_moment->setShortcut(Qt::CTRL | Qt::Key_T);
 
     connect(m_zoomIn, &QAction::triggered, timeline, &TimelinePane::zoomIn);
     connect(m_zoomOut, &QAction::triggered, timeline, &TimelinePane::zoomOut);
     connect(m_wholePeriod, &QAction::triggered, timeline, &TimelinePane::showWholePeriod);
     connect(m_earlier, &QAction::triggered, timeline, &TimelinePane::stepEarlier);
     connect(m_later, &QAction::triggered, timeline, &TimelinePane::stepLater);
+    connect(m_moment, &QAction::triggered, timeline, &TimelinePane::showMoment);
     connect(m_showMarkers, &QAction::toggled, timeline, &TimelinePane::setMarkersShown);
     connect(timeline, &TimelinePane::viewChanged, this, &TimelineToolBar::showState);
+    connect(timeline, &TimelinePane::followingChanged, this, &TimelineToolBar::showState);
     retranslate();
     showState();
 }
 
 QList<QAction*> TimelineToolBar::viewActions() const
 {
-    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,     m_earlier,
-            m_later,  nullptr,   m_showMarkers, m_showRanges};
+    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,       m_earlier,
+            m_later,  m_moment,  nullptr,       m_showMarkers, m_showRanges};
 }
 
 void TimelineToolBar::retranslate()
@@ -62,6 +66,8 @@ void TimelineToolBar::retranslate()
     m_wholePeriod->setText(tr("Whole period"));
     m_earlier->setText(tr("Earlier"));
     m_later->setText(tr("Later"));
+    m_moment->setText(tr("Current time"));
+    m_moment->setToolTip(tr("Brings the time that is shown back into the view of the timeline"));
     m_showMarkers->setText(tr("Events"));
     m_showMarkers->setToolTip(tr("Shows the events on the timeline"));
     m_showRanges->setText(tr("Ranges"));
@@ -75,6 +81,7 @@ void TimelineToolBar::showState()
     m_wholePeriod->setEnabled(!m_timeline->showsWholePeriod());
     m_earlier->setEnabled(m_timeline->canStepEarlier());
     m_later->setEnabled(m_timeline->canStepLater());
+    m_moment->setEnabled(!m_timeline->isFollowing());
 }
 
 } // namespace Review

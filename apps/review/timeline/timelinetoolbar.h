@@ -34,6 +34,7 @@ private:
     QAction* m_wholePeriod;
     QAction* m_earlier;
     QAction* m_later;
+    QAction* m_moment;
     QAction* m_showMarkers;
     QAction* m_showRanges;
 };

@@ -285,6 +285,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Bekannt ab</translation>
     </message>
     <message>
+        <source>There are no more recordings of this camera.</source>
+        <translation>Es gibt keine weiteren Aufzeichnungen dieser Kamera.</translation>
+    </message>
+    <message>
         <source>Known to</source>
         <translation>Bekannt bis</translation>
     </message>
@@ -904,6 +908,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Dark look</source>
         <translation>Dunkles Aussehen</translation>
     </message>
+    <message>
+        <source>Sample</source>
+        <translation>Beispiel</translation>
+    </message>
+    <message>
+        <source>%1 – Recording review</source>
+        <translation>%1 – Aufzeichnungen sichten</translation>
+    </message>
 </context>
 <context>
     <name>Review::SampleData</name>
@@ -1045,6 +1057,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Sets a search range and a result range</source>
         <translation>Legt einen Suchbereich und einen Ergebnisbereich fest</translation>
+    </message>
+    <message>
+        <source>Current time</source>
+        <translation>Aktuelle Zeit</translation>
+    </message>
+    <message>
+        <source>Brings the time that is shown back into the view of the timeline</source>
+        <translation>Holt die gezeigte Zeit in den Ausschnitt der Zeitleiste zurück</translation>
     </message>
 </context>
 <context>

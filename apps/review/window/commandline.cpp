@@ -125,7 +125,7 @@ QString CommandLine::takeArguments(const QCommandLineParser& parser)
 
 QString CommandLine::takeSize(const QString& text)
 {
-    constexpr QSize smallest(900, 300);
+    constexpr QSize smallest(480, 300);
     constexpr QSize largest(8'000, 8'000);
     static const QRegularExpression pattern(u"^([0-9]{1,5})x([0-9]{1,5})$"_s);
     const QRegularExpressionMatch match = pattern.match(text);

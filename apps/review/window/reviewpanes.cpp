@@ -64,7 +64,7 @@ void ReviewPanes::createLayout()
 void ReviewPanes::connectLists()
 {
     connect(m_devices, &DevicePane::checkedTracksChanged, this, &ReviewPanes::showCheckedTracks);
-    connect(m_devices, &DevicePane::camerasAdded, this, &ReviewPanes::told);
+    connect(m_devices, &DevicePane::told, this, &ReviewPanes::told);
     connect(m_events, &EventPane::eventOpened, this, &ReviewPanes::openEvent);
 }
 
@@ -110,7 +110,11 @@ void ReviewPanes::setReview(const ReviewData& review)
     m_timeline->setPeriod(period);
     m_devices->removeAll();
     setTexts(review);
-    m_selection.setMoment(period.begin);
+    const Sight first = review.firstSight();
+    m_selection.setCamera(first.track);
+    m_selection.setMoment(first.msecs);
+    if (!review.events.isEmpty())
+        m_events->select(0);
 }
 
 void ReviewPanes::setTexts(const ReviewData& review)
@@ -196,7 +200,7 @@ void ReviewPanes::showCameraOf(qsizetype event)
         m_selection.setCamera(m_review.events.at(event).track);
 }
 
-void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, bool onMarker)
+void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, const TimeSpan& symbol)
 {
     if (msecs == 0) {
         m_preview->hide();
@@ -205,10 +209,8 @@ void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, bool onMarke
     PreviewContent content{.time = m_clock.times().exactDateTime(msecs),
                            .events = {},
                            .tracks = m_devices->statesAt(msecs)};
-    if (onMarker) {
-        for (const Event& event : m_events->events().eventsAt(msecs))
-            content.events.append({EventKinds::parse(event.kind), EventMarkers::textOf(event)});
-    }
+    for (const Event& event : m_events->events().eventsIn(symbol))
+        content.events.append({EventKinds::parse(event.kind), EventMarkers::textOf(event)});
     constexpr int distance = 6;
     m_preview->showContent(content, m_timeline->mapTo(window(), position - QPoint(0, distance)));
 }

@@ -67,7 +67,7 @@ private:
     void showCheckedTracks();
     void openEvent(qsizetype event);
     void showCameraOf(qsizetype event);
-    void showPreview(qint64 msecs, const QPoint& position, bool onMarker);
+    void showPreview(qint64 msecs, const QPoint& position, const CorvelGui::TimeSpan& symbol);
 
     const Clock& m_clock;
     Selection& m_selection;

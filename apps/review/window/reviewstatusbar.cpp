@@ -2,6 +2,7 @@
 
 #include "data/reviewdata.h"
 #include "export/exportpanel.h"
+#include "look/elidedlabel.h"
 #include "look/zonecombo.h"
 #include "session/clock.h"
 
@@ -13,7 +14,7 @@ namespace Review {
 ReviewStatusBar::ReviewStatusBar(Clock& clock, QWidget* parent)
     : Translated(parent)
     , m_clock(clock)
-    , m_counts(new QLabel(this))
+    , m_counts(new ElidedLabel(this))
     , m_export(new ExportPanel(this))
     , m_zone(new ZoneCombo(clock.zoneName(), this))
     , m_zoneLabel(new QLabel(this))

@@ -9,6 +9,7 @@ class QLabel;
 namespace Review {
 
 class Clock;
+class ElidedLabel;
 class ExportPanel;
 struct ReviewData;
 class ZoneCombo;
@@ -43,7 +44,7 @@ private:
     qsizetype m_tracks = 0;
     qsizetype m_recordings = 0;
     qsizetype m_events = 0;
-    QLabel* m_counts;
+    ElidedLabel* m_counts;
     ExportPanel* m_export;
     ZoneCombo* m_zone;
     QLabel* m_zoneLabel;

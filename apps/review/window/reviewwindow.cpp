@@ -76,8 +76,10 @@ QMenu* ReviewWindow::toolsMenu() const
 void ReviewWindow::setReview(const ReviewData& review, const ProblemList& problems)
 {
     m_showsSample = false;
+    m_name.clear();
     m_panes->setReview(review);
     m_status->setCounts(review);
+    showTitle();
     m_problems->setProblems(problems);
     resizeDocks({m_problems}, {problemDockHeight}, Qt::Vertical);
     enableExport();
@@ -92,7 +94,9 @@ void ReviewWindow::showLoaded(const LoadJob& job)
 {
     if (job.error().isEmpty()) {
         setReview(job.data(), job.problems());
-        m_showsSample = job.isSample();
+        m_showsSample = job.files().isEmpty();
+        m_name = job.files().name();
+        showTitle();
     }
     Q_EMIT loaded(job.error());
 }
@@ -138,11 +142,17 @@ void ReviewWindow::connectParts()
 
 void ReviewWindow::retranslate()
 {
-    setWindowTitle(tr("Recording review"));
+    showTitle();
     m_darkLook->setText(tr("Dark look"));
     // Its names and texts are those of the language; a file keeps its own.
     if (m_showsSample)
         m_panes->setTexts(SampleData::make());
+}
+
+void ReviewWindow::showTitle()
+{
+    const QString name = m_showsSample ? tr("Sample") : m_name;
+    setWindowTitle(name.isEmpty() ? tr("Recording review") : tr("%1 – Recording review").arg(name));
 }
 
 void ReviewWindow::exportPictures()

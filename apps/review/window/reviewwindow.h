@@ -71,12 +71,15 @@ private:
     void createToolBar(bool dark);
     void connectParts();
     void showLoaded(const LoadJob& job);
+    void showTitle();
     void exportPictures();
     void enableExport();
 
     Clock m_clock;
     Selection m_selection;
     bool m_showsSample = false;
+    /// What the user calls what is shown; empty for the sample.
+    QString m_name;
 
     ReviewPanes* m_panes;
     ReviewStatusBar* m_status;
