@@ -19,7 +19,8 @@ set(HUELOFT_PUBLIC_HEADERS
     PMessageBox
     POrvGuiTheme
     PPlayerIconHelper
-    PTarvoPlayerIconHelper)
+    PTarvoPlayerIconHelper
+    VectorIconEngine)
 
 set(CORVELGUI_PUBLIC_HEADERS
     dialogs/PAskRefreshDialog

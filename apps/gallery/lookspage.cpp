@@ -1,5 +1,6 @@
 #include "lookspage.h"
 
+#include <CorvelGui/PTableWidget>
 #include <Hueloft/PIconHelper>
 #include <Hueloft/POrvGuiTheme>
 #include <Hueloft/PTarvoPlayerIconHelper>
@@ -128,7 +129,7 @@ QTableWidget* devices()
 {
     const QString names[] = {u"Entrance north"_s, u"Entrance south"_s, u"Car park"_s,
                              u"Loading bay"_s, u"Roof"_s};
-    auto* table = new QTableWidget(int(std::size(names)), 3);
+    auto* table = new CorvelGui::PTableWidget(int(std::size(names)), 3);
     table->setHorizontalHeaderLabels({u"Device"_s, u"Address"_s, u"State"_s});
     table->setAlternatingRowColors(true);
     int row = 0;

@@ -73,15 +73,6 @@ QPainterPath IconGrid::hBar(QPointF from, qreal length) const
     return path;
 }
 
-QPainterPath IconGrid::vBar(QPointF from, qreal length) const
-{
-    QPainterPath path = windingPath();
-    const qreal top = rounded(from.y() * m_unit);
-    const qreal bottom = rounded((from.y() + length) * m_unit);
-    path.addRect(rounded(from.x() * m_unit - m_stroke / 2.0), top, m_stroke, bottom - top);
-    return path;
-}
-
 QPainterPath IconGrid::polygon(const QList<QPointF>& corners) const
 {
     QPolygonF pixels;

@@ -30,10 +30,8 @@ public:
     QPainterPath block(const QRectF& area) const;
     /// The frame of a rectangle; its outer edge is the border of @p area.
     QPainterPath box(const QRectF& area, qreal radius = 0) const;
-    /// A horizontal or vertical bar of stroke width that begins at @p from and is centred on its
-    /// line.
+    /// A horizontal bar of stroke width that begins at @p from and is centred on its line.
     QPainterPath hBar(QPointF from, qreal length) const;
-    QPainterPath vBar(QPointF from, qreal length) const;
     /// A filled polygon, its corners on pixel corners.
     QPainterPath polygon(const QList<QPointF>& corners) const;
     /// A stroked line through the points, with round caps and joins.

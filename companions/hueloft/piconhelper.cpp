@@ -1,7 +1,7 @@
 #include "piconhelper.h"
 
 #include "iconshapes.h"
-#include "vectoriconengine.h"
+#include "vectoricon.h"
 
 namespace Hueloft {
 
@@ -69,9 +69,8 @@ QIcon PIconHelper::GetSettingsIconOriginal_32x32(bool followLook)
 
 QImage PIconHelper::GetLockImage_32x32()
 {
-    // Through the engine and not QIcon::pixmap(), which makes it larger on high-density screens.
-    VectorIconEngine lock({IconShapes::lock, IconInk::Look, 32});
-    return lock.pixmap(QSize(32, 32), QIcon::Normal, QIcon::Off).toImage();
+    // By the scale of 1, or it would be larger on high-density screens.
+    return vectorIcon({IconShapes::lock, IconInk::Look, 32}).pixmap(QSize(32, 32), 1.0).toImage();
 }
 
 } // namespace Hueloft

@@ -1,7 +1,7 @@
 #include "piconhelper16x16.h"
 
 #include "iconshapes.h"
-#include "vectoriconengine.h"
+#include "vectoricon.h"
 
 namespace Hueloft {
 

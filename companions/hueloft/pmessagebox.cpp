@@ -2,7 +2,7 @@
 
 #include "iconshapes.h"
 #include "porvguitheme.h"
-#include "vectoriconengine.h"
+#include "vectoricon.h"
 
 #include <QLabel>
 #include <QPainter>

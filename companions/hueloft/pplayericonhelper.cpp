@@ -1,7 +1,7 @@
 #include "pplayericonhelper.h"
 
 #include "iconshapes.h"
-#include "vectoriconengine.h"
+#include "vectoricon.h"
 
 namespace Hueloft {
 

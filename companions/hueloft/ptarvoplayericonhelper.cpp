@@ -1,7 +1,7 @@
 #include "ptarvoplayericonhelper.h"
 
 #include "iconshapes.h"
-#include "vectoriconengine.h"
+#include "vectoricon.h"
 
 namespace Hueloft {
 

@@ -1,7 +1,9 @@
 #include "vectoriconengine.h"
 
+#include <QHash>
 #include <QPaintDevice>
 #include <QPainter>
+#include <QPixmap>
 
 #include <algorithm>
 
@@ -9,7 +11,20 @@ using namespace Qt::StringLiterals;
 
 namespace Hueloft {
 
-VectorIconEngine::VectorIconEngine(const VectorIcon& icon) : m_icon(icon) {}
+struct VectorIconEngine::Private
+{
+    const Draw draw;
+    const int nominalSize;
+    QHash<std::pair<QIcon::Mode, QIcon::State>, QPixmap> replacements{};
+};
+
+VectorIconEngine::VectorIconEngine(const Draw& draw, int nominalSize)
+    : d(new Private{.draw = draw, .nominalSize = nominalSize})
+{}
+
+VectorIconEngine::VectorIconEngine(const Private& other) : d(std::make_unique<Private>(other)) {}
+
+VectorIconEngine::~VectorIconEngine() = default;
 
 void VectorIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
                              QIcon::State state)
@@ -21,23 +36,14 @@ void VectorIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode m
                        side, side);
 
     painter->save();
-    if (const auto replacement = m_replacements.constFind({mode, state});
-        replacement != m_replacements.cend()) {
+    if (const auto replacement = d->replacements.constFind({mode, state});
+        replacement != d->replacements.cend()) {
         const QSize pixels = square.size() * painter->device()->devicePixelRatioF();
         painter->drawPixmap(
             square, replacement->scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     } else {
-        const IconGrid grid(qRound(side * painter->device()->devicePixelRatioF()));
-        const qreal pixelSize = side / grid.toPixels(IconGrid::units);
-        painter->translate(square.topLeft());
-        painter->scale(pixelSize, pixelSize);
         painter->setRenderHint(QPainter::Antialiasing);
-        const QPainterPath outline = m_icon.shape(grid);
-        if (m_icon.outlined) {
-            constexpr QColor rim(16, 18, 20);
-            painter->fillPath(grid.stroked(outline, 2.0 * grid.strokeWidth()), rim);
-        }
-        painter->fillPath(outline, iconColor(m_icon.ink, mode));
+        d->draw(*painter, square, mode);
     }
     painter->restore();
 }
@@ -68,9 +74,9 @@ QSize VectorIconEngine::actualSize(const QSize& size, QIcon::Mode /*mode*/, QIco
 
 QList<QSize> VectorIconEngine::availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/)
 {
-    QList<QSize> sizes{QSize(m_icon.nominalSize, m_icon.nominalSize)};
+    QList<QSize> sizes{QSize(d->nominalSize, d->nominalSize)};
     for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
-        if (side != m_icon.nominalSize)
+        if (side != d->nominalSize)
             sizes << QSize(side, side);
     }
     return sizes;
@@ -78,7 +84,7 @@ QList<QSize> VectorIconEngine::availableSizes(QIcon::Mode /*mode*/, QIcon::State
 
 void VectorIconEngine::addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State state)
 {
-    m_replacements.insert({mode, state}, pixmap);
+    d->replacements.insert({mode, state}, pixmap);
 }
 
 QString VectorIconEngine::key() const
@@ -88,12 +94,7 @@ QString VectorIconEngine::key() const
 
 QIconEngine* VectorIconEngine::clone() const
 {
-    return new VectorIconEngine(*this);
-}
-
-QIcon vectorIcon(const VectorIcon& icon)
-{
-    return QIcon(new VectorIconEngine(icon));
+    return new VectorIconEngine(*d);
 }
 
 } // namespace Hueloft

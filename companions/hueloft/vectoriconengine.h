@@ -1,34 +1,28 @@
 #pragma once
 
-#include "icongrid.h"
-#include "iconink.h"
+#include <Hueloft/hueloft_export.h>
 
-#include <QHash>
 #include <QIconEngine>
-#include <QPixmap>
+
+#include <functional>
+#include <memory>
 
 namespace Hueloft {
 
-/// The outline of an icon, in the pixels of @p grid, to be filled with Qt::WindingFill.
-using IconShape = QPainterPath (*)(const IconGrid& grid);
-
-struct VectorIcon
-{
-    IconShape shape;
-    IconInk ink;
-    int nominalSize;       ///< side in pixels; the first of the available sizes
-    bool outlined = false; ///< with a dark rim, for icons that stand on coloured ground
-};
-
-/// Draws an icon from its outline at any size, in the colour of the look that is active at the time
-/// of painting.
+/// Draws an icon at any size when it is painted, so that it can be in the colours of the look of
+/// that moment and sharp at every scale. Hand it to a QIcon, which owns it.
 ///
 /// Pixmaps are square, as large as fits into the size asked for. A pixmap added for a mode and
 /// state replaces the drawing there. Both states look alike.
-class VectorIconEngine : public QIconEngine
+class HUELOFT_EXPORT VectorIconEngine : public QIconEngine
 {
 public:
-    explicit VectorIconEngine(const VectorIcon& icon);
+    /// Draws into @p square, antialiased. The painter is restored afterwards.
+    using Draw = std::function<void(QPainter& painter, const QRect& square, QIcon::Mode mode)>;
+
+    /// @p nominalSize is the side of the first available size, in pixels.
+    explicit VectorIconEngine(const Draw& draw, int nominalSize = 16);
+    ~VectorIconEngine() override;
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
@@ -41,13 +35,9 @@ public:
     QIconEngine* clone() const override;
 
 private:
-    using Slot = std::pair<QIcon::Mode, QIcon::State>;
-
-    const VectorIcon m_icon;
-    QHash<Slot, QPixmap> m_replacements;
+    struct Private;
+    explicit VectorIconEngine(const Private& other);
+    const std::unique_ptr<Private> d;
 };
-
-/// An icon that VectorIconEngine draws.
-QIcon vectorIcon(const VectorIcon& icon);
 
 } // namespace Hueloft

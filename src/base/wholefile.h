@@ -1,7 +1,5 @@
 #pragma once
 
-#include "internalexport.h"
-
 #include <QIODevice>
 #include <QString>
 
@@ -14,7 +12,7 @@ namespace CorvelGui {
 /// it was.
 ///
 /// Returns why it failed, or an empty text when it did not.
-CORVELGUI_INTERNAL_EXPORT QString writeWholeFile(const QString& fileName, const QByteArray& content,
-                                                 QIODevice::OpenMode kind = {});
+QString writeWholeFile(const QString& fileName, const QByteArray& content,
+                       QIODevice::OpenMode kind = {});
 
 } // namespace CorvelGui

@@ -42,7 +42,9 @@ PCsvDialog::PCsvDialog(QWidget* parent) : PBaseDialog(parent), d(std::make_uniqu
     for (const QChar quote : {u'"', u'\''})
         d->ui.comboBoxTextQuote->addItem(QString(), quote);
     retranslate();
+    d->ui.listWidgetColumns->setSpacing(2);
     d->ui.lineEditExportToFile->addExtensionToCheck(u"csv"_s);
+    d->ui.lineEditExportToFile->setQuietAtFirst(true);
     // The field judges itself when it is shown; until then it holds no name.
     slotFileNameValidate(false);
 

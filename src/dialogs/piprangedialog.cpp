@@ -18,6 +18,7 @@ PIpRangeDialog::PIpRangeDialog(QWidget* parent)
     : PBaseDialog(parent), d(std::make_unique<Private>())
 {
     d->ui.setupUi(this);
+    d->ui.lineEditIp->setQuietAtFirst(true);
     connect(d->ui.buttonBox, &QDialogButtonBox::accepted, this, &PIpRangeDialog::slotAccept);
     connect(d->ui.buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(d->ui.lineEditIp, &QLineEdit::textChanged, this, &PIpRangeDialog::checkEntry);

@@ -64,6 +64,11 @@ QPixmap FancyLineEdit::buttonPixmap(Side side) const
     return d->sides[side].pixmap;
 }
 
+void FancyLineEdit::setButtonIcon(Side side, const QIcon& icon)
+{
+    d->sides[side].button->setIcon(icon);
+}
+
 void FancyLineEdit::setButtonMenu(Side side, QMenu* menu)
 {
     d->sides[side].menu = menu;

@@ -34,6 +34,9 @@ public:
     /// in whole numbers: one narrower than high has no width at all.
     void setButtonPixmap(Side side, const QPixmap& pixmap);
     QPixmap buttonPixmap(Side side) const;
+    /// Drawn in place of the pixmap, sharp at every scale; a null one for the pixmap again. The
+    /// pixmap still decides how wide the button is.
+    void setButtonIcon(Side side, const QIcon& icon);
 
     /// With a menu the button drops it down instead of emitting clicks; null for none. The caller
     /// keeps the menu, and a deleted one is none.

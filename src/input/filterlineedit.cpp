@@ -1,5 +1,7 @@
 #include "filterlineedit.h"
 
+#include <Hueloft/PIconHelper16x16>
+
 #include <QIcon>
 #include <QKeyEvent>
 #include <QStyle>
@@ -24,6 +26,7 @@ FilterLineEdit::FilterLineEdit(QWidget* parent)
     : FancyLineEdit(parent), d(std::make_unique<Private>())
 {
     takeClearIcon();
+    setButtonIcon(Right, Hueloft::PIconHelper16x16::GetTabCloseIcon());
     setButtonVisible(Right, true);
     retranslate();
     setAutoHideButton(Right, true);
@@ -91,8 +94,7 @@ void FilterLineEdit::takeClearIcon()
     QStyleOptionFrame option;
     initStyleOption(&option);
     const QIcon icon = style()->standardIcon(QStyle::SP_LineEditClearButton, &option, this);
-    // The button is larger than the icon, so take the finest that the style has.
-    setButtonPixmap(Right, icon.pixmap(clearIconSize, qMax(2.0, devicePixelRatioF())));
+    setButtonPixmap(Right, icon.pixmap(clearIconSize, devicePixelRatioF()));
 }
 
 void FilterLineEdit::retranslate()

@@ -56,21 +56,17 @@ void IconButton::setPixmap(const QPixmap& pixmap)
 
 void IconButton::paintEvent(QPaintEvent* /*event*/)
 {
-    QPixmap shown = d->pixmap;
-    if (!isEnabled() && !shown.isNull()) {
-        QStyleOption option;
-        option.initFrom(this);
-        shown = style()->generatedIconPixmap(QIcon::Disabled, shown, &option);
-    }
-    shown.setDevicePixelRatio(devicePixelRatioF());
-
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     if (d->autoHide)
         painter.setOpacity(qreal(d->iconOpacity));
-    // The whole button: the painter is clipped to what is to be painted, and a part of the button
-    // must not show the whole pixmap.
-    painter.drawPixmap(rect(), shown);
+    if (icon().isNull())
+        drawPixmap(painter);
+    else
+        icon().paint(&painter, rect(), Qt::AlignCenter,
+                     !isEnabled()   ? QIcon::Disabled
+                     : underMouse() ? QIcon::Active
+                                    : QIcon::Normal);
 
     if (hasFocus()) {
         painter.setOpacity(1.0);
@@ -79,6 +75,20 @@ void IconButton::paintEvent(QPaintEvent* /*event*/)
         option.backgroundColor = palette().color(QPalette::Base);
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
+}
+
+void IconButton::drawPixmap(QPainter& painter) const
+{
+    QPixmap shown = d->pixmap;
+    if (!isEnabled() && !shown.isNull()) {
+        QStyleOption option;
+        option.initFrom(this);
+        shown = style()->generatedIconPixmap(QIcon::Disabled, shown, &option);
+    }
+    shown.setDevicePixelRatio(devicePixelRatioF());
+    // The whole button: the painter is clipped to what is to be painted, and a part of the button
+    // must not show the whole pixmap.
+    painter.drawPixmap(rect(), shown);
 }
 
 } // namespace CorvelGui

@@ -8,7 +8,8 @@
 
 namespace CorvelGui {
 
-/// The borderless button inside a line edit: a pixmap that fills it and may fade in and out.
+/// The borderless button inside a line edit: a pixmap that fills it and may fade in and out. An
+/// icon() is drawn in place of the pixmap, at the size and scale of the button.
 ///
 /// It takes no focus until its owner says so.
 class CORVELGUI_EXPORT IconButton : public QAbstractButton
@@ -36,6 +37,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void drawPixmap(QPainter& painter) const;
+
     struct Private;
     const std::unique_ptr<Private> d;
 };

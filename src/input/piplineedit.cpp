@@ -18,9 +18,16 @@ QRegularExpression dottedAddress()
 
 } // namespace
 
-PIpLineEdit::PIpLineEdit(QWidget* parent) : QLineEdit(parent)
+struct PIpLineEdit::Private
+{
+    bool quietAtFirst = false;
+    bool isTouched = false;
+};
+
+PIpLineEdit::PIpLineEdit(QWidget* parent) : QLineEdit(parent), d(std::make_unique<Private>())
 {
     setValidator(new QRegularExpressionValidator(dottedAddress(), this));
+    connect(this, &QLineEdit::textChanged, this, [this] { d->isTouched = true; });
     connect(this, &QLineEdit::textChanged, this, &PIpLineEdit::checkEntry);
     checkEntry({});
 }
@@ -29,7 +36,14 @@ PIpLineEdit::~PIpLineEdit() = default;
 
 void PIpLineEdit::checkEntry(const QString&)
 {
-    markWrongEntry(this, !hasAcceptableInput());
+    const bool quiet = d->quietAtFirst && !d->isTouched;
+    markWrongEntry(this, !hasAcceptableInput() && !quiet);
+}
+
+void PIpLineEdit::setQuietAtFirst(bool quiet)
+{
+    d->quietAtFirst = quiet;
+    checkEntry({});
 }
 
 } // namespace CorvelGui

@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 
+#include <memory>
+
 namespace CorvelGui {
 
 /// A field into which nothing but a dotted IPv4 address can be typed. It is red until the address
@@ -16,8 +18,16 @@ public:
     explicit PIpLineEdit(QWidget* parent = nullptr);
     ~PIpLineEdit() override;
 
+    /// Whether the field keeps its usual colours until its text changes for the first time: nobody
+    /// has made a mistake yet. Off at first. hasAcceptableInput() is the same.
+    void setQuietAtFirst(bool quiet);
+
 private Q_SLOTS:
     void checkEntry(const QString& text);
+
+private:
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

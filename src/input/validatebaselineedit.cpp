@@ -8,11 +8,14 @@ struct ValidateBaseLineEdit::Private
 {
     bool error = false;
     bool validationActive = true;
+    bool quietAtFirst = false;
+    bool isTouched = false;
 };
 
 ValidateBaseLineEdit::ValidateBaseLineEdit(QWidget* parent)
     : QLineEdit(parent), d(std::make_unique<Private>())
 {
+    connect(this, &QLineEdit::textChanged, this, [this] { d->isTouched = true; });
     connect(this, &QLineEdit::textChanged, this, &ValidateBaseLineEdit::slotChanged);
     connect(this, &QLineEdit::textEdited, this, &ValidateBaseLineEdit::slotChanged);
 }
@@ -38,8 +41,20 @@ bool ValidateBaseLineEdit::validationActive() const
 void ValidateBaseLineEdit::setError(bool error)
 {
     d->error = error;
-    markWrongEntry(this, d->error && d->validationActive);
+    showVerdict();
     update();
+}
+
+void ValidateBaseLineEdit::setQuietAtFirst(bool quiet)
+{
+    d->quietAtFirst = quiet;
+    showVerdict();
+}
+
+void ValidateBaseLineEdit::showVerdict()
+{
+    const bool quiet = d->quietAtFirst && !d->isTouched;
+    markWrongEntry(this, d->error && d->validationActive && !quiet);
 }
 
 void ValidateBaseLineEdit::slotChanged()

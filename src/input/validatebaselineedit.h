@@ -36,6 +36,10 @@ public:
     void setValidationActive(bool active);
     bool validationActive() const;
 
+    /// Whether the field keeps its usual colours until its text changes for the first time: nobody
+    /// has made a mistake yet. Off at first. The verdict is the same.
+    void setQuietAtFirst(bool quiet);
+
 Q_SIGNALS:
     /// Emitted after every judgement, whether or not the verdict changed; not while validation is
     /// off, and not by a direct call of Validate().
@@ -50,6 +54,7 @@ private Q_SLOTS:
 
 private:
     void showEvent(QShowEvent* event) override;
+    void showVerdict();
 
     struct Private;
     const std::unique_ptr<Private> d;

@@ -4,6 +4,7 @@
 #include "copyactions.h"
 #include "dialogs/pcsvdialog.h"
 #include "itemviewtools.h"
+#include "rowdelegate.h"
 
 #include <QAction>
 #include <QEvent>
@@ -38,6 +39,7 @@ PTableWidget::PTableWidget(int rows, int columns, QWidget* parent)
     : QTableWidget(rows, columns, parent), m_copyActions(std::make_unique<CopyActions>())
 {
     setSelectionBehavior(QAbstractItemView::SelectRows);
+    setItemDelegate(new RowDelegate(this));
 }
 
 PTableWidget::~PTableWidget() = default;

@@ -133,7 +133,7 @@ PPlaybar::PPlaybar(QWidget* parent) : QWidget(parent), d(std::make_unique<Privat
     prepare(ui.buttonPlay, Icons::GetPlay_32x32(), &PPlaybar::onPlayClicked);
     prepare(ui.buttonFastForward, Icons::GetFastForward_32x32(), &PPlaybar::onFastForwardClicked);
     prepare(ui.buttonTrackEnd, Icons::GetEndDoubleIcon_32x32(), &PPlaybar::onTrackEndClicked);
-    refreshLabel();
+    retranslate();
     checkStateButton();
 }
 
@@ -166,6 +166,40 @@ PPlaybar::PlaybackSpeed PPlaybar::playbackSpeedFromFloat(float factor)
             return PlaybackSpeed(speed);
     }
     return SpeedZero;
+}
+
+QList<PPlaybar::PlaybackButton> PPlaybar::buttons()
+{
+    return {TrackStartButton,    FastBackwardButton, ReverseButton,
+            FrameBackwardButton, PauseButton,        FrameForwardButton,
+            PlayButton,          FastForwardButton,  TrackEndButton};
+}
+
+QString PPlaybar::buttonName(PlaybackButton playbackButton)
+{
+    switch (playbackButton) {
+    case TrackStartButton:
+        return tr("Track Begin");
+    case FastBackwardButton:
+        return tr("Fast Backward");
+    case ReverseButton:
+    case SlowReverseButton:
+        return tr("Backward");
+    case FrameBackwardButton:
+        return tr("Frame Backward");
+    case PauseButton:
+        return tr("Pause");
+    case FrameForwardButton:
+        return tr("Frame Forward");
+    case SlowForwardButton:
+    case PlayButton:
+        return tr("Forward");
+    case FastForwardButton:
+        return tr("Fast Forward");
+    case TrackEndButton:
+        return tr("Track End");
+    }
+    return {};
 }
 
 void PPlaybar::setShortcut(PlaybackButton playbackButton, const QKeySequence& shortcut)
@@ -285,6 +319,10 @@ void PPlaybar::changeEvent(QEvent* event)
 void PPlaybar::retranslate()
 {
     d->ui.retranslateUi(this);
+    for (const PlaybackButton which : buttons()) {
+        d->button(which)->setToolTip(buttonName(which));
+        d->button(which)->setAccessibleName(buttonName(which));
+    }
     refreshLabel();
 }
 

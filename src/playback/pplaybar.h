@@ -3,6 +3,7 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QKeySequence>
+#include <QList>
 #include <QWidget>
 
 #include <memory>
@@ -81,6 +82,12 @@ public:
     static float playbackSpeedToFloat(PlaybackSpeed speed);
     /// The speed with that factor, to 1e-5; SpeedZero if there is none.
     static PlaybackSpeed playbackSpeedFromFloat(float factor);
+
+    /// One value for each button, from left to right.
+    static QList<PlaybackButton> buttons();
+    /// What the button is called, in the language of the moment, such as "Frame Forward"; it is its
+    /// tooltip as well. Empty for a value that addresses no button.
+    static QString buttonName(PlaybackButton playbackButton);
 
     /// Does nothing for a value that addresses no button.
     void setShortcut(PlaybackButton playbackButton, const QKeySequence& shortcut);

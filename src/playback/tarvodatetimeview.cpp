@@ -95,6 +95,8 @@ TarvoDateTimeView::TarvoDateTimeView(QWidget* parent)
     layout->setHorizontalSpacing(0);
     layout->setVerticalSpacing(0);
     layout->setContentsMargins(margin, margin, margin, margin);
+    // Takes what the view is wider, so that the digits stay together.
+    layout->setColumnStretch(emptyColumn, 1);
     for (size_t field = 0; field < FieldCount; ++field) {
         auto* value = new QLabel(this);
         value->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
@@ -294,10 +296,20 @@ void TarvoDateTimeView::updateMinimumWidth()
 {
     QFont digits = font();
     digits.setBold(true);
+    QFont smallDigits = digits;
     digits.setPointSize(valuePointSize());
+    smallDigits.setPointSize(applicationPointSize());
     const QFontMetrics metrics(digits);
-    static_cast<QGridLayout*>(layout())->setColumnMinimumWidth(emptyColumn,
-                                                               metrics.horizontalAdvance(u"  "_s));
+    // Also while nothing is shown: no column is narrower than its digits.
+    auto* grid = static_cast<QGridLayout*>(layout());
+    grid->setColumnMinimumWidth(emptyColumn, metrics.horizontalAdvance(u"  "_s));
+    for (const Field field : {Hour, Minute})
+        grid->setColumnMinimumWidth(columns[field], metrics.horizontalAdvance(u"00:"_s));
+    grid->setColumnMinimumWidth(columns[Second], metrics.horizontalAdvance(u"00"_s));
+    grid->setColumnMinimumWidth(
+        columns[Millisecond],
+        d->showMilliseconds ? QFontMetrics(smallDigits).horizontalAdvance(u"000"_s) : 0);
+
     const QString sample =
         d->showMilliseconds ? u"18 Aug    00:00:00.000"_s : u"18 Aug    00:00:00"_s;
     setMinimumWidth(metrics.boundingRect(sample).width() + 2);

@@ -32,6 +32,9 @@ constexpr QColor dimming(100, 100, 100, 100);
 constexpr QColor imageDimming(100, 100, 100, 20);
 constexpr QColor trackColor(50, 50, 50);
 constexpr QColor arcColor(0, 191, 255);
+// Tells the track from a window that is about as dark.
+constexpr QColor rimColor(150, 156, 164);
+constexpr int rimWidth = 1;
 
 QRect ringRect(const QWidget* widget)
 {
@@ -97,7 +100,7 @@ void BusyIndicator::onTimeOut()
     if (d->progress > turnEnd)
         d->progress = longestArc;
     // What lies below is painted with it, so only where something moves.
-    constexpr int border = penWidth / 2 + 1;
+    constexpr int border = penWidth / 2 + rimWidth + 1;
     const QRect moving = ringRect(this).adjusted(-border, -border, border, border);
     repaint(std::exchange(d->backgroundIsStale, false) ? rect() : moving);
 }
@@ -196,6 +199,10 @@ void BusyIndicator::paintRing(QPainter& painter) const
 {
     const QRect ring = ringRect(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (palette().color(QPalette::Window).lightness() < trackColor.lightness() * 2) {
+        painter.setPen(QPen(rimColor, penWidth + 2 * rimWidth));
+        painter.drawEllipse(ring);
+    }
     painter.setPen(QPen(trackColor, penWidth));
     painter.drawEllipse(ring);
 

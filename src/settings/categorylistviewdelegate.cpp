@@ -1,5 +1,9 @@
 #include "categorylistviewdelegate.h"
 
+#include "base/readablecolor.h"
+
+#include <QWidget>
+
 namespace CorvelGui {
 
 QSize CategoryListViewDelegate::sizeHint(const QStyleOptionViewItem& option,
@@ -7,6 +11,24 @@ QSize CategoryListViewDelegate::sizeHint(const QStyleOptionViewItem& option,
 {
     constexpr int minimumHeight = 32;
     return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, minimumHeight));
+}
+
+void CategoryListViewDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                               const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (!option->state.testFlag(QStyle::State_Selected))
+        return;
+    constexpr float share = 0.25F; // of the colour of selections
+    QPalette& palette = option->palette;
+    palette.setColor(QPalette::Highlight, mixed(palette.color(QPalette::Base),
+                                                palette.color(QPalette::Highlight), share));
+    palette.setBrush(QPalette::HighlightedText, palette.text());
+    // Not in the mode of selections, which is made for their colour.
+    const qreal scale = option->widget ? option->widget->devicePixelRatioF() : 1.0;
+    QIcon plain;
+    plain.addPixmap(option->icon.pixmap(option->decorationSize, scale), QIcon::Selected);
+    option->icon = plain;
 }
 
 } // namespace CorvelGui

@@ -6,7 +6,8 @@
 
 namespace CorvelGui {
 
-/// Gives every category a comfortable height.
+/// Gives every category a comfortable height, and the selected one a pale ground: the icons come
+/// from applications, in colours that suit the ground of the list.
 class CORVELGUI_INTERNAL_EXPORT CategoryListViewDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -15,6 +16,9 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
 } // namespace CorvelGui

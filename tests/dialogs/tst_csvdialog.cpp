@@ -202,7 +202,7 @@ void TestCsvDialog::needsAFile()
     PCsvDialog dialog(&parent);
     dialog.show();
     for (const bool choosing : {false, true}) {
-        QVERIFY(!ok(dialog)->isEnabled());
+        QVERIFY(!ok(dialog)->isEnabled() && field(dialog)->styleSheet().isEmpty());
         whenShown<QFileDialog>(this, [&](QFileDialog& chooser) {
             QCOMPARE(chooser.windowTitle(), u"Save file"_s);
             chooser.selectFile(m_file);
@@ -213,7 +213,7 @@ void TestCsvDialog::needsAFile()
     }
     QVERIFY(ok(dialog)->isEnabled());
     field(dialog)->setText(m_file + u".CSV"_s);
-    QVERIFY(!ok(dialog)->isEnabled());
+    QVERIFY(!ok(dialog)->isEnabled() && !field(dialog)->styleSheet().isEmpty());
     QCOMPARE(exported(dialog), QString()); // without a list
 }
 

@@ -45,13 +45,13 @@ void TestQuestions::ipRange()
     auto* mask = dialog.findChild<QComboBox*>(u"comboBoxMask"_s);
     QCOMPARE(mask->currentText(), u"255.254.0.0 /15"_s);
     dialog.show();
-    QVERIFY(!ok->isEnabled());
+    QVERIFY(!ok->isEnabled() && address->styleSheet().isEmpty()); // no mistake yet
     QTest::keyClick(address, Qt::Key_Return);
     QVERIFY(dialog.isVisible());
     QTest::keyClicks(address, u"010.1.2.3"_s);
     QVERIFY(ok->isEnabled());
     QTest::keyClick(address, Qt::Key_Backspace);
-    QVERIFY(!ok->isEnabled());
+    QVERIFY(!ok->isEnabled() && !address->styleSheet().isEmpty());
     QTest::keyClicks(address, u"3"_s);
     mask->setCurrentText(u"255.255.255.0 /24"_s);
     buttonOf(dialog, QDialogButtonBox::Cancel)->click();

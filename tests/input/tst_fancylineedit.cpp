@@ -77,6 +77,8 @@ void TestFancyLineEdit::icons()
         };
         const bool drawn = !pixmap.isEmpty() && !place.isEmpty();
         QCOMPARE(isRed(place.topLeft()) && isRed(place.bottomRight()), drawn);
+        edit.setButtonIcon(FancyLineEdit::Right, QIcon(redPixmap({64, 64})));
+        QCOMPARE(isRed(place.center()), !place.isEmpty());
         button->setAutoHide(true);
         QVERIFY(!isRed(place.center()));
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button);

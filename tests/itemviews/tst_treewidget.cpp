@@ -1,8 +1,10 @@
+#include "colormetrics.h"
 #include "testsupport.h"
 #include "userhand.h"
 #include "whenshown.h"
 
 #include <CorvelGui/PCsvDialog>
+#include <CorvelGui/PMainWindow>
 #include <CorvelGui/PTreeWidget>
 #include <CorvelGui/PTreeWidgetItem>
 #include <Hueloft/POrvGuiTheme>
@@ -15,6 +17,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 #include <QTest>
 
 #include <functional>
@@ -24,6 +27,11 @@ using Hueloft::POrvGuiTheme;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+struct Delegate : QStyledItemDelegate
+{
+    using QStyledItemDelegate::initStyleOption;
+};
 
 class ToolTipItem : public PTreeWidgetItem
 {
@@ -372,6 +380,25 @@ void TestTreeWidget::items()
             QCOMPARE(item.font(1).bold(), bold);
         }
     }
+    // Shown in a shade that the look makes readable.
+    for (const bool dark : {true, false}) {
+        PMainWindow().createDarkFusionStyle(dark);
+        PTreeWidget tree;
+        tree.setColumnCount(2);
+        tree.addTopLevelItem(new Item);
+        tree.ensurePolished();
+        for (const auto& mark : marks) {
+            (static_cast<Item*>(tree.topLevelItem(0))->*mark.first)(0, true);
+            QStyleOptionViewItem option;
+            option.palette = tree.palette();
+            (static_cast<QStyledItemDelegate*>(tree.itemDelegate())->*&Delegate::initStyleOption)(
+                &option, tree.model()->index(0, 0));
+            const QColor shown = option.palette.color(QPalette::Text);
+            QCOMPARE_GE(contrast(shown, tree.palette().color(QPalette::Base)), 4.5);
+            QVERIFY(difference(shown, mark.second) < 40); // and still the same colour
+        }
+    }
+    qApp->setStyleSheet(QString());
     item.setStandardColor(1);
     QCOMPARE(item.foreground(1).color(), QApplication::palette().color(QPalette::Text));
     QVERIFY(item.font(1).bold() && !item.font(0).bold());

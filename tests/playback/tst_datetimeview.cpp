@@ -152,6 +152,11 @@ void TestDateTimeView::styles()
     QTRY_COMPARE(view.minimumWidth(), needed(u"18 Aug    00:00:00.000"_s));
     view.setShowMilliseconds(false);
     QCOMPARE(view.minimumWidth(), needed(u"18 Aug    00:00:00"_s));
+    view.resize(600, 60);
+    view.updateDateTime(at(u"2026-08-18T12:15:30.250"_s, newYork));
+    for (const int column : {2, 3})
+        QCOMPARE(view.label(0, column + 1)->x(),
+                 view.label(0, column)->x() + view.label(0, column)->sizeHint().width());
     const QString playing = view.label(0, 2)->styleSheet();
     view.setPlayMode(false);
     QVERIFY(view.label(0, 2)->styleSheet() != playing);

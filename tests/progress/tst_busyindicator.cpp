@@ -1,3 +1,4 @@
+#include "colormetrics.h"
 #include "testsupport.h"
 
 #include <CorvelGui/BusyIndicator>
@@ -85,6 +86,7 @@ class TestBusyIndicator : public WarningFreeTest
 
 private Q_SLOTS:
     void ring();
+    void ringInTheDark();
     void background();
     void delay();
     void parents();
@@ -115,6 +117,21 @@ void TestBusyIndicator::ring()
             for (const int radius : {30, 50})
                 QCOMPARE(overlay.colorAt(degrees, radius), dimmedWhite);
     }
+}
+
+void TestBusyIndicator::ringInTheDark()
+{
+    QWidget dark;
+    dark.setPalette(QColor(34, 37, 41));
+    dark.resize(201, 160);
+    dark.show();
+    Overlay overlay(&dark);
+    overlay.show();
+    overlay.step(1);
+    double rim = 0; // the pixels do not lie along the ring
+    for (const double radius : {45.5, 46.0, 46.5, 47.0, 47.5})
+        rim = std::max(rim, contrast(overlay.colorAt(180, radius), track));
+    QCOMPARE_GE(rim, 3);
 }
 
 void TestBusyIndicator::background()

@@ -87,10 +87,10 @@ void fill(const OptionsDialog& dialog)
     for (QCheckBox* box : dialog.findChildren<QCheckBox*>())
         box->setChecked(box->text() == "&Skip what is not recorded"_L1 || box->isChecked());
     visit(u"playback"_s, u"keyboard"_s);
-    field<QKeySequenceEdit>(dialog, u"Next frame:"_s).setKeySequence(Qt::Key_F7);
+    field<QKeySequenceEdit>(dialog, u"Frame Forward:"_s).setKeySequence(Qt::Key_F7);
     // Taken by the menu, and by another button.
-    field<QKeySequenceEdit>(dialog, u"To the end:"_s).setKeySequence(Qt::CTRL | Qt::Key_O);
-    field<QKeySequenceEdit>(dialog, u"Previous frame:"_s).setKeySequence(Qt::ALT | Qt::Key_Home);
+    field<QKeySequenceEdit>(dialog, u"Track End:"_s).setKeySequence(Qt::CTRL | Qt::Key_O);
+    field<QKeySequenceEdit>(dialog, u"Frame Backward:"_s).setKeySequence(Qt::ALT | Qt::Key_Home);
     visit(u"network"_s, u"updates"_s);
     field<QLineEdit>(dialog, u"Internal server:"_s).setText(u"http://updates.example/in"_s);
     field<QLineEdit>(dialog, u"Public server:"_s).setText(u"http://not an address"_s);
@@ -187,8 +187,8 @@ void TestReviewOptions::buttons()
     client.options.run();
 
     QVERIFY(untouched);
-    QVERIFY2(message.contains(u"To the end: Ctrl+O belongs to “Open folder…”."_s) &&
-                 message.contains(u"Previous frame: Alt+Home is also set for “To the begin”."_s),
+    QVERIFY2(message.contains(u"Track End: Ctrl+O belongs to “Open folder…”."_s) &&
+                 message.contains(u"Frame Backward: Alt+Home is also set for “Track Begin”."_s),
              qPrintable(message));
     QVERIFY(client.store.settings() == (taken ? filled() : before));
     QCOMPARE(ProxyUserSettings::m_Settings.host, taken ? u"proxy.example"_s : QString());

@@ -1,4 +1,5 @@
 #include "categorylistview.h"
+#include "colormetrics.h"
 #include "testsupport.h"
 #include "whenshown.h"
 
@@ -130,6 +131,7 @@ private Q_SLOTS:
     void remembers();
     void readsDamagedSettings_data();
     void readsDamagedSettings();
+    void chosenIconStandsOut();
     void followsTheLanguage();
 
 private:
@@ -446,6 +448,25 @@ void TestOptionsDialog::readsDamagedSettings()
     nowhere.sync();
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), content);
+}
+
+void TestOptionsDialog::chosenIconStandsOut()
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath(u"icon.png"_s);
+    const QColor blue = QApplication::palette().color(QPalette::Highlight);
+    QPixmap icon(24, 24);
+    icon.fill(blue);
+    QVERIFY(icon.save(file));
+    add(u"a"_s, u"a1"_s)->setCategoryIcon(file);
+    OptionsDialog* dialog = open(u"a"_s);
+    dialog->show();
+    const QListView* list = Parts(*dialog).list;
+    const QRect row = list->visualRect(list->currentIndex());
+    const QImage image = list->viewport()->grab(row).toImage();
+    QCOMPARE(image.pixelColor(15, row.height() / 2), blue);
+    QCOMPARE_GE(contrast(image.pixelColor(row.width() - 3, row.height() / 2), blue), 2);
+    delete dialog;
 }
 
 void TestOptionsDialog::followsTheLanguage()

@@ -1,8 +1,8 @@
 #include "eventicons.h"
 
 #include <Hueloft/POrvGuiTheme>
+#include <Hueloft/VectorIconEngine>
 
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -114,59 +114,36 @@ const KindLook& lookOf(EventKind kind)
     return looks[std::clamp(int(kind), 0, EventKinds::count - 1)];
 }
 
-class EventIconEngine : public QIconEngine
+QIcon eventIcon(EventKind kind, bool onTimeline)
 {
-public:
-    EventIconEngine(EventKind kind, bool onTimeline) : m_kind(kind), m_onTimeline(onTimeline) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
-    {
-        const qreal side = std::min(rect.width(), rect.height());
-        const KindLook& look = lookOf(m_kind);
-        const bool onDark = m_onTimeline || Hueloft::POrvGuiTheme::bPantherTheme;
-        const QColor color = mode == QIcon::Selected && !m_onTimeline
+    const auto draw = [kind, onTimeline](QPainter& painter, const QRect& square, QIcon::Mode mode) {
+        const KindLook& look = lookOf(kind);
+        const bool onDark = onTimeline || Hueloft::POrvGuiTheme::bPantherTheme;
+        const QColor color = mode == QIcon::Selected && !onTimeline
                                  ? QColor(Qt::white)
                                  : (onDark ? look.onDark : look.onLight);
-
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(QRectF(rect).center() - QPointF(side, side) / 2);
-        painter->scale(side / units, side / units);
-        if (m_onTimeline) {
+        painter.translate(square.topLeft());
+        painter.scale(square.width() / units, square.height() / units);
+        if (onTimeline) {
             constexpr QColor rim(16, 18, 20);
-            painter->strokePath(look.outline(),
-                                QPen(rim, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            painter.strokePath(look.outline(),
+                               QPen(rim, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         }
-        painter->fillPath(look.outline(), color);
-        painter->restore();
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
-    }
-
-    QIconEngine* clone() const override { return new EventIconEngine(*this); }
-
-private:
-    const EventKind m_kind;
-    const bool m_onTimeline;
-};
+        painter.fillPath(look.outline(), color);
+    };
+    return QIcon(new Hueloft::VectorIconEngine(draw));
+}
 
 } // namespace
 
 QIcon EventIcons::onTimeline(EventKind kind)
 {
-    return QIcon(new EventIconEngine(kind, true));
+    return eventIcon(kind, true);
 }
 
 QIcon EventIcons::inList(EventKind kind)
 {
-    return QIcon(new EventIconEngine(kind, false));
+    return eventIcon(kind, false);
 }
 
 } // namespace Review

@@ -1,48 +1,12 @@
 #include "statesign.h"
 
+#include <Hueloft/VectorIconEngine>
+
 #include <QApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 
 namespace Review {
-
-namespace {
-
-class SignEngine : public QIconEngine
-{
-public:
-    explicit SignEngine(TrackState state) : m_state(state) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
-    {
-        const bool selected = mode == QIcon::Selected;
-        QColor line =
-            QApplication::palette().color(selected ? QPalette::HighlightedText : QPalette::Text);
-        if (!selected)
-            line.setAlpha(150);
-        const QRectF area(rect);
-        const double inset = area.height() / 4;
-        StateSign::paint(*painter, area.adjusted(1, inset, -1, -inset), m_state, line);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
-    }
-
-    QIconEngine* clone() const override { return new SignEngine(*this); }
-
-private:
-    const TrackState m_state;
-};
-
-} // namespace
 
 QString StateSign::text(TrackState state)
 {
@@ -78,7 +42,18 @@ void StateSign::paint(QPainter& painter, const QRectF& area, TrackState state, c
 
 QIcon StateSign::icon(TrackState state)
 {
-    return QIcon(new SignEngine(state));
+    const auto draw = [state](QPainter& painter, const QRect& square, QIcon::Mode mode) {
+        const bool selected = mode == QIcon::Selected;
+        QColor line =
+            QApplication::palette().color(selected ? QPalette::HighlightedText : QPalette::Text);
+        if (!selected)
+            line.setAlpha(150);
+        const QRectF area(square);
+        const double inset = area.height() / 4;
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        StateSign::paint(painter, area.adjusted(1, inset, -1, -inset), state, line);
+    };
+    return QIcon(new Hueloft::VectorIconEngine(draw));
 }
 
 } // namespace Review

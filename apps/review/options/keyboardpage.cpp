@@ -16,7 +16,7 @@ namespace Review {
 namespace {
 
 // One key that plays and pauses in turn.
-bool mayShareKeys(PlaybarButtons::Button one, PlaybarButtons::Button other)
+bool mayShareKeys(PPlaybar::PlaybackButton one, PPlaybar::PlaybackButton other)
 {
     return std::minmax(one, other) == std::minmax(PPlaybar::PauseButton, PPlaybar::PlayButton);
 }
@@ -32,7 +32,7 @@ KeyboardPage::KeyboardPage(SettingsStore& store, UsedShortcuts usedElsewhere)
 void KeyboardPage::build(QFormLayout& form)
 {
     m_rows.clear();
-    for (const PlaybarButtons::Button button : PlaybarButtons::inOrder()) {
+    for (const PPlaybar::PlaybackButton button : PPlaybar::buttons()) {
         auto* edit = new QKeySequenceEdit;
         edit->setClearButtonEnabled(true);
         m_rows.append({button, addRow(form, edit), edit});
@@ -70,7 +70,7 @@ QString KeyboardPage::categoryName() const
 void KeyboardPage::retranslateFields()
 {
     for (const Row& row : std::as_const(m_rows)) {
-        row.label->setText(tr("%1:").arg(PlaybarButtons::nameOf(row.button)));
+        row.label->setText(tr("%1:").arg(PPlaybar::buttonName(row.button)));
         // The names of the keys are translated, too.
         const QKeySequence keys = row.edit->keySequence();
         row.edit->clear();
@@ -88,13 +88,13 @@ QString KeyboardPage::conflict(const Row& row) const
     const QKeySequence keys = row.edit->keySequence();
     if (keys.isEmpty())
         return {};
-    const QString name = PlaybarButtons::nameOf(row.button);
+    const QString name = PPlaybar::buttonName(row.button);
     const QString text = keys.toString(QKeySequence::NativeText);
     for (const Row& other : m_rows) {
         if (other.button != row.button && other.edit->keySequence() == keys &&
             !mayShareKeys(other.button, row.button))
             return tr("%1: %2 is also set for “%3”.")
-                .arg(name, text, PlaybarButtons::nameOf(other.button));
+                .arg(name, text, PPlaybar::buttonName(other.button));
     }
     const QString user = m_usedElsewhere().value(keys);
     return user.isEmpty() ? QString() : tr("%1: %2 belongs to “%3”.").arg(name, text, user);

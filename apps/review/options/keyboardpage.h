@@ -1,7 +1,8 @@
 #pragma once
 
 #include "clientpage.h"
-#include "playback/playbarbuttons.h"
+
+#include <CorvelGui/PPlaybar>
 
 #include <QKeySequence>
 #include <QMap>
@@ -35,7 +36,7 @@ protected:
 private:
     struct Row
     {
-        PlaybarButtons::Button button;
+        CorvelGui::PPlaybar::PlaybackButton button;
         QLabel* label;
         QKeySequenceEdit* edit;
     };

@@ -1,9 +1,9 @@
 #include "reviewsettings.h"
 
 #include "look/languages.h"
-#include "playback/playbarbuttons.h"
 
 #include <Corvel/TimeZoneHelper>
+#include <CorvelGui/PPlaybar>
 
 #include <QMap>
 #include <QMetaEnum>
@@ -12,6 +12,7 @@
 #include <algorithm>
 
 using Corvel::ProxyUserSettings;
+using CorvelGui::PPlaybar;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -133,9 +134,9 @@ QMap<QString, QString> textsOf(const ReviewSettings& settings)
     return texts;
 }
 
-QString shortcutKey(PlaybarButtons::Button button)
+QString shortcutKey(PPlaybar::PlaybackButton button)
 {
-    const auto buttons = QMetaEnum::fromType<PlaybarButtons::Button>();
+    const auto buttons = QMetaEnum::fromType<PPlaybar::PlaybackButton>();
     return u"Shortcuts/"_s + QString::fromLatin1(buttons.valueToKey(button));
 }
 
@@ -154,7 +155,7 @@ ReviewSettings ReviewSettings::read(const QSettings& file)
         settings.zone = Corvel::TimeZoneHelper::getTimeZone(settings.zone);
     if (!settings.rememberPassword)
         settings.proxy.password.clear();
-    for (const PlaybarButtons::Button button : PlaybarButtons::inOrder()) {
+    for (const PPlaybar::PlaybackButton button : PPlaybar::buttons()) {
         const QVariant value = file.value(shortcutKey(button));
         if (!value.isValid())
             continue;
@@ -179,7 +180,7 @@ void ReviewSettings::write(QSettings& file, const ReviewSettings& before) const
         else
             file.setValue(key, text);
     }
-    for (const PlaybarButtons::Button button : PlaybarButtons::inOrder()) {
+    for (const PPlaybar::PlaybackButton button : PPlaybar::buttons()) {
         const QKeySequence keys = shortcuts.value(button);
         if (keys != before.shortcuts.value(button))
             file.setValue(shortcutKey(button), keys.toString(QKeySequence::PortableText));

@@ -642,45 +642,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
-    <name>Review::PlaybarButtons</name>
-    <message>
-        <source>To the begin</source>
-        <translation>Zum Anfang</translation>
-    </message>
-    <message>
-        <source>Fast backward</source>
-        <translation>Schneller Rücklauf</translation>
-    </message>
-    <message>
-        <source>Play backward</source>
-        <translation>Rückwärts wiedergeben</translation>
-    </message>
-    <message>
-        <source>Previous frame</source>
-        <translation>Voriges Einzelbild</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>Pause</translation>
-    </message>
-    <message>
-        <source>Next frame</source>
-        <translation>Nächstes Einzelbild</translation>
-    </message>
-    <message>
-        <source>Play</source>
-        <translation>Wiedergeben</translation>
-    </message>
-    <message>
-        <source>Fast forward</source>
-        <translation>Schneller Vorlauf</translation>
-    </message>
-    <message>
-        <source>To the end</source>
-        <translation>Zum Ende</translation>
-    </message>
-</context>
-<context>
     <name>Review::PreviewCard</name>
     <message numerus="yes">
         <source>and %n more</source>

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QColor>
+
+namespace CorvelGui {
+
+/// Both colours together, with @p share of the second from 0 to 1.
+QColor mixed(const QColor& one, const QColor& other, float share);
+
+/// The shade of @p color that is nearest to it and stands out from @p ground as text must: with a
+/// contrast ratio of 4.5 by WCAG 2.
+QColor readableOn(const QColor& color, const QColor& ground);
+
+} // namespace CorvelGui
