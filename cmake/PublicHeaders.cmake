@@ -54,8 +54,10 @@ set(CORVELGUI_PUBLIC_HEADERS
     itemviews/PHeaderCheckMenu
     itemviews/PIpItem
     itemviews/PLineEditDelegate
+    itemviews/PListActions
     itemviews/PNetworkItemDelegate
     itemviews/PPathItem
+    itemviews/PRowFilterModel
     itemviews/PSerialNumberItem
     itemviews/PStatusItem
     itemviews/PTabWidget

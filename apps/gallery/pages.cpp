@@ -10,6 +10,7 @@
 #include "iconspage.h"
 #include "languagespage.h"
 #include "lineeditspage.h"
+#include "longlistpage.h"
 #include "lookspage.h"
 #include "networkboxespage.h"
 #include "optionspage.h"
@@ -67,6 +68,7 @@ const std::vector<Page>& pages()
         // Item views
         {u"Tree widget"_s, create<TreePage>},
         {u"Table widget"_s, create<TablePage>},
+        {u"Long lists"_s, create<LongListPage>},
         {u"Table items"_s, create<TableItemsPage>},
         {u"Tab widget"_s, create<TabWidgetPage>},
         // Image views

@@ -629,25 +629,6 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
-    <name>CorvelGui::PTableWidget</name>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message>
-        <source>Copy the current selection&apos;s contents to the clipboard</source>
-        <translation>Den Inhalt der aktuellen Auswahl in die Zwischenablage kopieren</translation>
-    </message>
-    <message>
-        <source>Copy (Cell)</source>
-        <translation>Kopieren (Zelle)</translation>
-    </message>
-    <message>
-        <source>Copy the current contents of the cell to the clipboard</source>
-        <translation>Den aktuellen Inhalt der Zelle in die Zwischenablage kopieren</translation>
-    </message>
-</context>
-<context>
     <name>CorvelGui::PTreeWidget</name>
     <message>
         <source>Copy</source>

@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
+#include <QItemSelection>
 #include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
@@ -28,6 +29,8 @@ namespace CorvelGui {
 struct PCsvDialog::Private
 {
     Ui::PCsvDialog ui;
+    QPointer<QAbstractItemModel> model;
+    QItemSelection rows; ///< of that model
     QPointer<QTableWidget> table;
     QPointer<QTreeWidget> tree;
 };
@@ -65,14 +68,22 @@ PCsvDialog::~PCsvDialog() = default;
 void PCsvDialog::InitWithTableWidget(QTableWidget* table)
 {
     d->table = table;
-    if (table)
+    if (table && !d->model)
         listColumns();
 }
 
 void PCsvDialog::InitWithTreeWidget(QTreeWidget* tree)
 {
     d->tree = tree;
-    if (tree && !d->table)
+    if (tree && !d->table && !d->model)
+        listColumns();
+}
+
+void PCsvDialog::InitWithRows(QAbstractItemModel* model, const QItemSelection& rows)
+{
+    d->model = model;
+    d->rows = rows;
+    if (model)
         listColumns();
 }
 
@@ -170,33 +181,37 @@ QAbstractItemView* PCsvDialog::list() const
     return d->tree;
 }
 
+QAbstractItemModel* PCsvDialog::model() const
+{
+    if (d->model)
+        return d->model;
+    return list() ? list()->model() : nullptr;
+}
+
 void PCsvDialog::listColumns()
 {
     d->ui.listWidgetColumns->clear();
-    const QAbstractItemModel* model = list()->model();
-    for (int column = 0; column < model->columnCount(); ++column) {
+    for (int column = 0; column < model()->columnCount(); ++column) {
         auto* item = new QListWidgetItem(d->ui.listWidgetColumns);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Checked);
     }
     nameColumns();
     // A list may translate its header when the language changes.
-    connect(model, &QAbstractItemModel::headerDataChanged, this, &PCsvDialog::nameColumns);
+    connect(model(), &QAbstractItemModel::headerDataChanged, this, &PCsvDialog::nameColumns);
 }
 
 void PCsvDialog::nameColumns()
 {
-    const QAbstractItemModel* model = list()->model();
     for (int column = 0; column < d->ui.listWidgetColumns->count(); ++column)
         d->ui.listWidgetColumns->item(column)->setText(
-            model->headerData(column, Qt::Horizontal).toString());
+            model()->headerData(column, Qt::Horizontal).toString());
 }
 
 QByteArray PCsvDialog::csv() const
 {
     QByteArray body;
-    const QAbstractItemView* source = list();
-    if (!source)
+    if (!model())
         return body;
     QBitArray columns(d->ui.listWidgetColumns->count());
     for (int column = 0; column < columns.size(); ++column)
@@ -204,7 +219,7 @@ QByteArray PCsvDialog::csv() const
     const CsvFormat format{GetDelimiter(), GetTextQuote(), AddColumnsAtTop(), columns,
                            GetCheckedColumnCount()};
     QTextStream stream(&body);
-    writeCsv(stream, *source->model(), source->selectionModel()->selection(), format);
+    writeCsv(stream, *model(), d->model ? d->rows : list()->selectionModel()->selection(), format);
     return body;
 }
 

@@ -5,7 +5,9 @@
 
 #include <memory>
 
+class QAbstractItemModel;
 class QAbstractItemView;
+class QItemSelection;
 class QTableWidget;
 class QTreeWidget;
 
@@ -33,6 +35,10 @@ public:
     /// Exports from @p tree, and offers its columns, unless there is a table.
     void InitWithTreeWidget(QTreeWidget* tree);
 
+    /// Exports the given rows of @p model, and offers its columns. They go before a table and a
+    /// tree, and what is selected does not matter.
+    void InitWithRows(QAbstractItemModel* model, const QItemSelection& rows);
+
     /// The chosen delimiter: a tab, a semicolon or a comma.
     QChar GetDelimiter() const;
     /// The chosen quotes: double or single ones.
@@ -52,8 +58,9 @@ private:
     int GetCheckedColumnCount() const;
     void retranslate();
     bool isChecked(int column) const;
-    /// What is exported; null without a list.
     QAbstractItemView* list() const;
+    /// What is exported; null without a list.
+    QAbstractItemModel* model() const;
     void listColumns();
     void nameColumns();
     QByteArray csv() const;

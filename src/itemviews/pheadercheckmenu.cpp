@@ -3,6 +3,7 @@
 #include <QAbstractItemModel>
 #include <QAction>
 #include <QHeaderView>
+#include <QPointer>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -20,27 +21,34 @@ bool isLastVisible(const QHeaderView& header, int column)
 
 } // namespace
 
+struct PHeaderCheckMenu::Private
+{
+    QPointer<QHeaderView> header;
+};
+
 PHeaderCheckMenu::PHeaderCheckMenu(QHeaderView* header, QWidget* parent)
-    : QMenu(parent ? parent : header), m_header(header)
+    : QMenu(parent ? parent : header), d(new Private{header})
 {
     connect(this, &QMenu::aboutToShow, this, &PHeaderCheckMenu::fill);
     if (!header)
         return;
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this,
-            [this](QPoint position) { popup(m_header->viewport()->mapToGlobal(position)); });
+            [this](QPoint position) { popup(d->header->viewport()->mapToGlobal(position)); });
 }
+
+PHeaderCheckMenu::~PHeaderCheckMenu() = default;
 
 void PHeaderCheckMenu::fill()
 {
     clear();
-    const int columns = m_header ? m_header->count() : 0;
+    const int columns = d->header ? d->header->count() : 0;
     for (int place = 0; place < columns; ++place) {
-        const int column = m_header->logicalIndex(place);
+        const int column = d->header->logicalIndex(place);
         QAction* action = addAction(columnTitle(column).replace(u'&', u"&&"_s));
         action->setCheckable(true);
-        action->setChecked(!m_header->isSectionHidden(column));
-        action->setEnabled(!isLastVisible(*m_header, column));
+        action->setChecked(!d->header->isSectionHidden(column));
+        action->setEnabled(!isLastVisible(*d->header, column));
         connect(action, &QAction::toggled, this,
                 [this, column](bool visible) { toggle(column, visible); });
     }
@@ -49,13 +57,13 @@ void PHeaderCheckMenu::fill()
 QString PHeaderCheckMenu::columnTitle(int column) const
 {
     const QString title =
-        m_header->model()->headerData(column, m_header->orientation()).toString().simplified();
+        d->header->model()->headerData(column, d->header->orientation()).toString().simplified();
     return title.isEmpty() ? tr("Column %1").arg(column + 1) : title;
 }
 
 void PHeaderCheckMenu::toggle(int column, bool visible)
 {
-    if (!m_header)
+    if (!d->header)
         return;
     setColumnVisible(column, visible);
     Q_EMIT columnToggled(column, visible);
@@ -63,19 +71,19 @@ void PHeaderCheckMenu::toggle(int column, bool visible)
 
 void PHeaderCheckMenu::setColumnVisible(int column, bool visible)
 {
-    if (!m_header || column < 0 || column >= m_header->count())
+    if (!d->header || column < 0 || column >= d->header->count())
         return;
-    if (visible || !isLastVisible(*m_header, column))
-        m_header->setSectionHidden(column, !visible);
+    if (visible || !isLastVisible(*d->header, column))
+        d->header->setSectionHidden(column, !visible);
 }
 
 void PHeaderCheckMenu::writeUserSettings(QSettings& settings) const
 {
-    if (!m_header)
+    if (!d->header)
         return;
     QStringList hidden;
-    for (int column = 0; column < m_header->count(); ++column) {
-        if (m_header->isSectionHidden(column))
+    for (int column = 0; column < d->header->count(); ++column) {
+        if (d->header->isSectionHidden(column))
             hidden.append(QString::number(column));
     }
     // One text, because a store cannot tell an empty list from none.
@@ -84,7 +92,7 @@ void PHeaderCheckMenu::writeUserSettings(QSettings& settings) const
 
 void PHeaderCheckMenu::readUserSettings(QSettings& settings)
 {
-    if (!m_header || !settings.contains(hiddenColumnsKey))
+    if (!d->header || !settings.contains(hiddenColumnsKey))
         return;
     QList<int> hidden;
     for (const QString& entry : settings.value(hiddenColumnsKey).toString().split(u',')) {
@@ -93,10 +101,10 @@ void PHeaderCheckMenu::readUserSettings(QSettings& settings)
         if (isNumber)
             hidden.append(column);
     }
-    for (int column = 0; column < m_header->count(); ++column)
+    for (int column = 0; column < d->header->count(); ++column)
         setColumnVisible(column, true);
     // From the last one, so that it is the first that stays.
-    for (int column = m_header->count() - 1; column >= 0; --column) {
+    for (int column = d->header->count() - 1; column >= 0; --column) {
         if (hidden.contains(column))
             setColumnVisible(column, false);
     }

@@ -4,7 +4,8 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QMenu>
-#include <QPointer>
+
+#include <memory>
 
 class QHeaderView;
 
@@ -23,6 +24,7 @@ public:
     /// Makes this the context menu of @p header, which is also its parent unless @p parent is
     /// given. A menu without header is empty.
     explicit PHeaderCheckMenu(QHeaderView* header, QWidget* parent = nullptr);
+    ~PHeaderCheckMenu() override;
 
     /// Shows or hides a column; hiding the last visible one does nothing. Silent.
     void setColumnVisible(int column, bool visible);
@@ -44,7 +46,8 @@ private:
     void toggle(int column, bool visible);
     QString columnTitle(int column) const;
 
-    QPointer<QHeaderView> m_header;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

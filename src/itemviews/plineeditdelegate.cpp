@@ -3,14 +3,30 @@
 #include "input/wrongentrysheet.h"
 
 #include <QLineEdit>
+#include <QPointer>
+#include <QValidator>
 
 namespace CorvelGui {
 
-PLineEditDelegate::PLineEditDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
+struct PLineEditDelegate::Private
+{
+    QPointer<const QValidator> validator;
+};
+
+PLineEditDelegate::PLineEditDelegate(QObject* parent)
+    : QStyledItemDelegate(parent), d(std::make_unique<Private>())
+{}
+
+PLineEditDelegate::~PLineEditDelegate() = default;
 
 void PLineEditDelegate::setValidator(const QValidator* validator)
 {
-    m_validator = validator;
+    d->validator = validator;
+}
+
+const QValidator* PLineEditDelegate::validator() const
+{
+    return d->validator;
 }
 
 QWidget* PLineEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
@@ -19,7 +35,7 @@ QWidget* PLineEditDelegate::createEditor(QWidget* parent, const QStyleOptionView
     auto* editor = new QLineEdit(parent);
     editor->setFrame(false);
     editor->setAutoFillBackground(true);
-    editor->setValidator(m_validator);
+    editor->setValidator(d->validator);
     connect(editor, &QLineEdit::textChanged, editor,
             [editor] { markWrongEntry(editor, !editor->hasAcceptableInput()); });
     return editor;

@@ -2,9 +2,11 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
-#include <QPointer>
 #include <QStyledItemDelegate>
-#include <QValidator>
+
+#include <memory>
+
+class QValidator;
 
 namespace CorvelGui {
 
@@ -16,10 +18,11 @@ class CORVELGUI_EXPORT PLineEditDelegate : public QStyledItemDelegate
 
 public:
     explicit PLineEditDelegate(QObject* parent = nullptr);
+    ~PLineEditDelegate() override;
 
     /// For the editors opened from now on; null accepts everything. The delegate does not own it.
     void setValidator(const QValidator* validator);
-    const QValidator* validator() const { return m_validator; }
+    const QValidator* validator() const;
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
@@ -28,7 +31,8 @@ public:
                       const QModelIndex& index) const override;
 
 private:
-    QPointer<const QValidator> m_validator;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

@@ -1,13 +1,10 @@
 #include "ptablewidget.h"
 
 #include "base/whilealive.h"
-#include "copyactions.h"
-#include "dialogs/pcsvdialog.h"
 #include "itemviewtools.h"
+#include "plistactions.h"
 #include "rowdelegate.h"
 
-#include <QAction>
-#include <QEvent>
 #include <QHeaderView>
 #include <QPersistentModelIndex>
 #include <QPointer>
@@ -33,10 +30,15 @@ QItemSelectionModel::SelectionFlags flagsOf(QAbstractItemView::SelectionBehavior
 
 } // namespace
 
+struct PTableWidget::Private
+{
+    PListActions* actions = nullptr;
+};
+
 PTableWidget::PTableWidget(QWidget* parent) : PTableWidget(0, 0, parent) {}
 
 PTableWidget::PTableWidget(int rows, int columns, QWidget* parent)
-    : QTableWidget(rows, columns, parent), m_copyActions(std::make_unique<CopyActions>())
+    : QTableWidget(rows, columns, parent), d(std::make_unique<Private>())
 {
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setItemDelegate(new RowDelegate(this));
@@ -46,22 +48,9 @@ PTableWidget::~PTableWidget() = default;
 
 void PTableWidget::InitCopyMenus(bool withContextMenu)
 {
-    m_copyActions->create(this);
-    translateTexts();
-    if (!withContextMenu)
-        return;
-    setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(this, &QWidget::customContextMenuRequested, this, &PTableWidget::slotContextMenuHeader,
-            Qt::UniqueConnection);
-    connect(m_copyActions->copy(), &QAction::triggered, this, &PTableWidget::slotCopy);
-    connect(m_copyActions->copyCell(), &QAction::triggered, this, &PTableWidget::slotCopyCell);
-}
-
-void PTableWidget::translateTexts()
-{
-    m_copyActions->setTexts(
-        {tr("Copy"), tr("Copy the current selection's contents to the clipboard"),
-         tr("Copy (Cell)"), tr("Copy the current contents of the cell to the clipboard")});
+    d->actions = new PListActions(this);
+    if (withContextMenu)
+        d->actions->offer();
 }
 
 QString PTableWidget::cellText(int row, int column) const
@@ -72,29 +61,17 @@ QString PTableWidget::cellText(int row, int column) const
 
 void PTableWidget::CsvExport()
 {
-    const QPointer<PCsvDialog> dialog = new PCsvDialog(this);
-    dialog->exec();
-    delete dialog;
+    PListActions::exportSelection(*this);
 }
 
 void PTableWidget::CopyCellToClipBoard()
 {
-    const int column = std::max(0, currentColumn());
-    QStringList texts;
-    for (const int row : GetSelectedRows())
-        texts.append(cellText(row, column));
-    ItemViewTools::copyToClipboard(texts.join(u'\n'));
+    PListActions::copyCells(*this);
 }
 
 QString PTableWidget::getItemTextForCopy() const
 {
-    QString text;
-    for (const int row : GetSelectedRows()) {
-        for (int column = 0; column < columnCount(); ++column)
-            text += cellText(row, column) + u'\t';
-        text += u'\n';
-    }
-    return text;
+    return PListActions::rowsText(*this);
 }
 
 QModelIndex PTableWidget::GetModelIndexFromItem(QTableWidgetItem* item) const
@@ -142,16 +119,9 @@ bool PTableWidget::IsAlLeastOneSelected(int column) const
 
 QList<int> PTableWidget::GetSelectedRows() const
 {
-    // By ranges: asking each cell would search all ranges for each of them.
     QList<int> rows;
-    for (const QItemSelectionRange& range : selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            if (isSelectable(row, range.left(), range.right()))
-                rows.append(row);
-        }
-    }
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    for (const QModelIndex& row : PListActions::selectedRows(*this))
+        rows.append(row.row());
     return rows;
 }
 
@@ -248,17 +218,6 @@ void PTableWidget::resizeAllColumnToContentsWithOffset(int offset)
         resizeColumnToContentsWithOffset(column, offset);
 }
 
-bool PTableWidget::isSelectable(int row, int firstColumn, int lastColumn) const
-{
-    constexpr Qt::ItemFlags needed = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    for (int column = firstColumn; column <= lastColumn; ++column) {
-        const QTableWidgetItem* cell = item(row, column);
-        if (!cell || (cell->flags() & needed) == needed)
-            return true;
-    }
-    return false;
-}
-
 bool PTableWidget::isTextFound(int row, const QString& text) const
 {
     for (int column = 0; column < columnCount(); ++column) {
@@ -270,28 +229,27 @@ bool PTableWidget::isTextFound(int row, const QString& text) const
 
 void PTableWidget::FilterTable(const QString& text)
 {
+    FilterRows([&](int row) { return isTextFound(row, text); });
+}
+
+void PTableWidget::FilterRows(const std::function<bool(int row)>& isShown)
+{
     // Otherwise the header would add up all rows again after each of them.
     verticalHeader()->setUpdatesEnabled(false);
     for (int row = 0; row < rowCount(); ++row)
-        setRowHidden(row, !isTextFound(row, text));
+        setRowHidden(row, !isShown(row));
     verticalHeader()->setUpdatesEnabled(true);
-}
-
-void PTableWidget::changeEvent(QEvent* event)
-{
-    QTableWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        translateTexts();
 }
 
 void PTableWidget::slotContextMenuHeader(const QPoint& pos)
 {
-    m_copyActions->runMenu(this, pos);
+    if (d->actions)
+        d->actions->runMenu(pos);
 }
 
 void PTableWidget::slotCopy()
 {
-    ItemViewTools::copyToClipboard(getItemTextForCopy());
+    PListActions::copyRows(*this);
 }
 
 void PTableWidget::slotCopyCell()

@@ -4,11 +4,10 @@
 
 #include <QTableWidget>
 
+#include <functional>
 #include <memory>
 
 namespace CorvelGui {
-
-class CopyActions;
 
 /// The list of devices or events in rows and cells, beside PTreeWidget: copies rows and cells to
 /// the clipboard, filters its rows, measures its content, and exports it as CSV. Operations with
@@ -74,6 +73,9 @@ public:
     /// lower case to be found.
     void FilterTable(const QString& text);
 
+    /// Shows the rows for which @p isShown says so, and hides the others.
+    void FilterRows(const std::function<bool(int row)>& isShown);
+
     /// Selects all rows that are not hidden.
     void selectAll() override;
 
@@ -81,7 +83,6 @@ protected:
     /// The selected rows as lines that end with a line feed, a tab after the text of every column.
     QString getItemTextForCopy() const;
 
-    void changeEvent(QEvent* event) override;
     /// Leaves out hidden rows when the user selects from one row to another.
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
 
@@ -92,12 +93,10 @@ protected Q_SLOTS:
 
 private:
     QString cellText(int row, int column) const;
-    /// The selection may span cells that cannot be selected; a row of them is not.
-    bool isSelectable(int row, int firstColumn, int lastColumn) const;
     bool isTextFound(int row, const QString& text) const;
-    void translateTexts();
 
-    const std::unique_ptr<CopyActions> m_copyActions;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui

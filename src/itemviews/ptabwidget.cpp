@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QTabBar>
 
 #include <utility>
@@ -27,7 +28,14 @@ QString withoutMnemonic(const QString& text)
 
 } // namespace
 
-PTabWidget::PTabWidget(QWidget* parent) : QTabWidget(parent)
+struct PTabWidget::Private
+{
+    bool renamable = true;
+    QPointer<TabNameEditor> editor;
+    QPointer<QWidget> editedPage;
+};
+
+PTabWidget::PTabWidget(QWidget* parent) : QTabWidget(parent), d(std::make_unique<Private>())
 {
     setTabsClosable(true);
     setMovable(true);
@@ -36,20 +44,27 @@ PTabWidget::PTabWidget(QWidget* parent) : QTabWidget(parent)
     tabBar()->installEventFilter(this);
     connect(this, &QTabWidget::tabCloseRequested, this, &PTabWidget::closeTab);
     connect(this, &QTabWidget::tabBarDoubleClicked, this, [this](int index) {
-        if (m_renamable)
+        if (d->renamable)
             editTabName(index);
     });
     connect(this, &QTabWidget::currentChanged, this, [this] {
         // The number of the current tab also changes when others come or move.
-        if (currentWidget() != m_editedPage)
+        if (currentWidget() != d->editedPage)
             takeName();
     });
     connect(tabBar(), &QTabBar::tabMoved, this, &PTabWidget::placeEditor);
 }
 
+PTabWidget::~PTabWidget() = default;
+
 void PTabWidget::setTabsRenamable(bool renamable)
 {
-    m_renamable = renamable;
+    d->renamable = renamable;
+}
+
+bool PTabWidget::tabsRenamable() const
+{
+    return d->renamable;
 }
 
 QString PTabWidget::tabName(int index) const
@@ -70,32 +85,32 @@ void PTabWidget::editTabName(int index)
         return;
     if (!CorvelGui::whileAlive(this, [this] { takeName(); }))
         return;
-    m_editedPage = widget(index);
-    m_editor = new TabNameEditor(tabName(index), tabBar());
-    connect(m_editor, &TabNameEditor::nameEntered, this, &PTabWidget::takeName);
-    connect(m_editor, &TabNameEditor::cancelled, this, &PTabWidget::endEditing);
+    d->editedPage = widget(index);
+    d->editor = new TabNameEditor(tabName(index), tabBar());
+    connect(d->editor, &TabNameEditor::nameEntered, this, &PTabWidget::takeName);
+    connect(d->editor, &TabNameEditor::cancelled, this, &PTabWidget::endEditing);
     placeEditor();
-    m_editor->show();
-    m_editor->setFocus(Qt::OtherFocusReason);
+    d->editor->show();
+    d->editor->setFocus(Qt::OtherFocusReason);
 }
 
 void PTabWidget::placeEditor()
 {
-    if (!m_editor)
+    if (!d->editor)
         return;
-    const int index = indexOf(m_editedPage);
+    const int index = indexOf(d->editedPage);
     if (index < 0)
         endEditing();
     else
-        m_editor->setGeometry(tabBar()->tabRect(index));
+        d->editor->setGeometry(tabBar()->tabRect(index));
 }
 
 void PTabWidget::takeName()
 {
-    if (!m_editor)
+    if (!d->editor)
         return;
-    const QString name = m_editor->text().trimmed();
-    const int index = indexOf(m_editedPage);
+    const QString name = d->editor->text().trimmed();
+    const int index = indexOf(d->editedPage);
     endEditing();
     if (index < 0 || name.isEmpty() || name == tabName(index))
         return;
@@ -106,7 +121,7 @@ void PTabWidget::takeName()
 void PTabWidget::endEditing()
 {
     // Forgotten first, because hiding it takes the focus from it.
-    TabNameEditor* editor = std::exchange(m_editor, nullptr);
+    TabNameEditor* editor = std::exchange(d->editor, nullptr);
     if (!editor)
         return;
     const bool hadFocus = editor->hasFocus();
@@ -146,7 +161,7 @@ bool PTabWidget::eventFilter(QObject* object, QEvent* event)
 
 void PTabWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier && m_renamable)
+    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier && d->renamable)
         editTabName(currentIndex());
     else
         QTabWidget::keyPressEvent(event);

@@ -2,12 +2,9 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
-#include <QPointer>
 #include <QTabWidget>
 
-namespace CorvelGui {
-class TabNameEditor;
-}
+#include <memory>
 
 /// Tabs that the user closes, moves and renames. Stands outside the namespace of the library.
 ///
@@ -21,11 +18,12 @@ class CORVELGUI_EXPORT PTabWidget : public QTabWidget
 
 public:
     explicit PTabWidget(QWidget* parent = nullptr);
+    ~PTabWidget() override;
 
     /// Whether the user may rename tabs; true in a new widget. Closing and moving are switched by
     /// setTabsClosable() and setMovable().
     void setTabsRenamable(bool renamable);
-    bool tabsRenamable() const { return m_renamable; }
+    bool tabsRenamable() const;
 
     /// The text of a tab as the user reads it; empty for a tab that does not exist.
     QString tabName(int index) const;
@@ -58,7 +56,6 @@ private:
     void placeEditor();
     void endEditing();
 
-    bool m_renamable = true;
-    QPointer<CorvelGui::TabNameEditor> m_editor;
-    QPointer<QWidget> m_editedPage;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

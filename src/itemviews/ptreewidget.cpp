@@ -1,15 +1,13 @@
 #include "ptreewidget.h"
 
-#include "copyactions.h"
 #include "itemviewtools.h"
+#include "plistactions.h"
 #include "ptreewidgetitem.h"
 #include "rowdelegate.h"
 
 #include "base/logging.h"
 #include "base/whilealive.h"
-#include "dialogs/pcsvdialog.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -44,8 +42,13 @@ bool anyIndexBelow(const QAbstractItemModel& model, const QModelIndex& parent, c
 
 } // namespace
 
-PTreeWidget::PTreeWidget(QWidget* parent)
-    : QTreeWidget(parent), m_copyActions(std::make_unique<CopyActions>())
+struct PTreeWidget::Private
+{
+    QPoint dragStart;
+    PListActions* actions = nullptr;
+};
+
+PTreeWidget::PTreeWidget(QWidget* parent) : QTreeWidget(parent), d(std::make_unique<Private>())
 {
     setUniformRowHeights(true);
     setItemDelegate(new RowDelegate(this));
@@ -56,49 +59,24 @@ PTreeWidget::~PTreeWidget() = default;
 
 void PTreeWidget::InitCopyMenus(bool withContextMenu)
 {
-    m_copyActions->create(this);
-    translateTexts();
-    if (!withContextMenu)
-        return;
-    setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(this, &QWidget::customContextMenuRequested, this, &PTreeWidget::slotContextMenuHeader,
-            Qt::UniqueConnection);
-    connect(m_copyActions->copy(), &QAction::triggered, this, &PTreeWidget::slotCopy);
-    connect(m_copyActions->copyCell(), &QAction::triggered, this, &PTreeWidget::slotCopyCell);
-}
-
-void PTreeWidget::translateTexts()
-{
-    m_copyActions->setTexts(
-        {tr("Copy"), tr("Copy the current selection's contents to the clipboard"),
-         tr("Copy (Cell)"), tr("Copy the current contents of the cell to the clipboard")});
+    d->actions = new PListActions(this);
+    if (withContextMenu)
+        d->actions->offer();
 }
 
 void PTreeWidget::CsvExport()
 {
-    const QPointer<PCsvDialog> dialog = new PCsvDialog(this);
-    dialog->exec();
-    delete dialog;
+    PListActions::exportSelection(*this);
 }
 
 void PTreeWidget::CopyCellToClipBoard()
 {
-    const int column = std::max(0, currentColumn());
-    QStringList texts;
-    for (const QTreeWidgetItem* item : GetSelectedTreeWidgetItems())
-        texts.append(item->text(column));
-    ItemViewTools::copyToClipboard(texts.join(u'\n'));
+    PListActions::copyCells(*this);
 }
 
 QString PTreeWidget::getItemTextForCopy() const
 {
-    QString text;
-    for (const QTreeWidgetItem* item : GetSelectedTreeWidgetItems()) {
-        for (int column = 0; column < columnCount(); ++column)
-            text += item->text(column) + u'\t';
-        text += u'\n';
-    }
-    return text;
+    return PListActions::rowsText(*this);
 }
 
 bool PTreeWidget::isOwn(const QTreeWidgetItem* item) const
@@ -384,24 +362,36 @@ void PTreeWidget::FilterTree(const QString& text) const
     }
 }
 
-void PTreeWidget::changeEvent(QEvent* event)
+void PTreeWidget::FilterItems(const std::function<bool(const QTreeWidgetItem&)>& isShown)
 {
-    QTreeWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        translateTexts();
+    filterBelow({}, isShown);
+}
+
+bool PTreeWidget::filterBelow(const QModelIndex& parent,
+                              const std::function<bool(const QTreeWidgetItem&)>& isShown)
+{
+    bool anyShown = false;
+    for (int row = 0; row < model()->rowCount(parent); ++row) {
+        const QModelIndex index = model()->index(row, 0, parent);
+        const bool below = filterBelow(index, isShown);
+        const bool shown = isShown(*itemFromIndex(index)) || below;
+        setRowHidden(row, parent, !shown);
+        anyShown |= shown;
+    }
+    return anyShown;
 }
 
 void PTreeWidget::mousePressEvent(QMouseEvent* event)
 {
     const bool isThere = whileAlive(this, [this, event] { QTreeWidget::mousePressEvent(event); });
     if (isThere && event->button() == Qt::LeftButton)
-        m_dragStart = event->position().toPoint();
+        d->dragStart = event->position().toPoint();
 }
 
 void PTreeWidget::mouseMoveEvent(QMouseEvent* event)
 {
     // The base class would answer short moves, and those without a button, with effects of its own.
-    const QPoint way = event->position().toPoint() - m_dragStart;
+    const QPoint way = event->position().toPoint() - d->dragStart;
     if (event->buttons() == Qt::NoButton ||
         way.manhattanLength() < QApplication::startDragDistance())
         return;
@@ -418,12 +408,13 @@ void PTreeWidget::CreateDragData() {}
 
 void PTreeWidget::slotContextMenuHeader(const QPoint& pos)
 {
-    m_copyActions->runMenu(this, pos);
+    if (d->actions)
+        d->actions->runMenu(pos);
 }
 
 void PTreeWidget::slotCopy()
 {
-    ItemViewTools::copyToClipboard(getItemTextForCopy());
+    PListActions::copyRows(*this);
 }
 
 void PTreeWidget::slotCopyCell()

@@ -3,14 +3,12 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QPersistentModelIndex>
-#include <QPoint>
 #include <QTreeWidget>
 
+#include <functional>
 #include <memory>
 
 namespace CorvelGui {
-
-class CopyActions;
 
 /// The multi-column list of devices and search results: copies rows and cells to the clipboard,
 /// expands and collapses whole subtrees, filters its top-level rows, measures its content, and
@@ -84,6 +82,9 @@ public:
     /// are.
     void FilterTree(const QString& text) const;
 
+    /// Shows the items for which @p isShown says so, with all above them, and hides the others.
+    void FilterItems(const std::function<bool(const QTreeWidgetItem&)>& isShown);
+
     /// Selects all rows that are shown: neither hidden ones nor those of collapsed items.
     void selectAll() override;
 
@@ -101,7 +102,6 @@ protected:
     /// As ExpandCollapseAll(), for the items below @p item.
     void ExpandCollapseChild(QTreeWidgetItem* item, bool expand);
 
-    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -121,10 +121,11 @@ private:
     void noteExpanded(const QModelIndex& index, bool expand);
     void appendShownBelow(const QModelIndex& parent, QItemSelection& selection) const;
     int rowHeightsBelow(const QModelIndex& parent) const;
-    void translateTexts();
+    bool filterBelow(const QModelIndex& parent,
+                     const std::function<bool(const QTreeWidgetItem&)>& isShown);
 
-    QPoint m_dragStart;
-    const std::unique_ptr<CopyActions> m_copyActions;
+    struct Private;
+    const std::unique_ptr<Private> d;
 };
 
 } // namespace CorvelGui
