@@ -1,9 +1,10 @@
 #pragma once
 
 #include "data/sampledata.h"
+#include "lists/eventtable.h"
 #include "window/reviewwindow.h"
 
-#include <CorvelGui/PTableWidget>
+#include <CorvelGui/PRowFilterModel>
 #include <CorvelGui/PTreeWidget>
 #include <CorvelGui/Ruler>
 #include <CorvelGui/TarvoDateTimeView>
@@ -58,15 +59,23 @@ struct SampleWindow
             qFatal("There is no such camera: %s", qPrintable(name));
         return found.first();
     }
-    CorvelGui::PTableWidget* events() const { return window.findChild<CorvelGui::PTableWidget*>(); }
-    /// What a column of the event table says, in the rows that are shown.
+    /// With its search and its order at their ends.
+    Review::EventTable* events() const
+    {
+        auto* table = window.findChild<Review::EventTable*>();
+        qobject_cast<CorvelGui::PRowFilterModel*>(table->model())->finish();
+        return table;
+    }
+    QString eventText(int row, int column) const
+    {
+        return events()->model()->index(row, column).data().toString();
+    }
+    /// What a column of the event table says.
     QStringList shownEvents(int column) const
     {
         QStringList texts;
-        for (int row = 0; row < events()->rowCount(); ++row) {
-            if (!events()->isRowHidden(row))
-                texts.append(events()->item(row, column)->text());
-        }
+        for (int row = 0; row < events()->model()->rowCount(); ++row)
+            texts.append(eventText(row, column));
         return texts;
     }
 

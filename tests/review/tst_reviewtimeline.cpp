@@ -165,7 +165,6 @@ void TestReviewTimeline::markersOfCheckedTracks()
         }
         return indexes;
     };
-    const QTableWidget* events = sample.events();
     QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
     QCOMPARE(sample.shownEvents(EventTexts::Kind).size(), 3);
 
@@ -176,16 +175,16 @@ void TestReviewTimeline::markersOfCheckedTracks()
     QCOMPARE(sample.shownEvents(EventTexts::Track), QStringList({u"<b>Gate</b>"_s, QString()}));
 
     // Rows and events differ in number here.
-    sample.events()->sortItems(EventTexts::Time, Qt::DescendingOrder);
+    sample.events()->sortByColumn(EventTexts::Time, Qt::DescendingOrder);
     Ruler* ruler = sample.ruler();
     const qint64 span = viewSpan(ruler);
     QTest::mouseClick(shownMarkers(ruler).last(), Qt::LeftButton);
-    QCOMPARE(events->currentRow(), 0);
+    QCOMPARE(sample.events()->currentIndex().row(), 0);
     QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[2].time);
     QVERIFY(sample.showsTime(u"02 Mar 18:00:00"_s));
     QCOMPARE(viewSpan(ruler), span);
     QTest::mouseDClick(shownMarkers(ruler).first(), Qt::LeftButton);
-    QCOMPARE(events->currentRow(), 1);
+    QCOMPARE(sample.events()->currentIndex().row(), 1);
     QCOMPARE(qint64(ruler->getIndicatorMSecs()), data.events[1].time);
     QCOMPARE(viewSpan(ruler), 20 * minute);
     QCOMPARE(viewCentre(ruler), data.events[1].time);
@@ -206,7 +205,7 @@ void TestReviewTimeline::eventsAreOpened()
     for (int i = 0; i < 4; ++i)
         sample.action(u"Zoom in"_s)->trigger();
 
-    QTableWidget* events = sample.events();
+    QTableView* events = sample.events();
     const int row = 1'200;
     events->scrollTo(events->model()->index(row, 0));
     const QPoint position = events->visualRect(events->model()->index(row, 0)).center();
@@ -297,7 +296,7 @@ void TestReviewTimeline::zoneChangesAllTexts()
     const auto texts = [&] {
         QStringList all;
         all.append(sample.device(u"Fence"_s)->text(DeviceItem::KnownFrom));
-        all.append(sample.events()->item(0, EventTexts::Time)->text());
+        all.append(sample.eventText(0, EventTexts::Time));
         for (const InstantEdit* edit : sample.window.findChildren<InstantEdit*>())
             all.append(edit->text());
         return all;
@@ -420,7 +419,7 @@ void TestReviewTimeline::instantsOutlastTheClock()
 void TestReviewTimeline::manyEventsLoad()
 {
     ReviewData data = smallReview();
-    data.events.clear();
+    data.events = {};
     constexpr int count = 100'000;
     for (int i = 0; i < count; ++i)
         data.events.append({monday + i * day / count, i % 3 ? u"person"_s : u"alarm"_s,

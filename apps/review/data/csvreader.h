@@ -28,6 +28,8 @@ public:
 
     /// The line in which the record begins, counted from 1.
     qsizetype line() const { return m_line; }
+    /// How many bytes have been read.
+    qsizetype position() const { return m_position; }
     Fault fault() const { return m_fault; }
     /// The record's fields without their quotes; none if it is faulty.
     const QList<QByteArray>& fields() const { return m_fields; }

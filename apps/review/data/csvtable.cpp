@@ -8,6 +8,8 @@
 #include <QLocale>
 #include <QStringConverter>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -65,7 +67,7 @@ QString columnName(const QByteArray& header)
 
 QString CsvTable::read(const QString& path, const QStringList& neededColumns,
                        const QStringList& optionalColumns, const LineHandler& handler,
-                       ProblemList& problems)
+                       ProblemList& problems, LoadProgress& progress)
 {
     const auto unreadable = [&path](const QString& reason) {
         return tr("Cannot read %1: %2").arg(QDir::toNativeSeparators(path), reason);
@@ -112,7 +114,8 @@ QString CsvTable::read(const QString& path, const QStringList& neededColumns,
                                                 : QByteArrayView(fields[positions[i]]).trimmed();
         return handler(values);
     };
-    while (reader.next()) {
+    for (qsizetype done = 0; !progress.isCancelled() && reader.next();) {
+        progress.add(reader.position() - std::exchange(done, reader.position()));
         const LineFault problem = handle();
         if (!problem.isEmpty())
             problems.add({path, reader.line(), problem});

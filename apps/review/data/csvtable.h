@@ -1,5 +1,6 @@
 #pragma once
 
+#include "loadprogress.h"
 #include "problemlist.h"
 
 #include <QByteArrayView>
@@ -27,10 +28,10 @@ public:
     /// with the others goes to @p problems. Columns that are not asked for are passed over; those
     /// in @p optionalColumns come behind the needed ones, and are empty where the file has none of
     /// that name. A column "track" counts as "camera". Returns why the file cannot be read at all,
-    /// or an empty string.
+    /// or an empty string. A cancelled @p progress ends it at the next line.
     static QString read(const QString& path, const QStringList& neededColumns,
                         const QStringList& optionalColumns, const LineHandler& handler,
-                        ProblemList& problems);
+                        ProblemList& problems, LoadProgress& progress);
 };
 
 } // namespace Review

@@ -12,6 +12,7 @@ LoadJob::LoadJob(const ReviewFiles& files, QObject* parent)
 
 LoadJob::~LoadJob()
 {
+    m_loader.progress().cancel();
     m_thread->wait();
 }
 
@@ -21,12 +22,9 @@ void LoadJob::load()
         m_data = SampleData::make();
         return;
     }
-    ReviewLoader loader;
-    m_error = loader.load(m_files);
-    if (m_error.isEmpty()) {
-        m_data = loader.data();
-        m_problems = loader.problems();
-    }
+    m_error = m_loader.load(m_files);
+    if (m_error.isEmpty() && !m_loader.progress().isCancelled())
+        m_data = m_loader.data();
 }
 
 } // namespace Review

@@ -17,14 +17,19 @@ class LoadJob : public QObject
 public:
     /// Loads the sample when no file is named.
     explicit LoadJob(const ReviewFiles& files, QObject* parent = nullptr);
-    /// Waits for a load that is under way.
+    /// Cancels a load that is under way, and waits for it to end.
     ~LoadJob() override;
 
     void start() { m_thread->start(); }
+    /// Ends the load early; loaded() is emitted nevertheless.
+    void cancel() { m_loader.progress().cancel(); }
+    bool isCancelled() const { return m_loader.progress().isCancelled(); }
+    /// How far it has come, from 0 to 100.
+    int percent() const { return m_loader.progress().percent(); }
 
-    /// Empty before loaded(), and when a file could not be read.
+    /// Empty before loaded(), when a file could not be read, and when the load was cancelled.
     const ReviewData& data() const { return m_data; }
-    const ProblemList& problems() const { return m_problems; }
+    const ProblemList& problems() const { return m_loader.problems(); }
     /// Why a file could not be read, or an empty string.
     const QString& error() const { return m_error; }
     const ReviewFiles& files() const { return m_files; }
@@ -37,8 +42,8 @@ private:
     void load();
 
     const ReviewFiles m_files;
+    ReviewLoader m_loader;
     ReviewData m_data;
-    ProblemList m_problems;
     QString m_error;
     const std::unique_ptr<QThread> m_thread;
 };

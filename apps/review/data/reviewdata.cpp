@@ -20,8 +20,8 @@ TimeSpan ReviewData::period() const
         for (const TimeSpan& span : track.recorded)
             include(span.begin, span.end);
     }
-    for (const Event& event : events)
-        include(event.time, event.time);
+    if (!events.isEmpty())
+        include(events.timeAt(0), events.timeAt(events.size() - 1));
     if (period.begin > period.end)
         return {};
     // A timeline of a single instant needs some width.
@@ -33,7 +33,7 @@ TimeSpan ReviewData::period() const
 Sight ReviewData::firstSight() const
 {
     if (!events.isEmpty())
-        return {.msecs = events.first().time, .track = events.first().track};
+        return {.msecs = events.timeAt(0), .track = events[0].track};
     Sight first{.msecs = period().end};
     for (const TrackDescription& track : tracks) {
         for (const TimeSpan& span : track.recorded) {

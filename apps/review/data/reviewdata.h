@@ -1,24 +1,12 @@
 #pragma once
 
+#include "events.h"
+
 #include <CorvelGui/TrackDescription>
 
 #include <QList>
-#include <QString>
 
 namespace Review {
-
-/// Something that happened at one moment.
-struct Event
-{
-    /// Milliseconds since the Unix epoch.
-    qint64 time = 0;
-    QString kind;
-    QString text;
-    /// Identifier of the track that it belongs to; empty if it belongs to none.
-    QString track;
-
-    bool operator==(const Event&) const = default;
-};
 
 /// A moment at a camera.
 struct Sight
@@ -32,8 +20,7 @@ struct Sight
 struct ReviewData
 {
     QList<CorvelGui::TrackDescription> tracks;
-    /// Sorted by time.
-    QList<Event> events;
+    Events events;
 
     /// From the first to the last instant of all that is there; empty if there is nothing.
     CorvelGui::TimeSpan period() const;

@@ -45,8 +45,14 @@ QString ReviewFiles::name() const
     return first.isEmpty() ? QString() : QFileInfo(first).absoluteDir().dirName();
 }
 
+qint64 ReviewFiles::size() const
+{
+    return QFileInfo(recordings).size() + QFileInfo(deployments).size() + QFileInfo(events).size();
+}
+
 QString ReviewLoader::load(const ReviewFiles& files)
 {
+    m_progress.setTotal(files.size());
     using Step = QString (ReviewLoader::*)(const QString&);
     const std::pair<QString, Step> steps[] = {
         {files.recordings, &ReviewLoader::loadRecordings},
@@ -54,7 +60,7 @@ QString ReviewLoader::load(const ReviewFiles& files)
         {files.events, &ReviewLoader::loadEvents},
     };
     for (const auto& [path, step] : steps) {
-        if (path.isEmpty())
+        if (path.isEmpty() || m_progress.isCancelled())
             continue;
         if (const QString error = (this->*step)(path); !error.isEmpty())
             return error;
@@ -79,7 +85,8 @@ QString ReviewLoader::loadRecordings(const QString& path)
             track(identifier).recorded.append(span);
         return fault;
     };
-    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
+    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {}, add, m_problems,
+                          m_progress);
 }
 
 QString ReviewLoader::loadDeployments(const QString& path)
@@ -92,27 +99,25 @@ QString ReviewLoader::loadDeployments(const QString& path)
             extend(track(identifier), span);
         return fault;
     };
-    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {}, add, m_problems);
+    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {}, add, m_problems,
+                          m_progress);
 }
 
 QString ReviewLoader::loadEvents(const QString& path)
 {
     const auto add = [this](const CsvTable::Values& values) {
-        Event event{.time = 0,
-                    .kind = QString::fromUtf8(values[1]),
-                    .text = QString::fromUtf8(values[2]),
-                    .track = QString::fromUtf8(values[3])};
-        LineFault fault = LineParser::parseTime(values[0], event.time);
-        if (fault.isEmpty() && event.kind.isEmpty())
+        qint64 time = 0;
+        LineFault fault = LineParser::parseTime(values[0], time);
+        if (fault.isEmpty() && values[1].isEmpty())
             fault = {"Review::ReviewLoader", QT_TR_NOOP("the event has no kind")};
         if (fault.isEmpty())
-            m_data.events.append(event);
+            m_data.events.append(time, QString::fromUtf8(values[1]), values[2],
+                                 QString::fromUtf8(values[3]));
         return fault;
     };
-    const QString error =
-        CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"camera"_s}, add, m_problems);
-    std::stable_sort(m_data.events.begin(), m_data.events.end(),
-                     [](const Event& a, const Event& b) { return a.time < b.time; });
+    const QString error = CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"camera"_s},
+                                         add, m_problems, m_progress);
+    m_data.events.sort();
     return error;
 }
 

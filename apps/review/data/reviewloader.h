@@ -1,6 +1,7 @@
 #pragma once
 
 #include "csvtable.h"
+#include "loadprogress.h"
 #include "problemlist.h"
 #include "reviewdata.h"
 
@@ -19,6 +20,8 @@ struct ReviewFiles
     /// Those of recordings.csv, events.csv and deployments.csv that are in @p folder.
     static ReviewFiles inFolder(const QString& folder);
 
+    /// Of all of them, in bytes.
+    qint64 size() const;
     bool isEmpty() const
     {
         return recordings.isEmpty() && events.isEmpty() && deployments.isEmpty();
@@ -33,8 +36,12 @@ class ReviewLoader
     Q_DECLARE_TR_FUNCTIONS(Review::ReviewLoader)
 
 public:
-    /// Returns why a file cannot be read, or an empty string.
+    /// Returns why a file cannot be read, or an empty string. What a cancelled load leaves is
+    /// incomplete.
     QString load(const ReviewFiles& files);
+    /// Any thread may look at it, or end the load by it.
+    LoadProgress& progress() { return m_progress; }
+    const LoadProgress& progress() const { return m_progress; }
 
     const ReviewData& data() const { return m_data; }
     const ProblemList& problems() const { return m_problems; }
@@ -48,6 +55,7 @@ private:
     ReviewData m_data;
     ProblemList m_problems;
     QHash<QString, qsizetype> m_trackIndexes;
+    LoadProgress m_progress;
 };
 
 } // namespace Review

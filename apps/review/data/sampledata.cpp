@@ -198,8 +198,7 @@ ReviewData SampleData::make()
         }
         data.tracks.append(track);
     }
-    std::stable_sort(data.events.begin(), data.events.end(),
-                     [](const Event& a, const Event& b) { return a.time < b.time; });
+    data.events.sort();
     return data;
 }
 

@@ -17,7 +17,7 @@ struct DeviceMoment
 {
     TimeTexts times;
     /// Of all tracks, sorted by time.
-    QList<Event> events = {};
+    Events events = {};
     /// 0 if there is none.
     qint64 msecs = 0;
 };

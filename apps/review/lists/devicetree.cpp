@@ -264,16 +264,9 @@ void DeviceTree::showTexts()
 void DeviceTree::showRows(const QString& filter)
 {
     m_filter = filter;
-    const QString text = filter.toLower();
-    for (PTreeWidgetItem* group : {m_cameras, m_added}) {
-        bool isAnyShown = false;
-        for (DeviceItem* device : devicesOf(group)) {
-            const bool isShown = device->isTextFound(text);
-            device->setHidden(!isShown);
-            isAnyShown |= isShown;
-        }
-        group->setHidden(!isAnyShown);
-    }
+    FilterItems([text = filter.toLower()](const QTreeWidgetItem& item) {
+        return item.parent() && static_cast<const DeviceItem&>(item).isTextFound(text);
+    });
 }
 
 void DeviceTree::sortGroups()

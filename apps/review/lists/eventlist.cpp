@@ -1,55 +1,41 @@
 #include "eventlist.h"
 
-#include <algorithm>
+#include <utility>
 
 using CorvelGui::TimeSpan;
 using CorvelGui::TrackDescription;
 
 namespace Review {
 
-EventList::EventList(const ReviewData& review) : m_events(review.events)
+EventList::EventList(const ReviewData& review)
+    : m_events(review.events), m_trackNames(m_events.tracks()), m_hidden(m_trackNames.size())
 {
-    for (const TrackDescription& track : review.tracks)
-        m_trackNames.insert(track.identifier, track.name);
-    findShown();
-}
-
-QString EventList::trackName(qsizetype index) const
-{
-    const QString& identifier = m_events[index].track;
-    return m_trackNames.value(identifier, identifier);
+    for (const TrackDescription& track : review.tracks) {
+        const auto number = m_events.tracks().indexOf(track.identifier);
+        if (number >= 0)
+            m_trackNames[number] = track.name;
+    }
 }
 
 bool EventList::setHiddenTracks(const QSet<QString>& identifiers)
 {
-    if (m_hiddenTracks == identifiers)
-        return false;
-    m_hiddenTracks = identifiers;
-    findShown();
-    return true;
-}
-
-void EventList::findShown()
-{
-    m_shown.clear();
-    for (qsizetype i = 0; i < m_events.size(); ++i) {
-        if (isShown(i))
-            m_shown.push_back(i);
+    const QBitArray before = std::exchange(m_hidden, QBitArray(m_trackNames.size()));
+    for (const QString& identifier : identifiers) {
+        const auto number = m_events.tracks().indexOf(identifier);
+        if (number >= 0)
+            m_hidden.setBit(number);
     }
+    return m_hidden != before;
 }
 
-bool EventList::isShown(qsizetype index) const
+QList<qsizetype> EventList::eventsIn(const TimeSpan& span) const
 {
-    return m_hiddenTracks.isEmpty() || !m_hiddenTracks.contains(m_events[index].track);
-}
-
-QList<Event> EventList::eventsIn(const TimeSpan& span) const
-{
-    QList<Event> events;
-    auto shown = std::partition_point(m_shown.begin(), m_shown.end(),
-                                      [&](qsizetype i) { return m_events[i].time < span.begin; });
-    for (; shown != m_shown.end() && m_events[*shown].time < span.end; ++shown)
-        events.append(m_events[*shown]);
+    QList<qsizetype> events;
+    for (qsizetype event = m_events.firstFrom(span.begin);
+         event < m_events.size() && m_events.timeAt(event) < span.end; ++event) {
+        if (isShown(event))
+            events.append(event);
+    }
     return events;
 }
 

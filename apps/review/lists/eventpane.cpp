@@ -20,7 +20,6 @@ namespace Review {
 EventPane::EventPane(const Clock& clock, QWidget* parent)
     : Translated(parent)
     , m_clock(clock)
-    , m_texts(clock.times())
     , m_filter(new FilterLineEdit)
     , m_table(new EventTable)
     , m_export(new QAction(m_table))
@@ -35,21 +34,16 @@ EventPane::EventPane(const Clock& clock, QWidget* parent)
 
     connect(m_filter, &FilterLineEdit::filterChanged, this, &EventPane::showRows);
     connect(m_export, &QAction::triggered, this, &EventPane::exportEvents);
-    connect(m_table, &QTableWidget::activated, this, [this](const QModelIndex& index) {
-        if (!m_table->isRowHidden(index.row()))
-            Q_EMIT eventOpened(m_table->eventOf(index.row()));
-    });
-    connect(&clock, &Clock::changed, this, &EventPane::followClock);
+    connect(m_table, &QAbstractItemView::activated, this,
+            [this](const QModelIndex& index) { Q_EMIT eventOpened(m_table->eventOf(index)); });
+    connect(&clock, &Clock::changed, this, &EventPane::renewTexts);
     retranslate();
 }
 
 void EventPane::setReview(const ReviewData& review)
 {
-    // The rows look at both.
-    m_table->setRowCount(0);
     m_list = EventList(review);
-    m_texts.setEvents(m_list);
-    m_table->setEvents(m_list, m_texts);
+    m_table->setEvents(m_list, m_clock.times());
     showRows();
 }
 
@@ -70,7 +64,7 @@ void EventPane::exportEvents()
     const char separator = QLocale().decimalPoint() == u',' ? ';' : ',';
     EventWriter writer(m_clock.times().zone(), separator);
     for (const qsizetype event : m_table->chosenEvents())
-        writer.add(m_list.event(event));
+        writer.add(m_list.events()[event]);
     Q_EMIT exportWanted(writer);
 }
 
@@ -79,10 +73,9 @@ void EventPane::select(qsizetype index)
     m_table->goTo(index);
 }
 
-void EventPane::followClock()
+void EventPane::renewTexts()
 {
-    m_texts.setTimes(m_clock.times());
-    m_table->showNewTexts();
+    m_table->renewTexts(m_list, m_clock.times());
     if (!m_filter->text().isEmpty())
         showRows();
 }
@@ -91,14 +84,10 @@ void EventPane::retranslate()
 {
     m_filter->setAccessibleName(tr("Filter events"));
     m_table->setAccessibleName(tr("Events"));
-    m_table->setHorizontalHeaderLabels({tr("Time"), tr("Kind"), tr("Event"), tr("Camera")});
     m_export->setText(tr("Export events…"));
     m_export->setStatusTip(
         tr("Write the events in the table, or several selected ones, to a file"));
-    m_texts.setEvents(m_list);
-    m_table->showNewTexts();
-    if (!m_filter->text().isEmpty())
-        showRows();
+    renewTexts();
 }
 
 } // namespace Review

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "eventlist.h"
-#include "eventtexts.h"
 #include "look/translated.h"
 
 #include <QWidget>
@@ -48,13 +47,12 @@ protected:
     void retranslate() final;
 
 private:
-    void followClock();
+    void renewTexts();
     void showRows();
     void exportEvents();
 
     const Clock& m_clock;
     EventList m_list;
-    EventTexts m_texts;
     CorvelGui::FilterLineEdit* m_filter;
     EventTable* m_table;
     QAction* m_export;

@@ -1,58 +1,33 @@
 #include "eventtable.h"
 
-#include "look/eventicons.h"
+#include "eventmodel.h"
 #include "look/listlook.h"
 
-#include <CorvelGui/PTableWidgetItem>
+#include <CorvelGui/PListActions>
+#include <CorvelGui/PRowFilterModel>
 
 #include <QHeaderView>
-#include <QSignalBlocker>
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
-using CorvelGui::PTableWidgetItem;
+using CorvelGui::PListActions;
+using CorvelGui::PRowFilterModel;
 
 namespace Review {
 
-namespace {
-
-/// A cell without a text of its own: it asks when it is looked at.
-class EventCell : public PTableWidgetItem
+EventTable::EventTable(QWidget* parent)
+    : QTableView(parent), m_events(new EventModel(this)), m_rows(new PRowFilterModel(this))
 {
-public:
-    EventCell(const EventList& events, const EventTexts& texts, qsizetype event, int column)
-        : PTableWidgetItem(UserType + column), m_events(events), m_texts(texts), m_event(event)
-    {}
+    m_rows->setSourceModel(m_events);
+    m_rows->setComparison([this](int row, int other, int column) {
+        return m_events->texts().compare(row, other, EventTexts::Column(column));
+    });
+    setModel(m_rows);
+    connect(m_rows, &QAbstractItemModel::modelReset, this, &EventTable::restoreCurrent);
+    connect(m_rows, &QAbstractItemModel::rowsInserted, this, &EventTable::restoreCurrent);
 
-    qsizetype event() const { return m_event; }
-
-    QVariant data(int role) const override
-    {
-        const auto column = EventTexts::Column(type() - UserType);
-        if (role == Qt::DisplayRole)
-            return m_texts.text(m_event, column);
-        if (role == Qt::DecorationRole && column == EventTexts::Kind)
-            return EventIcons::inList(EventKinds::parse(m_events.event(m_event).kind));
-        return PTableWidgetItem::data(role);
-    }
-
-    bool operator<(const QTableWidgetItem& other) const override
-    {
-        return m_texts.isLess(m_event, static_cast<const EventCell&>(other).m_event,
-                              EventTexts::Column(type() - UserType));
-    }
-
-private:
-    const EventList& m_events;
-    const EventTexts& m_texts;
-    const qsizetype m_event;
-};
-
-} // namespace
-
-EventTable::EventTable(QWidget* parent) : PTableWidget(0, EventTexts::ColumnCount, parent)
-{
+    setSelectionBehavior(SelectRows);
     ListLook::apply(this, horizontalHeader());
     horizontalHeader()->setSectionResizeMode(EventTexts::Text, QHeaderView::Stretch);
     horizontalHeader()->setMinimumSectionSize(90);
@@ -64,89 +39,84 @@ EventTable::EventTable(QWidget* parent) : PTableWidget(0, EventTexts::ColumnCoun
     setWordWrap(false);
     setTabKeyNavigation(false);
     setSortingEnabled(true);
-    InitCopyMenus(true);
+    (new PListActions(this))->offer();
     ListLook::offerActions(this);
 }
 
-void EventTable::setEvents(const EventList& events, const EventTexts& texts)
+void EventTable::setEvents(const EventList& events, const TimeTexts& times)
 {
-    // A sorted table would look for the place of each cell anew.
-    setSortingEnabled(false);
-    setRowCount(0);
-    setRowCount(int(events.size()));
-    {
-        const QSignalBlocker blocker(model());
-        for (int row = 0; row < rowCount(); ++row) {
-            for (int column = 0; column < EventTexts::ColumnCount; ++column)
-                setItem(row, column, new EventCell(events, texts, row, column));
-        }
-    }
-    setSortingEnabled(true);
-    showNewTexts();
+    m_current = -1;
+    m_rows->setFilter({}); // it knows the events before
+    m_events->setEvents(events, times);
+    fitColumns();
+}
+
+void EventTable::renewTexts(const EventList& events, const TimeTexts& times)
+{
+    m_events->renewTexts(events, times);
+    fitColumns();
 }
 
 void EventTable::showRows(const EventList& events, const QString& filter)
 {
-    // Without a filter no row needs to say its texts.
-    if (!filter.isEmpty())
-        FilterTable(filter.toLower());
-    // Otherwise the header would add up all rows again after each of them.
-    verticalHeader()->setUpdatesEnabled(false);
-    for (int row = 0; row < rowCount(); ++row) {
-        const bool isLeftOut = !events.isShown(eventOf(row));
-        if (filter.isEmpty() || isLeftOut)
-            setRowHidden(row, isLeftOut);
-    }
-    verticalHeader()->setUpdatesEnabled(true);
-    if (currentRow() >= 0 && !isRowHidden(currentRow()))
-        scrollToItem(currentItem());
-}
-
-void EventTable::showNewTexts()
-{
-    fitColumns();
-    viewport()->update();
+    if (filter.isEmpty() && events.showsAll())
+        return m_rows->setFilter({});
+    m_rows->setFilter([events, says = m_events->texts().finder(filter)](int row) {
+        return events.isShown(row) && says(row);
+    });
 }
 
 void EventTable::fitColumns()
 {
-    for (int column = 0; column < columnCount(); ++column) {
-        if (column != EventTexts::Text)
-            resizeColumnToContentsWithOffset(column, 0);
+    for (const int column : {EventTexts::Time, EventTexts::Kind, EventTexts::Track}) {
+        if (!isColumnHidden(column))
+            resizeColumnToContents(column);
     }
 }
 
-qsizetype EventTable::eventOf(int row) const
+qsizetype EventTable::eventOf(const QModelIndex& index) const
 {
-    return static_cast<const EventCell*>(item(row, 0))->event();
+    return m_rows->mapToSource(index).row();
 }
 
 void EventTable::goTo(qsizetype event)
 {
-    for (int row = 0; row < rowCount(); ++row) {
-        if (eventOf(row) != event || isRowHidden(row))
-            continue;
-        setCurrentCell(row, std::max(0, currentColumn()));
-        scrollToItem(currentItem(), PositionAtCenter);
+    if (currentIndex().isValid() && eventOf(currentIndex()) == event)
+        return scrollTo(currentIndex(), PositionAtCenter);
+    setCurrentIndex({});
+    m_current = event;
+    restoreCurrent();
+}
+
+void EventTable::restoreCurrent()
+{
+    if (m_current < 0 || currentIndex().isValid())
         return;
-    }
+    const QModelIndex cell = m_rows->mapFromSource(m_events->index(int(m_current), 0));
+    if (!cell.isValid())
+        return;
+    setCurrentIndex(cell);
+    scrollTo(cell, PositionAtCenter);
+}
+
+void EventTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.isValid())
+        m_current = eventOf(current);
 }
 
 QList<qsizetype> EventTable::chosenEvents() const
 {
-    QList<int> rows = GetSelectedRows();
-    const auto isHidden = [this](int row) {
-        return isRowHidden(row);
-    };
-    rows.removeIf(isHidden);
+    m_rows->finish();
+    QModelIndexList rows = CorvelGui::PListActions::selectedRows(*this);
     if (rows.size() < 2) {
-        rows.resize(rowCount());
-        std::iota(rows.begin(), rows.end(), 0);
-        rows.removeIf(isHidden);
+        rows.clear();
+        for (int row = 0; row < m_rows->rowCount(); ++row)
+            rows.append(m_rows->index(row, 0));
     }
-    std::ranges::sort(rows);
     QList<qsizetype> events;
-    for (const int row : std::as_const(rows))
+    for (const QModelIndex& row : std::as_const(rows))
         events.append(eventOf(row));
     return events;
 }

@@ -1,37 +1,52 @@
 #pragma once
 
-#include "eventtexts.h"
+#include "eventlist.h"
 
-#include <CorvelGui/PTableWidget>
+#include <QTableView>
+
+namespace CorvelGui {
+class PRowFilterModel;
+} // namespace CorvelGui
 
 namespace Review {
 
-/// The table of events: a row for each, hidden while its track or the filter leaves it out. Rows
-/// are made once and stay when texts change, and with them what is selected.
-class EventTable : public CorvelGui::PTableWidget
+class EventModel;
+class TimeTexts;
+
+/// The table of events, of which there can be millions: those whose track and texts are wanted, in
+/// an order of choice. The window goes on while it searches and sorts.
+class EventTable : public QTableView
 {
     Q_OBJECT
 
 public:
     explicit EventTable(QWidget* parent = nullptr);
 
-    /// Makes a row for each of @p events. Both must outlive the rows.
-    void setEvents(const EventList& events, const EventTexts& texts);
-    /// Shows the rows of events that are not left out and say @p filter in some column.
+    void setEvents(const EventList& events, const TimeTexts& times);
+    /// The same events say something else now.
+    void renewTexts(const EventList& events, const TimeTexts& times);
+    /// Shows the events that are not left out and say @p filter in some column. The current event
+    /// stays current, also when it comes back later.
     void showRows(const EventList& events, const QString& filter);
-    /// Shows what the texts say now.
-    void showNewTexts();
 
-    qsizetype eventOf(int row) const;
-    /// Makes an event the current one and brings it into view, unless its row is hidden.
+    qsizetype eventOf(const QModelIndex& index) const;
+    /// Makes an event the current one and brings it into view, as soon as it is in the table.
     void goTo(qsizetype event);
 
     /// The events of the rows that are shown, or of the selected ones of them if there are several,
     /// from top to bottom.
     QList<qsizetype> chosenEvents() const;
 
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
 private:
     void fitColumns();
+    void restoreCurrent();
+
+    EventModel* m_events;
+    CorvelGui::PRowFilterModel* m_rows;
+    qsizetype m_current = -1;
 };
 
 } // namespace Review

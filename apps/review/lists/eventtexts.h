@@ -2,39 +2,37 @@
 
 #include "eventlist.h"
 #include "look/timetexts.h"
-#include "look/wordcolumn.h"
+
+#include <QCollator>
+
+#include <functional>
 
 namespace Review {
 
-/// What each column says of an event, and how events sort by it.
+/// What each column says of an event, and how events sort by it. Copies share the events.
 class EventTexts
 {
 public:
     enum Column { Time, Kind, Text, Track, ColumnCount };
 
-    explicit EventTexts(const TimeTexts& times);
-
-    /// Replaces all events. Call it again when the language has changed, too.
-    void setEvents(const EventList& events);
-    void setTimes(const TimeTexts& times);
+    EventTexts(const EventList& events, const TimeTexts& times);
 
     QString text(qsizetype event, Column column) const;
-    /// Times sort by instant, what is text in the order of the user's language.
-    bool isLess(qsizetype event, qsizetype other, Column column) const;
+    /// Less than 0 if @p event comes before @p other. Times sort by instant, what is text in the
+    /// order of the user's language: numbers in texts by their values, upper and lower case alike.
+    int compare(qsizetype event, qsizetype other, Column column) const;
+    /// Says of an event whether a column says @p text, in upper or lower case.
+    std::function<bool(qsizetype event)> finder(const QString& text) const;
 
 private:
-    struct Moment
-    {
-        qint64 msecs;
-        /// Empty until it is asked for: most events are never looked at.
-        QString text;
-    };
-
+    Events m_events;
     TimeTexts m_times;
-    mutable std::vector<Moment> m_moments;
-    WordColumn m_kinds;
-    WordColumn m_texts;
-    WordColumn m_tracks;
+    QCollator m_order;
+    // By the numbers of kinds and tracks, like their places in the order of texts.
+    QStringList m_kinds;
+    QStringList m_tracks;
+    QList<int> m_kindRanks;
+    QList<int> m_trackRanks;
 };
 
 } // namespace Review

@@ -76,7 +76,7 @@ void PlaybackPane::setTracks(const QList<TrackDescription>& tracks)
         showCamera();
 }
 
-void PlaybackPane::setEvents(const QList<Event>& events)
+void PlaybackPane::setEvents(const Events& events)
 {
     m_events = events;
     makeFeed();

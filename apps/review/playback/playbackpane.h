@@ -33,7 +33,7 @@ public:
     /// Sets the cameras to choose from.
     void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
     /// The events of all tracks, sorted by time.
-    void setEvents(const QList<Event>& events);
+    void setEvents(const Events& events);
 
     /// Null without a camera.
     const CameraFeed* feed() const { return m_feed ? &*m_feed : nullptr; }
@@ -59,7 +59,7 @@ private:
     QGraphicsPixmapItem* m_item;
 
     QList<CorvelGui::TrackDescription> m_tracks;
-    QList<Event> m_events;
+    Events m_events;
     std::optional<CameraFeed> m_feed;
 
     CameraPicture m_picture;

@@ -19,7 +19,6 @@ constexpr int signWidth = 22;
 constexpr int iconSize = 16;
 constexpr int remarkGap = 18;
 constexpr int widestText = 300;
-constexpr qsizetype mostEvents = 3;
 constexpr qsizetype mostTracks = 8;
 
 constexpr QColor background(28, 31, 35);
@@ -65,7 +64,7 @@ void PreviewCard::setContent(const PreviewContent& content)
     };
     for (const auto& event : content.events.first(std::min(mostEvents, content.events.size())))
         m_lines.append({.sign = Line::Sign::Event, .kind = event.kind, .text = event.text});
-    addRest(content.events.size() - mostEvents);
+    addRest(content.events.size() + content.furtherEvents - mostEvents);
 
     for (const auto& track : content.tracks.first(std::min(mostTracks, content.tracks.size()))) {
         const QString remark = track.state == TrackState::Recorded ? tr("recorded")

@@ -20,6 +20,8 @@ struct PreviewContent
 
     QString time;
     QList<Occurrence> events;
+    /// How many there are that it does not name.
+    qsizetype furtherEvents = 0;
     QList<NamedState> tracks;
 };
 
@@ -30,6 +32,9 @@ class PreviewCard : public QWidget
     Q_OBJECT
 
 public:
+    /// So many are named.
+    static constexpr qsizetype mostEvents = 3;
+
     /// The card stays inside @p window. Starts hidden.
     explicit PreviewCard(QWidget* window);
 

@@ -321,15 +321,7 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
-    <name>Review::EventPane</name>
-    <message>
-        <source>Events</source>
-        <translation>Ereignisse</translation>
-    </message>
-    <message>
-        <source>Filter events</source>
-        <translation>Ereignisse filtern</translation>
-    </message>
+    <name>Review::EventModel</name>
     <message>
         <source>Time</source>
         <translation>Zeit</translation>
@@ -341,6 +333,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Event</source>
         <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+</context>
+<context>
+    <name>Review::EventPane</name>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Filter events</source>
+        <translation>Ereignisse filtern</translation>
     </message>
     <message>
         <source>Export events…</source>
@@ -560,6 +567,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>the camera has no name</source>
         <translation>die Kamera hat keinen Namen</translation>
+    </message>
+</context>
+<context>
+    <name>Review::LoadPanel</name>
+    <message>
+        <source>Loading</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Loading: %p %</source>
+        <translation>Laden: %p %</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

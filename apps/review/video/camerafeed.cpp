@@ -6,12 +6,17 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
-CameraFeed::CameraFeed(const TrackDescription& track, const QList<Event>& events,
-                       const TimeTexts& times)
+CameraFeed::CameraFeed(const TrackDescription& track, const Events& events, const TimeTexts& times)
     : m_name(track.name), m_history(track), m_times(times)
 {
-    std::ranges::copy_if(events, std::back_inserter(m_events),
-                         [&track](const Event& event) { return event.track == track.identifier; });
+    const auto number = events.tracks().indexOf(track.identifier);
+    QList<EventKind> kinds;
+    for (const QString& kind : events.kinds())
+        kinds.append(EventKinds::parse(kind));
+    for (qsizetype i = 0; number >= 0 && i < events.size(); ++i) {
+        if (events.trackAt(i) == number)
+            m_visits.append({events.timeAt(i), kinds[events.kindAt(i)]});
+    }
 }
 
 CameraScene CameraFeed::sceneAt(qint64 msecs) const
@@ -21,10 +26,10 @@ CameraScene CameraFeed::sceneAt(qint64 msecs) const
                       .time = m_times.exactDateTime(msecs),
                       .hour = m_times.wallClock(msecs).time().msecsSinceStartOfDay() / msecsPerHour,
                       .state = m_history.stateAt(msecs)};
-    for (auto event = std::ranges::lower_bound(m_events, msecs - visit, {}, &Event::time);
-         event != m_events.end() && event->time <= msecs + visit; ++event)
-        scene.visitors.append({.kind = EventKinds::parse(event->kind),
-                               .progress = double(msecs - event->time + visit) / (2 * visit)});
+    for (auto event = std::ranges::lower_bound(m_visits, msecs - visit, {}, &Visit::time);
+         event != m_visits.end() && event->time <= msecs + visit; ++event)
+        scene.visitors.append(
+            {.kind = event->kind, .progress = double(msecs - event->time + visit) / (2 * visit)});
     return scene;
 }
 

@@ -14,8 +14,8 @@ public:
     /// How long before and after its event a visitor is in the picture, in milliseconds.
     static constexpr qint64 visit = 10'000;
 
-    /// @p events are of all tracks, sorted by time.
-    CameraFeed(const CorvelGui::TrackDescription& track, const QList<Event>& events,
+    /// @p events are of all tracks, in the order of time.
+    CameraFeed(const CorvelGui::TrackDescription& track, const Events& events,
                const TimeTexts& times);
 
     const QString& camera() const { return m_name; }
@@ -26,7 +26,13 @@ public:
 private:
     QString m_name;
     TrackHistory m_history;
-    QList<Event> m_events; // of this track
+    /// An event of this track.
+    struct Visit
+    {
+        qint64 time;
+        EventKind kind;
+    };
+    QList<Visit> m_visits;
     TimeTexts m_times;
 };
 

@@ -1,6 +1,7 @@
 #include "reviewopener.h"
 
 #include "data/loadjob.h"
+#include "loadpanel.h"
 
 #include <CorvelGui/BusyIndicator>
 #include <Hueloft/PMessageBox>
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMainWindow>
+#include <QStatusBar>
 
 #include <chrono>
 
@@ -32,9 +34,12 @@ void ReviewOpener::load(const ReviewFiles& files)
     auto* busy = new BusyIndicator(m_window->centralWidget());
     busy->setDelay(quickLoad);
     busy->show();
-    connect(m_job.get(), &LoadJob::loaded, busy, [busy] {
+    auto* panel = new LoadPanel(*m_job);
+    m_window->statusBar()->insertPermanentWidget(0, panel);
+    connect(m_job.get(), &LoadJob::loaded, busy, [busy, panel] {
         busy->hide();
         busy->deleteLater();
+        delete panel;
     });
     connect(m_job.get(), &LoadJob::loaded, this, &ReviewOpener::finish);
     Q_EMIT loadingChanged(true);

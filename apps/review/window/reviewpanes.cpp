@@ -138,10 +138,10 @@ void ReviewPanes::showMiddleDay()
     m_timeline->showAround(noon, day);
     m_selection.setMoment(noon);
 
-    const auto event = std::ranges::lower_bound(m_review.events, noon, {}, &Event::time);
-    if (event != m_review.events.end() && event->time < noon + day / 2) {
-        openEvent(event - m_review.events.begin());
-        m_events->select(event - m_review.events.begin());
+    const qsizetype event = m_review.events.firstFrom(noon);
+    if (event < m_review.events.size() && m_review.events.timeAt(event) < noon + day / 2) {
+        openEvent(event);
+        m_events->select(event);
     }
 }
 
@@ -182,22 +182,23 @@ void ReviewPanes::showCheckedTracks()
 
     QList<CorvelGui::RulerMarker> markers;
     const EventList& events = m_events->events();
-    markers.reserve(qsizetype(events.shownEvents().size()));
-    for (const qsizetype index : events.shownEvents())
-        markers.append(EventMarkers::marker(events.event(index), index, events.trackName(index)));
+    for (qsizetype i = 0; i < events.events().size(); ++i) {
+        if (events.isShown(i))
+            markers.append(EventMarkers::marker(events.events()[i], i, events.trackName(i)));
+    }
     m_timeline->setMarkers(markers);
 }
 
 void ReviewPanes::openEvent(qsizetype event)
 {
     showCameraOf(event);
-    m_selection.goTo(m_review.events.at(event).time);
+    m_selection.goTo(m_review.events.timeAt(event));
 }
 
 void ReviewPanes::showCameraOf(qsizetype event)
 {
     if (event >= 0 && event < m_review.events.size())
-        m_selection.setCamera(m_review.events.at(event).track);
+        m_selection.setCamera(m_review.events[event].track);
 }
 
 void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, const TimeSpan& symbol)
@@ -209,8 +210,12 @@ void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, const TimeSp
     PreviewContent content{.time = m_clock.times().exactDateTime(msecs),
                            .events = {},
                            .tracks = m_devices->statesAt(msecs)};
-    for (const Event& event : m_events->events().eventsIn(symbol))
+    const QList<qsizetype> numbers = m_events->events().eventsIn(symbol);
+    for (const qsizetype number : numbers.first(std::min(PreviewCard::mostEvents, numbers.size()))) {
+        const Event event = m_review.events[number];
         content.events.append({EventKinds::parse(event.kind), EventMarkers::textOf(event)});
+    }
+    content.furtherEvents = numbers.size() - content.events.size();
     constexpr int distance = 6;
     m_preview->showContent(content, m_timeline->mapTo(window(), position - QPoint(0, distance)));
 }

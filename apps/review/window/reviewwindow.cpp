@@ -92,7 +92,7 @@ void ReviewWindow::load(const ReviewFiles& files)
 
 void ReviewWindow::showLoaded(const LoadJob& job)
 {
-    if (job.error().isEmpty()) {
+    if (job.error().isEmpty() && !job.isCancelled()) {
         setReview(job.data(), job.problems());
         m_showsSample = job.files().isEmpty();
         m_name = job.files().name();

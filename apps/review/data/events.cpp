@@ -1,0 +1,100 @@
+#include "events.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace Review {
+
+namespace {
+
+using Length = quint32;
+
+constexpr qsizetype mostKnownTexts = 4'096;
+
+} // namespace
+
+int Words::numberOf(const QString& text)
+{
+    const auto known = m_numbers.constFind(text);
+    if (known != m_numbers.cend())
+        return *known;
+    const auto number = int(m_texts.size());
+    m_numbers.insert(text, number);
+    m_texts.append(text);
+    return number;
+}
+
+Events::Events(std::initializer_list<Event> events)
+{
+    for (const Event& event : events)
+        append(event);
+    sort();
+}
+
+Event Events::operator[](qsizetype index) const
+{
+    return {.time = timeAt(index),
+            .kind = kinds()[kindAt(index)],
+            .text = textAt(index),
+            .track = tracks()[trackAt(index)]};
+}
+
+QByteArrayView Events::utf8At(qsizetype index) const
+{
+    const char* text = m_texts.constData() + m_records[index].text;
+    Length length = 0;
+    std::memcpy(&length, text, sizeof length);
+    return {text + sizeof length, qsizetype(length)};
+}
+
+qsizetype Events::firstFrom(qint64 msecs) const
+{
+    return std::ranges::lower_bound(m_records, msecs, {}, &Record::time) - m_records.begin();
+}
+
+void Events::append(const Event& event)
+{
+    append(event.time, event.kind, event.text.toUtf8(), event.track);
+}
+
+void Events::append(qint64 time, const QString& kind, QByteArrayView text, const QString& track)
+{
+    m_records.append({time, keep(text), m_kinds.numberOf(kind), m_tracks.numberOf(track)});
+}
+
+qint64 Events::keep(QByteArrayView text)
+{
+    const QByteArray unkept = QByteArray::fromRawData(text.data(), text.size());
+    const auto known = m_knownTexts.constFind(unkept);
+    if (known != m_knownTexts.cend())
+        return *known;
+    const qint64 begin = m_texts.size();
+    const auto length = Length(text.size());
+    m_texts.append(reinterpret_cast<const char*>(&length), sizeof length);
+    m_texts.append(text.data(), text.size());
+    if (m_knownTexts.size() < mostKnownTexts)
+        m_knownTexts.insert(QByteArray(text.data(), text.size()), begin);
+    return begin;
+}
+
+void Events::sort()
+{
+    if (!std::ranges::is_sorted(m_records, {}, &Record::time))
+        std::ranges::stable_sort(m_records, {}, &Record::time);
+    m_records.squeeze();
+    m_texts.squeeze();
+    m_knownTexts = {};
+}
+
+bool Events::operator==(const Events& other) const
+{
+    if (size() != other.size())
+        return false;
+    for (qsizetype index = 0; index < size(); ++index) {
+        if (!((*this)[index] == other[index]))
+            return false;
+    }
+    return true;
+}
+
+} // namespace Review

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <initializer_list>
+
+namespace Review {
+
+/// Something that happened at one moment.
+struct Event
+{
+    /// Milliseconds since the Unix epoch.
+    qint64 time = 0;
+    QString kind;
+    QString text;
+    /// Identifier of the track that it belongs to; empty if it belongs to none.
+    QString track;
+
+    bool operator==(const Event&) const = default;
+};
+
+/// Texts of which there are few, by numbers from 0 on in the order in which they came.
+class Words
+{
+public:
+    int numberOf(const QString& text);
+    const QStringList& texts() const { return m_texts; }
+
+private:
+    QStringList m_texts;
+    QHash<QString, int> m_numbers;
+};
+
+/// Millions of events in a few bytes each. They are known by their numbers, which are those of the
+/// order of time after sort(). Copies share what they hold.
+class Events
+{
+public:
+    Events() = default;
+    /// Sorts them.
+    Events(std::initializer_list<Event> events);
+
+    qsizetype size() const { return m_records.size(); }
+    bool isEmpty() const { return m_records.isEmpty(); }
+    Event operator[](qsizetype index) const;
+    qint64 timeAt(qsizetype index) const { return m_records[index].time; }
+    QString textAt(qsizetype index) const { return QString::fromUtf8(utf8At(index)); }
+    QByteArrayView utf8At(qsizetype index) const;
+    /// Number of the event's kind in kinds().
+    int kindAt(qsizetype index) const { return m_records[index].kind; }
+    const QStringList& kinds() const { return m_kinds.texts(); }
+    /// Number of the event's track in tracks().
+    int trackAt(qsizetype index) const { return m_records[index].track; }
+    /// Their identifiers; events without a track have the empty one.
+    const QStringList& tracks() const { return m_tracks.texts(); }
+    /// The first event that did not happen before @p msecs, or size().
+    qsizetype firstFrom(qint64 msecs) const;
+
+    void append(const Event& event);
+    /// @p text is UTF-8.
+    void append(qint64 time, const QString& kind, QByteArrayView text, const QString& track);
+    /// Brings them into the order of time, those of one time in that of their coming, and gives
+    /// back the memory that further ones would have taken.
+    void sort();
+
+    bool operator==(const Events& other) const;
+
+private:
+    struct Record
+    {
+        qint64 time;
+        qint64 text; ///< where it begins in m_texts, with its length in front
+        int kind;
+        int track;
+    };
+
+    qint64 keep(QByteArrayView text);
+
+    QList<Record> m_records;
+    QByteArray m_texts;
+    Words m_kinds;
+    Words m_tracks;
+    /// Where the first texts are, because many events say the same; empty once sorted.
+    QHash<QByteArray, qint64> m_knownTexts;
+};
+
+} // namespace Review
