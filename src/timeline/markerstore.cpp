@@ -118,12 +118,15 @@ RulerMarker MarkerStore::marker(std::size_t index) const
 {
     const auto [block, offset] = positionOf(index);
     const Record& record = m_blocks[block].records[offset];
-    return {.identifier = record.identifier,
-            .time = timeIn(record.zone, m_blocks[block].times[offset]),
-            .kind = record.kind,
-            .iconIndex = record.iconIndex,
-            .text = record.text,
-            .iconProvider = record.iconProvider};
+    RulerMarker marker{.identifier = record.identifier,
+                       .time = timeIn(record.zone, m_blocks[block].times[offset]),
+                       .kind = record.kind,
+                       .iconIndex = record.iconIndex,
+                       .text = record.text,
+                       .iconProvider = record.iconProvider};
+    if (marker.text.isEmpty() && marker.iconProvider)
+        marker.text = marker.iconProvider->text(marker);
+    return marker;
 }
 
 qint64 MarkerStore::time(std::size_t index) const

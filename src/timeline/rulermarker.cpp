@@ -4,4 +4,9 @@ namespace CorvelGui {
 
 IRulerMarkerIconProvider::~IRulerMarkerIconProvider() = default;
 
+QString IRulerMarkerIconProvider::text(const RulerMarker&) const
+{
+    return {};
+}
+
 } // namespace CorvelGui

@@ -10,6 +10,8 @@
 
 namespace CorvelGui {
 
+struct RulerMarker;
+
 /// Gives the icons of markers. Markers with the same key share one icon.
 class CORVELGUI_EXPORT IRulerMarkerIconProvider
 {
@@ -21,6 +23,9 @@ public:
     /// The icon for an index. Every ruler asks once for every key; those that get copies of one
     /// QIcon share its pictures.
     virtual QIcon icon(int iconIndex) = 0;
+    /// The text of a marker that was added without one, asked for when it is needed: a client with
+    /// millions of markers keeps their texts in its own way. Empty unless overridden.
+    virtual QString text(const RulerMarker& marker) const;
 };
 
 /// A labelled instant on the ruler, such as an event or a bookmark.
@@ -35,7 +40,7 @@ struct RulerMarker
     QDateTime time = {};
     int kind = 0;
     int iconIndex = -1;
-    /// Shown as the tooltip, as plain text.
+    /// Shown as the tooltip, as plain text. Of an empty one the provider is asked.
     QString text = {};
     /// Not owned; must live as long as the marker is on a ruler.
     IRulerMarkerIconProvider* iconProvider = nullptr;

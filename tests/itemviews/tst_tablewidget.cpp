@@ -1,17 +1,12 @@
 #include "testsupport.h"
-#include "whenshown.h"
 
-#include <CorvelGui/PCsvDialog>
 #include <CorvelGui/PHeaderCheckMenu>
 #include <CorvelGui/PTableWidget>
 #include <CorvelGui/PTableWidgetItem>
-#include <Hueloft/POrvGuiTheme>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -84,7 +79,6 @@ private Q_SLOTS:
     void filtersAndSelectsWhatIsShown();
     void selects();
     void measures();
-    void screenReader();
     void headerMenu();
     void headerMenuState();
 };
@@ -99,16 +93,6 @@ void TestTableWidget::copies()
     QCOMPARE(clipboard(), u"b\nc"_s);
     table.slotCopy();
     QCOMPARE(clipboard(), u"b\t\t1\t\nc\tX\t3\t\n"_s);
-
-    QStringList columns;
-    whenShown<PCsvDialog>(&table, [&columns](PCsvDialog& dialog) {
-        for (int column : {0, 1, 2})
-            columns << dialog.findChild<QListWidget*>()->item(column)->text();
-        dialog.reject();
-    });
-    table.CsvExport();
-    QCOMPARE(columns, (QStringList{u"Name"_s, u"R&D"_s, QString()}));
-    QCOMPARE(table.findChild<PCsvDialog*>(), nullptr);
 }
 
 void TestTableWidget::deletesWidgets()
@@ -191,35 +175,6 @@ void TestTableWidget::measures()
     QCOMPARE(table.columnWidth(2), last);
     table.setRowCount(0);
     QCOMPARE(table.CalcNeededHeight(), 16 + 25 + 16);
-}
-
-void TestTableWidget::screenReader()
-{
-    Table table;
-    table.setAccessibleName(u"Devices"_s);
-    auto* red = static_cast<PTableWidgetItem*>(table.item(0, 0));
-    red->SetRedText(u"No connection"_s);
-    red->setCheckState(Qt::Checked);
-    table.item(2, 0)->setFont(QFont(table.font().family(), -1, QFont::Bold));
-    table.item(2, 0)->setCheckState(Qt::Unchecked);
-    table.ScrollToItemAndSelect(table.item(2, 0), true);
-
-    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&table);
-    QCOMPARE(reader->text(QAccessible::Name), u"Devices"_s);
-    QCOMPARE(reader->role(), QAccessible::Table);
-    QAccessibleTableInterface* cells = reader->tableInterface();
-    QCOMPARE(cells->rowCount(), 4);
-    QCOMPARE(cells->columnDescription(0), u"Name"_s);
-    const std::tuple<int, int, QString, QList<quint64>> told[] = {
-        {0, 0, u"No connection"_s, {true, true, false}},
-        {2, 0, u"a"_s, {true, false, true}},
-        {2, 1, u"X"_s, {false, false, true}}};
-    for (const auto& [row, column, name, states] : told) {
-        const QAccessible::State state = cells->cellAt(row, column)->state();
-        QCOMPARE(cells->cellAt(row, column)->text(QAccessible::Name), name);
-        QCOMPARE((QList<quint64>{state.checkable, state.checked, state.selected}), states);
-    }
-    QCOMPARE(cells->selectedRows(), QList<int>{2});
 }
 
 void TestTableWidget::headerMenu()

@@ -272,6 +272,8 @@ void TestTreeWidget::filters()
     plain->setHidden(true);
     QCOMPARE(shown(u"las"_s), u"A A1 A11 A2 B B1 C"_s);
     QVERIFY(!PTreeWidgetItem().isTextFound(QString()));
+    tree.FilterItems([](const QTreeWidgetItem& item) { return item.text(0) == u"A11"_s; });
+    QCOMPARE(tree.names(std::not_fn(&QTreeWidgetItem::isHidden)), u"A A1 A11"_s);
 }
 
 void TestTreeWidget::neededHeight()

@@ -263,15 +263,9 @@ void TestReviewData::filesAreRead()
     const ReviewData& data = loader.data();
     QCOMPARE(tracksOf(data), (QStringList{u"b 3-9: 5-8 2-4"_s, u"a,c 1-2: 1-2"_s, u"a 1-2:"_s}));
     QCOMPARE(data.period(), (TimeSpan{monday + minute, monday + 9 * minute}));
-<<<<<<< HEAD
     QCOMPARE(data.events, (Events{{monday + minute, u"animal"_s, u"two\nlines"_s, {}},
                                   {monday + 2 * minute, u"person"_s, u"später"_s, {}},
                                   {monday + 2 * minute, u"alarm"_s, u"also later"_s, {}}}));
-=======
-    QCOMPARE(data.events, (Events{{monday + minute, u"animal"_s, u"two\nlines"_s, {}},
-                                  {monday + 2 * minute, u"person"_s, u"later"_s, {}},
-                                  {monday + 2 * minute, u"alarm"_s, u"also later"_s, {}}}));
->>>>>>> 72c981c (wip)
     QCOMPARE(loader.problems().listed(),
              QList<Problem>{Problem({events, 5, u"the event has no kind"_s})});
 

@@ -220,20 +220,21 @@ void TestReviewExport::eventsComeBack()
         ReviewLoader loader;
         const QString error =
             loader.load({.recordings = {}, .events = user.savePath, .deployments = {}});
-        return error.isEmpty() && loader.problems().count() == 0 ? loader.data().events
-                                                                 : QList<Event>();
+        return error.isEmpty() && loader.problems().count() == 0 ? loader.data().events : Events();
     };
-    sample.events()->setCurrentCell(1, 0);
+    sample.events()->selectRow(1);
     QCOMPARE(exported(), review.events);
     QVERIFY(sample.says(u"Events exported: 3"_s));
 
-    // Several selected events, without those that are hidden.
+    // What the filter leaves, or several selected events.
     auto* filter = sample.events()->parentWidget()->findChild<CorvelGui::FilterLineEdit*>();
-    sample.events()->selectAll();
     filter->setText(u"gate"_s);
-    QCOMPARE(exported(), (QList<Event>{review.events[0], review.events[2]}));
-    filter->setText(u"alarm"_s);
-    QCOMPARE(exported(), QList<Event>{review.events[2]});
+    QCOMPARE(exported(), (Events{review.events[0], review.events[2]}));
+    filter->setText({});
+    QItemSelection lastTwo(sample.events()->model()->index(1, 0),
+                           sample.events()->model()->index(2, 3));
+    sample.events()->selectionModel()->select(lastTwo, QItemSelectionModel::ClearAndSelect);
+    QCOMPARE(exported(), (Events{review.events[1], review.events[2]}));
 
     user.savePath = m_folder.filePath(u"none/events.csv"_s);
     sample.action(u"Export events…"_s)->trigger();

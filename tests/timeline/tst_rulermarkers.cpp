@@ -92,6 +92,11 @@ public:
         return result;
     }
 
+    QString text(const RulerMarker& marker) const override
+    {
+        return QString::number(marker.iconIndex);
+    }
+
     int asked = 0;
 };
 
@@ -274,6 +279,7 @@ void TestRulerMarkers::iconsOfTheProvider()
                         provider.marker(30 * minute, 2), provider.marker(40 * minute, 0)});
     QCOMPARE(provider.asked, 2);
     const auto buttons = visibleButtons(ruler);
+    QCOMPARE(buttons[1]->toolTip(), u"1"_s);
     QCOMPARE(middleColor(buttons[1]), QColor(Qt::cyan));
     QCOMPARE(middleColor(buttons[2]), QColor(Qt::cyan));
 

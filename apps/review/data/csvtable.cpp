@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QStringConverter>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -114,12 +115,19 @@ QString CsvTable::read(const QString& path, const QStringList& neededColumns,
                                                 : QByteArrayView(fields[positions[i]]).trimmed();
         return handler(values);
     };
-    for (qsizetype done = 0; !progress.isCancelled() && reader.next();) {
-        progress.add(reader.position() - std::exchange(done, reader.position()));
+    qint64 done = 0;
+    const qint64 size = QFileInfo(path).size();
+    const auto follow = [&](qint64 position) {
+        progress.add(position - std::exchange(done, position));
+    };
+    while (!progress.isCancelled() && reader.next()) {
+        // What is read is UTF-8; the file may be shorter or longer.
+        follow(std::min<qint64>(reader.position(), size));
         const LineFault problem = handle();
         if (!problem.isEmpty())
             problems.add({path, reader.line(), problem});
     }
+    follow(size);
     return {};
 }
 

@@ -17,7 +17,7 @@ using CorvelGui::PRowFilterModel;
 namespace Review {
 
 EventTable::EventTable(QWidget* parent)
-    : QTableView(parent), m_events(new EventModel(this)), m_rows(new PRowFilterModel(this))
+    : QTableView(parent), m_rows(new PRowFilterModel(this)), m_events(new EventModel(m_rows))
 {
     m_rows->setSourceModel(m_events);
     m_rows->setComparison([this](int row, int other, int column) {

@@ -44,8 +44,8 @@ private:
     void fitColumns();
     void restoreCurrent();
 
-    EventModel* m_events;
     CorvelGui::PRowFilterModel* m_rows;
+    EventModel* m_events;
     qsizetype m_current = -1;
 };
 

@@ -1,10 +1,7 @@
 #include "eventmarkers.h"
 
-#include "look/eventicons.h"
+#include "data/eventkind.h"
 
-#include <QDateTime>
-
-using CorvelGui::RulerMarker;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -15,20 +12,6 @@ namespace {
 constexpr QUuid firstEvent(0, 0x5e7e, 0x4a61, 0x9c, 0x2b, 0x63, 0x6f, 0x72, 0x76, 0x65, 0x6c);
 
 } // namespace
-
-RulerMarker EventMarkers::marker(const Event& event, qsizetype index, const QString& trackName)
-{
-    static EventIcons icons;
-    QString text = textOf(event);
-    if (!trackName.isEmpty())
-        text += u" – "_s + trackName;
-    return {.identifier = identifierOf(index),
-            .time = QDateTime::fromMSecsSinceEpoch(event.time, Qt::UTC),
-            .kind = RulerMarker::providedIconKind,
-            .iconIndex = int(EventKinds::parse(event.kind)),
-            .text = text,
-            .iconProvider = &icons};
-}
 
 QString EventMarkers::textOf(const Event& event)
 {

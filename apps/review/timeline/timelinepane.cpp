@@ -92,10 +92,14 @@ void TimelinePane::setTracks(const QList<TrackDescription>& tracks)
     m_ruler->setTrackDescriptions(tracks);
 }
 
-void TimelinePane::setMarkers(const QList<RulerMarker>& markers)
+void TimelinePane::clearMarkers()
 {
-    m_ruler->onMarkerOperation({.markers = {}, .code = RulerMarkerOperation::clear});
-    m_ruler->onMarkerOperation({.markers = markers, .code = RulerMarkerOperation::add});
+    m_ruler->onClearMarkers();
+}
+
+void TimelinePane::addMarkers(const QList<RulerMarker>& markers)
+{
+    m_ruler->onAddMarkers(markers);
 }
 
 void TimelinePane::setMarkersShown(bool shown)

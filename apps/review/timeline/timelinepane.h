@@ -34,8 +34,8 @@ public:
     /// is empty. The moment stays, and should be put into the period next.
     void setPeriod(const CorvelGui::TimeSpan& period);
     void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
-    /// Replaces the markers that were set before.
-    void setMarkers(const QList<CorvelGui::RulerMarker>& markers);
+    void clearMarkers();
+    void addMarkers(const QList<CorvelGui::RulerMarker>& markers);
 
     /// Shows at least @p span around a time: the closest view there is.
     void showAround(qint64 msecs, qint64 span);

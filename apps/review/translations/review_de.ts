@@ -357,10 +357,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Write the events in the table, or several selected ones, to a file</source>
         <translation>Schreibt die Ereignisse der Tabelle oder mehrere ausgewählte in eine Datei</translation>
     </message>
-    <message>
-        <source>Camera</source>
-        <translation>Kamera</translation>
-    </message>
 </context>
 <context>
     <name>Review::ExportDialog</name>

@@ -35,7 +35,7 @@ void ReviewOpener::load(const ReviewFiles& files)
     busy->setDelay(quickLoad);
     busy->show();
     auto* panel = new LoadPanel(*m_job);
-    m_window->statusBar()->insertPermanentWidget(0, panel);
+    m_window->statusBar()->addPermanentWidget(panel);
     connect(m_job.get(), &LoadJob::loaded, busy, [busy, panel] {
         busy->hide();
         busy->deleteLater();

@@ -2,6 +2,7 @@
 
 #include "lists/devicepane.h"
 #include "lists/eventpane.h"
+#include "markerfeed.h"
 #include "playback/playbackpane.h"
 #include "playback/player.h"
 #include "playback/transportbar.h"
@@ -37,6 +38,7 @@ ReviewPanes::ReviewPanes(const Clock& clock, Selection& selection, QWidget* pare
     , m_ranges(new RangePanel(clock, this))
     , m_transport(new TransportBar(clock, selection, this))
     , m_timeline(new TimelinePane(clock, selection, this))
+    , m_markers(new MarkerFeed(m_timeline))
     , m_player(new Player(selection, m_transport->playbar(), this))
     , m_preview(new PreviewCard(window()))
 {
@@ -179,14 +181,7 @@ void ReviewPanes::showCheckedTracks()
     m_timeline->setTracks(m_devices->checkedTracks());
     m_playback->setTracks(m_devices->checkedTracks());
     m_events->setHiddenTracks(m_devices->uncheckedTracks());
-
-    QList<CorvelGui::RulerMarker> markers;
-    const EventList& events = m_events->events();
-    for (qsizetype i = 0; i < events.events().size(); ++i) {
-        if (events.isShown(i))
-            markers.append(EventMarkers::marker(events.events()[i], i, events.trackName(i)));
-    }
-    m_timeline->setMarkers(markers);
+    m_markers->show(m_events->events());
 }
 
 void ReviewPanes::openEvent(qsizetype event)
@@ -211,7 +206,8 @@ void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, const TimeSp
                            .events = {},
                            .tracks = m_devices->statesAt(msecs)};
     const QList<qsizetype> numbers = m_events->events().eventsIn(symbol);
-    for (const qsizetype number : numbers.first(std::min(PreviewCard::mostEvents, numbers.size()))) {
+    for (const qsizetype number :
+         numbers.first(std::min(PreviewCard::mostEvents, numbers.size()))) {
         const Event event = m_review.events[number];
         content.events.append({EventKinds::parse(event.kind), EventMarkers::textOf(event)});
     }

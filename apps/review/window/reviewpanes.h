@@ -12,6 +12,7 @@ namespace Review {
 class Clock;
 class DevicePane;
 class EventPane;
+class MarkerFeed;
 class PlaybackPane;
 class Player;
 class PreviewCard;
@@ -80,6 +81,7 @@ private:
     RangePanel* m_ranges;
     TransportBar* m_transport;
     TimelinePane* m_timeline;
+    MarkerFeed* m_markers;
     Player* m_player;
     PreviewCard* m_preview;
     /// Until the panes are shown.

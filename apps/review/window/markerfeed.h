@@ -1,0 +1,37 @@
+#pragma once
+
+#include "lists/eventlist.h"
+#include "look/eventicons.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace Review {
+
+class TimelinePane;
+
+/// Puts the markers of events on the timeline: some milliseconds at a time, so that a million of
+/// them keep nothing waiting. They say their texts when they are looked at.
+class MarkerFeed : public QObject, private EventIcons
+{
+    Q_OBJECT
+
+public:
+    /// Belongs to @p timeline.
+    explicit MarkerFeed(TimelinePane* timeline);
+
+    /// Replaces all markers by those of the events that are not left out.
+    void show(const EventList& events);
+
+private:
+    QString text(const CorvelGui::RulerMarker& marker) const override;
+    void feed();
+
+    TimelinePane* const m_timeline;
+    EventList m_events;
+    QList<EventKind> m_kinds; ///< by their numbers
+    qsizetype m_next = 0;
+    QTimer m_timer;
+};
+
+} // namespace Review
