@@ -23,17 +23,19 @@ public:
     std::size_t find() const
     {
         for (std::size_t next = m_first + 1; next < m_last;) {
-            const std::size_t sure = endOfSure(next);
+            const MarkerPlace middle = m_row.place(middleOf(next));
+            const std::size_t sure = endOfSure(middle, next);
             if (sure > next) {
                 next = sure;
                 continue;
             }
-            if (isRefused(next))
+            const MarkerPlace candidate = m_row.place(next);
+            if (!joins(middle, candidate))
                 return next;
-            const Stretch stretch = stretchFrom(next);
+            const Stretch stretch = stretchFrom(middle, candidate, next);
             do
                 next = nextCandidate(next + 1, stretch);
-            while (next < stretch.end && !isRefused(next));
+            while (next < stretch.end && joins(m_row.place(middleOf(next)), m_row.place(next)));
             if (next < stretch.end)
                 return next;
         }
@@ -51,29 +53,27 @@ private:
     std::size_t middleOf(std::size_t next) const { return (m_first + next) / 2; }
     std::size_t firstWithMiddle(std::size_t middle) const { return 2 * middle - m_first; }
 
-    bool isRefused(std::size_t next) const
+    bool joins(const MarkerPlace& middle, const MarkerPlace& candidate) const
     {
-        const MarkerPlace middle = m_row.place(middleOf(next));
-        return !m_start.overlaps(middle) || !m_row.place(next).overlaps(middle);
+        return m_start.overlaps(middle) && candidate.overlaps(middle);
     }
 
     /// Up to here every marker joins, even if all of them were as narrow as the narrowest: the
     /// middle only moves to the right.
-    std::size_t endOfSure(std::size_t next) const
+    std::size_t endOfSure(const MarkerPlace& middle, std::size_t next) const
     {
-        const int middleX = m_row.place(middleOf(next)).x;
-        return std::min({m_row.firstRightOf(middleX + 2 * m_row.narrowest(), next),
+        return std::min({m_row.firstRightOf(middle.x + 2 * m_row.narrowest(), next),
                          firstWithMiddle(m_sureMiddles), m_last});
     }
 
-    Stretch stretchFrom(std::size_t next) const
+    Stretch stretchFrom(const MarkerPlace& middle, const MarkerPlace& candidate,
+                        std::size_t next) const
     {
-        const int x = m_row.place(next).x;
-        const int middleX = m_row.place(middleOf(next)).x;
-        const std::size_t middlesEnd = m_row.firstRightOf(middleX, middleOf(next));
-        return {std::min({m_row.firstRightOf(x, next), firstWithMiddle(middlesEnd), m_last}),
-                // Of two that do not touch, one reaches less than half of the way.
-                std::max((x - middleX + 1) / 2, middleX - m_start.x - m_start.halfWidth)};
+        const std::size_t middlesEnd = m_row.firstRightOf(middle.x, middleOf(next));
+        return {
+            std::min({m_row.firstRightOf(candidate.x, next), firstWithMiddle(middlesEnd), m_last}),
+            // Of two that do not touch, one reaches less than half of the way.
+            std::max((candidate.x - middle.x + 1) / 2, middle.x - m_start.x - m_start.halfWidth)};
     }
 
     /// The first one, not before @p next, that is narrow or has a narrow middle.

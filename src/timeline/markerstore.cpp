@@ -3,6 +3,7 @@
 #include <QTimeZone>
 
 #include <iterator>
+#include <limits>
 #include <utility>
 
 namespace CorvelGui {
@@ -36,21 +37,26 @@ void MarkerStore::Block::append(qint64 time, Record record)
     records.push_back(std::move(record));
 }
 
-void MarkerStore::Block::remove(Times& time, Times last)
+std::vector<std::size_t> MarkerStore::Block::remove(Times& time, Times last)
 {
+    std::vector<std::size_t> removed;
     Block kept;
     kept.reserve(times.size());
     for (std::size_t i = 0; i < times.size(); ++i) {
         time = std::find_if(time, last, [&](qint64 t) { return t >= times[i]; });
-        if (time != last && *time == times[i])
-            ++time;
-        else
+        if (time == last || *time != times[i]) {
             kept.append(times[i], std::move(records[i]));
+        } else {
+            ++time;
+            removed.push_back(i);
+        }
     }
     *this = std::move(kept);
+    return removed;
 }
 
-void MarkerStore::add(const QList<RulerMarker>& markers, const std::vector<quint32>& icons)
+std::vector<std::size_t> MarkerStore::add(const QList<RulerMarker>& markers,
+                                          const std::vector<quint32>& icons)
 {
     std::vector<Arrival> arrivals;
     arrivals.reserve(std::size_t(markers.size()));
@@ -60,15 +66,19 @@ void MarkerStore::add(const QList<RulerMarker>& markers, const std::vector<quint
             arrivals.push_back({marker.time.toMSecsSinceEpoch(), &marker, icons[i]});
     }
     if (arrivals.empty())
-        return;
+        return {};
     const auto byTime = [](const Arrival& a, const Arrival& b) {
         return a.time < b.time;
     };
     if (!std::is_sorted(arrivals.begin(), arrivals.end(), byTime))
         std::stable_sort(arrivals.begin(), arrivals.end(), byTime);
-    if (m_blocks.empty())
+    if (m_blocks.empty()) {
         m_blocks.emplace_back();
+        m_firstIndices.push_back(0);
+    }
 
+    std::vector<std::size_t> places;
+    places.reserve(arrivals.size());
     std::vector<Change> changes;
     for (auto next = arrivals.cbegin(); next != arrivals.cend();) {
         // Into the last block that begins up to its time, behind all that have its time.
@@ -81,27 +91,30 @@ void MarkerStore::add(const QList<RulerMarker>& markers, const std::vector<quint
                   : std::partition_point(next, arrivals.cend(), [&](const Arrival& arrival) {
                         return arrival.time < after->times.front();
                     });
-        const auto block = std::prev(after);
-        changes.push_back(
-            {std::size_t(block - m_blocks.begin()), merged(*block, next, groupEnd, atEnd)});
+        const auto block = std::size_t(after - m_blocks.begin()) - 1;
+        changes.push_back({block, merged(block, next, groupEnd, atEnd, places)});
         next = groupEnd;
     }
     replaceBlocks(std::move(changes));
+    return places;
 }
 
-void MarkerStore::remove(std::vector<qint64> times)
+std::vector<std::size_t> MarkerStore::remove(std::vector<qint64> times)
 {
+    std::vector<std::size_t> places;
     std::sort(times.begin(), times.end());
-    auto block = m_blocks.begin();
-    for (auto time = times.cbegin(); time != times.cend() && block != m_blocks.end();) {
-        block = std::partition_point(block, m_blocks.end(), [&](const Block& candidate) {
-            return candidate.times.back() < *time;
-        });
-        if (block != m_blocks.end())
-            (block++)->remove(time, times.cend());
+    auto block = m_lastTimes.cbegin();
+    for (auto time = times.cbegin(); time != times.cend(); ++block) {
+        block = std::lower_bound(block, m_lastTimes.cend(), *time);
+        if (block == m_lastTimes.cend())
+            break;
+        const auto number = std::size_t(block - m_lastTimes.cbegin());
+        for (const std::size_t offset : m_blocks[number].remove(time, times.cend()))
+            places.push_back(m_firstIndices[number] + offset);
     }
     joinSmallBlocks();
-    renumberFrom(0);
+    indexFrom(0);
+    return places;
 }
 
 void MarkerStore::clear()
@@ -111,7 +124,7 @@ void MarkerStore::clear()
 
 std::size_t MarkerStore::size() const
 {
-    return m_blocks.empty() ? 0 : m_blocks.back().end();
+    return m_blocks.empty() ? 0 : endOf(m_blocks.size() - 1);
 }
 
 RulerMarker MarkerStore::marker(std::size_t index) const
@@ -143,12 +156,18 @@ std::pair<qint64, quint32> MarkerStore::timeAndIcon(std::size_t index) const
 
 std::size_t MarkerStore::firstFrom(qint64 msecs) const
 {
-    return firstWhere([msecs](qint64 time) { return time >= msecs; });
+    const auto found = std::lower_bound(m_lastTimes.begin(), m_lastTimes.end(), msecs);
+    if (found == m_lastTimes.end())
+        return size();
+    const auto block = std::size_t(found - m_lastTimes.begin());
+    const std::vector<qint64>& times = m_blocks[block].times;
+    return m_firstIndices[block] +
+           std::size_t(std::lower_bound(times.begin(), times.end(), msecs) - times.begin());
 }
 
 std::size_t MarkerStore::firstAfter(qint64 msecs) const
 {
-    return firstWhere([msecs](qint64 time) { return time > msecs; });
+    return msecs == std::numeric_limits<qint64>::max() ? size() : firstFrom(msecs + 1);
 }
 
 std::size_t MarkerStore::firstWithIcon(Icons icons, std::size_t from, std::size_t end) const
@@ -161,9 +180,9 @@ std::size_t MarkerStore::firstWithIcon(Icons icons, std::size_t from, std::size_
                 std::find_if(block.records.begin() + std::ptrdiff_t(offset), block.records.end(),
                              [&](const Record& record) { return icons.contains(record.icon); });
             if (found != block.records.end())
-                return std::min(block.first + std::size_t(found - block.records.begin()), end);
+                return std::min(from - offset + std::size_t(found - block.records.begin()), end);
         }
-        from = block.end();
+        from = endOf(number);
     }
     return end;
 }
@@ -171,11 +190,16 @@ std::size_t MarkerStore::firstWithIcon(Icons icons, std::size_t from, std::size_
 QList<QDateTime> MarkerStore::takeUnseen(std::size_t first, std::size_t last)
 {
     QList<QDateTime> times;
-    while (first < last) {
-        const auto [number, offset] = positionOf(first);
+    if (first >= last)
+        return times;
+    const Position from = positionOf(first);
+    const Position to = positionOf(last - 1);
+    for (std::size_t number = from.block; number <= to.block; ++number) {
+        if (m_unseen[number] == 0)
+            continue;
         Block& block = m_blocks[number];
-        const std::size_t end = std::min(block.times.size(), offset + last - first);
-        for (std::size_t i = offset; i < end && block.unseen > 0; ++i) {
+        const std::size_t end = number == to.block ? to.offset + 1 : block.times.size();
+        for (std::size_t i = number == from.block ? from.offset : 0; i < end; ++i) {
             Record& record = block.records[i];
             if (record.seen)
                 continue;
@@ -183,16 +207,16 @@ QList<QDateTime> MarkerStore::takeUnseen(std::size_t first, std::size_t last)
             record.seen = 1;
             --block.unseen;
         }
-        first = block.end();
+        m_unseen[number] = block.unseen;
     }
     return times;
 }
 
 MarkerStore::Position MarkerStore::positionOf(std::size_t index) const
 {
-    const auto block = std::prev(std::partition_point(
-        m_blocks.begin(), m_blocks.end(), [index](const Block& b) { return b.first <= index; }));
-    return {std::size_t(block - m_blocks.begin()), index - block->first};
+    const auto after = std::upper_bound(m_firstIndices.begin(), m_firstIndices.end(), index);
+    const auto block = std::size_t(after - m_firstIndices.begin()) - 1;
+    return {block, index - m_firstIndices[block]};
 }
 
 MarkerStore::Record MarkerStore::recordOf(const Arrival& arrival)
@@ -226,8 +250,10 @@ QDateTime MarkerStore::timeIn(quint32 zone, qint64 msecs) const
     return time;
 }
 
-MarkerStore::Blocks MarkerStore::merged(Block& block, Arrivals first, Arrivals last, bool atEnd)
+MarkerStore::Blocks MarkerStore::merged(std::size_t number, Arrivals first, Arrivals last,
+                                        bool atEnd, std::vector<std::size_t>& places)
 {
+    Block& block = m_blocks[number];
     const std::size_t total = block.times.size() + std::size_t(last - first);
     // What comes in the order of time, as live events do, leaves full blocks behind.
     const bool appends = atEnd && (block.times.empty() || block.times.back() <= first->time);
@@ -243,6 +269,7 @@ MarkerStore::Blocks MarkerStore::merged(Block& block, Arrivals first, Arrivals l
             blocks.back().append(block.times[old], std::move(block.records[old]));
             ++old;
         } else {
+            places.push_back(m_firstIndices[number] + old);
             blocks.back().append(first->time, recordOf(*first));
             ++first;
         }
@@ -271,7 +298,7 @@ void MarkerStore::replaceBlocks(std::vector<Change> changes)
         }
         m_blocks = std::move(blocks);
     }
-    renumberFrom(changes.front().block);
+    indexFrom(changes.front().block);
 }
 
 void MarkerStore::joinSmallBlocks()
@@ -292,10 +319,21 @@ void MarkerStore::joinSmallBlocks()
         m_blocks.erase(std::next(left), m_blocks.end());
 }
 
-void MarkerStore::renumberFrom(std::size_t block)
+std::size_t MarkerStore::endOf(std::size_t block) const
 {
-    for (std::size_t i = block; i < m_blocks.size(); ++i)
-        m_blocks[i].first = i == 0 ? 0 : m_blocks[i - 1].end();
+    return m_firstIndices[block] + m_blocks[block].times.size();
+}
+
+void MarkerStore::indexFrom(std::size_t block)
+{
+    m_firstIndices.resize(m_blocks.size());
+    m_lastTimes.resize(m_blocks.size());
+    m_unseen.resize(m_blocks.size());
+    for (std::size_t i = block; i < m_blocks.size(); ++i) {
+        m_firstIndices[i] = i == 0 ? 0 : endOf(i - 1);
+        m_lastTimes[i] = m_blocks[i].times.back();
+        m_unseen[i] = m_blocks[i].unseen;
+    }
 }
 
 } // namespace CorvelGui

@@ -34,10 +34,13 @@ public:
     };
 
     /// Adds those with a valid time, each shown with the icon of the same index in @p icons. Equal
-    /// times keep the order in which they were added.
-    void add(const QList<RulerMarker>& markers, const std::vector<quint32>& icons);
-    /// Removes, for each of @p times, the first marker of that time.
-    void remove(std::vector<qint64> times);
+    /// times keep the order in which they were added. Returns, in order, the indices of those that
+    /// they now stand before, as they were; size() for those behind all.
+    std::vector<std::size_t> add(const QList<RulerMarker>& markers,
+                                 const std::vector<quint32>& icons);
+    /// Removes, for each of @p times, the first marker of that time. Returns, in order, the indices
+    /// that they had.
+    std::vector<std::size_t> remove(std::vector<qint64> times);
     void clear();
 
     std::size_t size() const;
@@ -46,10 +49,6 @@ public:
     quint32 icon(std::size_t index) const { return timeAndIcon(index).second; }
     std::pair<qint64, quint32> timeAndIcon(std::size_t index) const;
 
-    /// Index of the first marker, not before @p from, whose time @p reached accepts; size() if
-    /// there is none. It has to accept all times after one that it accepts.
-    template <typename Reached>
-    std::size_t firstWhere(Reached reached, std::size_t from = 0) const;
     /// Index of the first marker at or after @p msecs; size() if there is none.
     std::size_t firstFrom(qint64 msecs) const;
     /// Index of the first marker after @p msecs; size() if there is none.
@@ -83,15 +82,13 @@ private:
         std::vector<qint64> times;
         std::vector<Record> records;
         Icons icons;
-        std::size_t first = 0; ///< index of its first marker
-        std::size_t unseen = 0;
+        quint32 unseen = 0;
 
-        std::size_t end() const { return first + times.size(); }
         void reserve(std::size_t count);
         void append(qint64 time, Record record);
         /// Takes out the first marker of each of the times from @p time on, which it moves behind
-        /// those that are found.
-        void remove(Times& time, Times last);
+        /// those that are found. Returns their offsets.
+        std::vector<std::size_t> remove(Times& time, Times last);
     };
     using Blocks = std::vector<Block>;
 
@@ -120,27 +117,19 @@ private:
     Record recordOf(const Arrival& arrival);
     quint32 zoneOf(const QDateTime& time);
     QDateTime timeIn(quint32 zone, qint64 msecs) const;
-    Blocks merged(Block& block, Arrivals first, Arrivals last, bool atEnd);
+    Blocks merged(std::size_t number, Arrivals first, Arrivals last, bool atEnd,
+                  std::vector<std::size_t>& places);
     void replaceBlocks(std::vector<Change> changes);
     void joinSmallBlocks();
-    void renumberFrom(std::size_t block);
+    std::size_t endOf(std::size_t block) const;
+    void indexFrom(std::size_t block);
 
-    Blocks m_blocks;                ///< none of them empty
+    Blocks m_blocks; ///< none of them empty
+    // Of each block, close together for searches.
+    std::vector<std::size_t> m_firstIndices;
+    std::vector<qint64> m_lastTimes;
+    std::vector<quint32> m_unseen;
     std::vector<QDateTime> m_zones; ///< for each zone any time in it
 };
-
-template <typename Reached>
-std::size_t MarkerStore::firstWhere(Reached reached, std::size_t from) const
-{
-    const auto isBefore = [&](qint64 time) {
-        return !reached(time);
-    };
-    const auto block = std::partition_point(
-        m_blocks.begin(), m_blocks.end(), [&](const Block& b) { return isBefore(b.times.back()); });
-    if (block == m_blocks.end())
-        return std::max(size(), from);
-    const auto time = std::partition_point(block->times.begin(), block->times.end(), isBefore);
-    return std::max(block->first + std::size_t(time - block->times.begin()), from);
-}
 
 } // namespace CorvelGui

@@ -3,11 +3,14 @@
 #include "timescale.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace CorvelGui {
 
 namespace {
 
+constexpr int farthestColumn = 1'000'000;
 constexpr int halfMargin = int(TimeScale::halfMargin());
 
 int smallest(const std::vector<int>& numbers)
@@ -32,6 +35,12 @@ MarkerView::MarkerView(const MarkerStore& store, const Geometry& geometry, Icons
     , m_narrowest(smallest(m_icons.halfWidths))
     , m_inRange(markersWithin(store, range))
 {}
+
+MarkerView::Indices MarkerView::around() const
+{
+    const int width = int(m_geometry.width);
+    return between(halfMargin - width, width + 2 * m_icons.width);
+}
 
 MarkerView::Indices MarkerView::shown() const
 {
@@ -73,7 +82,7 @@ MarkerPlace MarkerView::place(std::size_t marker) const
 
 std::size_t MarkerView::firstRightOf(int x, std::size_t from) const
 {
-    return m_store.firstWhere([this, x](qint64 time) { return column(time) > x; }, from);
+    return std::max(m_store.firstFrom(firstTimeRightOf(x)), from);
 }
 
 std::size_t MarkerView::firstNarrowerThan(int halfWidth, std::size_t from, std::size_t end) const
@@ -99,7 +108,25 @@ int MarkerView::column(qint64 msecs) const
     const double offset = double(msecs) - double(m_geometry.start);
     const double x = TimeScale::margin() + m_geometry.pixelsPerMillisecond * offset;
     // Far outside the view the exact column does not matter.
-    return int(std::clamp(x, -1e6, 1e6));
+    return int(std::clamp<double>(x, -farthestColumn, farthestColumn));
+}
+
+qint64 MarkerView::firstTimeRightOf(int x) const
+{
+    if (!(m_geometry.pixelsPerMillisecond > 0) || std::isinf(m_geometry.pixelsPerMillisecond) ||
+        x >= farthestColumn)
+        return std::numeric_limits<qint64>::max();
+    // Columns left of 0 begin behind their left edge: column() cuts off towards 0.
+    const double edge = x < 0 ? x : x + 1.0;
+    constexpr double farthest = 8e18;
+    const double offset = (edge - TimeScale::margin()) / m_geometry.pixelsPerMillisecond;
+    auto msecs = qint64(std::clamp(double(m_geometry.start) + offset, -farthest, farthest));
+    // What is left are rounding errors.
+    while (column(msecs - 1) > x)
+        --msecs;
+    while (column(msecs) <= x)
+        ++msecs;
+    return msecs;
 }
 
 MarkerView::Indices MarkerView::between(int left, int right) const
@@ -115,12 +142,11 @@ MarkerView::Indices MarkerView::withNeighbourhood(const Indices& shown) const
     // Runs start at a marker that does not touch the one before it. Where the markers stand so
     // close that there is none within a view's width, they start there. To the right a run reaches
     // four half widths at most.
-    const int width = int(m_geometry.width);
-    const Indices around = between(halfMargin - width, width + 2 * m_icons.width);
+    const Indices neighbours = around();
     std::size_t first = shown.first;
-    while (first > around.first && xOf(first) - xOf(first - 1) <= m_icons.width)
-        first = firstRightOf(xOf(first) - m_icons.width - 1, around.first);
-    return {first, std::max(around.last, shown.last)};
+    while (first > neighbours.first && xOf(first) - xOf(first - 1) <= m_icons.width)
+        first = firstRightOf(xOf(first) - m_icons.width - 1, neighbours.first);
+    return {first, std::max(neighbours.last, shown.last)};
 }
 
 } // namespace CorvelGui

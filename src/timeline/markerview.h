@@ -35,6 +35,8 @@ public:
     {
         std::size_t first;
         std::size_t last;
+
+        std::size_t count() const { return last - first; }
     };
 
     /// Only the markers within @p range count, if there is one.
@@ -42,6 +44,8 @@ public:
                const std::optional<TimeSpan>& range);
 
     int xOf(std::size_t marker) const { return column(m_store.time(marker)); }
+    /// Those that the grouping may depend on.
+    Indices around() const;
     /// Those in view.
     Indices shown() const;
     /// The groups of markers whose representative is in view.
@@ -56,6 +60,7 @@ public:
 
 private:
     int column(qint64 msecs) const;
+    qint64 firstTimeRightOf(int x) const;
     Indices between(int left, int right) const;
     Indices withNeighbourhood(const Indices& shown) const;
 

@@ -183,8 +183,8 @@ public:
     void setActive(bool active, bool blocked);
     /// Derives height and layout from the height of the indicator's label.
     void updateSize();
-    /// Brings indicator and markers in line with the view, while the ruler is active. With @p merge
-    /// the markers are grouped again even where nothing moved.
+    /// Brings indicator and markers in line with the view, while the ruler is active. Markers are
+    /// grouped again wherever the view or they have changed, whatever @p merge says.
     void updateChildren(bool merge);
 
     /// While blocked, view changes are noted instead of reported. Unblocking reports nothing.

@@ -156,7 +156,7 @@ void Ruler::createGradients()
     d->painter.createGradients(rect(), d->headerHeight);
 }
 
-void Ruler::updateChildren(bool merge)
+void Ruler::updateChildren(bool /*merge*/)
 {
     if (!d->active) {
         d->markers->hideReleased();
@@ -164,7 +164,7 @@ void Ruler::updateChildren(bool merge)
     }
     updateIndicator();
     const QRect area = markerArea(rect(), d->headerHeight, d->segments.hasTracks());
-    const QList<QDateTime> firstSeen = d->markers->update(d->scale, area, merge);
+    const QList<QDateTime> firstSeen = d->markers->update(d->scale, area);
     update();
     if (!firstSeen.isEmpty())
         Q_EMIT newVisibleRulerMarkers(firstSeen);

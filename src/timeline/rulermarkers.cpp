@@ -41,58 +41,18 @@ RulerMarkers::RulerMarkers(QWidget* ruler, QWidget* ceiling)
     addIcon(ownIconKey, ownIcon());
 }
 
-// Buttons keep their markers through a change of the store, until update() groups these again.
-template <typename Change>
-void RulerMarkers::changeStore(Change change, std::size_t removed)
-{
-    // Others of its time come behind a marker, and those before it may go.
-    const auto rankOf = [this](std::size_t marker) {
-        return marker - m_store.firstFrom(m_store.time(marker));
-    };
-    const auto find = [&](const RulerMarker& marker, std::size_t rank) {
-        const qint64 msecs = marker.time.toMSecsSinceEpoch();
-        const std::size_t first = m_store.firstFrom(msecs);
-        const std::size_t highest = std::min(first + rank + 1, m_store.firstAfter(msecs));
-        for (std::size_t next = highest; next > first && next + removed >= highest; --next) {
-            if (m_store.marker(next - 1) == marker)
-                return std::optional(next - 1);
-        }
-        return std::optional<std::size_t>();
-    };
-    std::vector<std::size_t> ranks;
-    for (const Symbol& symbol : m_symbols)
-        ranks.push_back(rankOf(symbol.marker));
-    const bool hasSpare = m_spare && m_spare->isVisibleTo(m_ruler);
-    const std::size_t spareRank = hasSpare ? rankOf(m_spareMarker) : 0;
-
-    change();
-
-    auto rank = ranks.begin();
-    for (const Symbol& symbol : std::exchange(m_symbols, {})) {
-        const auto marker =
-            symbol.button ? find(symbol.button->marker(), *rank) : std::optional<std::size_t>();
-        ++rank;
-        if (marker)
-            m_symbols.push_back({*marker, *marker, *marker, symbol.x, symbol.button});
-        else
-            releaseButton(symbol.button);
-    }
-    const auto spare = hasSpare ? find(m_spare->marker(), spareRank) : std::optional<std::size_t>();
-    if (spare)
-        m_spareMarker = *spare;
-    else
-        hideSpare();
-    m_reached.reset();
-    m_changed = true;
-}
-
 void RulerMarkers::add(const QList<RulerMarker>& markers)
 {
     std::vector<quint32> icons;
     icons.reserve(std::size_t(markers.size()));
     for (const RulerMarker& marker : markers)
         icons.push_back(iconOf(marker));
-    changeStore([&] { m_store.add(markers, icons); }, 0);
+    const MarkerView::Indices around = markersInView().around();
+    const std::vector<std::size_t> places = m_store.add(markers, icons);
+    followMarkers(around, [&places](std::size_t marker) {
+        const auto before = std::upper_bound(places.begin(), places.end(), marker) - places.begin();
+        return std::optional(marker + std::size_t(before));
+    });
 }
 
 void RulerMarkers::remove(const QList<RulerMarker>& markers)
@@ -102,8 +62,44 @@ void RulerMarkers::remove(const QList<RulerMarker>& markers)
         if (marker.time.isValid())
             times.push_back(marker.time.toMSecsSinceEpoch());
     }
-    const std::size_t count = times.size();
-    changeStore([&] { m_store.remove(std::move(times)); }, count);
+    const MarkerView::Indices around = markersInView().around();
+    const std::vector<std::size_t> places = m_store.remove(std::move(times));
+    followMarkers(around, [&places](std::size_t marker) {
+        const auto next = std::lower_bound(places.begin(), places.end(), marker);
+        const bool isGone = next != places.end() && *next == marker;
+        return isGone ? std::nullopt : std::optional(marker - std::size_t(next - places.begin()));
+    });
+}
+
+// Markers came or went, which gave the others new indices. Buttons keep their markers. @p around
+// was around the view before.
+template <typename NewIndex>
+void RulerMarkers::followMarkers(const MarkerView::Indices& around, NewIndex newIndex)
+{
+    // What happens further away leaves the grouping as it is.
+    m_changed = m_changed || markersInView().around().count() != around.count();
+
+    std::vector<Symbol> kept;
+    for (Symbol& symbol : m_symbols) {
+        const std::optional<std::size_t> marker = newIndex(symbol.marker);
+        if (!marker) {
+            releaseButton(symbol.button);
+            continue;
+        }
+        symbol.marker = *marker;
+        symbol.first = newIndex(symbol.first).value_or(*marker);
+        symbol.last = newIndex(symbol.last).value_or(*marker);
+        kept.push_back(symbol);
+    }
+    m_symbols = std::move(kept);
+
+    const std::optional<std::size_t> spareMarker = newIndex(m_spareMarker);
+    if (spareMarker)
+        m_spareMarker = *spareMarker;
+    else
+        hideSpare();
+    if (m_reached)
+        m_reached = newIndex(*m_reached);
 }
 
 void RulerMarkers::clear()
@@ -150,10 +146,10 @@ void RulerMarkers::setOrvaneGuiTheme(bool on)
         button->setOrvaneGuiTheme(on);
 }
 
-QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area, bool regroup)
+QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area)
 {
     const View view{{scale.viewStartMs(), scale.lengthPerMillisecond(), scale.width()}, area};
-    if (m_view == view && !m_changed && !regroup)
+    if (m_view == view && !m_changed)
         return {};
     m_view = view;
     m_changed = false;

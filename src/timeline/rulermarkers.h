@@ -45,9 +45,9 @@ public:
     void setIconSize(const QSize& size);
     void setOrvaneGuiTheme(bool on);
 
-    /// Brings the buttons in line with the view, with @p regroup also where nothing moved. Returns
-    /// the times of markers that are in view for the first time.
-    QList<QDateTime> update(const TimeScale& scale, const QRect& area, bool regroup);
+    /// Brings the buttons in line with the view. Costs nothing while neither the view nor what it
+    /// shows has changed. Returns the times of markers that are in view for the first time.
+    QList<QDateTime> update(const TimeScale& scale, const QRect& area);
 
     /// Hides the buttons that markers no longer have, until update() gives them to others.
     void hideReleased();
@@ -102,8 +102,8 @@ private:
     MarkerView markersInView() const;
     const Symbol* symbolOf(std::size_t marker) const;
     void showSymbols(std::vector<Symbol> symbols);
-    template <typename Change>
-    void changeStore(Change change, std::size_t removed);
+    template <typename NewIndex>
+    void followMarkers(const MarkerView::Indices& around, NewIndex newIndex);
     void releaseButton(RulerMarkerButton* button);
     void releaseButtons();
     RulerMarkerButton* takeButton();

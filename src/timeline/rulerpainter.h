@@ -5,7 +5,9 @@
 
 #include <QBrush>
 #include <QColor>
+#include <QHash>
 #include <QRect>
+#include <QStaticText>
 #include <QString>
 
 #include <optional>
@@ -71,9 +73,12 @@ private:
     void drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
                         qint64 toMidnight) const;
 
+    const QStaticText& shaped(const QString& text) const;
+
     QBrush m_headerGradient;
     QBrush m_searchGradient;
     QBrush m_trackGradient;
+    mutable QHash<QString, QStaticText> m_shapedTexts;
 };
 
 } // namespace CorvelGui

@@ -178,10 +178,13 @@ void TestMarkers::storeKeepsTimeOrder()
 {
     MarkerStore store;
     add(store, {marker(30, u"c"_s), marker(10, u"a"_s), RulerMarker()});
-    add(store, {marker(20, u"b"_s), marker(10, u"a2"_s), marker(10, u"a3"_s), marker(40, u"d"_s)});
+    using Indices = std::vector<std::size_t>;
+    const QList<RulerMarker> more{marker(20, u"b"_s), marker(10, u"a2"_s), marker(10, u"a3"_s),
+                                  marker(40, u"d"_s)};
+    QCOMPARE(store.add(more, {0, 0, 0, 0}), (Indices{1, 1, 1, 2}));
     QCOMPARE(texts(store), u"a a2 a3 b c d"_s);
     // The first of a time goes first.
-    store.remove({30, 15, 10});
+    QCOMPARE(store.remove({30, 15, 10}), (Indices{0, 4}));
     QCOMPARE(texts(store), u"a2 a3 b d"_s);
     store.remove({10, 10, 10, 10, 99});
     QCOMPARE(texts(store), u"b d"_s);

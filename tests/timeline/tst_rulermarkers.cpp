@@ -243,6 +243,11 @@ void TestRulerMarkers::toolTips()
     };
     ruler.onAddMarkers(markersAtPixels({300, 301, 302}));
     QCOMPARE(firstToolTip(), u"300\n301\n302"_s);
+    // What comes and goes far away changes no group.
+    ruler.onAddMarkers({marker(-3 * hour, u"early"_s)});
+    QCOMPARE(firstToolTip(), u"300\n301\n302"_s);
+    ruler.onRemoveMarkers({marker(-3 * hour)});
+    QCOMPARE(firstToolTip(), u"300\n301\n302"_s);
     QList<RulerMarker> many;
     for (int i = 0; i < 40; ++i)
         many << marker(10 * minute + i, QString::number(i));
