@@ -8,7 +8,7 @@
 #include <string>
 
 #ifdef __GLIBC__
-#    include <malloc.h>
+#include <malloc.h>
 #endif
 
 /// Sets the counter "ratio": the processor time of an iteration compared with that of the row of
