@@ -148,6 +148,9 @@ void TestRuler::following()
             r.setIndicatorPosition(at(qint64(hours * hour)));
         };
     };
+    const Act clear = [](LoggedRuler& r) {
+        r.setIndicatorPosition(0);
+    };
     const Act resume = [](LoggedRuler& r) {
         r.resumeFollowing();
     };
@@ -192,6 +195,7 @@ void TestRuler::following()
         {Mode::Pages, {show(9), play(6), resume}, 6, true},
         {Mode::Pages, {show(9), play(9.5), play(10.5)}, 10, true},
         {Mode::Pages, {show(9), show(5), play(6.5)}, 6, true},
+        {Mode::Pages, {clear, show(9), play(6.5)}, 6, true}, // nothing to look away from
         {Mode::Pages, {press, play(6.5)}, 5, true},
         {Mode::Pages, {press, play(6.5), release, play(6.6)}, 6, true},
         {Mode::Pages, {drag, play(6.5)}, 6.1, true},
