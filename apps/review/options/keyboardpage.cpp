@@ -110,6 +110,7 @@ void KeyboardPage::showConflicts()
     if (!lines.isEmpty())
         lines.append(tr("Such shortcuts are not taken over."));
     m_message->setText(lines.join(u'\n'));
+    m_message->setVisible(!lines.isEmpty());
 }
 
 } // namespace Review

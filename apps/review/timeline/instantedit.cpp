@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QCalendarWidget>
 #include <QKeyEvent>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -25,6 +26,13 @@ InstantEdit::InstantEdit(const Clock& clock, QWidget* parent)
     // It would show what is typed in a format of its own.
     m_calendar->setDateEditEnabled(false);
     m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    for (auto* button : m_calendar->findChildren<QToolButton*>()) {
+        // Instead of icons that do not follow the look.
+        if (button->objectName() == "qt_calendar_prevmonth"_L1)
+            button->setArrowType(Qt::LeftArrow);
+        else if (button->objectName() == "qt_calendar_nextmonth"_L1)
+            button->setArrowType(Qt::RightArrow);
+    }
     auto* close = new QAction(m_calendar);
     close->setShortcut(Qt::Key_Escape);
     m_calendar->addAction(close);

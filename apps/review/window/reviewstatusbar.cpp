@@ -20,6 +20,8 @@ ReviewStatusBar::ReviewStatusBar(Clock& clock, QWidget* parent)
     , m_zoneLabel(new QLabel(this))
 {
     m_counts->setContentsMargins(6, 0, 0, 0);
+    // On a narrow window it gives way to what happens.
+    m_counts->setMinimumWidth(1);
     m_zoneLabel->setBuddy(m_zone);
     addWidget(m_counts);
     addPermanentWidget(m_export);
