@@ -155,6 +155,7 @@ void TestReviewWindow::camerasAreChosen()
     };
     click(park);
     QCOMPARE(shown->currentText(), u"Car park"_s);
+    QVERIFY(park->font(DeviceItem::Name).bold());
 
     park->setCheckState(DeviceItem::Name, Qt::Unchecked);
     click(park);

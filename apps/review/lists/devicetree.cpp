@@ -51,6 +51,7 @@ DeviceTree::DeviceTree(const Clock& clock, Selection& selection, QWidget* parent
     ListLook::offerActions(this);
     connect(&clock, &Clock::changed, this, &DeviceTree::followClock);
     connect(&selection, &Selection::momentChanged, this, &DeviceTree::followMoment);
+    connect(&selection, &Selection::cameraChanged, this, &DeviceTree::followCamera);
     retranslate();
 }
 
@@ -93,6 +94,7 @@ void DeviceTree::setReview(const ReviewData& review)
     known.removeIf([&](const DeviceItem* device) { return !taken.contains(*device->address()); });
     remove(known);
     showChecksOfGroup();
+    followCamera();
     sortGroups();
     showRows(m_filter);
     fitColumns();
@@ -100,8 +102,9 @@ void DeviceTree::setReview(const ReviewData& review)
 
 void DeviceTree::fitColumns()
 {
+    constexpr int roomForBold = 12;
     for (int column = 0; column < columnCount(); ++column)
-        resizeColumnToContentsWithOffset(column, 0);
+        resizeColumnToContentsWithOffset(column, column == DeviceItem::Name ? roomForBold : 0);
     // The state changes while the time goes on; the column does not.
     int widest = 0;
     for (const TrackState state : {TrackState::Recorded, TrackState::Gap, TrackState::NothingKnown})
@@ -251,6 +254,13 @@ void DeviceTree::followMoment()
     const QSignalBlocker blocker(this);
     for (DeviceItem* device : devices())
         device->showState();
+}
+
+void DeviceTree::followCamera()
+{
+    const QSignalBlocker blocker(this);
+    for (DeviceItem* device : devicesOf(m_cameras))
+        device->setBold(DeviceItem::Name, device->track().identifier == m_selection.camera());
 }
 
 void DeviceTree::showTexts()

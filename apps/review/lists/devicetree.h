@@ -15,8 +15,8 @@ class Selection;
 /// The cameras in groups: those with tracks, each with a check box that says whether the timeline
 /// shows it, and those that were added by their addresses.
 ///
-/// A click on a checked camera selects it. A double click or Return also checks it, and goes on to
-/// its next recording.
+/// The selected camera is bold. A click on a checked camera selects it. A double click or Return
+/// also checks it, and goes on to its next recording.
 class DeviceTree : public Translated<CorvelGui::PTreeWidget>
 {
     Q_OBJECT
@@ -58,6 +58,7 @@ protected:
 private:
     void followClock();
     void followMoment();
+    void followCamera();
     QList<DeviceItem*> devices() const;
     QList<DeviceItem*> devicesOf(const QTreeWidgetItem* group) const;
     QList<DeviceItem*> removable() const;

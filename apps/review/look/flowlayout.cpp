@@ -99,7 +99,7 @@ void FlowLayout::setGeometry(const QRect& rect)
 {
     QLayout::setGeometry(rect);
     const QRect room = rect.marginsRemoved(contentsMargins());
-    int top = room.top();
+    int top = room.top() + std::max(0, rect.height() - heightForWidth(rect.width())) / 2;
     for (const Row& row : rows(room.width())) {
         const int height = heightOf(row);
         placeRow(row, {room.left(), top, room.width(), height});

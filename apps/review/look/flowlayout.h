@@ -7,8 +7,8 @@
 
 namespace Review {
 
-/// Puts widgets side by side, in as many rows as the width asks for. What is left of a row goes to
-/// its last widget, if that wants to expand.
+/// Puts widgets side by side, in as many rows as the width asks for, in the middle of the height.
+/// What is left of a row goes to its last widget, if that wants to expand.
 class FlowLayout : public QLayout
 {
     Q_OBJECT

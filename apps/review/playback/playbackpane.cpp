@@ -21,7 +21,7 @@ namespace {
 
 // As dark as the picture of a camera without a recording, in both looks.
 constexpr QColor background(28, 30, 32);
-constexpr QSize smallestPicture(320, 180);
+constexpr QSize smallestPicture(160, 90);
 
 } // namespace
 
