@@ -238,7 +238,7 @@ void TestReviewTimeline::indicatorIsPlaced()
         QDateTime::fromMSecsSinceEpoch(qint64(ruler->getIndicatorMSecs()), Qt::UTC);
     QVERIFY(sample.showsTime(time.toString(u"dd MMM HH:mm:ss"_s)));
     QTest::mouseRelease(indicator, Qt::LeftButton);
-    QCOMPARE(sample.events()->currentRow(), 0);
+    QCOMPARE(sample.events()->currentIndex().row(), 0);
 }
 
 void TestReviewTimeline::previewSaysWhatIsKnown()
