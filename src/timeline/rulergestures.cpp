@@ -244,7 +244,9 @@ bool RulerGestures::indicatorEvent(QEvent* event)
     if (d.blocked)
         return false;
 
-    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto* mouse = dynamic_cast<QMouseEvent*>(event);
+    if (!mouse)
+        return false;
     const auto position = [&] {
         return d.indicator->mapToParent(mouse->position().toPoint());
     };
