@@ -84,7 +84,7 @@ void Languages::useForPrinting()
     const QString key = keyFor({});
     QLocale::setDefault(localeFor(key));
     useToolkitFile(toolkitFile(key));
-    auto* translator = new QTranslator(qApp);
+    auto* translator = new QTranslator(QCoreApplication::instance());
     if (translator->load(prefix() + u'_' + key, folder()))
         QCoreApplication::installTranslator(translator);
 }
