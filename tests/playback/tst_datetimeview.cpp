@@ -183,7 +183,7 @@ void TestDateTimeView::moments()
     };
     for (const auto& [zones, clock, utc] : cases) {
         for (const QDateTime& zone : zones) {
-            const QDateTime wanted = QDateTime::fromString(clock, Qt::ISODate);
+            const QDateTime wanted = QDateTime::fromString(clock + u'Z', Qt::ISODate);
             QStringList found;
             for (const QDateTime& moment : localMoments(wanted.date(), wanted.time(), zone)) {
                 QCOMPARE(moment.timeSpec(), zone.timeSpec());

@@ -4,8 +4,8 @@
 
 class QTcpSocket;
 
-/// A proxy on 127.0.0.1 that asks for "user" and "secret". The HTTP one takes whole addresses, not
-/// CONNECT.
+/// A proxy on 127.0.0.1 that asks for "user" and "secret". Every server is on this machine for it,
+/// whatever its name. The HTTP one takes whole addresses, not CONNECT.
 class TestProxy : public QTcpServer
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
 private:
     void talkHttp(QTcpSocket* client);
     void talkSocks(QTcpSocket* client);
-    void passOn(QTcpSocket* client, const QString& host, quint16 port, const QByteArray& first);
+    void passOn(QTcpSocket* client, quint16 port, const QByteArray& first);
 
     int m_passed = 0;
 };
