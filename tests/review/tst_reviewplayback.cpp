@@ -77,7 +77,6 @@ class TestReviewPlayback : public WarningFreeTest
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
-    void aDayTurnsPages();
     void viewStaysWhereTheUserLooks();
     void handHoldsTheTime();
     void endsPause();
@@ -86,35 +85,6 @@ private Q_SLOTS:
     void visitorsComeAndGo();
     void speedsHaveKeys();
 };
-
-void TestReviewPlayback::aDayTurnsPages()
-{
-    for (const bool forwards : {true, false}) {
-        Playing playing;
-        const qint64 start = forwards ? monday + 90'001 : monday + 2 * day;
-        playing.selection.goTo(start);
-        playing.setSpeed(forwards ? PPlaybar::FastForward : PPlaybar::FastBackward,
-                         PPlaybar::Speed1024);
-        int pages = 0;
-        for (qint64 elapsed = 0; elapsed * 1024 < day;) {
-            const TimeSpan before = playing.timeline.view();
-            const qint64 interval = 33 + elapsed % 17;
-            playing.tick(interval);
-            elapsed += interval;
-
-            const qint64 position = start + (forwards ? 1024 : -1024) * elapsed;
-            QCOMPARE(playing.selection.moment(), position);
-            const TimeSpan after = playing.timeline.view();
-            QVERIFY(after.begin <= position && position <= after.end);
-            if (after == before)
-                continue;
-            QVERIFY(position < before.begin || position > before.end);
-            QCOMPARE(after.begin - before.begin, forwards ? hour : -hour);
-            ++pages;
-        }
-        QCOMPARE(pages, 24);
-    }
-}
 
 void TestReviewPlayback::viewStaysWhereTheUserLooks()
 {

@@ -38,7 +38,6 @@ private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
     void actionsMoveTheView();
     void uncheckedTracksLeaveTheTimeline();
-    void timesStandInTheZone();
     void problemsAreListed();
     void lookIsSwitched();
     void camerasAreChosen();
@@ -100,15 +99,6 @@ void TestReviewWindow::uncheckedTracksLeaveTheTimeline()
     QVERIFY(rulerPicture(sample) != all);
     gate->setCheckState(DeviceItem::Name, Qt::Checked);
     QCOMPARE(rulerPicture(sample), all);
-}
-
-void TestReviewWindow::timesStandInTheZone()
-{
-    const SampleWindow sample(u"Australia/Darwin"_s);
-    QVERIFY(sample.says(u"02.03.2026 09:30:00 – 16.03.2026 09:30:00 (Australia/Darwin)"_s));
-    const QTreeWidgetItem* fence = sample.device(u"North fence"_s);
-    QCOMPARE(fence->text(DeviceItem::KnownFrom), u"02.03.2026 09:30:00"_s);
-    QCOMPARE(fence->text(DeviceItem::KnownTo), u"12.03.2026 19:30:00"_s);
 }
 
 void TestReviewWindow::problemsAreListed()
