@@ -86,8 +86,7 @@ private:
 
 UpdateAnswer parseUpdateAnswer(const QByteArray& json)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    const QJsonDocument document = QJsonDocument::fromJson(json);
     if (!document.isObject())
         return {{}, CheckAppUpdate::tr("The server's answer is not one of an update server.")};
 

@@ -13,76 +13,49 @@ class TestTimeZoneHelper : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void names_data();
     void names();
-    void renamedZones_data();
     void renamedZones();
-    void instants_data();
     void instants();
     void machineChangesItsStandardTime();
 };
 
-void TestTimeZoneHelper::names_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("IANA") << u"Europe/Brussels"_s << u"Europe/Brussels"_s;
-    QTest::newRow("Windows") << u"W. Europe Standard Time"_s << u"Europe/Berlin"_s;
-    QTest::newRow("Windows, beyond Europe") << u"Tokyo Standard Time"_s << u"Asia/Tokyo"_s;
-    QTest::newRow("UTC") << u"UTC"_s << u"UTC"_s;
-    QTest::newRow("white space around") << u" Asia/Tokyo\n"_s << u"Asia/Tokyo"_s;
-    QTest::newRow("empty") << QString() << QString();
-    QTest::newRow("unknown") << u"Middle/Earth"_s << QString();
-    QTest::newRow("not a name") << u"../../etc/passwd"_s << QString();
-    QTest::newRow("not ASCII") << u"Европа/Москва"_s << QString();
-}
-
 void TestTimeZoneHelper::names()
 {
-    QFETCH(QString, name);
-    QTEST(TimeZoneHelper::getTimeZone(name), "expected");
-}
-
-void TestTimeZoneHelper::renamedZones_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("minutes");
-
-    QTest::newRow("present name") << u"Asia/Kathmandu"_s << 5 * 60 + 45;
-    QTest::newRow("former name") << u"Asia/Katmandu"_s << 5 * 60 + 45;
-    QTest::newRow("Windows") << u"Myanmar Standard Time"_s << 6 * 60 + 30;
+    const std::pair<QString, QString> rows[] = {
+        {u" Asia/Tokyo\n"_s, u"Asia/Tokyo"_s},
+        {u"W. Europe Standard Time"_s, u"Europe/Berlin"_s},
+        {QString(), QString()},
+        {u"Middle/Earth"_s, QString()},
+        {u"../../etc/passwd"_s, QString()},
+    };
+    for (const auto& [name, expected] : rows)
+        QCOMPARE(TimeZoneHelper::getTimeZone(name), expected);
 }
 
 void TestTimeZoneHelper::renamedZones()
 {
-    QFETCH(QString, name);
-    const QTimeZone zone(TimeZoneHelper::getTimeZone(name).toUtf8());
-    QVERIFY(zone.isValid());
-    QTEST(zone.standardTimeOffset(QDateTime::fromMSecsSinceEpoch(monday)) / 60, "minutes");
-}
-
-void TestTimeZoneHelper::instants_data()
-{
-    QTest::addColumn<QTimeZone>("zone");
-    QTest::addColumn<qint64>("msecs");
-    QTest::addColumn<QTime>("clock");
-
-    QTest::newRow("winter") << QTimeZone("Europe/Brussels") << monday << QTime(1, 0);
-    QTest::newRow("summer") << QTimeZone("Europe/Brussels") << monday + 120 * day << QTime(2, 0);
-    QTest::newRow("before the epoch") << QTimeZone("Australia/Darwin") << -hour << QTime(8, 30);
-    // The tests run with Brussels as the zone of the machine.
-    QTest::newRow("no zone means this machine's") << QTimeZone() << monday << QTime(1, 0);
+    const std::pair<QString, int> rows[] = {{u"Asia/Kathmandu"_s, 5 * 60 + 45},
+                                            {u"Asia/Katmandu"_s, 5 * 60 + 45},
+                                            {u"Myanmar Standard Time"_s, 6 * 60 + 30}};
+    for (const auto& [name, minutes] : rows) {
+        const QTimeZone zone(TimeZoneHelper::getTimeZone(name).toUtf8());
+        QVERIFY2(zone.isValid(), qPrintable(name));
+        QCOMPARE(zone.standardTimeOffset(QDateTime::fromMSecsSinceEpoch(monday)) / 60, minutes);
+    }
 }
 
 void TestTimeZoneHelper::instants()
 {
-    QFETCH(QTimeZone, zone);
-    QFETCH(qint64, msecs);
-
-    const QDateTime time = TimeZoneHelper::fromMSecsSinceEpoch(msecs, zone);
-    QTEST(time.time(), "clock");
-    QCOMPARE(time.toMSecsSinceEpoch(), msecs);
+    const std::tuple<QTimeZone, qint64, QTime> rows[] = {
+        {QTimeZone("Europe/Brussels"), monday + 120 * day, QTime(2, 0)},
+        {QTimeZone("Australia/Darwin"), -hour, QTime(8, 30)},
+        {QTimeZone(), monday, QTime(1, 0)}, // the machine's, which is Brussels in tests
+    };
+    for (const auto& [zone, msecs, clock] : rows) {
+        const QDateTime time = TimeZoneHelper::fromMSecsSinceEpoch(msecs, zone);
+        QCOMPARE(time.time(), clock);
+        QCOMPARE(time.toMSecsSinceEpoch(), msecs);
+    }
 }
 
 void TestTimeZoneHelper::machineChangesItsStandardTime()

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -52,96 +51,83 @@ private Q_SLOTS:
     void cleanup() { qApp->setStyleSheet(QString()); }
     void textOnTimelineIsReadable();
     void colorsDifferForAllEyes();
-    void widgetsAreReadable_data();
-    void widgetsAreReadable();
-    void sheetRulesAreReadable_data() { widgetsAreReadable_data(); }
-    void sheetRulesAreReadable();
+    void looks_data();
+    void looks();
 };
 
 void TestPOrvGuiTheme::textOnTimelineIsReadable()
 {
-    for (const QColor& ground :
-         {POrvGuiTheme::colorShark, POrvGuiTheme::colorBlack, POrvGuiTheme::colorTuna})
+    using Theme = POrvGuiTheme;
+    for (const QColor& ground : {Theme::colorShark, Theme::colorBlack, Theme::colorTuna})
         QCOMPARE_GE(contrast(QColor(200, 200, 200), ground), readable);
-    for (const QColor& ground :
-         {POrvGuiTheme::colorYellow, POrvGuiTheme::colorGreen, POrvGuiTheme::colorBlue})
+    for (const QColor& ground : {Theme::colorYellow, Theme::colorGreen, Theme::colorBlue})
         QCOMPARE_GE(contrast(Qt::black, ground), readable);
 }
 
 void TestPOrvGuiTheme::colorsDifferForAllEyes()
 {
     using Theme = POrvGuiTheme;
-    for (const Eyes eyes : {Eyes::Usual, Eyes::Protanopia, Eyes::Deuteranopia}) {
-        QCOMPARE_GE(difference(Theme::colorTuna, Theme::colorShark, eyes), 20);
-        QCOMPARE_GE(difference(Theme::colorTuna, Theme::colorBlack, eyes), 20);
-        QCOMPARE_GE(difference(Theme::colorShark, Theme::colorBlack, eyes), 10);
-        QCOMPARE_GE(difference(Theme::colorYellow, Theme::colorPurple, eyes), 40);
-        for (const bool dark : {true, false}) {
-            Theme::bPantherTheme = dark;
-            const QColor states[] = {Theme::statusRed(), Theme::colorGreen, Theme::colorYellow,
-                                     Theme::colorBlue};
-            for (const QColor& one : states) {
-                for (const QColor& other : states)
-                    QVERIFY2(one == other || difference(one, other, eyes) >= 25,
+    for (const bool dark : {true, false}) {
+        Theme::bPantherTheme = dark;
+        const QList<QColor> groups[] = {
+            {Theme::colorTuna, Theme::colorShark, Theme::colorBlack},
+            {Theme::colorYellow, Theme::colorPurple},
+            {Theme::statusRed(), Theme::colorGreen, Theme::colorYellow, Theme::colorBlue}};
+        for (const QList<QColor>& group : groups) {
+            for (const QColor& one : group) {
+                for (const QColor& other : group)
+                    QVERIFY2(one == other || difference(one, other) >= 0.1,
                              qPrintable(one.name() + other.name()));
             }
         }
     }
 }
 
-void TestPOrvGuiTheme::widgetsAreReadable_data()
+void TestPOrvGuiTheme::looks_data()
 {
     QTest::addColumn<bool>("dark");
     QTest::newRow("dark") << true;
     QTest::newRow("light") << false;
 }
 
-// Palettes as the widgets have them after the sheet has been applied to them.
-void TestPOrvGuiTheme::widgetsAreReadable()
+void TestPOrvGuiTheme::looks()
 {
     QFETCH(const bool, dark);
     applyLook(dark);
 
+    // Palettes as the widgets have them after the sheet has been applied to them.
     QLabel label;
     QCheckBox check;
     QPushButton button;
     QLineEdit edit;
-    QPlainTextEdit text;
     QSpinBox spin;
     QComboBox combo;
     QListWidget list;
-    const QList<QWidget*> selecting{&edit, &text, &spin, &list};
-    for (QWidget* widget : selecting + QList<QWidget*>{&label, &check, &button, &combo}) {
-        for (const bool enabled : {true, false}) {
+    const QList<std::pair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
+        {QPalette::WindowText, QPalette::Window},
+        {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},
+        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight}};
+    for (QWidget* widget : QList<QWidget*>{&edit, &spin, &list, &label, &check, &button, &combo}) {
+        for (const bool enabled : {false, true}) {
             widget->setEnabled(enabled);
             widget->ensurePolished();
-            QList<std::pair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
-                {QPalette::WindowText, QPalette::Window},
-                {QPalette::Text, QPalette::Base},
-                {QPalette::Text, QPalette::AlternateBase},
-                {QPalette::ButtonText, QPalette::Button}};
-            if (enabled && selecting.contains(widget))
-                pairs.append({QPalette::HighlightedText, QPalette::Highlight});
-            for (const auto& [textRole, groundRole] : pairs)
-                QVERIFY2(roleContrast(widget->palette(), textRole, groundRole) >=
+            const bool selects = enabled && (widget == &edit || widget == &spin || widget == &list);
+            for (const auto& [text, ground] : pairs.first(selects ? 5 : 4))
+                QVERIFY2(roleContrast(widget->palette(), text, ground) >=
                              (enabled ? readable : perceptible),
-                         qPrintable(u"%1, role %2, %3"_s
-                                        .arg(QLatin1StringView(widget->metaObject()->className()))
-                                        .arg(textRole)
-                                        .arg(enabled)));
+                         widget->metaObject()->className());
         }
     }
     QCOMPARE(label.minimumSizeHint().width(), 150);
 
     const QPalette palette = QApplication::palette();
-    if (dark) {
-        for (const auto& [textRole, groundRole] :
-             {std::pair(QPalette::Link, QPalette::Window),
-              std::pair(QPalette::LinkVisited, QPalette::Window),
-              std::pair(QPalette::PlaceholderText, QPalette::Base),
-              std::pair(QPalette::ToolTipText, QPalette::ToolTipBase)})
-            QCOMPARE_GE(roleContrast(palette, textRole, groundRole), readable);
-    }
+    for (const auto& [text, ground] : {std::pair(QPalette::Link, QPalette::Window),
+                                       std::pair(QPalette::LinkVisited, QPalette::Window),
+                                       std::pair(QPalette::PlaceholderText, QPalette::Base),
+                                       std::pair(QPalette::ToolTipText, QPalette::ToolTipBase)})
+        QVERIFY(!dark || roleContrast(palette, text, ground) >= readable);
     const QColor base = palette.color(QPalette::Base);
     for (const QColor& ground : {palette.color(QPalette::Window), base})
         QCOMPARE_GE(contrast(POrvGuiTheme::statusRed(), ground), readable);
@@ -151,39 +137,28 @@ void TestPOrvGuiTheme::widgetsAreReadable()
 
     // A wrong entry.
     edit.setStyleSheet(u"QLineEdit{background-color:#ff4d4d;}"_s);
-    edit.setEnabled(true);
     QCOMPARE_GE(contrast(edit.palette().color(QPalette::Text), QColor(0xff, 0x4d, 0x4d)), readable);
-}
 
-void TestPOrvGuiTheme::sheetRulesAreReadable()
-{
-    QFETCH(const bool, dark);
+    // Rules that name both the text's colour and its ground.
     const QString sheet = dark ? POrvGuiTheme::darkTheme() : POrvGuiTheme::whiteTheme();
     QVERIFY(!sheet.contains(u'$'));
-
-    static const QRegularExpression rule(u"([^{}]+)\\{([^}]*)\\}"_s);
-    static const QRegularExpression text(u"(?<![-\\w])(?:selection-)?color: *(#\\w{6})"_s);
-    static const QRegularExpression ground(u"background-color: *(#\\w{6})"_s);
+    static const QRegularExpression rule(
+        u"([^{}]+)\\{(?=[^}]*(?<![-\\w])(?:selection-)?color: *(#\\w{6}))"
+        "[^}]*background-color: *(#\\w{6})"_s);
     int checked = 0;
     for (const QRegularExpressionMatch& match : rule.globalMatch(sheet)) {
-        const auto textMatch = text.match(match.captured(2));
-        const auto groundMatch = ground.match(match.captured(2));
-        if (!textMatch.hasMatch() || !groundMatch.hasMatch())
-            continue;
-        const double ratio =
-            contrast(QColor(textMatch.captured(1)), QColor(groundMatch.captured(1)));
         const bool disabled = match.captured(1).contains(u":disabled"_s);
-        QVERIFY2(ratio >= (disabled ? perceptible : readable), qPrintable(match.captured()));
+        QVERIFY2(contrast(QColor(match.captured(2)), QColor(match.captured(3))) >=
+                     (disabled ? perceptible : readable),
+                 qPrintable(match.captured()));
         ++checked;
     }
     QVERIFY(checked >= 8);
-
     // The text of a progress bar stands on its filled part too.
-    static const QRegularExpression barText(u"QProgressBar \\{\\s*color: (#\\w{6})"_s);
-    static const QRegularExpression chunk(u"QProgressBar::chunk \\{ background-color: (#\\w{6})"_s);
-    QCOMPARE_GE(
-        contrast(QColor(barText.match(sheet).captured(1)), QColor(chunk.match(sheet).captured(1))),
-        readable);
+    static const QRegularExpression bar(u"QProgressBar \\{\\s*color: (#\\w{6})[^}]*\\}\\s*"
+                                        "QProgressBar::chunk \\{ background-color: (#\\w{6})"_s);
+    const QRegularExpressionMatch match = bar.match(sheet);
+    QCOMPARE_GE(contrast(QColor(match.captured(1)), QColor(match.captured(2))), readable);
 }
 
 QTEST_MAIN(TestPOrvGuiTheme)

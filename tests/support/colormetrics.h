@@ -2,10 +2,9 @@
 
 #include <QColor>
 
-enum class Eyes { Usual, Protanopia, Deuteranopia };
-
 /// The contrast ratio of WCAG 2, from 1 (none) to 21.
 double contrast(const QColor& one, const QColor& other);
 
-/// The distance in CIELAB (1976) as these eyes see the colours. About 2 is just noticeable.
-double difference(const QColor& one, const QColor& other, Eyes eyes = Eyes::Usual);
+/// How different two colours are, in Oklab, for eyes that cannot tell red from green: by lightness
+/// and blueness alone. Black and white are 1 apart; 0.1 is easily seen.
+double difference(const QColor& one, const QColor& other);
