@@ -1,5 +1,5 @@
-# What a program needs beside itself on a Windows machine that has neither Qt nor the compiler: the DLLs of both, and
-# Qt's plugins. They are copied beside the programs of the build tree, and belong to what the review client installs.
+# What a program needs beside itself on a Windows machine that has neither Qt nor the compiler: the DLLs of both and of
+# FFmpeg, and Qt's plugins. They are copied beside the programs of the build tree, and belong to what the review client installs.
 set(runtime)
 foreach(component IN ITEMS Core Gui Widgets Network PrintSupport)
     list(APPEND runtime "$<TARGET_FILE:Qt6::${component}>")
@@ -12,6 +12,11 @@ foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     endif()
     list(APPEND runtime "${file}")
 endforeach()
+if(CORVELGUI_FFMPEG_WINDOWS)
+    file(GLOB ffmpeg "${CORVELGUI_FFMPEG_WINDOWS}/bin/*.dll")
+    list(APPEND runtime ${ffmpeg})
+    install(DIRECTORY "${CORVELGUI_FFMPEG_WINDOWS}/licence/" DESTINATION licences/FFmpeg COMPONENT review)
+endif()
 install(FILES ${runtime} DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT review)
 
 set(plugins)

@@ -1,0 +1,111 @@
+#include "videosource.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+namespace {
+
+// Playing over the end of a file, forwards and backwards, and a glance elsewhere in between.
+constexpr size_t openClips = 3;
+// A picture much older than the instant asked for is no picture of it, whatever the file says.
+constexpr qint64 longestStill = 10'000;
+constexpr QSize largestPicture(3840, 2160);
+
+bool isPicture(const QString& path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    return ending == u"jpg"_s || ending == u"jpeg"_s;
+}
+
+} // namespace
+
+VideoSource::VideoSource(QList<VideoFile> files, qint64 cacheBytes)
+    : m_files(std::move(files)), m_cacheBytes(cacheBytes / qint64(openClips))
+{
+    std::sort(m_files.begin(), m_files.end(),
+              [](const VideoFile& a, const VideoFile& b) { return a.begin < b.begin; });
+}
+
+VideoSource::~VideoSource() = default;
+
+const VideoFile* VideoSource::fileAt(qint64 instant) const
+{
+    auto file = std::upper_bound(
+        m_files.begin(), m_files.end(), instant,
+        [](qint64 msecs, const VideoFile& candidate) { return msecs < candidate.begin; });
+    // A few files back at most: what overlaps further than that is a strange archive.
+    for (int i = 0; i < 8 && file != m_files.begin(); ++i)
+        if (--file; instant < file->end)
+            return &*file;
+    return nullptr;
+}
+
+Clip* VideoSource::clipOf(const VideoFile& file, QString& fault)
+{
+    auto open = std::find_if(m_open.begin(), m_open.end(),
+                             [&file](const OpenClip& clip) { return clip.path == file.path; });
+    if (open == m_open.end()) {
+        OpenClip added{file.path, nullptr, {}};
+        added.clip = Clip::open(file.path, m_cacheBytes, m_aborted, added.fault);
+        if (m_open.size() == openClips)
+            m_open.pop_back();
+        open = m_open.insert(m_open.begin(), std::move(added));
+    } else {
+        std::rotate(m_open.begin(), open, std::next(open));
+        open = m_open.begin();
+    }
+    fault = open->fault;
+    return open->clip.get();
+}
+
+VideoFrame VideoSource::frameAt(qint64 instant, Clip::Accuracy accuracy)
+{
+    const VideoFile* file = fileAt(instant);
+    if (!file)
+        return {.asked = instant};
+    if (isPicture(file->path))
+        return pictureOf(*file, instant);
+
+    VideoFrame frame{.state = VideoFrame::State::Fault, .asked = instant};
+    Clip* clip = clipOf(*file, frame.text);
+    if (!clip)
+        return frame;
+    const qint64 inClip = instant - file->begin + file->offset;
+    std::optional<ClipPicture> picture = clip->pictureAt(inClip, accuracy);
+    const bool isCut = picture && !picture->until && inClip - picture->time > longestStill;
+    if (!picture || isCut) {
+        frame.text =
+            QCoreApplication::translate("Review::VideoSource", "The file ends before this time.");
+        return frame;
+    }
+    frame.state = VideoFrame::State::Picture;
+    frame.image = std::move(picture->image);
+    frame.time = file->begin - file->offset + picture->time;
+    return frame;
+}
+
+VideoFrame VideoSource::pictureOf(const VideoFile& file, qint64 instant) const
+{
+    QImageReader reader(file.path);
+    reader.setAutoTransform(true);
+    if (const QSize size = reader.size();
+        size.width() > largestPicture.width() || size.height() > largestPicture.height())
+        reader.setScaledSize(size.scaled(largestPicture, Qt::KeepAspectRatio));
+    VideoFrame frame{.asked = instant, .time = file.begin};
+    frame.image = reader.read();
+    frame.state = frame.image.isNull() ? VideoFrame::State::Fault : VideoFrame::State::Picture;
+    if (frame.image.isNull())
+        frame.text = reader.errorString();
+    return frame;
+}
+
+} // namespace Review

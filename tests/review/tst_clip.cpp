@@ -1,0 +1,187 @@
+#include "numberedclip.h"
+#include "video/clip.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace NumberedClip;
+using namespace Review;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int count = 300;
+constexpr qint64 cacheBytes = 64 * size.width() * size.height() * 3 / 2;
+
+/// Not every container keeps times to the millisecond: the middle of a picture's time is safe.
+constexpr qint64 middleOf(int number)
+{
+    return qint64(number) * frameLength + frameLength / 2;
+}
+
+} // namespace
+
+class TestClip : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rightPicture_data();
+    void rightPicture();
+    void keyFrames();
+    void creationTime();
+    void faults_data();
+    void faults();
+    void vanishing();
+
+private:
+    std::unique_ptr<Clip> open(const QString& path, qint64 bytes = cacheBytes)
+    {
+        return Clip::open(path, bytes, m_aborted, m_fault);
+    }
+
+    QTemporaryDir m_folder;
+    std::atomic<bool> m_aborted = false;
+    QString m_fault;
+};
+
+void TestClip::rightPicture_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("encoder");
+    QTest::addColumn<int>("bFrames");
+    QTest::addColumn<bool>("seeks");
+    const auto row = [](const char* title, const QString& name, const char* encoder, int bFrames,
+                        bool seeks = true) {
+        QTest::newRow(title) << name << QByteArray(encoder) << bFrames << seeks;
+    };
+    row("H.264 with B-frames", u"10:15:00.mp4"_s, "libx264", 2);
+    row("HEVC", u"hevc.mkv"_s, "libx265", 3);
+    row("MJPEG", u"mjpeg.avi"_s, "mjpeg", 0);
+    row("transport stream", u"stream.ts"_s, "libx264", 2);
+    row("MPEG-4", u"K\u00fcche.mp4"_s, "mpeg4", 0);
+    row("without times after a seek", u"b.avi"_s, "libx264", 2, false);
+}
+
+// Forwards, backwards and at random, the picture is the one that was recorded then.
+void TestClip::rightPicture()
+{
+    QFETCH(QString, name);
+    QFETCH(const QByteArray, encoder);
+    QFETCH(const int, bFrames);
+    QFETCH(const bool, seeks);
+
+#ifdef Q_OS_WIN
+    name.remove(u':');
+#endif
+    const QString path = m_folder.filePath(name);
+    const QString unwritten = NumberedClip::write(
+        path, count,
+        {.encoder = encoder, .bFrames = bFrames, .quantizer = encoder.startsWith("lib") ? 0 : 4});
+    if (!unwritten.isEmpty())
+        QSKIP("The codec library here cannot write such a file.");
+    const std::unique_ptr<Clip> clip = open(path);
+    QVERIFY2(clip, qPrintable(m_fault));
+
+    const auto isRight = [&](qint64 time, int expected) {
+        const std::optional<ClipPicture> picture = clip->pictureAt(time);
+        return picture && numberOf(picture->image) == expected && picture->time <= time &&
+               (!picture->until || time < *picture->until);
+    };
+    for (int i = 0; i < count; ++i)
+        QVERIFY2(isRight(middleOf(i), i), qPrintable(QString::number(i)));
+    for (int i = count - 1; i >= 0; --i)
+        QVERIFY2(isRight(middleOf(i), i), qPrintable(QString::number(i)));
+    bool isNumber = false;
+    const int wanted = qEnvironmentVariableIntValue("CORVELGUI_RANDOM_INSTANTS", &isNumber);
+    const int rounds = !seeks ? 20 : isNumber ? wanted : 100;
+    QRandomGenerator random(17);
+    for (int round = 0; round < rounds; ++round) {
+        const int number = random.bounded(count);
+        QVERIFY2(isRight(middleOf(number) + random.bounded(-10, 10), number),
+                 qPrintable(QString::number(number)));
+    }
+    QVERIFY(isRight(qint64(count) * frameLength * 10, count - 1));
+    QVERIFY(!clip->pictureAt(-1));
+}
+
+void TestClip::keyFrames()
+{
+    const QString path = m_folder.filePath(u"keys.mp4"_s);
+    QCOMPARE(NumberedClip::write(path, count, {.keyFrameDistance = 25}), QString());
+    const std::unique_ptr<Clip> clip = open(path);
+    for (const int number : {26, 24, 299, 75, 74, 0}) {
+        const auto picture = clip->pictureAt(middleOf(number), Clip::Accuracy::KeyFrame);
+        QVERIFY(picture);
+        QCOMPARE(numberOf(picture->image), number / 25 * 25);
+    }
+    QCOMPARE(numberOf(clip->pictureAt(middleOf(76))->image), 76);
+}
+
+void TestClip::creationTime()
+{
+    constexpr qint64 recorded = 1'795'000'000'000;
+    const QString path = m_folder.filePath(u"dated.mp4"_s);
+    QCOMPARE(NumberedClip::write(path, 2, {.creationTime = recorded}), QString());
+    QCOMPARE(open(path)->creationTime(), std::optional(recorded));
+}
+
+void TestClip::faults_data()
+{
+    QTest::addColumn<double>("part"); // of the file that is left
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("empty") << 0.0 << false;
+    QTest::newRow("a few bytes") << 0.0001 << false;
+    QTest::newRow("half") << 0.5 << true;
+}
+
+// A file that is cut off plays to the cut, or says that it cannot.
+void TestClip::faults()
+{
+    QFETCH(const double, part);
+    QFETCH(const bool, opens);
+
+    const QString path = m_folder.filePath(u"cut.mkv"_s);
+    QCOMPARE(NumberedClip::write(path, count), QString());
+    QFile file(path);
+    QVERIFY(file.resize(qint64(part * double(file.size()))));
+
+    m_fault.clear();
+    const std::unique_ptr<Clip> clip = open(path);
+    QCOMPARE(clip != nullptr, opens);
+    QCOMPARE(m_fault.isEmpty(), opens);
+    if (!opens)
+        return;
+    QCOMPARE(numberOf(clip->pictureAt(middleOf(100))->image), 100);
+    const auto last = clip->pictureAt(middleOf(count));
+    QVERIFY(last && !last->until);
+    const int lastNumber = numberOf(last->image);
+    QVERIFY2(lastNumber > 120 && lastNumber < 180, qPrintable(QString::number(lastNumber)));
+    m_aborted = true;
+    QVERIFY(!clip->pictureAt(0));
+    m_aborted = false;
+}
+
+// Going back to the begin opens a file again where it cannot be sought.
+void TestClip::vanishing()
+{
+    const QString path = m_folder.filePath(u"vanishing.mp4"_s);
+    const auto write = [&] {
+        return NumberedClip::write(path, count);
+    };
+    QCOMPARE(write(), QString());
+    constexpr qint64 littleMemory = 1;
+    const std::unique_ptr<Clip> clip = open(path, littleMemory);
+    QVERIFY(clip->pictureAt(middleOf(200)));
+    if (!QFile::remove(path))
+        QSKIP("A file that is open cannot be removed here.");
+    QVERIFY(!clip->pictureAt(0));
+    QVERIFY(!clip->pictureAt(middleOf(250)));
+    QCOMPARE(write(), QString());
+    QCOMPARE(numberOf(clip->pictureAt(middleOf(250))->image), 250);
+}
+
+QTEST_GUILESS_MAIN(TestClip)
+#include "tst_clip.moc"

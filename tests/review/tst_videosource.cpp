@@ -1,0 +1,128 @@
+#include "numberedclip.h"
+#include "video/cameradecoder.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace NumberedClip;
+using namespace Review;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 cacheBytes = 10'000'000;
+constexpr int count = 500;
+constexpr qint64 begin = 1'795'000'000'000;
+constexpr qint64 length = qint64(count) * frameLength; // 20 seconds
+
+} // namespace
+
+class TestVideoSource : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void frames_data();
+    void frames();
+    void newestWins();
+    void deletionEndsTheThread();
+
+private:
+    /// The clip, from its third second on; a gap of a second; the clip from its begin on, said to
+    /// last longer than it does; a picture; and three files with faults.
+    QList<VideoFile> files() const;
+
+    QTemporaryDir m_folder;
+    QString m_clip;
+};
+
+void TestVideoSource::initTestCase()
+{
+    m_clip = m_folder.filePath(u"clip.mp4"_s);
+    QCOMPARE(NumberedClip::write(m_clip, count), QString());
+    QVERIFY(picture(77).save(m_folder.filePath(u"picture.JPG"_s), "JPG", 95));
+    for (const QString& name : {u"empty.mp4"_s, u"empty.jpg"_s}) {
+        QFile file(m_folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+}
+
+QList<VideoFile> TestVideoSource::files() const
+{
+    const auto at = [](int second) {
+        return begin + qint64(second) * 1000;
+    };
+    return {{m_folder.filePath(u"missing.mp4"_s), at(84), at(85), 0},
+            {m_folder.filePath(u"empty.mp4"_s), at(82), at(83), 0},
+            {m_folder.filePath(u"empty.jpg"_s), at(83), at(84), 0},
+            {m_folder.filePath(u"picture.JPG"_s), at(80), at(82), 0},
+            {m_clip, at(0), at(17), 3000},
+            {m_clip, at(18), at(78), 0}};
+}
+
+void TestVideoSource::frames_data()
+{
+    QTest::addColumn<qint64>("after"); // milliseconds since the begin
+    QTest::addColumn<VideoFrame::State>("state");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<qint64>("time");
+    const auto row = [](const char* name, qint64 after, int number, qint64 time) {
+        QTest::newRow(name) << after << VideoFrame::State::Picture << number << time;
+    };
+    const auto none = [](const char* name, qint64 after, VideoFrame::State state) {
+        QTest::newRow(name) << after << state << 0 << qint64(0);
+    };
+    row("begin, which is within the clip", 0, 75, 0);
+    row("between two pictures", 1'079, 101, 1'040);
+    row("last of the first stretch", 16'999, 499, 16'960);
+    row("second stretch", 18'000, 0, 18'000);
+    row("last picture, shown a little longer", 18'000 + length + 1000, 499, 18'000 + length - 40);
+    row("picture file", 81'000, 77, 80'000);
+    none("before all", -1, VideoFrame::State::NoRecording);
+    none("gap", 17'000, VideoFrame::State::NoRecording);
+    none("after all", 85'000, VideoFrame::State::NoRecording);
+    none("shorter than said", 18'000 + length + 20'000, VideoFrame::State::Fault);
+    none("empty clip", 82'000, VideoFrame::State::Fault);
+    none("empty picture", 83'000, VideoFrame::State::Fault);
+    none("missing clip", 84'000, VideoFrame::State::Fault);
+}
+
+void TestVideoSource::frames()
+{
+    QFETCH(const qint64, after);
+    VideoSource source(files(), cacheBytes);
+    const VideoFrame frame = source.frameAt(begin + after);
+    QTEST(frame.state, "state");
+    QCOMPARE(frame.asked, begin + after);
+    QCOMPARE(frame.text.isEmpty(), frame.state != VideoFrame::State::Fault);
+    if (frame.state != VideoFrame::State::Picture)
+        return;
+    QTEST(numberOf(frame.image), "number");
+    QTEST(frame.time - begin, "time");
+}
+
+void TestVideoSource::newestWins()
+{
+    CameraDecoder decoder(files(), cacheBytes);
+    QList<qint64> answers;
+    connect(&decoder, &CameraDecoder::frameReady, this, [&](const VideoFrame& frame) {
+        QVERIFY(QThread::currentThread() == thread());
+        answers.append(frame.asked - begin);
+    });
+    for (const qint64 after : {9'000, 1'000, 5'000, 3'000})
+        decoder.request(begin + after, Clip::Accuracy::Exact);
+    QTRY_VERIFY(!decoder.isBusy());
+    QCOMPARE(answers, (QList<qint64>{9'000, 3'000}));
+}
+
+// Nothing is left of it, which sanitizers see.
+void TestVideoSource::deletionEndsTheThread()
+{
+    auto decoder = std::make_unique<CameraDecoder>(files(), cacheBytes);
+    decoder->request(begin + 16'000, Clip::Accuracy::Exact);
+    decoder.reset();
+}
+
+QTEST_GUILESS_MAIN(TestVideoSource)
+#include "tst_videosource.moc"
