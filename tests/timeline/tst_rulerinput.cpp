@@ -1,179 +1,14 @@
-#include "indicator.h"
-#include "loggedruler.h"
+#include "rulerscript.h"
 #include "testsupport.h"
 
-#include <QPointer>
-#include <QRegularExpression>
+#include <QPointingDevice>
 #include <QSignalSpy>
 #include <QTimer>
-#include <QWheelEvent>
-
-#include <functional>
-#include <map>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Sends a mouse event to the widget at a place of the ruler, or to its indicator.
-bool mouse(LoggedRuler& ruler, const QString& kind, const QString& place)
-{
-    struct Kind
-    {
-        QEvent::Type type;
-        Qt::MouseButton button;
-        Qt::MouseButtons buttons;
-    };
-    static const std::map<QString, Kind> kinds{
-        {u"press"_s, {QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton}},
-        {u"press-again"_s, {QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton}},
-        {u"press-right"_s, {QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton}},
-        {u"drag"_s, {QEvent::MouseMove, Qt::NoButton, Qt::LeftButton}},
-        {u"hover"_s, {QEvent::MouseMove, Qt::NoButton, Qt::NoButton}},
-        {u"release"_s, {QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton}},
-        {u"release-right"_s, {QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton}},
-    };
-    const auto known = kinds.find(kind);
-    if (known == kinds.end())
-        return false;
-    const QStringList words = place.split(u' ');
-    const QStringList xy = words.back().split(u',');
-    // A y of +n is that far below the area of previews.
-    const int y = xy.size() < 2 ? 30 : xy[1].toInt() + (xy[1][0] == u'+' ? ruler.height() / 2 : 0);
-    const QPoint position(xy[0].toInt(), y);
-    QWidget* target = &ruler;
-    if (words.front() == u"indicator")
-        target = ruler.findChild<Indicator*>();
-    else if (words.front() == u"arrow")
-        target = ruler.childAt(position);
-    const auto& [type, button, buttons] = known->second;
-    QMouseEvent event(type, target->mapFrom(&ruler, position), ruler.mapToGlobal(position), button,
-                      buttons, Qt::NoModifier);
-    QApplication::sendEvent(target, &event);
-    return true;
-}
-
-void send(QWidget& widget, QEvent&& event)
-{
-    QApplication::sendEvent(&widget, &event);
-}
-
-void turnWheel(QWidget& widget, int angle)
-{
-    const QPointF position(255, 30);
-    QWheelEvent event(position, widget.mapToGlobal(position), {}, QPoint(0, angle), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
-    QVERIFY(event.isAccepted());
-}
-
-void strike(QWidget& widget, const QString& keys)
-{
-    const QKeyCombination key = QKeySequence(keys)[0];
-    QTest::keyClick(&widget, key.key(), key.keyboardModifiers());
-}
-
-using R = LoggedRuler;
-using S = const QString&;
-
-/// What else a user, the desktop and the client do, with an argument.
-const std::map<QString, std::function<void(R&, S)>> verbs{
-    {u"wheel"_s,
-     [](R& r, S angle) {
-         turnWheel(r, angle.toInt());
-     }},
-    {u"key"_s,
-     [](R& r, S keys) {
-         strike(r, keys);
-     }},
-    {u"leave"_s,
-     [](R& r, S) {
-         leaveMouse(r);
-     }},
-    {u"hide"_s,
-     [](R& r, S) {
-         r.hide();
-     }},
-    {u"other-window"_s,
-     [](R& r, S) {
-         send(r, QEvent(QEvent::WindowDeactivate));
-     }},
-    {u"modal-window"_s,
-     [](R& r, S) {
-         send(r, QEvent(QEvent::WindowBlocked));
-     }},
-    {u"popup"_s,
-     [](R& r, S) {
-         send(r, QFocusEvent(QEvent::FocusOut, Qt::PopupFocusReason));
-     }},
-    {u"turn"_s,
-     [](R&, S) {
-         QCoreApplication::processEvents();
-     }},
-    {u"disable"_s,
-     [](R& r, S) {
-         r.setEnabled(false);
-     }},
-    {u"block"_s,
-     [](R& r, S) {
-         r.setActive(true, true);
-     }},
-    {u"deactivate"_s,
-     [](R& r, S) {
-         r.setActive(false, false);
-     }},
-    {u"result"_s,
-     [](R& r, S) {
-         r.setResultMode(true);
-     }},
-    {u"previews"_s,
-     [](R& r, S) {
-         r.setPreviewEnabled(true);
-     }},
-    {u"reports"_s,
-     [](R& r, S) {
-         r.setIndicatorDragEnabled(true);
-     }},
-    {u"level"_s,
-     [](R& r, S level) {
-         r.changeLevel(level.toInt(), 0.5);
-     }},
-    {u"offset"_s,
-     [](R& r, S position) {
-         r.onTimelineOffsetChanged(position.toDouble());
-     }},
-    {u"hour"_s,
-     [](R& r, S hour) {
-         r.onTimelineOffsetChanged((hour.toInt() + 0.5) / 240);
-     }},
-    {u"place"_s,
-     [](R& r, S time) {
-         r.setIndicatorPosition(at(time.toInt() * second));
-     }},
-    {u"marker"_s,
-     [](R& r, S time) {
-         r.onAddMarkers({{.time = timeAt(time.toInt() * second)}});
-     }},
-    // Writes down where the indicator stands.
-    {u"where"_s,
-     [](R& r, S) {
-         r.log << u"at %1"_s.arg((qint64(r.getIndicatorMSecs()) - monday) / second);
-     }},
-};
-
-/// Plays what is done, one after the other, while the ruler lives. Returns what it said.
-QString play(LoggedRuler* ruler, const QString& script)
-{
-    const QPointer<LoggedRuler> alive(ruler);
-    for (const QString& step : script.split(u"; "_s, Qt::SkipEmptyParts)) {
-        const QString verb = step.section(u' ', 0, 0);
-        const QString argument = step.section(u' ', 1);
-        if (alive && !mouse(*ruler, verb, argument))
-            verbs.at(verb)(*ruler, argument);
-    }
-    return alive ? ruler->takeLog().join(u" | "_s) : QString();
-}
 
 /// The ruler's timers that run.
 int runningTimers(const Ruler& ruler)
@@ -196,7 +31,6 @@ private Q_SLOTS:
     void heldArrow();
     void fingers();
     void previewComesAndGoes();
-    void previewLineReports();
     void neighbours();
     void assistiveTechnology();
     void deletionInSignals();
@@ -206,10 +40,7 @@ void TestRulerInput::hands()
 {
     QApplication::setStartDragDistance(10);
     const QString keys = u"marker 10800; marker 19920; hour 5; place 19800"_s;
-    const struct
-    {
-        QString setUp, script, log;
-    } cases[] = {
+    const RulerCase cases[] = {
         // Clicks; the margin is no part of the scale
         {{}, u"press 510; release 510"_s, u"indicator 1800"_s},
         {{}, u"press 10; release 10"_s, {}},
@@ -219,7 +50,7 @@ void TestRulerInput::hands()
         {{}, u"press-right 510; release-right 510"_s, {}},
         {{}, u"press 510; press-right 510; release-right 510; release 510"_s, {}},
         {{}, u"press 500; drag 509; release 510"_s, u"indicator 1800"_s},
-        {u"result"_s, u"press 510; release 510"_s, {}},
+        {u"results"_s, u"press 510; release 510"_s, {}},
         {u"offset 1.5"_s, u"press 510; release 510"_s, {}},
         {u"block"_s,
          u"press 510; release 510; press 510; drag 300; release 300; wheel 120; key Right"_s,
@@ -251,6 +82,11 @@ void TestRulerInput::hands()
         {u"hour 5"_s, u"press-again arrow 1017; release arrow 1017; release arrow 1017"_s,
          u"center 0.02326 | view 02 05:04 - 02 06:05 moving | view 02 05:04 - 02 06:05"_s},
         {u"hour 5"_s, u"press-right arrow 1017; release-right arrow 1017"_s, {}},
+        {u"block"_s, u"press arrow 1017; release arrow 1017"_s, {}},
+        {u"deactivate"_s, u"press arrow 1017; release arrow 1017"_s, {}},
+        // A last step beyond the limits, then none
+        {u"hour 0.04"_s, u"press arrow 2; release arrow 2; press arrow 2; release arrow 2"_s,
+         u"center 0.001903 | view 02 00:00 - 02 00:57 moving | view 02 00:00 - 02 00:57 | view 02 00:00 - 02 00:57"_s},
         {u"offset 1.0"_s, u"press arrow 1017; release arrow 1017"_s, u"view 11 23:29 - 12 00:30"_s},
         {u"key End"_s, u"press arrow 1017; release arrow 1017"_s,
          u"center 0.9983 | view 11 23:04 - 12 00:05 moving | view 11 23:04 - 12 00:05"_s},
@@ -286,16 +122,10 @@ void TestRulerInput::hands()
         {{}, u"hover 510,5; leave"_s, {}},
         {{}, u"hover 510,5; leave; leave; turn"_s, u"no preview"_s},
         {u"block; previews"_s, u"hover 510,5; block"_s, {}},
-    };
-    for (const auto& [setUp, script, log] : cases) {
-        LoggedRuler ruler;
-        play(&ruler, setUp);
-        const QString name = setUp + u" - "_s + script + u": "_s;
-        QString said = play(&ruler, script);
-        // What comes into view is reported in between.
-        said.remove(QRegularExpression(u"new [^|]*\\| "_s));
-        QCOMPARE(name + said, name + log);
-    }
+        {u"previews; hover 510,5"_s, u"enter arrow 1017; turn"_s, u"no preview"_s},
+        {{}, u"line 1800; turn; line 432000; turn"_s, u"line 510,-1 | line 1015,-1"_s}};
+    for (const RulerCase& expected : cases)
+        comparePlay(expected);
 }
 
 void TestRulerInput::lostReleases()
@@ -399,6 +229,8 @@ void TestRulerInput::previewComesAndGoes()
     play(&ruler, u"previews; hover 510,5"_s);
     QTRY_COMPARE(ruler.log, QStringList{u"preview 1800 at 510"_s});
     ruler.takeLog();
+    // The column at which a preview was asked for is known.
+    QCOMPARE(play(&ruler, u"line 1800; turn"_s), QString());
     ruler.onPreviewVisible(true, false);
     moveMouse(ruler, QPoint(610, 5));
     QTRY_COMPARE(ruler.log, QStringList{u"preview 2160 at 610"_s});
@@ -409,33 +241,12 @@ void TestRulerInput::previewComesAndGoes()
     QCOMPARE(runningTimers(ruler), 0);
 
     // Without previews there is no line either.
-    ruler.setPreviewIndicatorPosition(at(30 * minute));
     const auto lineColor = [&ruler] {
         return ruler.grab().toImage().pixelColor(510, 50);
     };
     const QColor withLine = lineColor();
     ruler.setPreviewEnabled(false);
     QVERIFY(lineColor() != withLine);
-}
-
-void TestRulerInput::previewLineReports()
-{
-    LoggedRuler ruler;
-    ruler.setPreviewIndicatorPosition(at(30 * minute));
-    QCOMPARE(ruler.log, QStringList());
-    QTRY_COMPARE(ruler.log, QStringList{u"line 510,-1"_s});
-    ruler.takeLog();
-    ruler.setPreviewIndicatorPosition(at(5 * day));
-    QTRY_COMPARE(ruler.log, QStringList{u"line 1015,-1"_s});
-    ruler.takeLog();
-
-    // The column at which the last preview was asked for is known already.
-    play(&ruler, u"previews; hover 510,5"_s);
-    QTRY_COMPARE(ruler.log, QStringList{u"preview 1800 at 510"_s});
-    ruler.takeLog();
-    ruler.setPreviewIndicatorPosition(at(30 * minute));
-    ruler.setPreviewIndicatorPosition(0);
-    QCOMPARE(play(&ruler, u"turn"_s), QString());
 }
 
 void TestRulerInput::neighbours()
@@ -484,49 +295,32 @@ void TestRulerInput::assistiveTechnology()
 
 void TestRulerInput::deletionInSignals()
 {
-    using Act = std::function<void(LoggedRuler*)>;
-    const auto script = [](const QString& text) -> Act {
-        return [text](LoggedRuler* ruler) {
-            play(ruler, text);
-        };
-    };
-    const std::vector<Act> acts{
-        [](LoggedRuler* ruler) { ruler->setTimeLimits(at(day), at(9 * day)); },
-        [](LoggedRuler* ruler) {
-            ruler->setResultTimeRange(timeAt(day), timeAt(2 * day), true, true, true, true);
-        },
-        script(u"level 3"_s),
-        script(u"place 432000"_s),
-        script(u"marker 60"_s),
-        script(u"press 510; release 510"_s),
-        script(u"wheel -120"_s),
-        script(u"key End"_s),
-        script(u"press arrow 1017; release arrow 1017"_s),
-        script(u"press 600; drag 300; release 300"_s),
-        script(
-            u"place 1800; reports; press indicator 510,5; drag indicator 610,5; release indicator 610,5"_s),
-        script(u"press arrow 1017; hide; turn"_s),
-        script(u"place 1800; press indicator 510,5; drag indicator 610,5; block"_s),
-        script(u"leave; turn"_s),
-    };
-    for (const Act& act : acts) {
+    const QString acts[] = {
+        u"limits 24h 216h"_s,
+        u"result 24h 48h"_s,
+        u"level 3"_s,
+        u"place 120h"_s,
+        u"marker 60"_s,
+        u"press 510; release 510"_s,
+        u"wheel -120"_s,
+        u"key End"_s,
+        u"press arrow 1017; release arrow 1017"_s,
+        u"press 600; drag 300; release 300"_s,
+        u"place 1800; reports; press indicator 510,5; drag indicator 610,5; release indicator 610,5"_s,
+        u"press arrow 1017; hide; turn"_s,
+        u"place 1800; press indicator 510,5; drag indicator 610,5; block"_s,
+        u"leave; turn"_s};
+    for (const QString& act : acts) {
         // Whatever signal comes first, second and so on deletes the ruler.
         for (int survived = 0; survived < 6; ++survived) {
             QPointer<LoggedRuler> ruler = new LoggedRuler;
             int count = 0;
-            const auto mayDelete = [&] {
+            ruler->said = [&] {
                 if (count++ == survived)
                     delete ruler;
             };
-            QObject context;
-            connect(ruler, &Ruler::changeSliderZoom, &context, mayDelete);
-            connect(ruler, &Ruler::centerPositionChanged, &context, mayDelete);
-            connect(ruler, &Ruler::timeLineViewChanged, &context, mayDelete);
-            connect(ruler, &Ruler::indicatorPositionChanged, &context, mayDelete);
-            connect(ruler, &Ruler::heldChanged, &context, mayDelete);
-            connect(ruler, &Ruler::newVisibleRulerMarkers, &context, mayDelete);
-            connect(ruler, &Ruler::previewPositionChanged, &context, mayDelete);
-            act(ruler);
+            connect(ruler, &Ruler::heldChanged, this, ruler->said);
+            play(ruler, act);
             QVERIFY(count > 0);
             QCOMPARE(ruler.isNull(), count > survived);
             delete ruler;

@@ -54,14 +54,6 @@ QString symbols(const Ruler& ruler)
     return result.join(u' ');
 }
 
-void enterMouse(QWidget& widget)
-{
-    const QPoint position(8, 8);
-    QEnterEvent event(position, widget.mapTo(widget.window(), position),
-                      widget.mapToGlobal(position));
-    QApplication::sendEvent(&widget, &event);
-}
-
 QColor middleColor(QWidget* button)
 {
     return button->parentWidget()->grab().toImage().pixelColor(button->geometry().center());
