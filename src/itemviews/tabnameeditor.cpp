@@ -6,7 +6,7 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr int longestName = 100;
+constexpr int longestTabName = 100;
 
 bool isEnter(int key)
 {
@@ -17,7 +17,7 @@ bool isEnter(int key)
 
 TabNameEditor::TabNameEditor(const QString& name, QWidget* parent) : QLineEdit(parent)
 {
-    setMaxLength(std::max(longestName, int(name.size())));
+    setMaxLength(std::max(longestTabName, int(name.size())));
     setText(name);
     // Seen when the editor is empty: the name that stays.
     setPlaceholderText(name);

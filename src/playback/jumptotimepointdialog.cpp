@@ -28,7 +28,7 @@ namespace CorvelGui {
 namespace {
 
 constexpr QSize headerIconSize(32, 32);
-constexpr int longestName = 40; // in average characters
+constexpr int longestZoneName = 40; // in average characters
 
 bool isEnter(const QKeyEvent* event)
 {
@@ -115,7 +115,7 @@ void JumpToTimepointDialog::setDeviceName(const QString& name)
 {
     const QFontMetrics metrics(d->ui.labelName->font());
     d->ui.labelName->setText(
-        metrics.elidedText(name, Qt::ElideMiddle, longestName * metrics.averageCharWidth()));
+        metrics.elidedText(name, Qt::ElideMiddle, longestZoneName * metrics.averageCharWidth()));
 }
 
 void JumpToTimepointDialog::setDateFormat(const QString& format)

@@ -26,7 +26,7 @@ constexpr double turnEnd = 1.2;
 constexpr int sixteenthsOfTurn = 360 * 16;
 
 constexpr int ringSize = 80;
-constexpr int penWidth = 12;
+constexpr int ringWidth = 12;
 
 constexpr QColor dimming(100, 100, 100, 100);
 constexpr QColor imageDimming(100, 100, 100, 20);
@@ -100,7 +100,7 @@ void BusyIndicator::onTimeOut()
     if (d->progress > turnEnd)
         d->progress = longestArc;
     // What lies below is painted with it, so only where something moves.
-    constexpr int border = penWidth / 2 + rimWidth + 1;
+    constexpr int border = ringWidth / 2 + rimWidth + 1;
     const QRect moving = ringRect(this).adjusted(-border, -border, border, border);
     repaint(std::exchange(d->backgroundIsStale, false) ? rect() : moving);
 }
@@ -200,10 +200,10 @@ void BusyIndicator::paintRing(QPainter& painter) const
     const QRect ring = ringRect(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (palette().color(QPalette::Window).lightness() < trackColor.lightness() * 2) {
-        painter.setPen(QPen(rimColor, penWidth + 2 * rimWidth));
+        painter.setPen(QPen(rimColor, ringWidth + 2 * rimWidth));
         painter.drawEllipse(ring);
     }
-    painter.setPen(QPen(trackColor, penWidth));
+    painter.setPen(QPen(trackColor, ringWidth));
     painter.drawEllipse(ring);
 
     // Negative angles run clockwise from three o'clock.
@@ -211,7 +211,7 @@ void BusyIndicator::paintRing(QPainter& painter) const
         d->finished ? 0 : int(std::min(longestArc - d->progress, 0.0) * sixteenthsOfTurn);
     const int span =
         d->finished ? sixteenthsOfTurn : int(std::min(d->progress, longestArc) * -sixteenthsOfTurn);
-    painter.setPen(QPen(arcColor, penWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(arcColor, ringWidth, Qt::SolidLine, Qt::FlatCap));
     painter.drawArc(ring, start, span);
 }
 

@@ -1,5 +1,7 @@
 #include "calendarticks.h"
 
+#include "durations.h"
+
 #include <QDateTime>
 #include <QLocale>
 
@@ -13,11 +15,6 @@ using namespace Qt::StringLiterals;
 namespace CorvelGui {
 
 namespace {
-
-constexpr qint64 second = 1000;
-constexpr qint64 minute = 60 * second;
-constexpr qint64 hour = 60 * minute;
-constexpr qint64 day = 24 * hour;
 
 constexpr double labelOffset = 2.0; // pixels from a tick to its text
 constexpr double labelGap = 8.0;    // between two texts
@@ -140,10 +137,11 @@ std::vector<Stretch> stretches(qint64 from, qint64 to, const ClockChanges& clock
     return result;
 }
 
-class Layouter
+class CalendarLayouter
 {
 public:
-    Layouter(const CalendarView& view, const ClockChanges& clock, const CalendarStyle& style)
+    CalendarLayouter(const CalendarView& view, const ClockChanges& clock,
+                     const CalendarStyle& style)
         : m_view(view)
         , m_clock(clock)
         , m_style(style)
@@ -407,7 +405,7 @@ CalendarScale layOutCalendar(const CalendarView& view, const ClockChanges& clock
 {
     if (!(view.msecsPerPixel > 0) || view.right <= view.left)
         return {};
-    return Layouter(view, clock, style).layOut();
+    return CalendarLayouter(view, clock, style).layOut();
 }
 
 } // namespace CorvelGui

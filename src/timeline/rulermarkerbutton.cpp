@@ -14,7 +14,7 @@ namespace CorvelGui {
 namespace {
 
 constexpr QSize initialIconSize(16, 16);
-constexpr QSize initialSize(16, 18);
+constexpr QSize initialButtonSize(16, 18);
 
 } // namespace
 
@@ -26,7 +26,7 @@ RulerMarkerButton::RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* r
     setMouseTracking(true);
     setCursor(Qt::PointingHandCursor);
     setIconSize(initialIconSize);
-    setFixedSize(initialSize);
+    setFixedSize(initialButtonSize);
 }
 
 QString RulerMarkerButton::plainToolTip(const QString& text)

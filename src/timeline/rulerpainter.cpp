@@ -21,7 +21,6 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr double halfMargin = TimeScale::halfMargin();
 constexpr double penWidth = 1.0;
 
 QRectF headerBand(const RulerScene& scene)
@@ -84,7 +83,8 @@ void RulerPainter::paint(QPainter& painter, const RulerScene& scene) const
     fillTracks(painter, scene);
 
     const qint64 toMidnight = msecsToMidnight(scene.scale);
-    const QRectF rect = QRectF(scene.rect).adjusted(halfMargin, 0, -halfMargin, 0);
+    const QRectF rect =
+        QRectF(scene.rect).adjusted(TimeScale::halfMargin(), 0, -TimeScale::halfMargin(), 0);
     if (scene.scale.totalDuration() == 0)
         return;
     shadeOutsideLimits(painter, scene, rect);
@@ -104,7 +104,7 @@ void RulerPainter::fillSearchRange(QPainter& painter, const RulerScene& scene) c
 {
     if (scene.scale.totalDuration() == 0 || !scene.searchRange)
         return;
-    const double x1 = std::max(scene.scale.xAt(scene.searchRange->begin), halfMargin);
+    const double x1 = std::max(scene.scale.xAt(scene.searchRange->begin), TimeScale::halfMargin());
     const double x2 = std::min(scene.scale.xAt(scene.searchRange->end), scene.scale.sightEnd());
     if (x2 <= x1)
         return;
@@ -117,7 +117,7 @@ void RulerPainter::fillSearchRange(QPainter& painter, const RulerScene& scene) c
 void RulerPainter::fillTracks(QPainter& painter, const RulerScene& scene) const
 {
     const DeviceGrid grid(painter);
-    const double left = std::round(halfMargin);
+    const double left = std::round(TimeScale::halfMargin());
     const double right = std::max(std::round(scene.scale.sightEnd()), left + 1);
     const auto fill = [&](const TrackSegmentList& segments, const QBrush& brush) {
         for (const TrackSegment& segment : segments) {
@@ -136,7 +136,7 @@ void RulerPainter::shadeOutsideLimits(QPainter& painter, const RulerScene& scene
     const DeviceGrid grid(painter);
     const TimeScale& scale = scene.scale;
     const auto shadeWidth = [&](qint64 msecs) {
-        return std::trunc(scale.lengthPerMillisecond() * msecs) + halfMargin;
+        return std::trunc(scale.lengthPerMillisecond() * msecs) + TimeScale::halfMargin();
     };
     if (scale.beginLimitMs() >= scale.viewStartMs()) {
         const double width = shadeWidth(scale.beginLimitMs() - scale.viewStartMs());
@@ -156,7 +156,7 @@ void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
     if (!scene.previewTime)
         return;
     const double x = scene.scale.xAt(*scene.previewTime);
-    const double inView = std::min(std::max(x, halfMargin), scene.scale.sightEnd());
+    const double inView = std::min(std::max(x, TimeScale::halfMargin()), scene.scale.sightEnd());
     const QRectF line(inView, rect.top(), penWidth, rect.height());
     painter.fillRect(DeviceGrid(painter).aligned(line),
                      inView == x ? colors.preview : colors.previewClamped);

@@ -28,7 +28,7 @@ namespace CorvelGui {
 namespace {
 
 constexpr int maximumStripHeight = 15;
-constexpr int repeatInterval = 200; // milliseconds
+constexpr int holdInterval = 200; // milliseconds
 constexpr double sameSearchPosition = 1e-5;
 constexpr double keyStepsPerView = 10.0;
 
@@ -113,7 +113,7 @@ TimelineScroll::TimelineScroll(QWidget* parent) : QLabel(parent), d(std::make_un
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
     setEnabled(d->active);
-    d->repeatTimer.setInterval(repeatInterval);
+    d->repeatTimer.setInterval(holdInterval);
     connect(&d->repeatTimer, &QTimer::timeout, this, &TimelineScroll::onMoveViewAreaTimer);
     updateStyleSheet();
 }

@@ -1,5 +1,7 @@
 #include "timescale.h"
 
+#include "durations.h"
+
 #include <Corvel/TimeZoneHelper>
 
 #include <algorithm>
@@ -12,11 +14,6 @@ using namespace Qt::StringLiterals;
 namespace CorvelGui {
 
 namespace {
-
-constexpr qint64 second = 1000;
-constexpr qint64 minute = 60 * second;
-constexpr qint64 hour = 60 * minute;
-constexpr qint64 day = 24 * hour;
 
 // Labels show seconds where the whole period is shorter than this.
 constexpr quint64 secondsLabelLimit = 30 * minute;

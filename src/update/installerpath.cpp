@@ -13,7 +13,7 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr qsizetype longestName = 120;
+constexpr qsizetype longestFileName = 120;
 constexpr qsizetype longestSuffix = 10;
 
 bool isForbidden(QChar character)
@@ -23,7 +23,7 @@ bool isForbidden(QChar character)
            u"<>:\"|?*"_s.contains(character);
 }
 
-bool isDevice(const QString& name)
+bool isReserved(const QString& name)
 {
     static const QStringList devices{u"con"_s, u"prn"_s,    u"aux"_s,
                                      u"nul"_s, u"conin$"_s, u"conout$"_s};
@@ -34,14 +34,14 @@ bool isDevice(const QString& name)
            (base.back().isDigit() || u"\u00b9\u00b2\u00b3"_s.contains(base.back()));
 }
 
-QString shortened(const QString& name)
+QString shortenedName(const QString& name)
 {
-    if (name.size() <= longestName)
+    if (name.size() <= longestFileName)
         return name;
     const QString suffix = name.mid(std::max(name.lastIndexOf(u'.'), qsizetype(0)));
     if (suffix.size() > longestSuffix)
-        return name.left(longestName);
-    return name.left(longestName - suffix.size()) + suffix;
+        return name.left(longestFileName);
+    return name.left(longestFileName - suffix.size()) + suffix;
 }
 
 } // namespace
@@ -52,7 +52,7 @@ QString safeFileName(const QString& serverName)
         std::max(serverName.lastIndexOf(u'/'), serverName.lastIndexOf(u'\\')) + 1;
     QString name = serverName.mid(folders);
     name.removeIf(isForbidden);
-    name = shortened(name.trimmed());
+    name = shortenedName(name.trimmed());
     // Windows drops blanks and dots at the end, elsewhere ".." is a folder.
     while (name.endsWith(u'.') || name.endsWith(u' '))
         name.chop(1);
@@ -60,7 +60,7 @@ QString safeFileName(const QString& serverName)
         name.remove(0, 1);
     if (name.isEmpty())
         return u"update"_s;
-    return isDevice(name) ? u'_' + name : name;
+    return isReserved(name) ? u'_' + name : name;
 }
 
 QString suggestedInstallerPath(const QString& serverName)

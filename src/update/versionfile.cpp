@@ -9,7 +9,7 @@ namespace {
 // A window would be busy for minutes with a line of a million.
 constexpr qsizetype longestDate = 100;
 
-QString shortened(QString date)
+QString shortenedDate(QString date)
 {
     date.truncate(longestDate);
     if (date.size() == longestDate && date.back().isHighSurrogate())
@@ -39,7 +39,7 @@ std::optional<VersionFile> VersionFile::parse(QByteArrayView content)
     return VersionFile{.version = *version,
                        .updateFile = updateFile,
                        .readmeFile = value(u"readmefile"),
-                       .releaseDate = shortened(value(u"releasedate"))};
+                       .releaseDate = shortenedDate(value(u"releasedate"))};
 }
 
 } // namespace CorvelGui

@@ -83,7 +83,7 @@ void TestCheckAppUpdate::badAnswers()
     const QByteArray whole = QJsonDocument(offer).toJson();
     for (const QByteArray& json : {QByteArray("<html></html>"), '[' + whole + ']',
                                    whole.first(whole.size() / 2), QByteArray(60'000, '[')})
-        QVERIFY2(!Corvel::parseUpdateAnswer(json).fault.isEmpty(), json.left(20));
+        QVERIFY2(!Corvel::parseUpdateAnswer(json).fault.isEmpty(), json.left(20).constData());
 
     QList<std::pair<QString, QJsonValue>> wrong{
         {u"updateAvailable"_s, u"true"_s},

@@ -11,7 +11,7 @@ namespace Review {
 
 namespace {
 
-constexpr const char* context = "Review::LineParser";
+constexpr const char* lineContext = "Review::LineParser";
 
 QString excerpt(QByteArrayView text)
 {
@@ -29,12 +29,13 @@ LineFault LineParser::parseTime(QByteArrayView text, qint64& result)
     result = instant.msecs;
     switch (instant.fault) {
     case Instant::Fault::Malformed:
-        return {context, QT_TR_NOOP("“%1” is not an ISO 8601 date and time"), {excerpt(text)}};
+        return {lineContext, QT_TR_NOOP("“%1” is not an ISO 8601 date and time"), {excerpt(text)}};
     case Instant::Fault::NoOffset:
-        return {
-            context, QT_TR_NOOP("“%1” has neither an offset from UTC nor a Z"), {excerpt(text)}};
+        return {lineContext,
+                QT_TR_NOOP("“%1” has neither an offset from UTC nor a Z"),
+                {excerpt(text)}};
     case Instant::Fault::BeforeEpoch:
-        return {context, QT_TR_NOOP("“%1” lies before the year 1970"), {excerpt(text)}};
+        return {lineContext, QT_TR_NOOP("“%1” lies before the year 1970"), {excerpt(text)}};
     case Instant::Fault::None:
         break;
     }
@@ -45,15 +46,15 @@ LineFault LineParser::parseTrackSpan(const CsvTable::Values& values, QString& tr
 {
     track = QString::fromUtf8(values[0]);
     if (track.isEmpty())
-        return {context, QT_TR_NOOP("the camera has no name")};
+        return {lineContext, QT_TR_NOOP("the camera has no name")};
     if (const LineFault fault = parseTime(values[1], span.begin); !fault.isEmpty())
         return fault;
     if (const LineFault fault = parseTime(values[2], span.end); !fault.isEmpty())
         return fault;
     if (span.end < span.begin)
-        return {context, QT_TR_NOOP("the end lies before the begin")};
+        return {lineContext, QT_TR_NOOP("the end lies before the begin")};
     if (span.isEmpty())
-        return {context, QT_TR_NOOP("begin and end are the same instant")};
+        return {lineContext, QT_TR_NOOP("begin and end are the same instant")};
     return {};
 }
 

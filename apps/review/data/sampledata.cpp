@@ -16,7 +16,7 @@ namespace {
 using namespace std::chrono;
 
 constexpr int days = 14;
-constexpr qint64 msecsPerHour = milliseconds(hours(1)).count();
+constexpr qint64 sampleHour = milliseconds(hours(1)).count();
 
 constexpr qint64 marchTime(int dayOfMonth, int hour)
 {
@@ -149,7 +149,7 @@ std::vector<TimeSpan> recordingsOf(const Camera& camera, Dice& dice)
 
         std::vector<qint64> begins(count);
         for (qint64& begin : begins)
-            begin = sampleBegin + hour * msecsPerHour + dice.roll(0, 3'599) * 1'000;
+            begin = sampleBegin + hour * sampleHour + dice.roll(0, 3'599) * 1'000;
         std::sort(begins.begin(), begins.end());
         for (const qint64 begin : begins) {
             const qint64 end = begin + dice.roll(camera.shortest, camera.longest) * 1'000;
@@ -183,7 +183,7 @@ ReviewData SampleData::make()
                 data.events.append(
                     {.time = time, .kind = kind, .text = text, .track = camera.identifier});
             };
-            const int hour = int((recording.begin - sampleBegin) / msecsPerHour % 24);
+            const int hour = int((recording.begin - sampleBegin) / sampleHour % 24);
             const qint64 seen = dice.roll(1, 100);
             if (seen <= camera.persons && isNight(hour))
                 note(u"alarm"_s, tr("Person outside working hours"));
