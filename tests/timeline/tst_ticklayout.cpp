@@ -138,7 +138,7 @@ void TestTickLayout::lastLabelReachesFurtherThanLines()
         QCOMPARE(ticks(layout, true).back().x, tick);
         QCOMPARE(layout.labels.back().x, label);
     }
-    TimeScale narrow = scale;
+    TimeScale narrow = scaleOf(10 * day);
     narrow.setWidth(25);
     QVERIFY(layoutOf(narrow, 15).ticks.empty());
 }
