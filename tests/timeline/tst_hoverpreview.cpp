@@ -26,49 +26,36 @@ class TestHoverPreview : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void firstPreview();
-    void visiblePreviewFollows();
+    void restEarnsAPreview();
     void movingMouseEarnsNothing();
     void startForgetsTheLastPreview();
 };
 
-void TestHoverPreview::firstPreview()
+void TestHoverPreview::restEarnsAPreview()
 {
+    constexpr auto never = 0ms;
     const struct
     {
-        bool pending, dragging;
-        std::chrono::milliseconds rested;
-        bool due;
-    } cases[] = {{false, false, 300ms, false}, {false, false, 301ms, true},
-                 {true, false, 150ms, false},  {true, false, 151ms, true},
-                 {false, true, 1000ms, false}, {true, true, 1000ms, false}};
-    for (const auto& [pending, dragging, rested, due] : cases) {
-        const HoverPreview::Situation situation{
-            .dragging = dragging, .pending = pending, .viewStart = viewStart};
-        QCOMPARE(started().isDue(situation, start + rested), due);
-    }
-}
-
-void TestHoverPreview::visiblePreviewFollows()
-{
-    const struct
-    {
-        int mouseMove;
-        qint64 viewMove;
-        bool markerHovered;
-        std::chrono::milliseconds rested;
-        bool due;
-    } cases[] = {
-        {0, 0, false, 1000ms, false},  {3, 0, false, 1000ms, false}, {4, 0, false, 101ms, true},
-        {-4, 0, false, 101ms, true},   {4, 0, false, 100ms, false},  {0, 500, false, 1000ms, false},
-        {0, -501, false, 101ms, true}, {0, 0, true, 101ms, true},    {0, 0, true, 100ms, false}};
-    for (const auto& [mouseMove, viewMove, markerHovered, rested, due] : cases) {
+        HoverPreview::Situation situation;
+        int mouseMove; ///< since the last preview
+        std::chrono::milliseconds rest;
+    } cases[] = {{{}, 0, 301ms},
+                 {{.pending = true}, 0, 151ms},
+                 {{.dragging = true}, 0, never},
+                 {{.visible = true}, 0, never},
+                 {{.visible = true}, 3, never},
+                 {{.visible = true}, 4, 101ms},
+                 {{.visible = true}, -4, 101ms},
+                 {{.visible = true, .viewStart = 500}, 0, never},
+                 {{.visible = true, .viewStart = -501}, 0, 101ms},
+                 {{.visible = true, .markerHovered = true}, 0, 101ms}};
+    for (auto [situation, mouseMove, rest] : cases) {
+        situation.viewStart += viewStart;
         HoverPreview hover = started();
         hover.emitted(viewStart);
         hover.mouseMoved(QPoint(100 + mouseMove, 25), start);
-        const HoverPreview::Situation situation{
-            .visible = true, .markerHovered = markerHovered, .viewStart = viewStart + viewMove};
-        QCOMPARE(hover.isDue(situation, start + rested), due);
+        QCOMPARE(hover.isDue(situation, start + (rest == never ? 10s : rest)), rest != never);
+        QVERIFY(!hover.isDue(situation, start + rest - 1ms));
     }
 }
 

@@ -97,14 +97,6 @@ void add(MarkerStore& store, const QList<RulerMarker>& markers)
     store.add(markers, std::vector<quint32>(std::size_t(markers.size())));
 }
 
-QString texts(const MarkerStore& store)
-{
-    QStringList result;
-    for (std::size_t i = 0; i < store.size(); ++i)
-        result << store.marker(i).text;
-    return result.join(u' ');
-}
-
 } // namespace
 
 class TestMarkers : public WarningFreeTest
@@ -112,37 +104,18 @@ class TestMarkers : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void merging();
     void mergingAgreesWithTheRule();
     void mergingFollowsTheColumns();
     void halfWidths();
-    void storeKeepsTimeOrder();
     void storeAgreesWithAList();
     void markersKeepWhatTheyAre();
     void viewAgreesWithALoop();
 };
 
-void TestMarkers::merging()
-{
-    const struct
-    {
-        std::vector<MarkerPlace> places;
-        std::vector<MarkerRun> runs;
-    } cases[] = {
-        {{}, {}},
-        {{{50, 6}, {50, 6}, {50, 6}}, {{0, 2, 1}}},
-        {{{50, 6}, {62, 6}}, {{0, 1, 0}}}, // touching
-        {{{50, 6}, {63, 6}}, {{0, 0, 0}, {1, 1, 1}}},
-        // A chain breaks where the middle leaves the first.
-        {{{0, 6}, {10, 6}, {20, 6}, {30, 6}, {40, 6}}, {{0, 2, 1}, {3, 4, 3}}},
-        {{{50, 0}, {58, 8}, {67, 0}}, {{0, 1, 0}, {2, 2, 2}}},
-    };
-    for (const auto& [places, runs] : cases)
-        QVERIFY(Places(places).merged() == runs);
-}
-
 void TestMarkers::mergingAgreesWithTheRule()
 {
+    const MarkerPlace place{50, 6};
+    QVERIFY(place.overlaps({62, 6}) && !place.overlaps({63, 6})); // touching is enough
     // Sparse, touching here and there, crowded, all within a button.
     for (const auto& [count, pixels] : {std::pair(60, 1900), {200, 1900}, {5000, 900}, {300, 10}}) {
         for (quint32 seed = 1; seed <= 60; ++seed) {
@@ -174,22 +147,6 @@ void TestMarkers::halfWidths()
     QCOMPARE(visibleHalfWidth(40, 0.6), 9);
 }
 
-void TestMarkers::storeKeepsTimeOrder()
-{
-    MarkerStore store;
-    add(store, {marker(30, u"c"_s), marker(10, u"a"_s), RulerMarker()});
-    using Indices = std::vector<std::size_t>;
-    const QList<RulerMarker> more{marker(20, u"b"_s), marker(10, u"a2"_s), marker(10, u"a3"_s),
-                                  marker(40, u"d"_s)};
-    QCOMPARE(store.add(more, {0, 0, 0, 0}), (Indices{1, 1, 1, 2}));
-    QCOMPARE(texts(store), u"a a2 a3 b c d"_s);
-    // The first of a time goes first.
-    QCOMPARE(store.remove({30, 15, 10}), (Indices{0, 4}));
-    QCOMPARE(texts(store), u"a2 a3 b d"_s);
-    store.remove({10, 10, 10, 10, 99});
-    QCOMPARE(texts(store), u"b d"_s);
-}
-
 void TestMarkers::storeAgreesWithAList()
 {
     struct Known
@@ -197,36 +154,49 @@ void TestMarkers::storeAgreesWithAList()
         qint64 time;
         QString text;
         quint32 icon;
-        bool seen = false;
+        bool seen = false, gone = false;
     };
+    using Indices = std::vector<std::size_t>;
     QRandomGenerator random(3);
     MarkerStore store;
     QList<Known> list;
-    const auto findFirst = [&](qint64 time) {
-        return std::find_if(list.begin(), list.end(),
-                            [&](const Known& known) { return known.time >= time; });
+    const auto countBefore = [](const QList<Known>& sorted, qint64 time) {
+        return std::ranges::count_if(sorted, [&](const Known& known) { return known.time < time; });
     };
     // Many at first, then a few at a time, then few are left. Times come up again and again.
     for (const auto& [added, removed] :
          {std::pair(3000, 0), {1, 1}, {7, 5}, {600, 3500}, {0, 80}}) {
-        QList<RulerMarker> arriving;
-        std::vector<quint32> icons;
+        const QList<Known> old = list;
+        QList<RulerMarker> arriving{RulerMarker()}; // which has no time
+        std::vector<quint32> icons{0};
+        Indices places;
         for (int i = 0; i < added; ++i) {
             const Known known{random.bounded(300), QString::number(random.generate()),
                               random.bounded(70U)};
             arriving << marker(known.time, known.text);
             icons.push_back(known.icon);
-            list.insert(findFirst(known.time + 1), known);
+            places.push_back(std::size_t(countBefore(old, known.time + 1)));
+            list.insert(countBefore(list, known.time + 1), known);
         }
-        store.add(arriving, icons);
+        std::ranges::sort(places);
+        QCOMPARE(store.add(arriving, icons), places);
+
+        // The first of a time goes first.
         std::vector<qint64> leaving;
         for (int i = 0; i < removed; ++i) {
             leaving.push_back(random.bounded(310));
-            const auto found = findFirst(leaving.back());
-            if (found != list.end() && found->time == leaving.back())
-                list.erase(found);
+            const auto found = std::ranges::find_if(list, [&](const Known& known) {
+                return known.time == leaving.back() && !known.gone;
+            });
+            if (found != list.end())
+                found->gone = true;
         }
-        store.remove(leaving);
+        places.clear();
+        for (qsizetype i = 0; i < list.size(); ++i)
+            if (list[i].gone)
+                places.push_back(std::size_t(i));
+        list.removeIf([](const Known& known) { return known.gone; });
+        QCOMPARE(store.remove(leaving), places);
 
         const auto size = std::size_t(list.size());
         QCOMPARE(store.size(), size);
@@ -235,7 +205,7 @@ void TestMarkers::storeAgreesWithAList()
             QCOMPARE(store.marker(i).text, known.text);
             QCOMPARE(store.timeAndIcon(i), std::pair(known.time, known.icon));
         }
-        QCOMPARE(store.firstFrom(150), std::size_t(findFirst(150) - list.begin()));
+        QCOMPARE(store.firstFrom(150), std::size_t(countBefore(list, 150)));
 
         const std::size_t first = random.bounded(quint32(size));
         const std::size_t last = first + random.bounded(quint32(size - first));

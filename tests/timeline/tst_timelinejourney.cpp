@@ -106,9 +106,7 @@ void TestTimelineJourney::journey()
     hand.press();
     QTRY_VERIFY(ruler->beginTime() >= before + 3 * 30 * minute);
     hand.release();
-    const quint64 held = ruler->beginTime();
-    QSignalSpy views(ruler, &Ruler::timeLineViewChanged);
-    QVERIFY(!views.wait(450) || ruler->beginTime() == held);
+    QTRY_VERIFY(!ruler->isHeld());
 
     // Click a marker.
     hand.strike(u"Home"_s);
