@@ -228,31 +228,13 @@ private:
         const qint64 wall = wallMsecs(instant);
         switch (step.unit) {
         case Unit::Clock:
-            return wallTime(wall).toString(clockFormat(step.count)) +
-                   whichOfTwo(instant, wall - instant);
+            return wallTime(wall).toString(clockFormat(step.count)) + m_clock.whichOfTwo(instant);
         case Unit::Day:
             return wallTime(wall).toString(m_style.dateFormat);
         case Unit::Month:
             return monthName(wallTime(wall).date().month(), QLocale::ShortFormat);
         case Unit::Year:
             return QString::number(wallTime(wall).date().year());
-        }
-        return {};
-    }
-
-    /// Tells times that the wall clock shows twice apart.
-    QString whichOfTwo(qint64 instant, qint64 offset) const
-    {
-        for (const ClockChange& change : m_clock.between(m_view.from - day, m_to + day)) {
-            if (!change.repeats() || instant < change.instant - change.length() ||
-                instant >= change.instant + change.length())
-                continue;
-            const qint64 minutes = std::abs(offset) / minute;
-            QString text = u" %1%2"_s.arg(QLatin1Char(offset < 0 ? '-' : '+'))
-                               .arg(minutes / 60, 2, 10, QLatin1Char('0'));
-            if (minutes % 60 != 0)
-                text += u":%1"_s.arg(minutes % 60, 2, 10, QLatin1Char('0'));
-            return text;
         }
         return {};
     }
@@ -388,7 +370,35 @@ private:
         if (m_view.left + width <= std::min(next, m_view.right))
             m_scale.labels.push_back({m_view.from, m_view.left, width, 1, first});
         addLabels(starts, 1, textAt);
+        addChanges();
     }
+
+    /// What the clocks do, in the second row where that has room.
+    void addChanges()
+    {
+        for (const ClockChange& change : m_scale.changes) {
+            const QString text = u"%1 → %2"_s.arg(wallText(change.instant + change.before),
+                                                  wallText(change.instant + change.after));
+            const CalendarLabel label{.instant = change.instant,
+                                      .x = m_view.xAt(change.instant) + labelOffset,
+                                      .width = m_style.metrics.horizontalAdvance(text),
+                                      .row = 1,
+                                      .text = text};
+            const auto inTheWay = [&label](const CalendarLabel& other) {
+                return other.row == 1 && other.x < label.x + label.width + labelGap &&
+                       label.x < other.x + other.width + labelGap;
+            };
+            if (label.x >= m_view.left && label.x + label.width <= m_view.right &&
+                std::none_of(m_scale.labels.begin(), m_scale.labels.end(), inTheWay))
+                m_scale.labels.push_back(label);
+        }
+        std::stable_sort(m_scale.labels.begin(), m_scale.labels.end(),
+                         [](const CalendarLabel& a, const CalendarLabel& b) {
+                             return std::pair(a.row, a.x) < std::pair(b.row, b.x);
+                         });
+    }
+
+    static QString wallText(qint64 wall) { return wallTime(wall).toString(clockFormat(minute)); }
 
     const CalendarView& m_view;
     const ClockChanges& m_clock;
@@ -399,6 +409,14 @@ private:
 };
 
 } // namespace
+
+qint64 calendarStep(double msecs)
+{
+    const auto longer =
+        std::upper_bound(steps.begin(), steps.end(), msecs,
+                         [](double length, const Step& step) { return length < step.averageLength(); });
+    return longer == steps.begin() ? 1 : qint64(std::prev(longer)->averageLength());
+}
 
 CalendarScale layOutCalendar(const CalendarView& view, const ClockChanges& clock,
                              const CalendarStyle& style)

@@ -36,7 +36,8 @@ struct CalendarLabel
     qint64 instant; ///< what it stands at; for the first date, what the left end shows
     double x;       ///< where the text starts
     double width;
-    int row; ///< 0 beside its tick, 1 below it: what the upper row does not say
+    int row; ///< 0 beside its tick, 1 below it: what the upper row does not say, and how the
+             ///< clocks change
     QString text;
 };
 
@@ -45,7 +46,7 @@ struct CalendarScale
 {
     std::vector<CalendarTick> ticks;
     std::vector<CalendarLabel> labels;
-    std::vector<ClockChange> changes; ///< clock changes in view
+    std::vector<ClockChange> changes; ///< clock changes in view, unless ticks are further apart
 };
 
 struct CalendarStyle
@@ -53,6 +54,9 @@ struct CalendarStyle
     QFontMetricsF metrics;
     QString dateFormat; ///< of dates with a day, as QDateTime::toString() takes it
 };
+
+/// The longest step that people count in and that is not longer than @p msecs; at least 1 ms.
+CORVELGUI_INTERNAL_EXPORT qint64 calendarStep(double msecs);
 
 /// Chooses ticks in steps that people count in, from a millisecond to centuries: as close as their
 /// labels allow, on the wall clock of the zone. Days start at local midnight, or at the first

@@ -5,7 +5,10 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
+
+using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
 
@@ -38,6 +41,24 @@ std::vector<ClockChange> ClockChanges::between(qint64 from, qint64 to) const
     };
     const auto first = std::lower_bound(m_known.begin(), m_known.end(), from, before);
     return {first, std::lower_bound(first, m_known.end(), to, before)};
+}
+
+QString ClockChanges::whichOfTwo(qint64 instant) const
+{
+    constexpr qint64 reach = 2 * 86'400'000LL;
+    for (const ClockChange& change : between(instant - reach, instant + reach)) {
+        if (!change.repeats() || instant < change.instant - change.length() ||
+            instant >= change.instant + change.length())
+            continue;
+        const qint64 offset = instant < change.instant ? change.before : change.after;
+        const qint64 minutes = std::abs(offset) / 60'000;
+        QString text = u" %1%2"_s.arg(QLatin1Char(offset < 0 ? '-' : '+'))
+                           .arg(minutes / 60, 2, 10, QLatin1Char('0'));
+        if (minutes % 60 != 0)
+            text += u":%1"_s.arg(minutes % 60, 2, 10, QLatin1Char('0'));
+        return text;
+    }
+    return {};
 }
 
 void ClockChanges::find(qint64 from, qint64 to) const

@@ -2,6 +2,7 @@
 
 #include "base/internalexport.h"
 
+#include <QString>
 #include <QTimeZone>
 
 #include <vector>
@@ -36,6 +37,9 @@ public:
     qint64 offsetAt(qint64 instant) const;
     /// The changes in [from, to), in order.
     std::vector<ClockChange> between(qint64 from, qint64 to) const;
+    /// What tells a time that the wall clock shows twice from the other: its distance from UTC,
+    /// with a space before it, as in " +02". Empty for times that come once.
+    QString whichOfTwo(qint64 instant) const;
 
 private:
     void find(qint64 from, qint64 to) const;

@@ -11,8 +11,7 @@ constexpr auto restTime = 100ms;
 constexpr auto visibleDelay = 101ms;
 constexpr auto pendingDelay = 151ms;
 constexpr auto firstDelay = 301ms;
-constexpr int smallestMove = 3;          // pixels
-constexpr qint64 smallestViewMove = 500; // milliseconds of recorded time
+constexpr int smallestMove = 3; // pixels
 
 } // namespace
 
@@ -38,7 +37,7 @@ bool HoverPreview::isDue(const Situation& situation, Clock::time_point now) cons
         return resting >= (situation.pending ? pendingDelay : firstDelay);
 
     const bool mouseMoved = qAbs(m_mousePosition.x() - m_lastPosition.x()) > smallestMove;
-    const bool viewMoved = qAbs(situation.viewStart - m_lastViewStart) > smallestViewMove;
+    const bool viewMoved = qAbs(situation.viewStart - m_lastViewStart) > situation.smallestViewMove;
     return (situation.markerHovered || mouseMoved || viewMoved) && resting >= visibleDelay;
 }
 

@@ -23,6 +23,8 @@ public:
         bool pending = false;       ///< a preview is being fetched
         bool markerHovered = false; ///< the mouse is on a marker
         qint64 viewStart = 0;       ///< milliseconds since the epoch
+        /// From here on a move of the view asks for another preview, in milliseconds.
+        qint64 smallestViewMove = 500;
     };
 
     /// The timer starts, with the mouse at @p position.

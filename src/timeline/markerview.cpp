@@ -105,7 +105,7 @@ std::size_t MarkerView::firstNarrowerThan(int halfWidth, std::size_t from, std::
 
 int MarkerView::column(qint64 msecs) const
 {
-    const double offset = double(msecs) - double(m_geometry.start);
+    const double offset = double(msecs) - double(m_geometry.start) - m_geometry.startFraction;
     const double x = TimeScale::margin() + m_geometry.pixelsPerMillisecond * offset;
     // Far outside the view the exact column does not matter.
     return int(std::clamp<double>(x, -farthestColumn, farthestColumn));

@@ -21,7 +21,8 @@ public:
     {
         qint64 start = 0; ///< instant at the left margin, in milliseconds since the epoch
         double pixelsPerMillisecond = 0.0;
-        double width = 0.0; ///< of the ruler
+        double width = 0.0;         ///< of the ruler
+        double startFraction = 0.0; ///< of a millisecond, that the start is later
 
         bool operator==(const Geometry&) const = default;
     };

@@ -67,7 +67,11 @@ void Ruler::setTimeLimits(quint64 begin, quint64 end)
 {
     const QDateTime oldViewStart = d->scale.viewStart();
     const quint64 oldSpan = d->scale.millisecondsPerLevel();
+    const auto [oldBegin, oldEnd] = getTimeLimits();
     d->scale.setTimeLimits(begin, end);
+    // Views of quite another period are of no use.
+    if (oldEnd <= begin || end <= oldBegin)
+        d->history.clear();
 
     const auto announceFirstView = [&] {
         if (!oldViewStart.isValid() && d->scale.hasView())
@@ -94,7 +98,8 @@ void Ruler::setTimeLimits(quint64 begin, quint64 end)
         [&] {
             if (viewChanged || d->segments.isTrackLimitChanged(d->scale))
                 changedTimeLineView(false);
-        });
+        },
+        [this] { reportZoomHistory(); });
 }
 
 std::pair<quint64, quint64> Ruler::getTimeLimits() const
@@ -109,8 +114,10 @@ quint64 Ruler::getTotalDuration() const
 
 void Ruler::setTimeZone(const QString& name)
 {
-    d->scale.setTimeZone(name.isEmpty() ? QTimeZone()
-                                        : QTimeZone(TimeZoneHelper::getTimeZone(name).toUtf8()));
+    const QTimeZone zone =
+        name.isEmpty() ? QTimeZone() : QTimeZone(TimeZoneHelper::getTimeZone(name).toUtf8());
+    d->scale.setTimeZone(zone);
+    d->clock.setZone(zone);
 }
 
 void Ruler::applyTimeZone()
@@ -143,27 +150,6 @@ int Ruler::getNrOfZooomLevels() const
 int Ruler::level() const
 {
     return d->scale.level();
-}
-
-void Ruler::changeLevel(int level, double anchor)
-{
-    // About another place than the middle, the view is the user's.
-    zoom(level, anchor, d->follower.mode() == FollowMode::Centered);
-}
-
-void Ruler::zoom(int level, double anchor, bool keepIndicator)
-{
-    const int oldLevel = d->scale.level();
-    d->scale.changeLevel(level, anchor);
-    const bool changed = d->scale.level() != oldLevel;
-    const bool followed = keepIndicator && followIndicator();
-    if (changed || followed)
-        followView();
-    whileAlive(
-        this, [&] { updateChildren(changed); },
-        [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
-        [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
-        [this] { changedTimeLineView(false); }, [this] { noticeView(); }, [this] { repaint(); });
 }
 
 double Ruler::getCurrentCenterPosition() const
@@ -346,22 +332,6 @@ void Ruler::processTimeLineViewChanges()
         emitTimeLineViewChanged(false);
 }
 
-void Ruler::onZoomerIn(int level, double anchor)
-{
-    if (level != d->scale.level() && level >= 0)
-        zoom(level, anchor, true);
-}
-
-void Ruler::onZoomerOut(int level, double anchor)
-{
-    if (level == d->scale.level() || level > TimeScale::wholeRangeLevel)
-        return;
-    if (d->scale.canZoomOut())
-        zoom(level, anchor, true);
-    else
-        Q_EMIT changeSliderZoom(d->scale.level());
-}
-
 void Ruler::onTimelineOffsetChanged(double position)
 {
     if (!d->scale.centerOnPosition(position))
@@ -423,26 +393,6 @@ void Ruler::setIndicatorTime(const QDateTime& time)
     d->indicatorTime = time;
     d->exactIndicator = getIndicatorMSecs();
     d->accessible->reportValueChange();
-}
-
-void Ruler::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
-{
-    const int oldLevel = d->scale.level();
-    const qint64 oldStart = d->scale.viewStartMs();
-    if (d->scale.setLevelFromTimeRange(from, to))
-        viewZoomed(oldLevel, oldStart);
-}
-
-void Ruler::viewZoomed(int oldLevel, qint64 oldStart)
-{
-    const bool levelChanged = d->scale.level() != oldLevel;
-    if (levelChanged || d->scale.viewStartMs() != oldStart)
-        followView();
-    whileAlive(
-        this, [&] { updateChildren(levelChanged); },
-        [this] { Q_EMIT changeSliderZoom(d->scale.level()); },
-        [this] { Q_EMIT centerPositionChanged(getCurrentCenterPosition()); },
-        [this] { changedTimeLineView(false); }, [this] { noticeView(); });
 }
 
 void Ruler::changedTimeLineView(bool moving)

@@ -24,13 +24,23 @@ class CORVELGUI_EXPORT Ruler : public QWidget
     Q_OBJECT
     Q_PROPERTY(FollowMode followMode READ followMode WRITE setFollowMode NOTIFY followModeChanged)
     Q_PROPERTY(bool following READ isFollowing NOTIFY followingChanged)
+    Q_PROPERTY(bool continuousZoom READ isContinuousZoom WRITE setContinuousZoom NOTIFY
+                   continuousZoomChanged)
+    Q_PROPERTY(bool calendarTicks READ hasCalendarTicks WRITE setCalendarTicks NOTIFY
+                   calendarTicksChanged)
+    Q_PROPERTY(bool zoomHistory READ keepsZoomHistory WRITE setZoomHistory NOTIFY
+                   zoomHistoryChanged)
+    Q_PROPERTY(bool canZoomBack READ canZoomBack NOTIFY zoomHistoryMoved)
+    Q_PROPERTY(bool canZoomForward READ canZoomForward NOTIFY zoomHistoryMoved)
+    Q_PROPERTY(bool fineWheel READ isFineWheel WRITE setFineWheel NOTIFY fineWheelChanged)
 
 public:
     /// How the view goes after the indicator.
     enum class FollowMode {
         Off,     ///< just as far as it takes to show an indicator that is set outside the view
-        Pages,   ///< by whole views, when the indicator leaves the view
-        Centered ///< at every step, with the indicator in the middle
+        Pages,    ///< by whole views, when the indicator leaves the view
+        Centered, ///< at every step, with the indicator in the middle
+        Smooth    ///< at every step, while the indicator is in the first or last quarter of the view
     };
     Q_ENUM(FollowMode)
 
@@ -68,6 +78,7 @@ public:
     /// Number of rows of the zoom table: levels go from 0 (closest) to this number, which shows the
     /// whole period.
     int getNrOfZooomLevels() const;
+    /// With continuousZoom, the level that is the nearest to the view.
     int level() const;
     /// Switches the zoom level. The instant at @p anchor (a fraction of the scale width, 0.0
     /// to 1.0) stays in place as far as the limits allow. An index outside the table shows the
@@ -90,11 +101,42 @@ public:
     /// The column of a time, whether it is in view or not; 0.0 without a view.
     double xAt(qint64 msecs) const;
     /// Shows at least the range, in the middle of the view as far as the limits allow, at the
-    /// closest level that holds it: a view that was asked for by view() comes back as it was. Does
+    /// closest level that holds it: a view that was asked for by view() comes back as it was. With
+    /// continuousZoom it shows just the range, as far as that is no closer than one can zoom. Does
     /// nothing without a period or with a range that is empty or reversed.
     void setView(qint64 from, qint64 to);
     /// Brings a time into the middle of the view as far as the limits allow; the level stays.
     void centerOn(qint64 msecs);
+
+    /// Whether the view may be of any length, from the whole period to 40 ms a hundred pixels, and
+    /// not only as long as a level says. Off by default.
+    ///
+    /// Wheel and pinch then zoom about the pointer, and zoomIn() and zoomOut() about the indicator
+    /// where it is in view: what is there stays there exactly, as far as the limits allow, unless
+    /// the view is kept centred on the indicator. The levels can still be chosen: changeLevel() and
+    /// the zoom control go to them, and search and result ranges are shown at them. The ticks are
+    /// those of calendarTicks, whatever that says. Switched off, the view goes to the nearest
+    /// level.
+    bool isContinuousZoom() const;
+    void setContinuousZoom(bool on);
+    /// Whether the view can be closer or wider, by zoomIn() and zoomOut().
+    bool canZoomIn() const;
+    bool canZoomOut() const;
+
+    /// Whether the views that are left by zooming are kept, for zoomBack() and zoomForward(), the
+    /// keys Alt+Left, Alt+Right, Backspace and Shift+Backspace, and the buttons "back" and
+    /// "forward" of a mouse. Off by default; switching it off forgets them. What one gesture, or
+    /// several turns of the wheel in a row, do to the view counts as one step.
+    bool keepsZoomHistory() const;
+    void setZoomHistory(bool on);
+    bool canZoomBack() const;
+    bool canZoomForward() const;
+
+    /// Whether small turns of a wheel or a touchpad add up to a step, or, with continuousZoom, zoom
+    /// by just as much; and whether a sideways turn, or one with Shift, moves the view. Off by
+    /// default: every turn is a whole step, and a sideways one zooms out.
+    bool isFineWheel() const;
+    void setFineWheel(bool on);
 
     /// How the view follows the indicator, as it is set by setIndicatorPosition() and by keys. Off
     /// by default.
@@ -168,6 +210,16 @@ public:
     void setOrvaneGuiTheme(bool on);
     /// Point size of all text on the ruler, from 1 to 200.
     void setFontSize(unsigned int points);
+    /// Whether the ticks stand at steps that people count in, from milliseconds to centuries: as
+    /// close as their labels have room, so that none is cut or meets another, at every width and
+    /// font. Off by default: at the steps of the level.
+    ///
+    /// Days then begin at local midnight also after a clock change. Clock changes are marked, with
+    /// the time before and after, and the repeated hour is tinted; labels in it, also that of the
+    /// indicator, say which of the two they mean by the distance from UTC. Close up, the
+    /// indicator's label shows milliseconds.
+    bool hasCalendarTicks() const;
+    void setCalendarTicks(bool on);
     /// Format of date labels, as QDateTime::toString() takes it. Shows with the next repaint.
     void setDateFormat(const QString& format);
     /// Stores the colour. It shows in the gradients once the theme is applied again.
@@ -197,6 +249,14 @@ public Q_SLOTS:
     void onZoomerIn(int level, double anchor);
     /// As changeLevel() while the view can grow; else only reports the current level again.
     void onZoomerOut(int level, double anchor);
+    /// Half as much in view, or, without continuousZoom, the next level about the middle.
+    void zoomIn();
+    /// Twice as much in view, or, without continuousZoom, the next level about the middle.
+    void zoomOut();
+    /// Shows the view again that the last zoom left, as far as the limits allow.
+    void zoomBack();
+    /// Takes the last zoomBack() back.
+    void zoomForward();
     /// Brings the view back to the indicator and follows it from there. Does nothing without a
     /// mode.
     void resumeFollowing();
@@ -213,6 +273,12 @@ Q_SIGNALS:
     void followModeChanged(CorvelGui::Ruler::FollowMode mode);
     /// Emitted when isFollowing() changed, after what changed it.
     void followingChanged(bool following);
+    void continuousZoomChanged(bool on);
+    void calendarTicksChanged(bool on);
+    void zoomHistoryChanged(bool on);
+    /// Emitted when canZoomBack() or canZoomForward() changed, after what changed it.
+    void zoomHistoryMoved();
+    void fineWheelChanged(bool on);
     /// Emitted after every change of level, every refused zoom request and every step of the wheel.
     void changeSliderZoom(int level);
     /// For clients that drive a zoom slider of their own; the ruler does not emit it.
@@ -268,10 +334,14 @@ private:
     void updateIndicator();
     void showIndicatorTime(quint64 msecs);
     void setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
+    void zoomAbout(double factor, double x, bool moving = false);
+    double zoomColumn() const;
+    void reportZoomHistory();
+    void goInZoomHistory(bool back);
+    bool showsCalendar() const;
     void changedTimeLineView(bool moving);
     void emitTimeLineViewChanged(bool moving);
     void zoom(int level, double anchor, bool keepIndicator);
-    void viewZoomed(int oldLevel, qint64 oldStart);
     void viewMoved(bool moving);
     void viewMovedByUser(bool moving);
     bool followIndicator();
@@ -281,6 +351,8 @@ private:
 
     friend class RulerGestures; // carries out what the user does
     struct Private;
+    struct Zoomed;
+    void viewZoomed(const Zoomed& zoomed);
     const std::unique_ptr<Private> d;
 };
 

@@ -2,6 +2,7 @@
 
 #include "accessiblerange.h"
 #include "base/whilealive.h"
+#include "clockchanges.h"
 #include "indicator.h"
 #include "keyboardfocus.h"
 #include "ruler.h"
@@ -13,6 +14,7 @@
 #include "timescale.h"
 #include "tracksegments.h"
 #include "viewfollower.h"
+#include "viewhistory.h"
 
 #include <memory>
 #include <optional>
@@ -22,6 +24,7 @@ namespace CorvelGui {
 struct Ruler::Private
 {
     TimeScale scale;
+    ClockChanges clock;
     TrackSegments segments;
     RulerPainter painter;
     QString dateFormat;
@@ -54,6 +57,13 @@ struct Ruler::Private
     bool viewChangeBlocked = false;
     bool viewChangePending = false;
 
+    bool continuousZoom = false;
+    bool calendarTicks = false;
+    bool fineWheel = false;
+    bool zoomHistory = false;
+    ViewHistory history;
+    std::pair<bool, bool> historyReported; ///< back, forward
+
     ViewFollower follower;
     bool followingReported = false;
 
@@ -64,6 +74,15 @@ struct Ruler::Private
     std::unique_ptr<AccessibleRange> accessible;
 
     bool takesInput() const { return active && !blocked; }
+};
+
+/// The view was zoomed, or may have been.
+struct Ruler::Zoomed
+{
+    TimeScale::View before;
+    ViewHistory::Zoom how = ViewHistory::Zoom::Whole;
+    bool moving = false;    ///< more follows at once
+    bool remembered = true; ///< where a history is kept
 };
 
 } // namespace CorvelGui

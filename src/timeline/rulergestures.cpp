@@ -17,7 +17,10 @@ namespace CorvelGui {
 namespace {
 
 constexpr int repeatInterval = 200; // milliseconds
+constexpr int restInterval = 200;   // milliseconds
 constexpr double centerAnchor = 0.5;
+constexpr double notchFactor = 1.4142135623730951;
+constexpr double pixelsPerNotch = 60;
 
 } // namespace
 
@@ -66,6 +69,9 @@ RulerGestures::RulerGestures(Ruler* ruler, Ruler::Private& rulerState)
     connect(d.arrows, &RulerArrows::activated, this, &RulerGestures::activateArrow);
     m_moveTimer.setInterval(repeatInterval);
     connect(&m_moveTimer, &QTimer::timeout, this, &RulerGestures::onMoveTimerTimeout);
+    m_restTimer.setSingleShot(true);
+    m_restTimer.setInterval(restInterval);
+    connect(&m_restTimer, &QTimer::timeout, this, [this] { m_ruler->changedTimeLineView(false); });
 }
 
 RulerGestures::~RulerGestures() = default;
@@ -96,6 +102,7 @@ void RulerGestures::end(Report report)
 void RulerGestures::setGesture(Gesture gesture)
 {
     m_gesture = gesture;
+    d.history.endGesture();
     m_secondFinger->watch(gesture != Gesture::None);
     d.markers->setHoverable(gesture != Gesture::ViewDrag);
     d.hover->setDragging(gesture == Gesture::ViewDrag || gesture == Gesture::IndicatorDrag);
@@ -159,10 +166,16 @@ bool RulerGestures::mayLoseRelease(const QEvent* event) const
 
 void RulerGestures::press(const QMouseEvent* event)
 {
-    if (d.blocked || event->button() != Qt::LeftButton)
+    if (d.blocked)
+        return;
+    if (d.zoomHistory && event->button() == Qt::BackButton)
+        return m_ruler->zoomBack();
+    if (d.zoomHistory && event->button() == Qt::ForwardButton)
+        return m_ruler->zoomForward();
+    if (event->button() != Qt::LeftButton)
         return;
     m_pressPosition = event->position().toPoint();
-    m_pressTime = d.scale.msecsAt(m_pressPosition.x());
+    m_pressTime = d.scale.fineTimeAt(m_pressPosition.x());
     begin(Gesture::Press);
 }
 
@@ -195,7 +208,9 @@ void RulerGestures::dragView(int x)
     const double pixelsPerMillisecond = scale.lengthPerMillisecond();
     if (!scale.hasView() || !(pixelsPerMillisecond > 0))
         return;
-    moveViewTo(m_pressTime - qint64((x - TimeScale::margin()) / pixelsPerMillisecond), true);
+    if (d.continuousZoom)
+        return moveViewSoThat(m_pressTime, x);
+    moveViewTo(m_pressTime.msecs - qint64((x - TimeScale::margin()) / pixelsPerMillisecond), true);
 }
 
 void RulerGestures::release(const QMouseEvent* event)
@@ -219,15 +234,57 @@ void RulerGestures::release(const QMouseEvent* event)
 
 void RulerGestures::turnWheel(const QWheelEvent* event)
 {
-    const QPoint degrees = event->angleDelta() / 8.0;
-    if (degrees.isNull() || d.blocked)
+    if (d.blocked)
         return;
-    const double anchor = event->position().x() / m_ruler->width();
+    const QPoint angle = event->angleDelta();
+    const double x = event->position().x();
+    if (!d.fineWheel) {
+        const QPoint degrees = angle / 8.0;
+        if (!degrees.isNull())
+            zoomByNotches(degrees.y() > 0 ? +1 : -1, x);
+    } else if (WheelTurns::isSideways(angle) || event->modifiers() & Qt::ShiftModifier) {
+        turnSideways(event);
+    } else if (angle.y() != 0 && event->phase() != Qt::ScrollMomentum) {
+        // With continuous zoom by just as much, else by whole notches.
+        const double notches = d.continuousZoom ? double(angle.y()) / WheelTurns::notch
+                                                : double(m_wheel.add(angle.y()));
+        zoomByNotches(notches, x);
+    }
+}
+
+void RulerGestures::turnSideways(const QWheelEvent* event)
+{
+    const auto length = [](QPoint delta) {
+        return WheelTurns::isSideways(delta) ? delta.x() : delta.y();
+    };
+    const int pixels = length(event->pixelDelta());
+    const double distance =
+        pixels != 0 ? pixels : length(event->angleDelta()) * pixelsPerNotch / WheelTurns::notch;
+    const TimeScale& scale = d.scale;
+    moveViewSoThat(scale.fineTimeAt(scale.margin()), scale.margin() + distance);
+    m_restTimer.start();
+}
+
+void RulerGestures::zoomByNotches(double notches, double x)
+{
+    if (notches == 0)
+        return;
+    if (d.continuousZoom)
+        return m_ruler->zoomAbout(std::pow(notchFactor, notches), x);
+    const int direction = notches > 0 ? +1 : -1;
+    for (int step = 0; step < std::abs(int(notches)); ++step)
+        if (!zoomByLevel(direction, x))
+            return;
+}
+
+bool RulerGestures::zoomByLevel(int direction, double x)
+{
+    const double anchor = x / m_ruler->width();
     const int level = d.scale.level();
-    whileAlive(
+    return whileAlive(
         this,
         [&] {
-            if (degrees.y() <= 0)
+            if (direction < 0)
                 m_ruler->onZoomerOut(level + 1, anchor);
             else if (level > 0)
                 m_ruler->changeLevel(level - 1, anchor);
@@ -362,6 +419,8 @@ bool RulerGestures::pressKey(const QKeyEvent* event)
                             : scale.millisecondsPerMinorDivision();
     const qint64 indicator = qint64(d.exactIndicator);
     const qint64 span = qint64(scale.millisecondsPerLevel());
+    if (d.zoomHistory && pressHistoryKey(event))
+        return true;
     switch (event->key()) {
     case Qt::Key_Left:
         return moveIndicatorTo(indicator - step), true;
@@ -376,9 +435,9 @@ bool RulerGestures::pressKey(const QKeyEvent* event)
     case Qt::Key_PageDown:
         return moveViewTo(scale.viewStartMs() + span, false), true;
     case Qt::Key_Plus:
-        return m_ruler->onZoomerIn(scale.level() - 1, centerAnchor), true;
+        return m_ruler->zoomIn(), true;
     case Qt::Key_Minus:
-        return m_ruler->onZoomerOut(scale.level() + 1, centerAnchor), true;
+        return m_ruler->zoomOut(), true;
     case Qt::Key_0:
         if (!(event->modifiers() & Qt::ControlModifier))
             return false;
@@ -390,6 +449,18 @@ bool RulerGestures::pressKey(const QKeyEvent* event)
     default:
         return false;
     }
+}
+
+bool RulerGestures::pressHistoryKey(const QKeyEvent* event)
+{
+    const bool isAlt = event->modifiers() & Qt::AltModifier;
+    const bool isBackspace = event->key() == Qt::Key_Backspace;
+    const bool isShift = event->modifiers() & Qt::ShiftModifier;
+    if ((isAlt && event->key() == Qt::Key_Left) || (isBackspace && !isShift))
+        return m_ruler->zoomBack(), true;
+    if ((isAlt && event->key() == Qt::Key_Right) || (isBackspace && isShift))
+        return m_ruler->zoomForward(), true;
+    return false;
 }
 
 void RulerGestures::moveIndicatorTo(qint64 msecs)
@@ -419,6 +490,14 @@ void RulerGestures::moveViewTo(qint64 msecs, bool moving)
         return;
     d.scale.setViewStart(d.scale.inZone(start));
     m_ruler->viewMovedByUser(moving);
+}
+
+void RulerGestures::moveViewSoThat(const FineTime& time, double x)
+{
+    const TimeScale::View before = d.scale.shownView();
+    d.scale.putAt(time, x);
+    if (d.scale.shownView() != before)
+        m_ruler->viewMovedByUser(true);
 }
 
 void RulerGestures::jumpToNeighbour(int direction)

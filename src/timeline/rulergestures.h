@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ruler.h"
+#include "timescale.h"
+#include "wheelturns.h"
 
 #include <QObject>
 #include <QPoint>
@@ -65,6 +67,11 @@ private:
     bool mayLoseRelease(const QEvent* event) const;
 
     void dragView(int x);
+    void moveViewSoThat(const FineTime& time, double x);
+    void turnSideways(const QWheelEvent* event);
+    void zoomByNotches(double notches, double x);
+    bool zoomByLevel(int direction, double x);
+    bool pressHistoryKey(const QKeyEvent* event);
     bool indicatorEvent(QEvent* event);
     void dragIndicator(QPoint position, bool isHeld);
     void dropIndicator(int x);
@@ -83,8 +90,10 @@ private:
     Ruler::Private& d;
     Gesture m_gesture = Gesture::None;
     QPoint m_pressPosition;
-    qint64 m_pressTime = 0;
+    FineTime m_pressTime;
     QTimer m_moveTimer;
+    QTimer m_restTimer; ///< until the view counts as no longer moving
+    WheelTurns m_wheel;
     int m_direction = 0;
     const std::unique_ptr<SecondFinger> m_secondFinger;
 

@@ -145,11 +145,17 @@ void RulerHover::tellStop()
 
 void RulerHover::onMouseTimerTimeout()
 {
-    const HoverPreview::Situation situation{.dragging = m_dragging,
-                                            .visible = m_visible,
-                                            .pending = m_pending,
-                                            .markerHovered = m_markers.hoveredButton() != nullptr,
-                                            .viewStart = m_scale.viewStartMs()};
+    HoverPreview::Situation situation{.dragging = m_dragging,
+                                      .visible = m_visible,
+                                      .pending = m_pending,
+                                      .markerHovered = m_markers.hoveredButton() != nullptr,
+                                      .viewStart = m_scale.viewStartMs()};
+    // Close up, half a second may be more than the whole view.
+    constexpr double smallestMove = 3; // pixels
+    if (m_scale.isBetweenLevels())
+        situation.smallestViewMove =
+            std::min(situation.smallestViewMove,
+                     qint64(smallestMove / m_scale.lengthPerMillisecond()));
     if (m_rules.isDue(situation, HoverPreview::Clock::now()))
         emitPrviewPositionChanged();
 }

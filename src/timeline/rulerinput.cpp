@@ -15,6 +15,19 @@ void Ruler::setIndicatorDragEnabled(bool on)
     d->indicatorDragEnabled = on;
 }
 
+bool Ruler::isFineWheel() const
+{
+    return d->fineWheel;
+}
+
+void Ruler::setFineWheel(bool on)
+{
+    if (d->fineWheel == on)
+        return;
+    d->fineWheel = on;
+    Q_EMIT fineWheelChanged(on);
+}
+
 void Ruler::setPreviewEnabled(bool on)
 {
     if (d->active)

@@ -59,6 +59,26 @@ void Ruler::setFontSize(unsigned int points)
     setOrvaneGuiTheme(d->theme);
 }
 
+bool Ruler::hasCalendarTicks() const
+{
+    return d->calendarTicks;
+}
+
+void Ruler::setCalendarTicks(bool on)
+{
+    if (d->calendarTicks == on)
+        return;
+    d->calendarTicks = on;
+    update();
+    whileAlive(
+        this, [this] { updateChildren(false); }, [&] { Q_EMIT calendarTicksChanged(on); });
+}
+
+bool Ruler::showsCalendar() const
+{
+    return d->calendarTicks || d->continuousZoom;
+}
+
 void Ruler::setDateFormat(const QString& format)
 {
     d->dateFormat = format;
@@ -104,6 +124,8 @@ void Ruler::paintEvent(QPaintEvent*)
                      .rect = rect(),
                      .headerHeight = d->headerHeight,
                      .dateFormat = d->dateFormat};
+    if (showsCalendar())
+        scene.clock = &d->clock;
     if (d->searchDisplayed)
         scene.searchRange = d->searchRange;
     if (d->hover->isPreviewVisible())
@@ -187,8 +209,16 @@ void Ruler::showIndicatorTime(quint64 msecs)
 {
     // Where the view shows more than a day, a time alone says little.
     const bool needsDate = qint64(d->scale.millisecondsPerLevel()) > msecsPerDay;
-    const QString format = needsDate ? d->dateFormat + u" hh:mm:ss"_s : u"hh:mm:ss"_s;
-    d->indicator->setText(d->scale.inZone(TimeScale::instant(msecs)).toString(format));
+    QString format = needsDate ? d->dateFormat + u" hh:mm:ss"_s : u"hh:mm:ss"_s;
+    QString whichOfTwo;
+    if (showsCalendar()) {
+        // Close up, a pixel is less than a tenth of a second.
+        constexpr double pixelsPerMillisecond = 0.01;
+        if (d->scale.lengthPerMillisecond() > pixelsPerMillisecond)
+            format += u".zzz"_s;
+        whichOfTwo = d->clock.whichOfTwo(TimeScale::instant(msecs));
+    }
+    d->indicator->setText(d->scale.inZone(TimeScale::instant(msecs)).toString(format) + whichOfTwo);
 }
 
 } // namespace CorvelGui

@@ -148,7 +148,9 @@ void RulerMarkers::setOrvaneGuiTheme(bool on)
 
 QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area)
 {
-    const View view{{scale.viewStartMs(), scale.lengthPerMillisecond(), scale.width()}, area};
+    const View view{{scale.viewStartMs(), scale.lengthPerMillisecond(), scale.width(),
+                     scale.fineViewStart().fraction},
+                    area};
     if (m_view == view && !m_changed)
         return {};
     m_view = view;

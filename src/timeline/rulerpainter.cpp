@@ -2,7 +2,6 @@
 
 #include "devicegrid.h"
 #include "keyboardfocus.h"
-#include "ticklayout.h"
 #include "timescale.h"
 #include "tracksegments.h"
 
@@ -194,6 +193,25 @@ const QStaticText& RulerPainter::shaped(const QString& text) const
     return result;
 }
 
+void RulerPainter::markClockChange(QPainter& painter, const QRectF& rect, const ClockMark& mark,
+                                   int headerHeight) const
+{
+    const DeviceGrid grid(painter);
+    const auto tint = [&](double from, double to, int alpha) {
+        QColor color = colors.clockChange;
+        color.setAlpha(alpha);
+        const QRectF band(QPointF(std::max(from, rect.left()), rect.top()),
+                          QPointF(std::min(to, rect.right()), rect.top() + headerHeight));
+        if (band.width() > 0)
+            painter.fillRect(grid.aligned(band), color);
+    };
+    // The hour that comes twice, and the second time again.
+    tint(mark.x - mark.repeated, mark.x + mark.repeated, 70);
+    tint(mark.x, mark.x + mark.repeated, 70);
+    painter.fillRect(grid.aligned(QRectF(mark.x - 1, rect.top(), 2, rect.height())),
+                     colors.clockChange);
+}
+
 void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
                                   qint64 toMidnight) const
 {
@@ -203,9 +221,12 @@ void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, co
     constexpr QColor minorColor(90, 90, 90);
     constexpr QColor textColor(200, 200, 200);
 
-    const TickLayout layout =
-        layoutTicks(scene.scale, rect,
-                    {painter.fontMetrics(), scene.headerHeight, scene.dateFormat}, toMidnight);
+    const TickStyle style{painter.fontMetrics(), scene.headerHeight, scene.dateFormat};
+    const TickLayout layout = scene.clock
+                                  ? layoutCalendarTicks(scene.scale, rect, style, *scene.clock)
+                                  : layoutTicks(scene.scale, rect, style, toMidnight);
+    for (const ClockMark& mark : layout.clockMarks)
+        markClockChange(painter, rect, mark, scene.headerHeight);
     // Filled, because a painter takes ten times as long to draw a line.
     for (const Tick& tick : layout.ticks) {
         const double left = grid.lineCenter(tick.x, lineWidth) - lineWidth / 2;

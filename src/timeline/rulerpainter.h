@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/internalexport.h"
+#include "ticklayout.h"
 #include "timespans.h"
 
 #include <QBrush>
@@ -16,6 +17,7 @@ class QPainter;
 
 namespace CorvelGui {
 
+class ClockChanges;
 class KeyboardFocus;
 class TimeScale;
 class TrackSegments;
@@ -32,6 +34,7 @@ struct CORVELGUI_INTERNAL_EXPORT RulerColors
     QColor preview{37, 124, 191};
     QColor previewClamped{207, 0, 249};
     QColor resultMark{255, 140, 0};
+    QColor clockChange{190, 130, 255};
 
     static RulerColors ofTheme();
 };
@@ -48,6 +51,7 @@ struct RulerScene
     std::optional<qint64> previewTime = {};   ///< only while it is visible
     std::vector<qint64> resultMarks = {};
     const KeyboardFocus* focus = nullptr;
+    const ClockChanges* clock = nullptr; ///< only for ticks in steps that people count in
 };
 
 /// Draws the ruler's bands, highlights and scale. It decides about colours and pixels, never about
@@ -70,6 +74,8 @@ private:
     void shadeOutsideLimits(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
     void drawResultMarks(QPainter& painter, const RulerScene& scene) const;
     void drawPreviewLine(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
+    void markClockChange(QPainter& painter, const QRectF& rect, const ClockMark& mark,
+                         int headerHeight) const;
     void drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
                         qint64 toMidnight) const;
 

@@ -25,11 +25,11 @@ double Ruler::xAt(qint64 msecs) const
 
 void Ruler::setView(qint64 from, qint64 to)
 {
-    const int oldLevel = d->scale.level();
-    const qint64 oldStart = d->scale.viewStartMs();
-    if (d->scale.setView(from, to) &&
-        (d->scale.level() != oldLevel || d->scale.viewStartMs() != oldStart))
-        viewZoomed(oldLevel, oldStart);
+    TimeScale& scale = d->scale;
+    const TimeScale::View before = scale.shownView();
+    const bool shown = d->continuousZoom ? scale.showSpan(from, to) : scale.setView(from, to);
+    if (shown && scale.shownView() != before)
+        viewZoomed({.before = before});
 }
 
 void Ruler::centerOn(qint64 msecs)

@@ -1,5 +1,6 @@
 #include "ticklayout.h"
 
+#include "calendarticks.h"
 #include "timescale.h"
 
 #include <algorithm>
@@ -13,6 +14,11 @@ namespace {
 // Up to this distance of major ticks (8 hours) they carry their time; wider ones carry only dates.
 constexpr qint64 longestLabelledInterval = 28'800'000;
 
+int lineHeight(const TickStyle& style)
+{
+    return style.metrics.boundingRect(u'0').height() + 2;
+}
+
 class Layouter
 {
 public:
@@ -20,7 +26,7 @@ public:
         : m_scale(scale)
         , m_rect(rect)
         , m_style(style)
-        , m_lineHeight(style.metrics.boundingRect(u'0').height() + 2)
+        , m_lineHeight(lineHeight(style))
         , m_length(scale.getIntervalLength(scale.level()))
         , m_subIntervals(scale.getSubIntervalNumber(scale.level()))
         , m_subLength(std::floor(m_length / m_subIntervals))
@@ -120,6 +126,29 @@ private:
     TickLayout m_layout;
 };
 
+/// The texts of one row, asked from left to right for what they cover.
+class TextRow
+{
+public:
+    TextRow(const std::vector<CalendarLabel>& labels, int row)
+    {
+        for (const CalendarLabel& label : labels)
+            if (label.row == row)
+                m_texts.push_back({label.x, label.x + label.width});
+    }
+
+    bool covers(double x)
+    {
+        while (m_next < m_texts.size() && m_texts[m_next].second <= x)
+            ++m_next;
+        return m_next < m_texts.size() && m_texts[m_next].first < x;
+    }
+
+private:
+    std::vector<std::pair<double, double>> m_texts;
+    std::size_t m_next = 0;
+};
+
 } // namespace
 
 qint64 msecsToMidnight(const TimeScale& scale)
@@ -140,6 +169,45 @@ TickLayout layoutTicks(const TimeScale& scale, const QRectF& rect, const TickSty
                        qint64 toMidnight)
 {
     return Layouter(scale, rect, style).layOut(toMidnight);
+}
+
+TickLayout layoutCalendarTicks(const TimeScale& scale, const QRectF& rect, const TickStyle& style,
+                               const ClockChanges& clock)
+{
+    const double pixelsPerMillisecond = scale.lengthPerMillisecond();
+    const CalendarView view{.from = scale.viewStartMs(),
+                            .msecsPerPixel = 1 / pixelsPerMillisecond,
+                            .left = scale.xAt(scale.viewStartMs()),
+                            .right = rect.right()};
+    const CalendarScale calendar =
+        layOutCalendar(view, clock, {QFontMetricsF(style.metrics), style.dateFormat});
+
+    const double firstRow = rect.top() + lineHeight(style);
+    const double secondRow = firstRow + lineHeight(style);
+    const double belowFirst = firstRow + 2;
+    const double belowSecond = secondRow + 4;
+    TickLayout layout;
+    for (const CalendarLabel& label : calendar.labels)
+        layout.labels.push_back({label.x, label.row == 0 ? firstRow : secondRow, label.text});
+
+    // Lines leave out the texts that they would cross.
+    TextRow first(calendar.labels, 0);
+    TextRow second(calendar.labels, 1);
+    for (const CalendarTick& tick : calendar.ticks) {
+        const double body = rect.top() + style.headerHeight;
+        double top = !tick.major ? body : first.covers(tick.x) ? belowFirst : rect.top();
+        if (second.covers(tick.x)) {
+            if (tick.major && top < belowFirst)
+                layout.ticks.push_back({tick.x, top, belowFirst, true});
+            top = std::max(top, belowSecond);
+        }
+        layout.ticks.push_back({tick.x, top, rect.bottom(), tick.major});
+    }
+    for (const ClockChange& change : calendar.changes)
+        layout.clockMarks.push_back(
+            {view.xAt(change.instant),
+             change.repeats() ? double(change.length()) * pixelsPerMillisecond : 0.0});
+    return layout;
 }
 
 } // namespace CorvelGui

@@ -10,6 +10,7 @@
 
 namespace CorvelGui {
 
+class ClockChanges;
 class TimeScale;
 
 /// A vertical line of the scale.
@@ -29,11 +30,19 @@ struct TickLabel
     QString text;
 };
 
+/// Where the clocks go forward or back.
+struct ClockMark
+{
+    double x;
+    double repeated; ///< pixels before and behind it that the clocks show the same times; 0 forward
+};
+
 /// Everything that the scale draws, in the coordinates of the widget.
 struct TickLayout
 {
     std::vector<Tick> ticks;
     std::vector<TickLabel> labels;
+    std::vector<ClockMark> clockMarks;
 };
 
 struct TickStyle
@@ -51,5 +60,10 @@ CORVELGUI_INTERNAL_EXPORT qint64 msecsToMidnight(const TimeScale& scale);
 /// @p toMidnight milliseconds after the view start.
 CORVELGUI_INTERNAL_EXPORT TickLayout layoutTicks(const TimeScale& scale, const QRectF& rect,
                                                  const TickStyle& style, qint64 toMidnight);
+
+/// Lays out the scale within @p rect with ticks in steps that people count in.
+CORVELGUI_INTERNAL_EXPORT TickLayout layoutCalendarTicks(const TimeScale& scale, const QRectF& rect,
+                                                         const TickStyle& style,
+                                                         const ClockChanges& clock);
 
 } // namespace CorvelGui

@@ -1,5 +1,6 @@
 #include "timescale.h"
 
+#include "calendarticks.h"
 #include "durations.h"
 
 #include <Corvel/TimeZoneHelper>
@@ -31,6 +32,13 @@ qint64 bounded(double msecs)
 {
     constexpr double latest = latestInstant;
     return std::isnan(msecs) ? 0 : qint64(std::clamp(msecs, -latest, latest));
+}
+
+FineTime later(const FineTime& time, double msecs)
+{
+    const double sum = time.fraction + msecs;
+    const double whole = std::floor(sum);
+    return {time.msecs + bounded(whole), sum - whole};
 }
 
 constexpr ZoomLevel zoomLevel(qint64 span, qint32 intervals, qint32 subIntervals)
@@ -68,8 +76,13 @@ void TimeScale::setTimeLimits(quint64 beginMs, quint64 endMs)
         m_totalDuration = zoomLevels()[1].millisecondsPerLevel;
         m_wholeRangeInterval = zoomLevels()[1].millisecondsPerInterval;
         m_viewStart = Instant();
+        m_span.reset();
     } else if (!hasView()) {
         m_viewStart = m_begin;
+    } else if (m_span) {
+        setSpan(*m_span);
+        if (!m_span)
+            m_viewStart = m_begin;
     }
 }
 
@@ -96,6 +109,7 @@ void TimeScale::changeLevel(int level, double anchor)
     const int newLevel = level < 0 || level > wholeRangeLevel ? wholeRangeLevel : level;
     getNewStartDateTime(newLevel, anchor);
     m_level = newLevel;
+    m_span.reset();
 }
 
 bool TimeScale::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to)
@@ -105,6 +119,7 @@ bool TimeScale::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to
 
     qint64 start = bounded(from.toMSecsSinceEpoch());
     const qint64 range = std::min(bounded(to.toMSecsSinceEpoch()) - start, qint64(m_totalDuration));
+    m_span.reset();
     m_level = closestLevel(quint64(range));
     if (m_level < levelCount)
         start += (range - qint64(zoomLevels()[m_level].millisecondsPerLevel)) / 2;
@@ -118,15 +133,91 @@ bool TimeScale::setLevelFromTimeRange(const QDateTime& from, const QDateTime& to
 
 bool TimeScale::setView(qint64 from, qint64 to)
 {
+    return centerRange(from, to, false);
+}
+
+bool TimeScale::showSpan(qint64 from, qint64 to)
+{
+    return centerRange(from, to, true);
+}
+
+bool TimeScale::centerRange(qint64 from, qint64 to, bool exactly)
+{
     if (!hasView() || from >= to)
         return false;
     const qint64 begin = bounded(from);
     const qint64 range = bounded(to) - begin;
-    const int level = closestLevel(quint64(range));
-    m_level = isEffective(level) ? level : wholeRangeLevel;
+    if (exactly) {
+        setSpan(double(range));
+    } else {
+        const int level = closestLevel(quint64(range));
+        m_level = isEffective(level) ? level : wholeRangeLevel;
+        m_span.reset();
+    }
     const qint64 span = qint64(millisecondsPerLevel());
     setViewStart(inZone(startWithinLimits(begin + (range - span) / 2)));
     return true;
+}
+
+void TimeScale::zoomTo(double span, double x)
+{
+    if (!hasView() || std::isnan(span))
+        return;
+    const FineTime time = fineTimeAt(x);
+    setSpan(span);
+    putAt(time, x);
+}
+
+void TimeScale::setSpan(double span)
+{
+    const double shown = std::max(span, closestSpan());
+    if (shown < double(m_totalDuration)) {
+        m_span = shown;
+        m_level = nearestLevel(shown);
+    } else {
+        m_span.reset();
+        m_level = wholeRangeLevel;
+    }
+}
+
+int TimeScale::nearestLevel(double span) const
+{
+    const auto distance = [&](int level) {
+        return std::abs(std::log(span / double(spanOfLevel(level))));
+    };
+    int nearest = wholeRangeLevel;
+    for (int level = levelCount - 1; level >= 0; --level) {
+        if (isEffective(level) && distance(level) < distance(nearest))
+            nearest = level;
+    }
+    return nearest;
+}
+
+void TimeScale::putAt(const FineTime& time, double x)
+{
+    const double width = scaleWidth();
+    if (hasView() && width > 0)
+        setFineViewStart(later(time, -exactSpan() * (x - margin()) / width));
+}
+
+void TimeScale::setFineViewStart(const FineTime& start)
+{
+    const FineTime latest = later({m_end.msecs, 0.0}, -exactSpan());
+    const FineTime earliest{m_begin.msecs, 0.0};
+    const FineTime shown = std::max(std::min(start, latest), earliest);
+    setViewStart(inZone(shown.msecs));
+    m_viewStart.fraction = shown.fraction;
+}
+
+void TimeScale::show(const View& view)
+{
+    if (!hasView())
+        return;
+    m_level = view.level;
+    m_span.reset();
+    if (view.betweenLevels)
+        setSpan(view.span);
+    setFineViewStart(view.start);
 }
 
 qint64 TimeScale::startWithinLimits(qint64 msecs) const
@@ -167,6 +258,8 @@ bool TimeScale::centerOnPosition(double position)
 
 bool TimeScale::canZoomOut() const
 {
+    if (m_span)
+        return true;
     // Strictly shorter, while a row exactly as long as the period is effective: it shows everything
     // already.
     return m_level < levelCount && zoomLevels()[m_level].millisecondsPerLevel < m_totalDuration;
@@ -194,8 +287,19 @@ quint64 TimeScale::spanOfLevel(int level) const
 
 qint64 TimeScale::millisecondsPerInterval() const
 {
+    constexpr double intervals = 12;
+    if (m_span)
+        return calendarStep(*m_span / intervals);
     return isEffective(m_level) ? zoomLevels()[m_level].millisecondsPerInterval
                                 : m_wholeRangeInterval;
+}
+
+qint64 TimeScale::millisecondsPerMinorDivision() const
+{
+    constexpr double divisions = 4;
+    const qint64 interval = millisecondsPerInterval();
+    return m_span ? calendarStep(double(interval) / divisions)
+                  : std::max<qint64>(interval / getSubIntervalNumber(m_level), 1);
 }
 
 double TimeScale::getIntervalLength(int level) const
@@ -242,14 +346,22 @@ quint32 TimeScale::wholeScaleWidth() const
 
 double TimeScale::lengthPerMillisecond() const
 {
-    const quint64 span = millisecondsPerLevel();
+    const double span = exactSpan();
     return span == 0 ? std::numeric_limits<double>::infinity() : double(wholeScaleWidth()) / span;
 }
 
 qint64 TimeScale::offsetAt(double x) const
 {
     const double width = scaleWidth();
-    return width > 0 ? bounded(millisecondsPerLevel() * (x - margin()) / width) : 0;
+    return width > 0 ? bounded(exactSpan() * (x - margin()) / width + m_viewStart.fraction)
+                     : 0;
+}
+
+FineTime TimeScale::fineTimeAt(double x) const
+{
+    const double width = scaleWidth();
+    return width > 0 ? later(fineViewStart(), exactSpan() * (x - margin()) / width)
+                     : fineViewStart();
 }
 
 QDateTime TimeScale::getDateTime(double x) const
@@ -260,7 +372,8 @@ QDateTime TimeScale::getDateTime(double x) const
 double TimeScale::xAt(qint64 msecs) const
 {
     // As doubles, which are exact for every time within the limits and overflow for none.
-    return margin() + lengthPerMillisecond() * (double(msecs) - double(m_viewStart.msecs));
+    const double offset = double(msecs) - double(m_viewStart.msecs) - m_viewStart.fraction;
+    return margin() + lengthPerMillisecond() * offset;
 }
 
 double TimeScale::getPosition(qint64 msecs) const
@@ -285,7 +398,7 @@ QString TimeScale::getTickerString(qint64 offsetMs) const
 
 void TimeScale::getNewStartDateTime(int level, double anchor)
 {
-    if (level == m_level || !hasView())
+    if ((level == m_level && !m_span) || !hasView())
         return;
     if (!isEffective(level)) {
         m_viewStart = m_begin;

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
+#include <optional>
 
 namespace CorvelGui {
 
@@ -19,6 +21,15 @@ struct ZoomLevel
     quint32 millisecondsPerInterval; ///< one major interval
 };
 
+/// A time to fractions of a millisecond: close up, a pixel is less than one.
+struct FineTime
+{
+    qint64 msecs = 0;
+    double fraction = 0.0; ///< of a millisecond, from 0 up to 1
+
+    auto operator<=>(const FineTime&) const = default;
+};
+
 /// The time model of the ruler: which period it covers, which part of it is in view, and every
 /// conversion between an instant, a pixel column and a relative position.
 ///
@@ -26,6 +37,8 @@ struct ZoomLevel
 /// coordinate in the widget; the scale runs from the margin to the width less the margin. Instants
 /// keep the time zone in which they were made: a new zone counts for limits that are set
 /// afterwards.
+///
+/// The view is as long as the zoom level says, or, between the levels, as long as was asked for.
 ///
 /// Plain value without events or signals: the ruler decides what a change means for its
 /// surroundings.
@@ -77,6 +90,8 @@ public:
     /// Not limited to the end limit.
     qint64 viewEndMs() const { return m_viewStart.msecs + qint64(millisecondsPerLevel()); }
     void setViewStart(const QDateTime& time) { m_viewStart = Instant(time); }
+    /// To fractions of a millisecond, which there are only between the levels.
+    FineTime fineViewStart() const { return {m_viewStart.msecs, m_viewStart.fraction}; }
     /// Moves the view just as far as it takes to show @p time. Returns whether the view moved.
     bool pageTo(const QDateTime& time);
     /// Puts the relative position @p position into the middle of the view, whatever the limits say.
@@ -104,14 +119,45 @@ public:
     /// period.
     bool canZoomOut() const;
 
+    // Between the levels
+    /// Shows @p span milliseconds, at least closestSpan() and at most the period. What is at column
+    /// @p x stays there, exactly, as far as the limits allow. level() is the nearest one from now
+    /// on, until a level is made current.
+    void zoomTo(double span, double x);
+    /// As setView(), but exactly the range, if it is not closer than closestSpan().
+    bool showSpan(qint64 from, qint64 to);
+    /// Moves the view so that @p time is at column @p x, as far as the limits allow.
+    void putAt(const FineTime& time, double x);
+    bool isBetweenLevels() const { return m_span.has_value(); }
+    /// What is in view, in milliseconds.
+    double exactSpan() const { return m_span ? *m_span : double(spanOfLevel(m_level)); }
+    /// 40 ms a hundred pixels.
+    double closestSpan() const { return std::max(scaleWidth() * 0.4, 1.0); }
+    /// The level whose view is the nearest to that length.
+    int nearestLevel(double span) const;
+
+    /// What is shown, to come back to it.
+    struct View
+    {
+        FineTime start;
+        double span = 0.0;
+        int level = 0;
+        bool betweenLevels = false;
+
+        bool operator==(const View&) const = default;
+    };
+    View shownView() const { return {fineViewStart(), exactSpan(), m_level, isBetweenLevels()}; }
+    /// Shows a view again, as far as the limits allow.
+    void show(const View& view);
+
     /// Visible span in milliseconds.
-    quint64 millisecondsPerLevel() const { return spanOfLevel(m_level); }
+    quint64 millisecondsPerLevel() const
+    {
+        return m_span ? quint64(*m_span + 0.5) : spanOfLevel(m_level);
+    }
     /// Distance between two major ticks in milliseconds.
     qint64 millisecondsPerInterval() const;
-    qint64 millisecondsPerMinorDivision() const
-    {
-        return std::max<qint64>(millisecondsPerInterval() / getSubIntervalNumber(m_level), 1);
-    }
+    qint64 millisecondsPerMinorDivision() const;
     /// Distance between two major ticks in whole pixels.
     double getIntervalLength(int level) const;
     int getSubIntervalNumber(int level) const;
@@ -123,6 +169,7 @@ public:
     double lengthPerMillisecond() const;
     qint64 msecsAt(double x) const { return m_viewStart.msecs + offsetAt(x); }
     QDateTime getDateTime(double x) const;
+    FineTime fineTimeAt(double x) const;
     double xAt(qint64 msecs) const;
     double getPosition(qint64 msecs) const;
     double getCurrentCenterPosition() const;
@@ -142,6 +189,7 @@ private:
 
         QDateTime time;
         qint64 msecs = 0;
+        double fraction = 0.0; ///< of a millisecond, that the time is later
     };
 
     bool isEffective(int level) const;
@@ -151,8 +199,12 @@ private:
     quint32 wholeScaleWidth() const;
     qint64 offsetAt(double x) const;
     void getNewStartDateTime(int level, double anchor);
+    void setSpan(double span);
+    void setFineViewStart(const FineTime& start);
+    bool centerRange(qint64 from, qint64 to, bool exactly);
 
     int m_level = 1;
+    std::optional<double> m_span; ///< in view, between the levels
     double m_width = 0.0;
     quint64 m_totalDuration = 0;
     qint64 m_wholeRangeInterval = 0;

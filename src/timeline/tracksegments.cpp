@@ -17,8 +17,8 @@ TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
 
     // What scale.xAt() does, with the division taken out of the search.
     const double pixels = scale.lengthPerMillisecond();
-    const auto xAt = [pixels, from = double(scale.viewStartMs())](qint64 msecs) {
-        return TimeScale::margin() + pixels * (double(msecs) - from);
+    const auto xAt = [pixels, from = scale.fineViewStart()](qint64 msecs) {
+        return TimeScale::margin() + pixels * (double(msecs) - double(from.msecs) - from.fraction);
     };
     const auto endsUpTo = [&xAt](double x) {
         return [&xAt, x](const TimeSpan& span) {

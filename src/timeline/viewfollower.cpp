@@ -2,6 +2,7 @@
 
 #include "timescale.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace CorvelGui {
@@ -35,6 +36,8 @@ qint64 ViewFollower::startFor(const TimeScale& scale, qint64 now) const
         return scale.startAround(now);
     const qint64 start = scale.viewStartMs();
     const qint64 span = scale.viewEndMs() - start;
+    if (m_mode == Mode::Smooth)
+        return scale.startWithinLimits(std::clamp(start, now - (span - span / 4), now - span / 4));
     if (start <= now && now <= scale.viewEndMs())
         return start;
     const qint64 distance = now - start;
