@@ -413,8 +413,9 @@ private:
 qint64 calendarStep(double msecs)
 {
     const auto longer =
-        std::upper_bound(steps.begin(), steps.end(), msecs,
-                         [](double length, const Step& step) { return length < step.averageLength(); });
+        std::upper_bound(steps.begin(), steps.end(), msecs, [](double length, const Step& step) {
+            return length < step.averageLength();
+        });
     return longer == steps.begin() ? 1 : qint64(std::prev(longer)->averageLength());
 }
 

@@ -26,10 +26,10 @@ class CORVELGUI_EXPORT Ruler : public QWidget
     Q_PROPERTY(bool following READ isFollowing NOTIFY followingChanged)
     Q_PROPERTY(bool continuousZoom READ isContinuousZoom WRITE setContinuousZoom NOTIFY
                    continuousZoomChanged)
-    Q_PROPERTY(bool calendarTicks READ hasCalendarTicks WRITE setCalendarTicks NOTIFY
-                   calendarTicksChanged)
-    Q_PROPERTY(bool zoomHistory READ keepsZoomHistory WRITE setZoomHistory NOTIFY
-                   zoomHistoryChanged)
+    Q_PROPERTY(
+        bool calendarTicks READ hasCalendarTicks WRITE setCalendarTicks NOTIFY calendarTicksChanged)
+    Q_PROPERTY(
+        bool zoomHistory READ keepsZoomHistory WRITE setZoomHistory NOTIFY zoomHistoryChanged)
     Q_PROPERTY(bool canZoomBack READ canZoomBack NOTIFY zoomHistoryMoved)
     Q_PROPERTY(bool canZoomForward READ canZoomForward NOTIFY zoomHistoryMoved)
     Q_PROPERTY(bool fineWheel READ isFineWheel WRITE setFineWheel NOTIFY fineWheelChanged)
@@ -37,10 +37,10 @@ class CORVELGUI_EXPORT Ruler : public QWidget
 public:
     /// How the view goes after the indicator.
     enum class FollowMode {
-        Off,     ///< just as far as it takes to show an indicator that is set outside the view
+        Off,      ///< just as far as it takes to show an indicator that is set outside the view
         Pages,    ///< by whole views, when the indicator leaves the view
         Centered, ///< at every step, with the indicator in the middle
-        Smooth    ///< at every step, while the indicator is in the first or last quarter of the view
+        Smooth ///< at every step, while the indicator is in the first or last quarter of the view
     };
     Q_ENUM(FollowMode)
 

@@ -153,9 +153,8 @@ void RulerHover::onMouseTimerTimeout()
     // Close up, half a second may be more than the whole view.
     constexpr double smallestMove = 3; // pixels
     if (m_scale.isBetweenLevels())
-        situation.smallestViewMove =
-            std::min(situation.smallestViewMove,
-                     qint64(smallestMove / m_scale.lengthPerMillisecond()));
+        situation.smallestViewMove = std::min(
+            situation.smallestViewMove, qint64(smallestMove / m_scale.lengthPerMillisecond()));
     if (m_rules.isDue(situation, HoverPreview::Clock::now()))
         emitPrviewPositionChanged();
 }

@@ -111,8 +111,7 @@ bool Ruler::canZoomIn() const
 {
     if (!d->scale.hasView())
         return false;
-    return d->continuousZoom ? d->scale.exactSpan() > d->scale.closestSpan()
-                             : d->scale.level() > 0;
+    return d->continuousZoom ? d->scale.exactSpan() > d->scale.closestSpan() : d->scale.level() > 0;
 }
 
 bool Ruler::canZoomOut() const

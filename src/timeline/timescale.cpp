@@ -353,8 +353,7 @@ double TimeScale::lengthPerMillisecond() const
 qint64 TimeScale::offsetAt(double x) const
 {
     const double width = scaleWidth();
-    return width > 0 ? bounded(exactSpan() * (x - margin()) / width + m_viewStart.fraction)
-                     : 0;
+    return width > 0 ? bounded(exactSpan() * (x - margin()) / width + m_viewStart.fraction) : 0;
 }
 
 FineTime TimeScale::fineTimeAt(double x) const

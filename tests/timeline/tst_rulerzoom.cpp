@@ -1,0 +1,303 @@
+#include "clockchanges.h"
+#include "rulerscript.h"
+#include "testscale.h"
+#include "testsupport.h"
+#include "ticklayout.h"
+#include "viewhistory.h"
+
+#include <QRandomGenerator>
+#include <QSignalSpy>
+
+#include <cmath>
+
+using namespace CorvelGui;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void turn(QWidget& ruler, double x, QPoint angle, Qt::KeyboardModifiers keys = {})
+{
+    QWheelEvent event(QPointF(x, 30), ruler.mapToGlobal(QPointF(x, 30)), {}, angle, Qt::NoButton,
+                      keys, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&ruler, &event);
+}
+
+QString viewOf(const Ruler& ruler)
+{
+    const auto seconds = [](qint64 msecs) {
+        return QString::number(double(msecs - monday) / second, 'g', 7);
+    };
+    return u"%1 - %2"_s.arg(seconds(ruler.view().begin), seconds(ruler.view().end));
+}
+
+} // namespace
+
+class TestRulerZoom : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pointStaysUnderThePointer();
+    void viewsBetweenTheLevels();
+    void dragsLessThanAMillisecond();
+    void keysZoomAboutTheIndicator();
+    void fineWheel();
+    void history();
+    void turnsCountAsOne();
+    void smoothFollowing();
+    void paintedLabels();
+    void repeatedHour();
+};
+
+void TestRulerZoom::pointStaysUnderThePointer()
+{
+    LoggedRuler ruler;
+    ruler.setContinuousZoom(true);
+    ruler.setFineWheel(true);
+    constexpr double middle = 510;
+    turn(ruler, middle, {0, -5000});
+    QCOMPARE(viewOf(ruler), u"0 - 864000"_s);
+    const qint64 time = monday + 5 * day;
+    QRandomGenerator random(1);
+    int depth = 0; // about 60 notches from the whole period to the closest view
+    for (int step = 0; step < 2000; ++step) {
+        const int angle = random.bounded(-900, 901);
+        depth = std::clamp(depth + angle, 0, 5000);
+        turn(ruler, middle, {0, angle});
+        QVERIFY(std::abs(ruler.xAt(time) - middle) < 0.001);
+    }
+    turn(ruler, middle, {0, 9000});
+    QCOMPARE(viewOf(ruler), u"431999.8 - 432000.2"_s);
+    QVERIFY(!ruler.canZoomIn() && ruler.canZoomOut());
+    QVERIFY(std::abs(ruler.xAt(time) - middle) < 0.001);
+    // The limits come first.
+    turn(ruler, 30, {0, -9000});
+    QCOMPARE(viewOf(ruler), u"0 - 864000"_s);
+    QCOMPARE(ruler.level(), ruler.getNrOfZooomLevels());
+}
+
+// A level is chosen even if it is the nearest one already, and the view outlasts other limits.
+void TestRulerZoom::viewsBetweenTheLevels()
+{
+    const auto view = [](const QString& script) {
+        LoggedRuler ruler;
+        ruler.setContinuousZoom(true);
+        play(&ruler, script);
+        return u"%1, level %2, %3"_s.arg(viewOf(ruler))
+            .arg(ruler.level())
+            .arg(ruler.log.join(u'|'));
+    };
+    QCOMPARE(view(u"view 1000 5000"_s), u"1000 - 5000, level 1, "_s);
+    QCOMPARE(view(u"view 1000 7800"_s), u"1000 - 7800, level 2, "_s);
+    QCOMPARE(view(u"view 36000 40000; level 1 0.5"_s), u"36197.8 - 39797.8, level 1, "_s);
+    QCOMPARE(view(u"view 36000 40000; in 1"_s), u"36197.8 - 39797.8, level 1, "_s);
+    QCOMPARE(view(u"view 0 860000; key Ctrl+0"_s), u"0 - 864000, level 8, "_s);
+    QCOMPARE(view(u"view 1000 5000; limits 0 2000000"_s), u"1000 - 5000, level 1, "_s);
+    QCOMPARE(view(u"view 1000 5000; limits 0 3000"_s), u"0 - 3000, level 8, "_s);
+    QCOMPARE(view(u"view 1000 5000; search 36000 39000 zoom"_s), u"35700 - 39300, level 1, "_s);
+
+    LoggedRuler ruler;
+    ruler.setContinuousZoom(true);
+    play(&ruler, u"view 36000 40000"_s);
+    ruler.setContinuousZoom(false);
+    QCOMPARE(viewOf(ruler), u"36197.8 - 39797.8"_s);
+    QCOMPARE(ruler.takeLog(),
+             (QStringList{u"level 1"_s, u"center 0.04398"_s, u"view 02 10:02 - 02 11:03"_s}));
+}
+
+void TestRulerZoom::dragsLessThanAMillisecond()
+{
+    LoggedRuler ruler;
+    ruler.setContinuousZoom(true);
+    ruler.setView(monday + hour, monday + hour + 400);
+    const qint64 time = monday + hour + 200;
+    play(&ruler, u"press 510; drag 700; drag 530"_s);
+    QVERIFY(std::abs(ruler.xAt(time) - 530) < 0.001);
+}
+
+void TestRulerZoom::keysZoomAboutTheIndicator()
+{
+    LoggedRuler ruler;
+    ruler.setContinuousZoom(true);
+    play(&ruler, u"view 36000 44000; place 38000; key +"_s);
+    QCOMPARE(viewOf(ruler), u"37000 - 41000"_s);
+    play(&ruler, u"take-away; key -"_s);
+    QCOMPARE(viewOf(ruler), u"35000 - 43000"_s);
+}
+
+void TestRulerZoom::fineWheel()
+{
+    struct Turn
+    {
+        bool fine;
+        QPoint angle;
+        Qt::KeyboardModifiers keys;
+        int count;
+        QString view;
+    };
+    // From three hours of ten days, with the mouse in the middle.
+    const QString whole = u"0 - 864000"_s;
+    const QString closer = u"426591 - 430191"_s;
+    const QString unmoved = u"423000 - 433800"_s;
+    const Turn turns[] = {{false, {0, 15}, {}, 8, u"427788 - 428988"_s},
+                          {false, {15, 0}, {}, 8, whole},
+                          {true, {0, 15}, {}, 7, unmoved},
+                          {true, {0, 15}, {}, 8, closer},
+                          {true, {0, 240}, {}, 1, u"427788 - 428988"_s},
+                          {true, {0, 2}, {}, 59, unmoved},
+                          {true, {120, 40}, {}, 1, u"422352 - 433152"_s},
+                          {true, {0, -120}, Qt::ShiftModifier, 1, u"423648 - 434448"_s}};
+    for (const Turn& expected : turns) {
+        LoggedRuler ruler;
+        play(&ruler, u"view 423000 433800"_s);
+        ruler.setFineWheel(expected.fine);
+        for (int count = 0; count < expected.count; ++count)
+            turn(ruler, 510, expected.angle, expected.keys);
+        QCOMPARE(viewOf(ruler), expected.view);
+    }
+
+    // A turn back begins anew, and a moved view comes to rest.
+    LoggedRuler ruler;
+    play(&ruler, u"view 423000 433800"_s);
+    ruler.setFineWheel(true);
+    turn(ruler, 510, {0, 100});
+    turn(ruler, 510, {0, -10});
+    turn(ruler, 510, {0, 100});
+    QCOMPARE(viewOf(ruler), unmoved);
+    turn(ruler, 510, {120, 0});
+    QCOMPARE(ruler.takeLog().last(), u"view 06 21:17 - 07 00:19 moving"_s);
+    QTRY_COMPARE(ruler.log, QStringList(u"view 06 21:17 - 07 00:19"_s));
+}
+
+void TestRulerZoom::history()
+{
+    LoggedRuler ruler;
+    const QSignalSpy moved(&ruler, &Ruler::zoomHistoryMoved);
+    play(&ruler, u"view 36000 46800; key Alt+Left"_s);
+    QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
+    QVERIFY(!ruler.canZoomBack() && moved.isEmpty());
+
+    ruler.setZoomHistory(true);
+    play(&ruler, u"view 72000 75600; center 80000; view 50000 93200"_s);
+    QCOMPARE(moved.size(), 1);
+    const QPair<QString, QString> steps[] = {{u"key Alt+Left"_s, u"78200 - 81800"_s},
+                                             {u"key Backspace"_s, u"36000 - 46800"_s},
+                                             {u"key Backspace"_s, u"36000 - 46800"_s},
+                                             {u"key Alt+Right"_s, u"78200 - 81800"_s},
+                                             {u"key Shift+Backspace"_s, u"50000 - 93200"_s}};
+    for (const auto& [script, view] : steps) {
+        play(&ruler, script);
+        QCOMPARE(viewOf(ruler), view);
+    }
+    QTest::mouseClick(&ruler, Qt::BackButton, {}, {300, 30});
+    QCOMPARE(viewOf(ruler), u"78200 - 81800"_s);
+    QVERIFY(ruler.canZoomForward());
+    QTest::mouseClick(&ruler, Qt::ForwardButton, {}, {300, 30});
+    QCOMPARE(viewOf(ruler), u"50000 - 93200"_s);
+    // Nothing of it is left in quite another period.
+    ruler.setTimeLimits(at(20 * day), at(30 * day));
+    QVERIFY(!ruler.canZoomBack());
+}
+
+void TestRulerZoom::turnsCountAsOne()
+{
+    using Zoom = ViewHistory::Zoom;
+    const auto stepsBack = [](const QList<std::pair<Zoom, int>>& zooms) {
+        ViewHistory history;
+        ViewHistory::Clock::time_point now{};
+        for (const auto& [zoom, pause] : zooms)
+            history.zoomed({}, zoom, now += std::chrono::milliseconds(pause));
+        int steps = 0;
+        while (history.back({}))
+            ++steps;
+        return steps;
+    };
+    QCOMPARE(stepsBack({{Zoom::Whole, 0}, {Zoom::Whole, 10}}), 2);
+    QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 500}, {Zoom::Turn, 500}}), 1);
+    QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 700}}), 2);
+    QCOMPARE(stepsBack({{Zoom::Gesture, 0}, {Zoom::Gesture, 9000}, {Zoom::Turn, 1}}), 2);
+}
+
+void TestRulerZoom::smoothFollowing()
+{
+    LoggedRuler ruler;
+    ruler.setFollowMode(Ruler::FollowMode::Smooth);
+    play(&ruler, u"view 36000 46800; place 40000"_s);
+    QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
+    play(&ruler, u"place 44200; place 44300"_s); // three quarters are at 44100
+    QCOMPARE(viewOf(ruler), u"36200 - 47000"_s);
+    play(&ruler, u"press 900; drag 500; release 500; place 44600"_s);
+    QCOMPARE(viewOf(ruler), u"40520 - 51320"_s);
+    play(&ruler, u"press 500; drag 900; release 900; place 44700"_s);
+    QVERIFY(!ruler.isFollowing());
+    QCOMPARE(viewOf(ruler), u"36200 - 47000"_s);
+    play(&ruler, u"resume"_s);
+    QCOMPARE(viewOf(ruler), u"36600 - 47400"_s);
+}
+
+// Against a plain reckoning with Qt's clock, at widths and fonts of all kinds.
+void TestRulerZoom::paintedLabels()
+{
+    const QTimeZone zone("Europe/Brussels");
+    ClockChanges clock;
+    clock.setZone(zone);
+    QRandomGenerator random(16);
+    for (int round = 0; round < 1000; ++round) {
+        TimeScale scale = scaleOf(3000 * day, TimeScale::wholeRangeLevel, monday, zone);
+        scale.setWidth(400 + random.bounded(3440));
+        const QRectF rect(5, 0, scale.width() - 10, 60);
+        const double span = scale.closestSpan() * std::pow(10, random.generateDouble() * 8);
+        scale.zoomTo(span, random.bounded(400));
+        const QFont font(u"DejaVu Sans"_s, 8 + random.bounded(13));
+        const QFontMetrics metrics(font);
+        const TickLayout layout =
+            layoutCalendarTicks(scale, rect, {metrics, metrics.height(), u"dd.MM.yyyy"_s}, clock);
+        QHash<double, double> ends;
+        for (const TickLabel& label : layout.labels) {
+            const double end = label.x + QFontMetricsF(font).horizontalAdvance(label.text);
+            QVERIFY2(label.x >= ends.value(label.baseline, 5) && end <= rect.right(),
+                     qPrintable(label.text));
+            ends[label.baseline] = end;
+            for (const Tick& tick : layout.ticks)
+                QVERIFY(tick.x <= label.x || tick.x >= end || tick.top >= label.baseline ||
+                        tick.bottom < label.baseline);
+            const QTime time = QTime::fromString(label.text.section(u' ', 0, 0), Qt::ISODateWithMs);
+            if (!time.isValid() || label.baseline != layout.labels.front().baseline)
+                continue;
+            // Half a pixel to either side of where the label says to be.
+            const QDateTime middle = scale.inZone(scale.fineTimeAt(label.x - 2).msecs);
+            const double distance = std::remainder(middle.time().msecsTo(time), double(day));
+            QVERIFY2(std::abs(distance) <= 0.5 / scale.lengthPerMillisecond() + 1,
+                     qPrintable(label.text));
+        }
+        QVERIFY(!layout.ticks.empty());
+    }
+}
+
+void TestRulerZoom::repeatedHour()
+{
+    LoggedRuler ruler;
+    ruler.setTimeZone(u"Europe/Brussels"_s);
+    const qint64 change = QDateTime({2026, 10, 25}, {1, 0}, Qt::UTC).toMSecsSinceEpoch();
+    ruler.setTimeLimits(quint64(change - day), quint64(change + day));
+    ruler.setCalendarTicks(true);
+    ruler.changeLevel(3, 0.5);
+    ruler.centerOn(change);
+    const auto* indicator = ruler.findChild<Indicator*>();
+    for (const auto& [offset, text] :
+         {std::pair(-90 * minute, u"01:30:00"_s), std::pair(-30 * minute, u"02:30:00 +02"_s),
+          std::pair(30 * minute, u"02:30:00 +01"_s), std::pair(5 * hour, u"07:00:00"_s)}) {
+        ruler.setIndicatorPosition(quint64(change + offset));
+        QCOMPARE(indicator->text(), text);
+    }
+    // From left to right: before, the first time, the second, after.
+    const QImage image = ruler.grab().toImage();
+    QList<QRgb> header;
+    for (const qint64 offset : {-70, -10, 10, 70})
+        header << image.pixel(int(ruler.xAt(change + offset * minute)), 1);
+    QCOMPARE(header[0], header[3]);
+    QVERIFY(header[0] != header[1] && header[1] != header[2] && header[2] != header[3]);
+}
+
+QTEST_MAIN(TestRulerZoom)
+#include "tst_rulerzoom.moc"
