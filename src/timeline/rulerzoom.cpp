@@ -8,7 +8,7 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr double centerAnchor = 0.5;
+constexpr double middleOfView = 0.5;
 constexpr double stepFactor = 2.0;
 
 } // namespace
@@ -90,7 +90,7 @@ void Ruler::zoomIn()
     if (d->continuousZoom)
         zoomAbout(stepFactor, zoomColumn());
     else
-        onZoomerIn(d->scale.level() - 1, centerAnchor);
+        onZoomerIn(d->scale.level() - 1, middleOfView);
 }
 
 void Ruler::zoomOut()
@@ -98,7 +98,7 @@ void Ruler::zoomOut()
     if (d->continuousZoom)
         zoomAbout(1 / stepFactor, zoomColumn());
     else
-        onZoomerOut(d->scale.level() + 1, centerAnchor);
+        onZoomerOut(d->scale.level() + 1, middleOfView);
 }
 
 double Ruler::zoomColumn() const
@@ -133,7 +133,7 @@ void Ruler::setContinuousZoom(bool on)
         this,
         [this] {
             if (d->scale.isBetweenLevels())
-                zoom(d->scale.level(), centerAnchor, true);
+                zoom(d->scale.level(), middleOfView, true);
             else
                 updateChildren(false);
         },
