@@ -48,7 +48,7 @@ struct View
     }
     void press(QPoint at) { QTest::mousePress(target, Qt::LeftButton, {}, at); }
     void release(QPoint at) { QTest::mouseRelease(target, Qt::LeftButton, {}, at); }
-    void move(QPointF at) { dragTo(target, at); }
+    void move(QPointF at) { moveMouse(*target, at, Qt::LeftButton); }
     QPointF sceneUnder(QPointF at) const
     {
         return view->viewportTransform().inverted().map(

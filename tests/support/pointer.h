@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QEnterEvent>
 #include <QEventLoop>
 #include <QMouseEvent>
 #include <QTimer>
@@ -15,12 +16,24 @@ inline bool turnWheel(QWidget* widget, QPointF at, QPoint angle, Qt::KeyboardMod
     return event.isAccepted();
 }
 
-/// Moves the mouse, with its left button held, to a point of @p widget.
-inline void dragTo(QWidget* widget, QPointF at)
+inline void moveMouse(QWidget& widget, QPointF position, Qt::MouseButtons held = {})
 {
-    QMouseEvent event(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+    QMouseEvent event(QEvent::MouseMove, position, widget.mapToGlobal(position), Qt::NoButton, held,
                       Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+inline void enterMouse(QWidget& widget, QPoint position = {8, 8})
+{
+    QEnterEvent event(position, widget.mapTo(widget.window(), position),
+                      widget.mapToGlobal(position));
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+inline void leaveMouse(QWidget& widget)
+{
+    QEvent event(QEvent::Leave);
+    QCoreApplication::sendEvent(&widget, &event);
 }
 
 /// Deletes @p object, if @p nested from an event loop that goes on for a while.

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "pointer.h"
 #include "times.h"
 
 #include <CorvelGui/Ruler>
 
 #include <QAccessible>
 #include <QApplication>
-#include <QEnterEvent>
 #include <QStringList>
 #include <QTest>
 #include <QTimeZone>
@@ -23,26 +23,6 @@ inline quint64 at(qint64 offset)
 inline QDateTime timeAt(qint64 offset)
 {
     return QDateTime::fromMSecsSinceEpoch(monday + offset, QTimeZone::utc());
-}
-
-inline void moveMouse(QWidget& widget, QPoint position, Qt::MouseButtons buttons = {})
-{
-    QMouseEvent event(QEvent::MouseMove, position, widget.mapToGlobal(position), Qt::NoButton,
-                      buttons, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
-
-inline void enterMouse(QWidget& widget, QPoint position = {8, 8})
-{
-    QEnterEvent event(position, widget.mapTo(widget.window(), position),
-                      widget.mapToGlobal(position));
-    QApplication::sendEvent(&widget, &event);
-}
-
-inline void leaveMouse(QWidget& widget)
-{
-    QEvent event(QEvent::Leave);
-    QApplication::sendEvent(&widget, &event);
 }
 
 /// What assistive technology does with a button.

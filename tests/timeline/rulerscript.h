@@ -5,7 +5,6 @@
 
 #include <QPointer>
 #include <QRegularExpression>
-#include <QWheelEvent>
 
 #include <functional>
 #include <map>
@@ -50,15 +49,6 @@ inline bool playMouse(LoggedRuler& ruler, const QString& kind, const QString& pl
     return true;
 }
 
-inline void turnWheel(QWidget& widget, int angle)
-{
-    const QPointF position(255, 30);
-    QWheelEvent event(position, widget.mapToGlobal(position), {}, QPoint(0, angle), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
-    QVERIFY(event.isAccepted());
-}
-
 /// Plays the steps of a script one after the other while the ruler lives, each a verb and its
 /// arguments. Returns what the ruler said.
 inline QString play(LoggedRuler* ruler, const QString& script)
@@ -89,7 +79,10 @@ inline QString play(LoggedRuler* ruler, const QString& script)
     };
     // What a user, the desktop and the client do.
     static const std::map<QString, Act> verbs{
-        verb(u"wheel"_s, [](R& r, W w) { turnWheel(r, int(w.number(1))); }),
+        verb(u"wheel"_s,
+             [](R& r, W w) {
+                 QVERIFY(turnWheel(&r, {255, 30}, QPoint(0, int(w.number(1)))));
+             }),
         verb(u"key"_s,
              [](R& r, W w) {
                  const QKeyCombination key = QKeySequence(w[1])[0];

@@ -1,3 +1,4 @@
+#include "pointer.h"
 #include "testsupport.h"
 #include "viewareabox.h"
 
@@ -6,7 +7,6 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
-#include <QEnterEvent>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -79,12 +79,10 @@ class TestTimelineScroll : public WarningFreeTest
 
 private Q_SLOTS:
     void box();
-    void clicks();
+    void pressesAndDrags();
     void holdingPagesToThePress();
     void holdEndsWithTheStrip();
-    void drag();
     void keys();
-    void wholePeriodCannotMove();
     void settersAreSilentAndRepaintChanges();
     void paintOrder();
     void focusFromTheKeyboardIsFramed();
@@ -127,22 +125,34 @@ void TestTimelineScroll::box()
     }
 }
 
-void TestTimelineScroll::clicks()
+void TestTimelineScroll::pressesAndDrags()
 {
     const struct
     {
-        int press, release;
+        double viewArea, center;
+        int press;
+        QList<int> drag;
+        int release;
         QList<double> moves;
-    } cases[] = {{20, 20, {11 / 101.0}}, {41, 41, {49 / 101.0}}, {21, 21, {}},
-                 {40, 40, {}},           {60, 30, {}},           {60, 10, {11 / 101.0}}};
-    for (const auto& click : cases) {
-        LoggedStrip strip;
+    } cases[] = {{0.2, 0.3, 20, {}, 20, {11 / 101.0}},
+                 {0.2, 0.3, 41, {}, 41, {49 / 101.0}},
+                 {0.2, 0.3, 21, {}, 21, {}},
+                 {0.2, 0.3, 40, {}, 40, {}},
+                 {0.2, 0.3, 60, {}, 30, {}},
+                 {0.2, 0.3, 60, {}, 10, {11 / 101.0}},
+                 {0.2, 0.3, 35, {45, 0, 101, 100, 1}, 1, {0.40, 0.92, 0.09}},
+                 {1.0, 0.5, 50, {70}, 70, {}}}; // the whole period cannot move
+    for (const auto& [viewArea, center, press, drag, release, moves] : cases) {
+        LoggedStrip strip(viewArea, center);
         QTest::mouseClick(&strip, Qt::RightButton, {}, QPoint(95, middle));
-        strip.press(click.press);
-        QCOMPARE(strip.moves, QList<double>());
-        strip.release(click.release);
-        QCOMPARE(strip.moves, click.moves);
+        strip.press(press);
+        for (const int x : drag)
+            strip.moveTo(x);
+        strip.release(release);
         QVERIFY(!strip.isTimerActive());
+        strip.moveTo(50);
+        QCOMPARE(strip.moves, moves);
+        QCOMPARE(strip.centerPosition(), moves.isEmpty() ? center : moves.last());
     }
 }
 
@@ -167,17 +177,13 @@ void TestTimelineScroll::holdingPagesToThePress()
 
 void TestTimelineScroll::holdEndsWithTheStrip()
 {
-    // Each function switches the strip off and on.
     const std::vector<std::function<void(LoggedStrip&, bool)>> switches{
         [](LoggedStrip& strip, bool on) { strip.setVisible(on); },
         [](LoggedStrip& strip, bool on) { strip.setEnabled(on); },
         [](LoggedStrip& strip, bool on) { strip.setActive(on); },
         [](LoggedStrip& strip, bool) {
-            QMouseEvent move(QEvent::MouseMove, QPointF(35, middle), QPointF(35, middle),
-                             Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(&strip, &move);
-        },
-    };
+            moveMouse(strip, QPoint(35, middle));
+        }};
     for (const auto& setOn : switches) {
         for (const int pressX : {30, 60}) {
             LoggedStrip strip;
@@ -185,8 +191,7 @@ void TestTimelineScroll::holdEndsWithTheStrip()
             strip.press(pressX);
             setOn(strip, false);
             QVERIFY(!strip.isTimerActive());
-            QTRY_COMPARE(held.count(), 2);
-            QVERIFY(held[0][0].toBool() && !held[1][0].toBool());
+            QTRY_COMPARE(held, (QList<QVariantList>{{true}, {false}}));
             setOn(strip, true);
             strip.moveTo(80);
             strip.release(80);
@@ -195,65 +200,40 @@ void TestTimelineScroll::holdEndsWithTheStrip()
     }
 }
 
-void TestTimelineScroll::drag()
-{
-    LoggedStrip strip;
-    strip.press(35);
-    for (const int x : {45, 0, 101, 100, 1})
-        strip.moveTo(x);
-    strip.release(1);
-    strip.moveTo(50);
-    QCOMPARE(strip.moves, (QList<double>{0.40, 0.92, 0.09}));
-    QCOMPARE(strip.centerPosition(), 0.09);
-}
-
 void TestTimelineScroll::keys()
 {
     const struct
     {
-        double center;
+        double viewArea, center;
         Qt::Key key;
-        double position;
-    } cases[] = {{0.5, Qt::Key_Left, 0.48},  {0.5, Qt::Key_Right, 0.52},
-                 {0.5, Qt::Key_PageUp, 0.3}, {0.5, Qt::Key_PageDown, 0.7},
-                 {0.5, Qt::Key_Home, 0.1},   {0.5, Qt::Key_End, 0.9},
-                 {1e19, Qt::Key_PageUp, 0.8}}; // far outside does not swallow the next moves
-    for (const auto& stroke : cases) {
-        LoggedStrip strip(0.2, stroke.center);
-        QTest::keyClick(&strip, stroke.key);
-        QCOMPARE(strip.moves, QList<double>{stroke.position});
+        QList<double> moves;
+    } cases[] = {{0.2, 0.5, Qt::Key_Left, {0.48}},   {0.2, 0.5, Qt::Key_Right, {0.52}},
+                 {0.2, 0.5, Qt::Key_PageUp, {0.3}},  {0.2, 0.5, Qt::Key_PageDown, {0.7}},
+                 {0.2, 0.5, Qt::Key_Home, {0.1}},    {0.2, 0.5, Qt::Key_End, {0.9}},
+                 {0.2, 1e19, Qt::Key_PageUp, {0.8}}, // far outside does not swallow the next moves
+                 {0.2, -1.0, Qt::Key_Right, {0.1}},  {1.0, 0.5, Qt::Key_Home, {}}};
+    for (const auto& [viewArea, center, key, moves] : cases) {
+        LoggedStrip strip(viewArea, center);
+        QTest::keyClick(&strip, key);
+        QCOMPARE(strip.moves, moves);
     }
-}
-
-void TestTimelineScroll::wholePeriodCannotMove()
-{
-    LoggedStrip strip(1.0, 0.5);
-    strip.press(50);
-    strip.moveTo(70);
-    strip.release(70);
-    QTest::keyClick(&strip, Qt::Key_Home);
-    setAccessibleValue(strip, 0.1);
-    QCOMPARE(strip.moves, QList<double>());
 }
 
 void TestTimelineScroll::settersAreSilentAndRepaintChanges()
 {
-    const std::vector<Act> setters{
-        [](LoggedStrip& strip) {
-            strip.setViewArea(0.2);
-            strip.onCenterPositionChanged(0.3);
-            strip.onIndicatorPositionChanged(5, 0.0);
-            strip.setSearchTimeRange(0.500009, 0.599991);
-        },
-        [](LoggedStrip& strip) { strip.setViewArea(0.3); },
-        [](LoggedStrip& strip) { strip.onCenterPositionChanged(0.4); },
-        [](LoggedStrip& strip) { strip.onIndicatorPositionChanged(5, 0.1); },
-        [](LoggedStrip& strip) { strip.setSearchTimeRange(0.500011, 0.6); },
-        [](LoggedStrip& strip) { strip.setSearchTimeRange(0.5, 0.599989); },
-        [](LoggedStrip& strip) { strip.resetSearchTimeRange(); },
-        [](LoggedStrip& strip) { strip.displaySearchTimeRange(false); },
-    };
-    for (std::size_t i = 0; i < setters.size(); ++i) {
+    const std::pair<bool, Act> setters[] = {
+        std::pair(false, [](LoggedStrip& s) { s.setViewArea(0.2); }),
+        std::pair(false, [](LoggedStrip& s) { s.onCenterPositionChanged(0.3); }),
+        std::pair(false, [](LoggedStrip& s) { s.onIndicatorPositionChanged(5, 0.0); }),
+        std::pair(false, [](LoggedStrip& s) { s.setSearchTimeRange(0.500009, 0.599991); }),
+        std::pair(true, [](LoggedStrip& s) { s.setViewArea(0.3); }),
+        std::pair(true, [](LoggedStrip& s) { s.onCenterPositionChanged(0.4); }),
+        std::pair(true, [](LoggedStrip& s) { s.onIndicatorPositionChanged(5, 0.1); }),
+        std::pair(true, [](LoggedStrip& s) { s.setSearchTimeRange(0.500011, 0.6); }),
+        std::pair(true, [](LoggedStrip& s) { s.setSearchTimeRange(0.5, 0.599989); }),
+        std::pair(true, [](LoggedStrip& s) { s.resetSearchTimeRange(); }),
+        std::pair(true, [](LoggedStrip& s) { s.displaySearchTimeRange(false); })};
+    for (const auto& [isChange, set] : setters) {
         LoggedStrip strip;
         strip.setSearchTimeRange(0.5, 0.6);
         strip.displaySearchTimeRange(true);
@@ -264,9 +244,9 @@ void TestTimelineScroll::settersAreSilentAndRepaintChanges()
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents();
         } while (strip.repaintRequests > 0);
-        setters[i](strip);
+        set(strip);
         QCoreApplication::processEvents();
-        QCOMPARE(strip.repaintRequests > 0, i > 0); // the first ones change nothing
+        QCOMPARE(strip.repaintRequests > 0, isChange);
         QCOMPARE(strip.moves, QList<double>());
     }
 }
@@ -324,29 +304,32 @@ void TestTimelineScroll::focusFromTheKeyboardIsFramed()
 void TestTimelineScroll::boxColors()
 {
     LoggedStrip strip;
-    const auto colorAfter = [&](QEvent&& event) {
-        QCoreApplication::sendEvent(&strip, &event);
-        return strip.pixel(25, middle);
-    };
-    const auto enter = [](int x) {
-        return QEnterEvent(QPointF(x, middle), QPointF(x, middle), QPointF(x, middle));
-    };
-    QCOMPARE(colorAfter(QEvent(QEvent::Leave)), POrvGuiTheme::colorGreyhound);
-    QCOMPARE(colorAfter(enter(60)), POrvGuiTheme::colorGreyhound);
-    QCOMPARE(colorAfter(enter(40)), POrvGuiTheme::colorKoala);
-    QCOMPARE(colorAfter(QEvent(QEvent::Leave)), POrvGuiTheme::colorGreyhound);
-    strip.setHover(true);
-    QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorKoala);
-    strip.press(30);
-    strip.setOrvaneGuiTheme(false); // the colours stay
-    QCOMPARE(strip.pixel(25, middle), POrvGuiTheme::colorElephant);
-
-    // Inactive, the strip shows its border only.
-    QVERIFY(!TimelineScroll().isEnabled());
-    strip.setActive(false);
-    QVERIFY(!strip.isEnabled());
+    const std::pair<Act, QColor> steps[] = {
+        std::pair([](LoggedStrip& s) { leaveMouse(s); }, POrvGuiTheme::colorGreyhound),
+        std::pair(
+            [](LoggedStrip& s) {
+                enterMouse(s, {60, middle});
+            },
+            POrvGuiTheme::colorGreyhound),
+        std::pair(
+            [](LoggedStrip& s) {
+                enterMouse(s, {40, middle});
+            },
+            POrvGuiTheme::colorKoala),
+        std::pair([](LoggedStrip& s) { leaveMouse(s); }, POrvGuiTheme::colorGreyhound),
+        std::pair([](LoggedStrip& s) { s.setHover(true); }, POrvGuiTheme::colorKoala),
+        std::pair([](LoggedStrip& s) { s.press(30); }, POrvGuiTheme::colorElephant),
+        // The colours stay.
+        std::pair([](LoggedStrip& s) { s.setOrvaneGuiTheme(false); }, POrvGuiTheme::colorElephant),
+        // Inactive, the strip shows its border only.
+        std::pair([](LoggedStrip& s) { s.setActive(false); },
+                  strip.palette().color(QPalette::Window))};
+    for (const auto& [act, color] : steps) {
+        act(strip);
+        QCOMPARE(strip.pixel(25, middle), color);
+    }
     QCOMPARE(strip.pixel(0, middle), POrvGuiTheme::colorPanther);
-    QCOMPARE(strip.pixel(25, middle), strip.palette().color(QPalette::Window));
+    QVERIFY(!strip.isEnabled() && !TimelineScroll().isEnabled());
 }
 
 void TestTimelineScroll::assistiveTechnology()

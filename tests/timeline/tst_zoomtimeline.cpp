@@ -149,13 +149,10 @@ void TestZoomTimeline::zoomerAndRulerFollowEachOther()
     QSignalSpy requests(timeline.zoomer(), &Zoomer::zoomerOut);
     timeline.ruler()->changeLevel(4, 0.5);
     QCOMPARE(timeline.slider()->value(), 4);
-    QCOMPARE(requests.count(), 0);
     // Two requests, one change.
     timeline.zoomer()->onZoomOutClicked(false);
     QCOMPARE(requests.count(), 2);
-    QCOMPARE(timeline.ruler()->level(), 5);
-    QCOMPARE(levels.count(), 2);
-    timeline.ruler()->changeLevel(8, 0.5);
+    QCOMPARE(levels, (QList<QVariantList>{{4}, {5}}));
     timeline.slider()->setValue(2);
     QCOMPARE(timeline.ruler()->level(), 2);
     QCOMPARE(timeline.timelineScroll()->viewArea(), 3.0 * hour / (10 * day));
@@ -274,8 +271,7 @@ void TestZoomTimeline::handAndMouseReachTheParts()
     };
     leaveMouse(*timeline.ruler());
     const QColor idle = boxColor();
-    QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
-    QApplication::sendEvent(timeline.ruler(), &enter);
+    enterMouse(*timeline.ruler());
     QVERIFY(boxColor() != idle);
     leaveMouse(*timeline.ruler());
     QCOMPARE(boxColor(), idle);
@@ -283,30 +279,24 @@ void TestZoomTimeline::handAndMouseReachTheParts()
 
 void TestZoomTimeline::deletionInSignals()
 {
-    const std::vector<std::function<void(TestedTimeline&)>> acts{
-        [](TestedTimeline& t) { t.setTimeLimits(at(day), at(5 * day)); },
-        [](TestedTimeline& t) { t.setIndicatorPosition(at(4 * day)); },
-        [](TestedTimeline& t) {
-            t.setTimeLimitsAndIndicatorPosition(at(day), at(5 * day), at(3 * day));
+    using T = TestedTimeline;
+    const std::vector<std::function<void(T&)>> acts{
+        [](T& t) { t.setTimeLimits(at(day), at(5 * day)); },
+        [](T& t) { t.setIndicatorPosition(at(4 * day)); },
+        [](T& t) { t.setTimeLimitsAndIndicatorPosition(at(day), at(5 * day), at(3 * day)); },
+        [](T& t) { t.setTimeZone(u"Asia/Tokyo"_s); },
+        [](T& t) { t.zoomer()->onZoomOutClicked(false); },
+        [](T& t) { t.slider()->setValue(4); },
+        [](T& t) {
+            QTest::mouseClick(t.timelineScroll(), Qt::LeftButton, {}, {700, 5});
         },
-        [](TestedTimeline& t) { t.setTimeZone(u"Asia/Tokyo"_s); },
-        [](TestedTimeline& t) {
-            // The first click brings the slider to the level that is current already.
-            const QPointer<Zoomer> zoomer = t.zoomer();
-            for (int click = 0; click < 2 && zoomer; ++click)
-                zoomer->onZoomOutClicked(false);
-        },
-        [](TestedTimeline& t) { t.slider()->setValue(4); },
-        [](TestedTimeline& t) {
-            QTest::mouseClick(t.timelineScroll(), Qt::LeftButton, {}, QPoint(700, 5));
-        },
-        [](TestedTimeline& t) { t.setSearchTimeRange(timeAt(day), timeAt(2 * day), true); },
-        [](TestedTimeline& t) {
+        [](T& t) { t.setSearchTimeRange(timeAt(day), timeAt(2 * day), true); },
+        [](T& t) {
             QTest::mouseClick(t.ruler(), Qt::LeftButton, {}, {500, 40});
-        },
-    };
+        }};
     for (const auto& act : acts) {
         QPointer<TestedTimeline> timeline = new TestedTimeline;
+        timeline->ruler()->changeLevel(2, 0.0); // which the slider shows
         QObject context;
         const auto remove = [&] {
             delete timeline;
