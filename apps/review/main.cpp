@@ -83,6 +83,9 @@ int main(int argc, char* argv[])
         window.resize(1200, 700);
     window.show();
 
+    const auto finish = [&] {
+        QApplication::exit(takePicture(window, arguments.picture));
+    };
     QObject::connect(
         &window, &ReviewWindow::loaded, &window,
         [&](const QString& error) {
@@ -93,7 +96,12 @@ int main(int argc, char* argv[])
                 if (arguments.files.isEmpty())
                     window.showMiddleDay();
                 QApplication::processEvents();
-                QApplication::exit(takePicture(window, arguments.picture));
+                if (!window.awaitsPictures())
+                    return finish();
+                QObject::connect(&window, &ReviewWindow::settled, &window, finish,
+                                 Qt::QueuedConnection);
+            } else if (arguments.files.isEmpty()) {
+                window.play();
             }
         },
         Qt::SingleShotConnection);

@@ -240,10 +240,11 @@ void TestReviewData::filesAreRead()
 {
     // The columns stand in any order.
     const QString recordings =
-        write(u"recordings.csv"_s, "\xEF\xBB\xBF\"end\", note ,begin,\"track\"\r\n"
-                                   "2026-03-02T00:08Z,x, 2026-03-02T00:05Z ,b\r\n"
-                                   "2026-03-02T00:02Z,,2026-03-02T00:01Z,\"a,c\"\r\n"
-                                   "2026-03-02T00:04Z,x,2026-03-02T00:02Z,b\r\n");
+        write(u"recordings.csv"_s, "\xEF\xBB\xBF\"end\", note ,begin,\"track\",file,offset\r\n"
+                                   "2026-03-02T00:08Z,x, 2026-03-02T00:05Z ,b, b/1.mp4 , 2.5 \r\n"
+                                   "2026-03-02T00:02Z,,2026-03-02T00:01Z,\"a,c\",,\r\n"
+                                   "2026-03-02T00:04Z,x,2026-03-02T00:02Z,b,/b/2.ts,\r\n"
+                                   "2026-03-02T00:04Z,x,2026-03-02T00:02Z,c,/c.ts,-1\r\n");
     const QString deployments =
         write(u"deployments.csv"_s, "camera,begin,end\na,2026-03-02T00:01Z,2026-03-02T00:02Z\n"
                                     "b,2026-03-02T00:03Z,2026-03-02T00:04Z\n"
@@ -262,12 +263,18 @@ void TestReviewData::filesAreRead()
     QCOMPARE(loader.progress().percent(), 100);
     const ReviewData& data = loader.data();
     QCOMPARE(tracksOf(data), (QStringList{u"b 3-9: 5-8 2-4"_s, u"a,c 1-2: 1-2"_s, u"a 1-2:"_s}));
+    const QList<VideoFile> files{
+        {QFileInfo(recordings).dir().filePath(u"b/1.mp4"_s), monday + 5 * minute,
+         monday + 8 * minute, 2'500},
+        {QFileInfo(u"/b/2.ts"_s).absoluteFilePath(), monday + 2 * minute, monday + 4 * minute, 0}};
+    QCOMPARE(data.files, (QHash<QString, QList<VideoFile>>{{u"b"_s, files}}));
     QCOMPARE(data.period(), (TimeSpan{monday + minute, monday + 9 * minute}));
     QCOMPARE(data.events, (Events{{monday + minute, u"animal"_s, u"two\nlines"_s, {}},
                                   {monday + 2 * minute, u"person"_s, u"später"_s, {}},
                                   {monday + 2 * minute, u"alarm"_s, u"also later"_s, {}}}));
     QCOMPARE(loader.problems().listed(),
-             QList<Problem>{Problem({events, 5, u"the event has no kind"_s})});
+             (QList<Problem>{Problem({recordings, 5, u"“-1” is not a number of seconds"_s}),
+                             Problem({events, 5, u"the event has no kind"_s})}));
 
     ReviewLoader cancelled;
     cancelled.progress().cancel();

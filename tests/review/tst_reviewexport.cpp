@@ -4,6 +4,7 @@
 #include "testsupport.h"
 #include "times.h"
 #include "useranswers.h"
+#include "video/camerapicture.h"
 #include "whenshown.h"
 
 #include <CorvelGui/FilterLineEdit>
@@ -117,8 +118,9 @@ void TestReviewExport::exportEnds()
         QFile file(folder.filePath(obstacle));
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
-    const CameraFeed feed({u"a"_s, u"Gate/(1)?"_s, monday, monday + day}, {}, TimeTexts(u"UTC"_s));
-    PictureExport job(feed, {{monday, monday + 10'001}, 2, false, folder.path()});
+    const Camera camera({u"a"_s, u"Gate/(1)?"_s, monday, monday + day, {}}, {},
+                        TimeTexts(u"UTC"_s));
+    PictureExport job(camera, {{monday, monday + 10'001}, 2, false, folder.path()});
     QCOMPARE(job.existingFiles(), obstacle.endsWith(u".png"_s) ? 1 : 0);
     QList<PictureExport::Outcome> outcomes;
     connect(&job, &PictureExport::progressed, this, [&](int written) {

@@ -1,5 +1,8 @@
 #include "data/trackhistory.h"
 #include "lists/deviceitem.h"
+#include "numberedclip.h"
+#include "playback/cameraview.h"
+#include "playback/playbackpane.h"
 #include "playback/player.h"
 #include "playback/speedmenu.h"
 #include "samplewindow.h"
@@ -8,7 +11,6 @@
 #include "testsupport.h"
 #include "timeline/timelinepane.h"
 #include "times.h"
-#include "video/camerafeed.h"
 
 #include <CorvelGui/BusyIndicator>
 #include <CorvelGui/Indicator>
@@ -16,6 +18,7 @@
 
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -82,7 +85,8 @@ private Q_SLOTS:
     void endsPause();
     void spaceBarIsShared();
     void loadingIsCovered();
-    void visitorsComeAndGo();
+    void picturesAreShown();
+    void fastPlayingIsKnown();
     void speedsHaveKeys();
 };
 
@@ -232,17 +236,66 @@ void TestReviewPlayback::loadingIsCovered()
     QCOMPARE(sample.window.windowTitle(), u"Sample – Recording review"_s);
 }
 
-void TestReviewPlayback::visitorsComeAndGo()
+void TestReviewPlayback::picturesAreShown()
 {
-    const CameraFeed feed(
-        {u"a"_s, u"Gate"_s, monday, monday + day, {{monday, monday + hour}}},
-        {{monday, u"car"_s, {}, u"a"_s}, {monday + 5'000, u"person"_s, {}, u"b"_s}},
-        TimeTexts(u"Australia/Darwin"_s));
-    const CameraScene scene = feed.sceneAt(monday + 5'000);
-    QCOMPARE(scene.visitors, (QList<CameraScene::Visitor>{{EventKind::Vehicle, 0.75}}));
-    QVERIFY(qAbs(scene.hour - 9.5) < 0.01);
-    QCOMPARE(feed.sceneAt(monday + CameraFeed::visit + 1).visitors.size(), 0);
-    QCOMPARE(feed.sceneAt(monday + 2 * hour).state, TrackState::Gap);
+    const QTemporaryDir folder;
+    const QString clip = folder.filePath(u"clip.mp4"_s);
+    QCOMPARE(NumberedClip::write(clip, 200, {.keyFrameDistance = 50}), QString()); // 8 seconds
+    const auto track = [](const QString& name, qint64 end) {
+        return CorvelGui::TrackDescription{name, name, monday, monday + hour, {{monday, end}}};
+    };
+    const ReviewData review{
+        .tracks = {track(u"Gate"_s, monday + 20'000), track(u"Yard"_s, monday + minute)},
+        .events = {},
+        .files = {{u"Gate"_s,
+                   {{clip, monday, monday + 8'000, 0},
+                    {folder.filePath(u"gone.mp4"_s), monday + 8'000, monday + 10'000, 0}}}}};
+    const SampleWindow sample(u"UTC"_s, {}, review);
+    auto* pane = sample.window.findChild<PlaybackPane*>();
+    auto* view = pane->views().first();
+    const auto shownAt = [&](qint64 after) {
+        Q_EMIT sample.ruler()->indicatorPositionChanged(quint64(monday + after), 0);
+        if (!QTest::qWaitFor([&] { return !pane->isBusy(); }))
+            return u"busy"_s;
+        const CameraPicture& shown = view->picture();
+        const QString number =
+            shown.image.isNull() ? QString() : QString::number(NumberedClip::numberOf(shown.image));
+        return QStringList{number, shown.time.section(u' ', 2, 2), shown.message}.join(u'|');
+    };
+    // The time is that of the picture, not the moment.
+    QCOMPARE(shownAt(3'050), u"76|00:00:03.040|"_s);
+    QCOMPARE(shownAt(9'000), u"|00:00:09.000|No picture: The file is missing."_s);
+    QCOMPARE(shownAt(15'000), u"|00:00:15.000|No picture"_s);
+    QCOMPARE(shownAt(25'000), u"|00:00:25.000|No recording at this time"_s);
+    QCOMPARE(shownAt(-1'000), u"|23:59:59.000|Nothing is known of this time"_s);
+    pane->setOnlyKeyFrames(true);
+    QCOMPARE(shownAt(7'050), u"150|00:00:06.000|"_s);
+    pane->setOnlyKeyFrames(false);
+    QTRY_COMPARE(NumberedClip::numberOf(view->picture().image), 176);
+
+    // Side by side, and one of them enlarged.
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton);
+    QTRY_COMPARE(pane->shownCameras(), 4);
+    QTest::mouseClick(pane->views()[1]->viewport(), Qt::LeftButton);
+    QCOMPARE(pane->camera()->name, u"Yard"_s);
+    QTRY_COMPARE(pane->views()[1]->picture().message, u"No picture"_s);
+    QVERIFY(!pane->views()[2]->camera());
+    QTest::mouseDClick(pane->views()[1]->viewport(), Qt::LeftButton);
+    QTRY_COMPARE(pane->shownCameras(), 1);
+    QCOMPARE(pane->views()[0]->camera()->name, u"Yard"_s);
+}
+
+void TestReviewPlayback::fastPlayingIsKnown()
+{
+    Playing playing;
+    const QSignalSpy fast(&playing.player, &Player::fastChanged);
+    playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed4);
+    QVERIFY(!playing.player.isFast());
+    playing.setSpeed(PPlaybar::FastBackward, PPlaybar::Speed8);
+    QVERIFY(playing.player.isFast());
+    playing.player.pause();
+    QVERIFY(!playing.player.isFast());
+    QCOMPARE(fast.size(), 2);
 }
 
 void TestReviewPlayback::speedsHaveKeys()

@@ -3,6 +3,7 @@
 #include "instant.h"
 
 #include <algorithm>
+#include <cmath>
 
 using CorvelGui::TimeSpan;
 using namespace Qt::StringLiterals;
@@ -39,6 +40,17 @@ LineFault LineParser::parseTime(QByteArrayView text, qint64& result)
     case Instant::Fault::None:
         break;
     }
+    return {};
+}
+
+LineFault LineParser::parseSeconds(QByteArrayView text, qint64& msecs)
+{
+    constexpr double longest = 1e9;
+    bool isNumber = true;
+    const double seconds = text.isEmpty() ? 0.0 : text.toDouble(&isNumber);
+    if (!isNumber || !(seconds >= 0.0) || seconds > longest)
+        return {lineContext, QT_TR_NOOP("“%1” is not a number of seconds"), {excerpt(text)}};
+    msecs = std::llround(seconds * 1'000);
     return {};
 }
 

@@ -19,6 +19,8 @@ public:
     /// Reads the columns camera, begin and end.
     static LineFault parseTrackSpan(const CsvTable::Values& values, QString& track,
                                     CorvelGui::TimeSpan& span);
+    /// Reads a number of seconds, 0 or more, with decimals or without. Empty counts as 0.
+    static LineFault parseSeconds(QByteArrayView text, qint64& msecs);
 };
 
 } // namespace Review

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "events.h"
+#include "videofile.h"
 
 #include <CorvelGui/TrackDescription>
 
+#include <QHash>
 #include <QList>
 
 namespace Review {
@@ -21,6 +23,8 @@ struct ReviewData
 {
     QList<CorvelGui::TrackDescription> tracks;
     Events events;
+    /// What shows the recordings of a track, by its identifier, in any order.
+    QHash<QString, QList<VideoFile>> files = {};
 
     /// From the first to the last instant of all that is there; empty if there is nothing.
     CorvelGui::TimeSpan period() const;

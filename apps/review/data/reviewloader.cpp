@@ -77,16 +77,27 @@ QString ReviewLoader::load(const ReviewFiles& files)
 
 QString ReviewLoader::loadRecordings(const QString& path)
 {
-    const auto add = [this](const CsvTable::Values& values) {
+    const QDir folder = QFileInfo(path).absoluteDir();
+    const auto add = [&](const CsvTable::Values& values) {
         QString identifier;
         TimeSpan span;
-        const LineFault fault = LineParser::parseTrackSpan(values, identifier, span);
+        VideoFile file;
+        LineFault fault = LineParser::parseTrackSpan(values, identifier, span);
         if (fault.isEmpty())
-            track(identifier).recorded.append(span);
+            fault = LineParser::parseSeconds(values[4], file.offset);
+        if (!fault.isEmpty())
+            return fault;
+        track(identifier).recorded.append(span);
+        if (values[3].isEmpty())
+            return fault;
+        file.path = folder.absoluteFilePath(QString::fromUtf8(values[3]));
+        file.begin = span.begin;
+        file.end = span.end;
+        m_data.files[identifier].append(file);
         return fault;
     };
-    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {}, add, m_problems,
-                          m_progress);
+    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {u"file"_s, u"offset"_s}, add,
+                          m_problems, m_progress);
 }
 
 QString ReviewLoader::loadDeployments(const QString& path)

@@ -1,5 +1,9 @@
 #include "sampledata.h"
 
+#include "sampleclips.h"
+
+#include <QDir>
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -135,6 +139,47 @@ bool isNight(int hour)
     return hour < 5 || hour >= 21;
 }
 
+/// Makes the recordings of a camera of its two clips, by day and by night.
+class Footage
+{
+public:
+    Footage(const QDir& folder, int camera, QList<VideoFile>& files)
+        : m_day(QDir::cleanPath(folder.filePath(SampleClips::fileName(camera, false))))
+        , m_night(QDir::cleanPath(folder.filePath(SampleClips::fileName(camera, true))))
+        , m_files(files)
+    {}
+
+    /// A visitor, if @p kind is one of those, is in the middle of the picture at @p time.
+    void add(const TimeSpan& recording, bool atNight, EventKind kind, qint64 time)
+    {
+        const QString& path = atNight ? m_night : m_day;
+        const auto visitor = std::ranges::find(SampleClips::visitors, kind);
+        if (visitor == std::end(SampleClips::visitors)) {
+            addQuiet(path, recording.begin, recording.end);
+            return;
+        }
+        const qint64 enters = time - SampleClips::visit / 2;
+        const qint64 begin = std::max(recording.begin, enters);
+        const qint64 end = std::min(recording.end, enters + SampleClips::visit);
+        const qint64 number = visitor - std::begin(SampleClips::visitors);
+        addQuiet(path, recording.begin, begin);
+        m_files.append(
+            {path, begin, end, SampleClips::quiet + SampleClips::visit * number + begin - enters});
+        addQuiet(path, end, recording.end);
+    }
+
+private:
+    void addQuiet(const QString& path, qint64 begin, qint64 end)
+    {
+        for (; begin < end; begin += SampleClips::quiet)
+            m_files.append({path, begin, std::min(begin + SampleClips::quiet, end), 0});
+    }
+
+    const QString m_day;
+    const QString m_night;
+    QList<VideoFile>& m_files;
+};
+
 std::vector<TimeSpan> recordingsOf(const Camera& camera, Dice& dice)
 {
     constexpr qint64 shortestPause = 15'000;
@@ -170,31 +215,40 @@ ReviewData SampleData::make()
 {
     ReviewData data;
     Dice dice(2026);
+    const QDir clips(QCoreApplication::applicationDirPath() + u"/../share/CorvelGui/sample"_s);
     for (const Camera& camera : cameras) {
         TrackDescription track{.identifier = camera.identifier,
                                .name = tr(camera.name),
                                .begin = camera.described.begin,
                                .end = camera.described.end,
                                .recorded = {}};
+        Footage footage(clips, int(data.tracks.size()) + 1, data.files[track.identifier]);
         for (const TimeSpan& recording : recordingsOf(camera, dice)) {
             track.recorded.append(recording);
             const auto note = [&](const QString& kind, const QString& text) {
                 const qint64 time = dice.roll(recording.begin, recording.end - 1);
                 data.events.append(
                     {.time = time, .kind = kind, .text = text, .track = camera.identifier});
+                return time;
             };
             const int hour = int((recording.begin - sampleBegin) / sampleHour % 24);
             const qint64 seen = dice.roll(1, 100);
-            if (seen <= camera.persons && isNight(hour))
-                note(u"alarm"_s, tr("Person outside working hours"));
-            else if (seen <= camera.persons)
-                note(u"person"_s, tr("Person"));
-            else if (seen <= camera.persons + camera.vehicles)
-                note(u"vehicle"_s, tr("Vehicle"));
-            else if (seen <= camera.persons + camera.vehicles + camera.animals)
-                note(u"animal"_s, tr("Animal"));
+            EventKind visitor = EventKind::Other;
+            qint64 time = recording.begin;
+            if (seen <= camera.persons) {
+                visitor = EventKind::Person;
+                time = isNight(hour) ? note(u"alarm"_s, tr("Person outside working hours"))
+                                     : note(u"person"_s, tr("Person"));
+            } else if (seen <= camera.persons + camera.vehicles) {
+                visitor = EventKind::Vehicle;
+                time = note(u"vehicle"_s, tr("Vehicle"));
+            } else if (seen <= camera.persons + camera.vehicles + camera.animals) {
+                visitor = EventKind::Animal;
+                time = note(u"animal"_s, tr("Animal"));
+            }
             if (dice.roll(1, 300) == 1)
                 note(u"bookmark"_s, tr("Marked by an operator"));
+            footage.add(recording, isNight(hour), visitor, time);
         }
         data.tracks.append(track);
     }

@@ -49,10 +49,10 @@ QString rangeText(const TimeTexts& times, const TimeSpan& range)
 
 } // namespace
 
-ExportDialog::ExportDialog(const CameraFeed& feed, const TimeSpan& view,
-                           const TimeSpan& searchRange, const QString& folder, QWidget* parent)
+ExportDialog::ExportDialog(const Camera& camera, const TimeSpan& view, const TimeSpan& searchRange,
+                           const QString& folder, QWidget* parent)
     : PBaseDialog(parent)
-    , m_camera(feed.history())
+    , m_history(camera.history)
     , m_viewRange(view)
     , m_searchRange(searchRange)
     , m_view(new QRadioButton(this))
@@ -65,18 +65,18 @@ ExportDialog::ExportDialog(const CameraFeed& feed, const TimeSpan& view,
 {
     setWindowTitle(tr("Export pictures"));
     const bool hasSearch = !searchRange.isEmpty();
-    m_view->setText(tr("Current view: %1").arg(rangeText(feed.times(), view)));
-    m_search->setText(hasSearch ? tr("Search range: %1").arg(rangeText(feed.times(), searchRange))
+    m_view->setText(tr("Current view: %1").arg(rangeText(camera.times, view)));
+    m_search->setText(hasSearch ? tr("Search range: %1").arg(rangeText(camera.times, searchRange))
                                 : tr("Search range: none is set"));
     m_search->setEnabled(hasSearch);
     (hasSearch ? m_search : m_view)->setChecked(true);
     m_interval->setRange(1, longestInterval);
     m_interval->setSuffix(tr(" s"));
-    m_interval->setValue(proposedInterval(hasSearch ? searchRange : view, m_camera));
+    m_interval->setValue(proposedInterval(hasSearch ? searchRange : view, m_history));
     m_recordedOnly->setChecked(true);
     m_folder->setText(QDir::toNativeSeparators(folder));
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Export"));
-    createLayout(feed.camera());
+    createLayout(camera.name);
 
     connect(m_view, &QRadioButton::toggled, this, &ExportDialog::checkPlan);
     connect(m_interval, &QSpinBox::valueChanged, this, &ExportDialog::checkPlan);
@@ -141,7 +141,7 @@ void ExportDialog::chooseFolder()
 void ExportDialog::checkPlan()
 {
     const ExportPlan wanted = plan();
-    const qint64 count = wanted.times(m_camera).count();
+    const qint64 count = wanted.times(m_history).count();
     const bool tooMany = count > mostPictures;
     const QString number = QLocale().toString(count);
     if (count == 0)

@@ -24,7 +24,7 @@ public:
 
     /// An empty @p searchRange cannot be chosen; any other one is proposed. No range reaches beyond
     /// what the ranges say.
-    ExportDialog(const CameraFeed& feed, const CorvelGui::TimeSpan& view,
+    ExportDialog(const Camera& camera, const CorvelGui::TimeSpan& view,
                  const CorvelGui::TimeSpan& searchRange, const QString& folder, QWidget* parent);
 
     ExportPlan plan() const;
@@ -34,7 +34,7 @@ private:
     void chooseFolder();
     void checkPlan();
 
-    const TrackHistory m_camera;
+    const TrackHistory m_history;
     CorvelGui::TimeSpan m_viewRange;
     CorvelGui::TimeSpan m_searchRange;
     QRadioButton* m_view;

@@ -77,10 +77,10 @@ ExportPanel::ExportPanel(QWidget* parent)
 
 ExportPanel::~ExportPanel() = default;
 
-void ExportPanel::askForPictures(const CameraFeed& feed, const TimeSpan& view,
+void ExportPanel::askForPictures(const Camera& chosen, const TimeSpan& view,
                                  const TimeSpan& searchRange)
 {
-    const CameraFeed camera = feed;
+    const Camera camera = chosen;
     const QPointer<ExportPanel> alive(this);
     const QPointer dialog = new ExportDialog(camera, view, searchRange, m_pictureFolder, window());
     const bool accepted = dialog->exec() == QDialog::Accepted;

@@ -31,7 +31,7 @@ public:
     ~ExportPanel() override;
 
     /// Asks what to export of a camera and exports it. Not while pictures are exported.
-    void askForPictures(const CameraFeed& feed, const CorvelGui::TimeSpan& view,
+    void askForPictures(const Camera& camera, const CorvelGui::TimeSpan& view,
                         const CorvelGui::TimeSpan& searchRange);
     /// Asks where to put the events.
     void askForEvents(const EventWriter& events);

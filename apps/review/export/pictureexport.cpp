@@ -1,5 +1,6 @@
 #include "pictureexport.h"
 
+#include "video/camerapicture.h"
 #include "video/picturefile.h"
 
 #include <QDir>
@@ -11,6 +12,9 @@ using namespace Qt::StringLiterals;
 namespace Review {
 
 namespace {
+
+// Pictures come in their order: enough for the way from a key frame.
+constexpr qint64 exportBytes = qint64(32) << 20;
 
 /// Names of cameras are any text.
 QString fileNamePart(const QString& camera)
@@ -40,10 +44,14 @@ PictureTimes ExportPlan::times(const TrackHistory& camera) const
     return recordedOnly ? PictureTimes(range, step, camera.recorded()) : PictureTimes(range, step);
 }
 
-PictureExport::PictureExport(const CameraFeed& feed, const ExportPlan& plan, QObject* parent)
-    : QObject(parent), m_feed(feed), m_plan(plan), m_times(plan.times(feed.history()).all())
+PictureExport::PictureExport(const Camera& camera, const ExportPlan& plan, QObject* parent)
+    : QObject(parent)
+    , m_camera(camera)
+    , m_plan(plan)
+    , m_times(plan.times(camera.history).all())
+    , m_decoder(camera.files, exportBytes)
 {
-    connect(&m_timer, &QTimer::timeout, this, &PictureExport::writeNext);
+    connect(&m_decoder, &CameraDecoder::frameReady, this, &PictureExport::write);
 }
 
 int PictureExport::existingFiles() const
@@ -54,41 +62,56 @@ int PictureExport::existingFiles() const
     return existing;
 }
 
+void PictureExport::start()
+{
+    m_running = true;
+    askForNext();
+}
+
 void PictureExport::cancel()
 {
-    if (m_timer.isActive())
+    if (m_running)
         end(Outcome::Cancelled);
 }
 
-void PictureExport::writeNext()
+void PictureExport::askForNext()
 {
     if (m_written == count())
         return end(Outcome::Complete);
-    const QString file = path(m_written);
-    if (!m_replacing && QFileInfo::exists(file)) {
+    if (const QString file = path(m_written); !m_replacing && QFileInfo::exists(file)) {
         m_error = tr("%1 exists already.").arg(QDir::toNativeSeparators(file));
         return end(Outcome::Failed);
     }
-    const QImage picture = m_picture.draw(m_feed.sceneAt(m_times[m_written]));
-    const QString error = writePicture(picture, file);
+    m_decoder.request(m_times[m_written], Clip::Accuracy::Exact);
+}
+
+void PictureExport::write(const VideoFrame& frame)
+{
+    if (!m_running)
+        return;
+    const QString file = path(m_written);
+    const QString error = writePicture(CameraPicture(m_camera, frame).withTexts(), file);
     if (!error.isEmpty()) {
         m_error = tr("%1 cannot be written: %2").arg(QDir::toNativeSeparators(file), error);
         return end(Outcome::Failed);
     }
     ++m_written;
+    const QPointer<PictureExport> alive(this);
     Q_EMIT progressed(m_written);
+    if (alive && m_running)
+        askForNext();
 }
 
 void PictureExport::end(Outcome outcome)
 {
-    m_timer.stop();
+    m_running = false;
     Q_EMIT ended(outcome);
 }
 
 QString PictureExport::path(int index) const
 {
     const QString name =
-        fileNamePart(m_feed.camera()) + u'_' + timePart(m_times[index], m_feed.times().zone());
+        fileNamePart(m_camera.name) + u'_' + timePart(m_times[index], m_camera.times.zone());
     return QDir(m_plan.folder).filePath(name + u".png"_s);
 }
 

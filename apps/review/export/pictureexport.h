@@ -1,10 +1,10 @@
 #pragma once
 
 #include "picturetimes.h"
-#include "video/camerafeed.h"
+#include "video/camera.h"
+#include "video/cameradecoder.h"
 
 #include <QObject>
-#include <QTimer>
 
 namespace Review {
 
@@ -21,8 +21,8 @@ struct ExportPlan
     PictureTimes times(const TrackHistory& camera) const;
 };
 
-/// Writes pictures of a camera as PNG files, one per turn of the event loop. Each file is written
-/// whole or not at all.
+/// Writes pictures of a camera, with their texts, as PNG files. They are decoded on a thread, one
+/// after the other. Each file is written whole or not at all.
 class PictureExport : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ class PictureExport : public QObject
 public:
     enum class Outcome { Complete, Cancelled, Failed };
 
-    PictureExport(const CameraFeed& feed, const ExportPlan& plan, QObject* parent = nullptr);
+    PictureExport(const Camera& camera, const ExportPlan& plan, QObject* parent = nullptr);
 
     int count() const { return int(m_times.size()); }
     /// How many pictures are written so far.
@@ -40,7 +40,7 @@ public:
     /// Replaces files that exist. Without it, such a file ends the export.
     void setReplacing(bool replace) { m_replacing = replace; }
 
-    void start() { m_timer.start(); }
+    void start();
     /// Leaves what is written. Does nothing when the export has ended.
     void cancel();
     /// What went wrong, after Outcome::Failed.
@@ -54,15 +54,16 @@ Q_SIGNALS:
     void ended(Review::PictureExport::Outcome outcome);
 
 private:
-    void writeNext();
+    void askForNext();
+    void write(const VideoFrame& frame);
     void end(Outcome outcome);
     QString path(int index) const;
 
-    CameraFeed m_feed;
+    const Camera m_camera;
     ExportPlan m_plan;
     QList<qint64> m_times;
-    CameraPicture m_picture;
-    QTimer m_timer;
+    CameraDecoder m_decoder;
+    bool m_running = false;
     QString m_error;
     int m_written = 0;
     bool m_replacing = false;

@@ -2,12 +2,9 @@
 
 #include "deviceaddress.h"
 #include "look/statesign.h"
-#include "video/camerafeed.h"
-#include "video/camerapicture.h"
 
 #include <CorvelGui/ToolTipHelper>
 
-#include <QBuffer>
 #include <QLocale>
 #include <QTreeWidget>
 
@@ -113,25 +110,9 @@ bool DeviceItem::operator<(const QTreeWidgetItem& other) const
     return sortValue(column) < device.sortValue(column);
 }
 
-QByteArray DeviceItem::picture() const
-{
-    constexpr QSize size(480, 270);
-    const CameraFeed feed(m_track, m_moment.events, m_moment.times);
-    const QImage picture = CameraPicture()
-                               .draw(feed.sceneAt(m_moment.msecs))
-                               .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    picture.save(&buffer, "PNG");
-    return png.toBase64();
-}
-
 QVariant DeviceItem::ToolTipRequested() const
 {
     CorvelGui::ToolTipHelper toolTip;
-    if (m_hasTrack && m_moment.msecs > 0)
-        toolTip.AddTopImagePng(picture());
     toolTip.AddRow(tr("Camera"), m_track.name);
     toolTip.AddRow(tr("Address"), text(Address));
     toolTip.AddRow(tr("State"), text(State));

@@ -12,12 +12,10 @@
 
 namespace Review {
 
-/// The time that a device tree speaks of, what happens then, and how it writes times.
+/// The time that a device tree speaks of, and how it writes times.
 struct DeviceMoment
 {
     TimeTexts times;
-    /// Of all tracks, sorted by time.
-    Events events = {};
     /// 0 if there is none.
     qint64 msecs = 0;
 };
@@ -50,12 +48,10 @@ public:
     bool operator<(const QTreeWidgetItem& other) const override;
 
 protected:
-    /// Draws the picture: only now does somebody want to see it.
     QVariant ToolTipRequested() const override;
 
 private:
     qint64 sortValue(int column) const;
-    QByteArray picture() const;
 
     const CorvelGui::TrackDescription m_track;
     const TrackHistory m_history;

@@ -79,7 +79,6 @@ void DeviceTree::removeAll()
 
 void DeviceTree::setReview(const ReviewData& review)
 {
-    m_moment.events = review.events;
     const QSet<QString> unchecked = uncheckedTracks();
     const QSignalBlocker blocker(this);
     m_cameras->DeleteAllChildren();

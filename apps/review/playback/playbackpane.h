@@ -1,27 +1,23 @@
 #pragma once
 
+#include "data/reviewdata.h"
 #include "look/translated.h"
-#include "video/camerafeed.h"
+#include "video/camera.h"
 
-#include <QGraphicsScene>
 #include <QWidget>
 
 #include <optional>
 
 class QComboBox;
-class QGraphicsPixmapItem;
-
-namespace CorvelGui {
-class ZoomGraphicsView;
-}
+class QGridLayout;
 
 namespace Review {
 
+class CameraView;
 class Clock;
 class Selection;
 
-/// The picture of the selected camera at the selected moment, in a view that can be zoomed and
-/// moved.
+/// The pictures of the selected camera, or of several at once, at the selected moment.
 class PlaybackPane : public Translated<QWidget>
 {
     Q_OBJECT
@@ -32,38 +28,53 @@ public:
 
     /// Sets the cameras to choose from.
     void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
-    /// The events of all tracks, sorted by time.
-    void setEvents(const Events& events);
+    /// What they recorded, by the identifiers of their tracks.
+    void setFiles(const QHash<QString, QList<VideoFile>>& files);
 
-    /// Null without a camera.
-    const CameraFeed* feed() const { return m_feed ? &*m_feed : nullptr; }
+    /// The selected one; null without a camera.
+    const Camera* camera() const { return m_camera ? &*m_camera : nullptr; }
+
+    /// How many cameras are shown at once: 1, 4, 9 or 16. The selected one is among them.
+    void setShownCameras(int count);
+    int shownCameras() const { return int(m_views.size()); }
+    const QList<CameraView*>& views() const { return m_views; }
+
+    /// Whether pictures may be less exact, and are there the sooner.
+    void setOnlyKeyFrames(bool only);
+
+    /// Whether a picture is still to come.
+    bool isBusy() const;
 
 Q_SIGNALS:
-    /// Emitted when feed() is another one: another camera, or the same with other data.
-    void feedChanged();
+    /// Emitted when camera() is another one: another camera, or the same with other data.
+    void cameraChanged();
+    /// Emitted whenever isBusy() became false because the last picture came.
+    void settled();
 
 protected:
     void retranslate() final;
     void showEvent(QShowEvent* event) override;
 
 private:
-    void showCamera();
-    void makeFeed();
-    void showPicture();
+    void addView();
+    void pressView(const CameraView* view);
+    void enlarge(const CameraView* view);
+    void chooseCamera();
+    void showCameras();
+    void showMoment();
 
     const Clock& m_clock;
     Selection& m_selection;
     QComboBox* m_cameras;
-    QGraphicsScene m_scene;
-    CorvelGui::ZoomGraphicsView* m_view;
-    QGraphicsPixmapItem* m_item;
+    QComboBox* m_counts;
+    QGridLayout* m_grid;
+    QList<CameraView*> m_views;
+    int m_countBefore = 4; ///< of the grid that a double click came from
 
     QList<CorvelGui::TrackDescription> m_tracks;
-    Events m_events;
-    std::optional<CameraFeed> m_feed;
-
-    CameraPicture m_picture;
-    std::optional<CameraScene> m_shown;
+    QHash<QString, QList<VideoFile>> m_files;
+    std::optional<Camera> m_camera;
+    bool m_onlyKeyFrames = false;
 };
 
 } // namespace Review

@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 
+#include <cstdlib>
 #include <utility>
 
 using CorvelGui::PPlaybar;
@@ -49,7 +50,7 @@ Player::Player(Selection& selection, PPlaybar* bar, QObject* parent, MonotonicCl
 
     connect(bar, &PPlaybar::playbackStateChanged, this, [this] {
         // Who starts to play wants to see where.
-        if (!m_playing)
+        if (!isPlaying())
             m_selection.reveal();
         followBar();
     });
@@ -97,7 +98,7 @@ void Player::setSpeed(PPlaybar::PlaybackSpeed speed)
 {
     if (m_period.isEmpty())
         return;
-    if (!m_playing)
+    if (!isPlaying())
         m_selection.reveal();
     const bool backwards = m_bar->playbackState() < PPlaybar::Pause;
     if (speed < PPlaybar::Speed1)
@@ -143,14 +144,24 @@ void Player::followBar()
     m_clock.setSpeed(m_selection.isHeld() ? 0 : speed, m_now());
     show();
     m_keys.followBar();
-    const bool playing = speed != 0;
-    if (std::exchange(m_playing, playing) == playing)
+    const bool wasPlaying = isPlaying();
+    const bool wasFast = isFast();
+    m_speed = speed;
+    if (isFast() != wasFast)
+        Q_EMIT fastChanged(!wasFast);
+    if (isPlaying() == wasPlaying)
         return;
-    if (playing)
-        m_timer.start();
-    else
+    if (wasPlaying)
         m_timer.stop();
-    Q_EMIT playingChanged(playing);
+    else
+        m_timer.start();
+    Q_EMIT playingChanged(!wasPlaying);
+}
+
+bool Player::isFast() const
+{
+    constexpr int fast = 8 * PlayerClock::realTime;
+    return std::abs(m_speed) >= fast;
 }
 
 void Player::followMoment()

@@ -44,7 +44,9 @@ public:
     /// Plays at @p speed in the direction in which it plays already, or forwards.
     void setSpeed(CorvelGui::PPlaybar::PlaybackSpeed speed);
 
-    bool isPlaying() const { return m_playing; }
+    bool isPlaying() const { return m_speed != 0; }
+    /// Whether it plays at 8 times the speed or faster, in either direction.
+    bool isFast() const;
 
 public Q_SLOTS:
     void pause();
@@ -54,6 +56,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Emitted whenever isPlaying() changed.
     void playingChanged(bool playing);
+    /// Emitted whenever isFast() changed.
+    void fastChanged(bool fast);
     /// Emitted when playing or a step ended early, because gaps are skipped and nothing is recorded
     /// further on.
     void ranOutOfRecordings();
@@ -76,7 +80,7 @@ private:
     CorvelGui::TimeSpan m_track;
     bool m_hasTrack = false;
     bool m_skippingGaps = false;
-    bool m_playing = false;
+    int m_speed = 0; ///< see PlayerClock
 };
 
 } // namespace Review

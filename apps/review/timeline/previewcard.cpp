@@ -20,6 +20,7 @@ constexpr int iconSize = 16;
 constexpr int remarkGap = 18;
 constexpr int widestText = 300;
 constexpr qsizetype mostTracks = 8;
+constexpr QSize pictureRoom(256, 144);
 
 constexpr QColor background(28, 31, 35);
 constexpr QColor edge(96, 104, 116);
@@ -38,6 +39,8 @@ PreviewCard::PreviewCard(QWidget* window) : QWidget(window)
 void PreviewCard::showContent(const PreviewContent& content, QPoint anchor)
 {
     setContent(content);
+    m_hasPicture = content.hasPicture;
+    m_picture = {};
     resize(sizeHint());
     const QRect room = parentWidget()->rect();
     move(std::clamp(anchor.x() - width() / 2, 0, std::max(0, room.width() - width())),
@@ -45,6 +48,17 @@ void PreviewCard::showContent(const PreviewContent& content, QPoint anchor)
     raise();
     show();
     update();
+}
+
+void PreviewCard::setPicture(const QImage& picture)
+{
+    m_picture = picture;
+    update();
+}
+
+int PreviewCard::pictureHeight() const
+{
+    return m_hasPicture ? pictureRoom.height() + padding : 0;
 }
 
 QStringList PreviewCard::lines() const
@@ -109,8 +123,8 @@ int PreviewCard::widthOf(const Line& line) const
 
 QSize PreviewCard::sizeHint() const
 {
-    int width = 0;
-    int height = -lineGap;
+    int width = m_hasPicture ? pictureRoom.width() : 0;
+    int height = pictureHeight() - lineGap;
     for (const Line& line : m_lines) {
         width = std::max(width, widthOf(line));
         height += heightOf(line) + lineGap;
@@ -123,7 +137,15 @@ void PreviewCard::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(rect(), edge);
     painter.fillRect(rect().adjusted(1, 1, -1, -1), background);
-    int top = padding;
+    if (m_hasPicture) {
+        const QRect room(QPoint((width() - pictureRoom.width()) / 2, padding), pictureRoom);
+        painter.fillRect(room, Qt::black);
+        QRect fitting({}, m_picture.size().scaled(pictureRoom, Qt::KeepAspectRatio));
+        fitting.moveCenter(room.center());
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(fitting, m_picture);
+    }
+    int top = padding + pictureHeight();
     for (const Line& line : std::as_const(m_lines)) {
         const QRect area(padding, top, width() - 2 * padding, heightOf(line));
         paintLine(painter, line, area);

@@ -3,6 +3,7 @@
 #include "data/eventkind.h"
 #include "data/trackhistory.h"
 
+#include <QImage>
 #include <QWidget>
 
 namespace Review {
@@ -23,6 +24,8 @@ struct PreviewContent
     /// How many there are that it does not name.
     qsizetype furtherEvents = 0;
     QList<NamedState> tracks;
+    /// Whether a picture is to come, which needs room.
+    bool hasPicture = false;
 };
 
 /// The card that appears above the timeline where the mouse rests. It is as dark as the timeline in
@@ -41,6 +44,9 @@ public:
     /// Shows the card with the middle of its lower edge at @p anchor of the window, or as near as
     /// the window allows.
     void showContent(const PreviewContent& content, QPoint anchor);
+
+    /// Shows the picture in its room above the texts; none if @p picture is null.
+    void setPicture(const QImage& picture);
 
     /// The texts from top to bottom.
     QStringList lines() const;
@@ -68,7 +74,11 @@ private:
     int widthOf(const Line& line) const;
     void paintLine(QPainter& painter, const Line& line, const QRect& area) const;
 
+    int pictureHeight() const;
+
     QList<Line> m_lines;
+    bool m_hasPicture = false;
+    QImage m_picture;
 };
 
 } // namespace Review

@@ -22,6 +22,29 @@
         <source>Nothing is known of this time</source>
         <translation>Über diese Zeit ist nichts bekannt</translation>
     </message>
+    <message>
+        <source>No picture: %1</source>
+        <translation>Kein Bild: %1</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>Review::CameraView</name>
+    <message>
+        <source>Waiting for the file…</source>
+        <translation>Die Datei antwortet noch nicht …</translation>
+    </message>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Bild der Kamera</translation>
+    </message>
+    <message>
+        <source>Picture of %1</source>
+        <translation>Bild von %1</translation>
+    </message>
 </context>
 <context>
     <name>Review::ClientOptions</name>
@@ -119,16 +142,16 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Ungültige Größe „%1“: BREITExHÖHE, von %2x%3 bis %4x%5.</translation>
     </message>
     <message>
-        <source>Recorded spans, in the columns camera, begin, end.</source>
-        <translation>Aufgezeichnete Zeiträume in den Spalten camera, begin, end.</translation>
-    </message>
-    <message>
         <source>Events, in the columns time, kind, text and, if there is one, camera.</source>
         <translation>Ereignisse in den Spalten time, kind, text und, falls vorhanden, camera.</translation>
     </message>
     <message>
         <source>Periods in which the cameras were in service, in the columns camera, begin, end. Without one, a camera was from its first to its last recording.</source>
         <translation>Zeiträume, in denen die Kameras in Betrieb waren, in den Spalten camera, begin, end. Ohne einen solchen war es eine Kamera von ihrer ersten bis zu ihrer letzten Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>Recorded spans, in the columns camera, begin, end and, for those with pictures, file and offset: seconds into the file at begin.</source>
+        <translation>Aufgezeichnete Abschnitte, in den Spalten camera, begin, end und, wo es Bilder gibt, file und offset: Sekunden in der Datei bei begin.</translation>
     </message>
 </context>
 <context>
@@ -564,6 +587,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>the camera has no name</source>
         <translation>die Kamera hat keinen Namen</translation>
     </message>
+    <message>
+        <source>“%1” is not a number of seconds</source>
+        <translation>„%1“ ist keine Anzahl von Sekunden</translation>
+    </message>
 </context>
 <context>
     <name>Review::LoadPanel</name>
@@ -655,8 +682,19 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Keine Kamera</translation>
     </message>
     <message>
-        <source>Picture of the camera</source>
-        <translation>Bild der Kamera</translation>
+        <source>Cameras at once</source>
+        <translation>Kameras zugleich</translation>
+    </message>
+    <message>
+        <source>How many cameras are shown at once</source>
+        <translation>Wie viele Kameras zugleich gezeigt werden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s)</source>
+        <translation>
+            <numerusform>%n Kamera</numerusform>
+            <numerusform>%n Kameras</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1113,6 +1151,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>An empty field stands for no server. What is marked red is not an address and will not be taken over.</source>
         <translation>Ein leeres Feld steht für keinen Server. Was rot markiert ist, ist keine Adresse und wird nicht übernommen.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::VideoSource</name>
+    <message>
+        <source>The file ends before this time.</source>
+        <translation>Die Datei endet vor dieser Zeit.</translation>
+    </message>
+    <message>
+        <source>The file is missing.</source>
+        <translation>Die Datei fehlt.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or of an unknown kind: %1</source>
+        <translation>Die Datei ist beschädigt oder von unbekannter Art: %1</translation>
     </message>
 </context>
 <context>

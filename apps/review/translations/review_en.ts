@@ -19,6 +19,16 @@
     </message>
 </context>
 <context>
+    <name>Review::PlaybackPane</name>
+    <message numerus="yes">
+        <source>%n camera(s)</source>
+        <translation>
+            <numerusform>%n camera</numerusform>
+            <numerusform>%n cameras</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Review::PreviewCard</name>
     <message numerus="yes">
         <source>and %n more</source>

@@ -20,6 +20,11 @@ constexpr size_t openClips = 3;
 constexpr qint64 longestStill = 10'000;
 constexpr QSize largestPicture(3840, 2160);
 
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Review::VideoSource", text);
+}
+
 bool isPicture(const QString& path)
 {
     const QString ending = QFileInfo(path).suffix().toLower();
@@ -56,6 +61,14 @@ Clip* VideoSource::clipOf(const VideoFile& file, QString& fault)
     if (open == m_open.end()) {
         OpenClip added{file.path, nullptr, {}};
         added.clip = Clip::open(file.path, m_cacheBytes, m_aborted, added.fault);
+        if (!QFileInfo::exists(file.path))
+            added.fault =
+                translated(QT_TRANSLATE_NOOP("Review::VideoSource", "The file is missing."));
+        else if (!added.clip)
+            added.fault =
+                translated(QT_TRANSLATE_NOOP("Review::VideoSource",
+                                             "The file is damaged or of an unknown kind: %1"))
+                    .arg(added.fault);
         if (m_open.size() == openClips)
             m_open.pop_back();
         open = m_open.insert(m_open.begin(), std::move(added));
@@ -84,7 +97,7 @@ VideoFrame VideoSource::frameAt(qint64 instant, Clip::Accuracy accuracy)
     const bool isCut = picture && !picture->until && inClip - picture->time > longestStill;
     if (!picture || isCut) {
         frame.text =
-            QCoreApplication::translate("Review::VideoSource", "The file ends before this time.");
+            translated(QT_TRANSLATE_NOOP("Review::VideoSource", "The file ends before this time."));
         return frame;
     }
     frame.state = VideoFrame::State::Picture;

@@ -74,7 +74,11 @@ QList<QCommandLineOption> CommandLine::options()
 {
     const QString file = tr("file");
     return {
-        {u"recordings"_s, tr("Recorded spans, in the columns camera, begin, end."), file},
+        {u"recordings"_s,
+         tr("Recorded spans, in the columns camera, begin, end and, for those with pictures, file "
+            "and "
+            "offset: seconds into the file at begin."),
+         file},
         {u"events"_s, tr("Events, in the columns time, kind, text and, if there is one, camera."),
          file},
         {u"deployments"_s,

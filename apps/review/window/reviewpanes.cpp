@@ -12,6 +12,7 @@
 #include "timeline/previewcard.h"
 #include "timeline/rangepanel.h"
 #include "timeline/timelinepane.h"
+#include "video/hoverpicture.h"
 
 #include <CorvelGui/TarvoDateTimeView>
 
@@ -41,6 +42,7 @@ ReviewPanes::ReviewPanes(const Clock& clock, Selection& selection, QWidget* pare
     , m_markers(new MarkerFeed(m_timeline))
     , m_player(new Player(selection, m_transport->playbar(), this))
     , m_preview(new PreviewCard(window()))
+    , m_hover(new HoverPicture(this))
 {
     createLayout();
     connectLists();
@@ -81,6 +83,7 @@ void ReviewPanes::connectTimeline()
     });
     connect(m_timeline, &TimelinePane::previewChanged, this, &ReviewPanes::showPreview);
     connect(&m_clock, &Clock::changed, m_preview, &QWidget::hide);
+    connect(m_hover, &HoverPicture::ready, m_preview, &PreviewCard::setPicture);
 
     connect(m_ranges, &RangePanel::viewWanted, this,
             [this] { m_ranges->setRange(m_timeline->view()); });
@@ -91,11 +94,13 @@ void ReviewPanes::connectTimeline()
 
 void ReviewPanes::connectPlayer()
 {
-    connect(m_playback, &PlaybackPane::feedChanged, this, [this] {
-        const CameraFeed* feed = m_playback->feed();
-        m_player->setTrack(feed ? &feed->history() : nullptr);
-        m_transport->timeView()->setDeviceName(feed ? feed->camera() : QString());
+    connect(m_playback, &PlaybackPane::cameraChanged, this, [this] {
+        const Camera* camera = m_playback->camera();
+        m_player->setTrack(camera ? &camera->history : nullptr);
+        m_transport->timeView()->setDeviceName(camera ? camera->name : QString());
+        m_hover->setFiles(camera ? camera->files : QList<VideoFile>());
     });
+    connect(m_player, &Player::fastChanged, m_playback, &PlaybackPane::setOnlyKeyFrames);
     connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
     connect(m_player, &Player::playingChanged, m_transport->timeView(),
             &TarvoDateTimeView::setPlayMode);
@@ -124,7 +129,7 @@ void ReviewPanes::setTexts(const ReviewData& review)
     m_review = review;
     m_devices->setReview(m_review);
     m_events->setReview(m_review);
-    m_playback->setEvents(m_review.events);
+    m_playback->setFiles(m_review.files);
     showCheckedTracks();
 }
 
@@ -200,11 +205,13 @@ void ReviewPanes::showPreview(qint64 msecs, const QPoint& position, const TimeSp
 {
     if (msecs == 0) {
         m_preview->hide();
+        m_hover->forget();
         return;
     }
     PreviewContent content{.time = m_clock.times().exactDateTime(msecs),
                            .events = {},
-                           .tracks = m_devices->statesAt(msecs)};
+                           .tracks = m_devices->statesAt(msecs),
+                           .hasPicture = m_hover->ask(msecs)};
     const QList<qsizetype> numbers = m_events->events().eventsIn(symbol);
     for (const qsizetype number :
          numbers.first(std::min(PreviewCard::mostEvents, numbers.size()))) {

@@ -12,6 +12,7 @@ namespace Review {
 class Clock;
 class DevicePane;
 class EventPane;
+class HoverPicture;
 class MarkerFeed;
 class PlaybackPane;
 class Player;
@@ -84,6 +85,7 @@ private:
     MarkerFeed* m_markers;
     Player* m_player;
     PreviewCard* m_preview;
+    HoverPicture* m_hover;
     /// Until the panes are shown.
     QByteArray m_widths;
 };

@@ -106,6 +106,16 @@ void ReviewWindow::showMiddleDay()
     m_panes->showMiddleDay();
 }
 
+void ReviewWindow::play()
+{
+    m_panes->player()->setSpeed(CorvelGui::PPlaybar::Speed1);
+}
+
+bool ReviewWindow::awaitsPictures() const
+{
+    return m_panes->playback().isBusy();
+}
+
 void ReviewWindow::createToolBar(bool dark)
 {
     addToolBar(m_toolBar);
@@ -128,7 +138,8 @@ void ReviewWindow::connectParts()
             &ExportPanel::askForEvents);
     connect(m_status->exportPanel(), &ExportPanel::exportingChanged, this,
             &ReviewWindow::enableExport);
-    connect(&m_panes->playback(), &PlaybackPane::feedChanged, this, &ReviewWindow::enableExport);
+    connect(&m_panes->playback(), &PlaybackPane::cameraChanged, this, &ReviewWindow::enableExport);
+    connect(&m_panes->playback(), &PlaybackPane::settled, this, &ReviewWindow::settled);
     connect(m_menus->quit(), &QAction::triggered, this, &QWidget::close);
     connect(m_panes, &ReviewPanes::told, m_status, &ReviewStatusBar::tell);
     connect(m_toolBar->showRanges(), &QAction::toggled, m_panes->ranges(), &QWidget::setVisible);
@@ -158,8 +169,8 @@ void ReviewWindow::showTitle()
 void ReviewWindow::exportPictures()
 {
     const TimelinePane* timeline = m_panes->timeline();
-    if (const CameraFeed* feed = m_panes->playback().feed())
-        m_status->exportPanel()->askForPictures(*feed, timeline->view(), timeline->searchRange());
+    if (const Camera* camera = m_panes->playback().camera())
+        m_status->exportPanel()->askForPictures(*camera, timeline->view(), timeline->searchRange());
 }
 
 void ReviewWindow::closeEvent(QCloseEvent* event)
@@ -172,7 +183,7 @@ void ReviewWindow::closeEvent(QCloseEvent* event)
 
 void ReviewWindow::enableExport()
 {
-    m_menus->exportPictures()->setEnabled(m_panes->playback().feed() &&
+    m_menus->exportPictures()->setEnabled(m_panes->playback().camera() &&
                                           !m_panes->timeline()->view().isEmpty() &&
                                           !m_status->exportPanel()->isExporting());
 }

@@ -43,6 +43,11 @@ public:
     /// Shows the day in the middle of the period, with the indicator on the first event after noon.
     void showMiddleDay();
 
+    void play();
+
+    /// Whether pictures of cameras are still to come.
+    bool awaitsPictures() const;
+
     /// For what belongs to the whole program; hidden as long as it is empty.
     QMenu* toolsMenu() const;
 
@@ -58,6 +63,8 @@ public:
 Q_SIGNALS:
     /// Emitted when the user changed something that takeSettings() takes.
     void settingsTouched();
+    /// Emitted when awaitsPictures() became false because the last picture came.
+    void settled();
     /// Emitted when load() has come to its end. With an @p error, which tells the user why a file
     /// cannot be read, the window shows what it did before.
     void loaded(const QString& error);
