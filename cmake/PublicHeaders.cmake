@@ -87,6 +87,7 @@ set(CORVELGUI_PUBLIC_HEADERS
     timeline/Ruler
     timeline/RulerMarker
     timeline/RulerMarkerButton
+    timeline/TimelineActivity
     timeline/TimelineScroll
     timeline/TrackDescription
     timeline/ZoomTimeline

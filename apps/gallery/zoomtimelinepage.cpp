@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 using CorvelGui::Ruler;
 using CorvelGui::RulerMarker;
 using CorvelGui::TrackDescription;
@@ -106,6 +108,26 @@ QList<RulerMarker> markers(qint64 distance)
     return all;
 }
 
+/// More by day than by night, and some of it bad.
+QList<RulerMarker> busyMarkers()
+{
+    using Severity = RulerMarker::Severity;
+    QList<RulerMarker> all = markers(4 * minute);
+    all.removeIf([](const RulerMarker& marker) {
+        const double height =
+            1 + std::sin(double(marker.time.toMSecsSinceEpoch() % day - 6 * hour) / day * 2 * M_PI);
+        return marker.time.toMSecsSinceEpoch() / minute * 7 % 23 > 11 * height;
+    });
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        const bool isBusyDay = i / 90 % 5 == 3;
+        all[i].severity = i % 97 == 0               ? Severity::Alarm
+                          : i % 7 == 0 && isBusyDay ? Severity::Warning
+                          : i % 2 == 0              ? Severity::Information
+                                                    : Severity::None;
+    }
+    return all;
+}
+
 } // namespace
 
 ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
@@ -120,6 +142,10 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
 
     add(tr("Sparse markers"))->ruler()->onAddMarkers(markers(50 * minute));
     add(tr("Crowded markers"))->ruler()->onAddMarkers(markers(7 * minute));
+
+    ZoomTimeline* busy = add(tr("Activity in the overview"));
+    busy->setActivityVisible(true);
+    busy->ruler()->onAddMarkers(busyMarkers());
 
     ZoomTimeline* search = add(tr("Search range"));
     search->setSearchTimeRange(at(middle - 2 * hour), at(middle + 3 * hour), false);

@@ -136,7 +136,9 @@ RulerMarker MarkerStore::marker(std::size_t index) const
                        .kind = record.kind,
                        .iconIndex = record.iconIndex,
                        .text = record.text,
-                       .iconProvider = record.iconProvider};
+                       .iconProvider = record.iconProvider,
+                       .duration = record.duration,
+                       .severity = RulerMarker::Severity(record.severity)};
     if (marker.text.isEmpty() && marker.iconProvider)
         marker.text = marker.iconProvider->text(marker);
     return marker;
@@ -225,10 +227,12 @@ MarkerStore::Record MarkerStore::recordOf(const Arrival& arrival)
     return {.identifier = marker.identifier,
             .text = marker.text,
             .iconProvider = marker.iconProvider,
+            .duration = std::max<qint64>(marker.duration, 0),
             .kind = marker.kind,
             .iconIndex = marker.iconIndex,
             .icon = arrival.icon,
             .zone = zoneOf(marker.time),
+            .severity = quint32(marker.severity),
             .seen = 0};
 }
 

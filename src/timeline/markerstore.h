@@ -15,7 +15,7 @@ namespace CorvelGui {
 /// The markers of a ruler in the order of their times, and which of them were seen already.
 ///
 /// They stand in blocks of some hundred, so that one comes or goes without moving the others. Of a
-/// marker there are 72 bytes beside its text; its time is made anew from milliseconds and zone.
+/// marker there are 80 bytes beside its text; its time is made anew from milliseconds and zone.
 class CORVELGUI_INTERNAL_EXPORT MarkerStore
 {
 public:
@@ -49,6 +49,16 @@ public:
     quint32 icon(std::size_t index) const { return timeAndIcon(index).second; }
     std::pair<qint64, quint32> timeAndIcon(std::size_t index) const;
 
+    /// Calls @p visit with time and severity of every marker, in order.
+    template <typename Visit>
+    void forEach(const Visit& visit) const
+    {
+        for (const Block& block : m_blocks) {
+            for (std::size_t i = 0; i < block.times.size(); ++i)
+                visit(block.times[i], RulerMarker::Severity(block.records[i].severity));
+        }
+    }
+
     /// Index of the first marker at or after @p msecs; size() if there is none.
     std::size_t firstFrom(qint64 msecs) const;
     /// Index of the first marker after @p msecs; size() if there is none.
@@ -67,10 +77,12 @@ private:
         QUuid identifier;
         QString text;
         IRulerMarkerIconProvider* iconProvider;
+        qint64 duration;
         int kind;
         int iconIndex;
         quint32 icon;
-        quint32 zone : 31;
+        quint32 zone : 29;
+        quint32 severity : 2;
         quint32 seen : 1;
     };
 

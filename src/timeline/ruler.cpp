@@ -1,3 +1,4 @@
+#include "activityhistogram.h"
 #include "ruler_p.h"
 
 #include <Corvel/TimeZoneHelper>
@@ -99,7 +100,7 @@ void Ruler::setTimeLimits(quint64 begin, quint64 end)
             if (viewChanged || d->segments.isTrackLimitChanged(d->scale))
                 changedTimeLineView(false);
         },
-        [this] { reportZoomHistory(); });
+        [this] { reportZoomHistory(); }, [this] { Q_EMIT activityChanged(); });
 }
 
 std::pair<quint64, quint64> Ruler::getTimeLimits() const
@@ -276,19 +277,39 @@ void Ruler::onMarkerOperation(RulerMarkerOperation operation)
 void Ruler::onAddMarkers(const QList<RulerMarker>& markers)
 {
     d->markers->add(markers);
-    updateChildren(true);
+    markersChanged();
 }
 
 void Ruler::onRemoveMarkers(const QList<RulerMarker>& markers)
 {
     d->markers->remove(markers);
-    updateChildren(true);
+    markersChanged();
 }
 
 void Ruler::onClearMarkers()
 {
     d->markers->clear();
     update();
+    Q_EMIT activityChanged();
+}
+
+void Ruler::markersChanged()
+{
+    whileAlive(
+        this, [this] { updateChildren(true); }, [this] { Q_EMIT activityChanged(); });
+}
+
+TimelineActivity Ruler::activity(int columns) const
+{
+    const TimeSpan period =
+        d->scale.hasView() ? TimeSpan{d->scale.beginLimitMs(), d->scale.endLimitMs()} : TimeSpan();
+    ActivityHistogram histogram(period, columns);
+    histogram.cover(d->segments.gapSpans(), TimelineActivity::Recording::Gap);
+    histogram.cover(d->segments.recordedSpans(), TimelineActivity::Recording::Recorded);
+    d->markers->store().forEach([&histogram](qint64 msecs, RulerMarker::Severity severity) {
+        histogram.add(msecs, severity);
+    });
+    return histogram.take();
 }
 
 void Ruler::onShowMarkers()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <CorvelGui/RulerMarker>
+#include <CorvelGui/TimelineActivity>
 #include <CorvelGui/TrackDescription>
 #include <CorvelGui/corvelgui_export.h>
 
@@ -191,6 +192,10 @@ public:
     void setResultTimeRange(const QDateTime& from, const QDateTime& to, bool markBegin,
                             bool markEnd, bool onlyInside, bool adjustZoom);
 
+    /// What is recorded in the period, and how many markers begin when, in @p columns parts of
+    /// equal duration: one pass over all of them. Empty without a period.
+    TimelineActivity activity(int columns) const;
+
     // Markers
 
     /// Adds markers; those without a valid time are left out.
@@ -290,6 +295,9 @@ Q_SIGNALS:
     /// was done meanwhile. Where a hold ends without a release, that is on the next turn of the
     /// event loop, except for setActive().
     void heldChanged(bool held);
+    /// Emitted when activity() may have changed: the limits, the tracks, their recordings or the
+    /// markers.
+    void activityChanged();
     /// Emitted when the view moved, except by onTimelineOffsetChanged() and, without a follow mode,
     /// by setIndicatorPosition().
     void centerPositionChanged(double position);
@@ -329,6 +337,7 @@ private:
     void layOutChildren();
     void updateTrackSegments();
     void followView();
+    void markersChanged();
     void setUpAccessibility();
     void setIndicatorTime(const QDateTime& time);
     void updateIndicator();

@@ -142,6 +142,7 @@ void Ruler::setTrackDescriptions(const QList<TrackDescription>& tracks)
 {
     d->segments.setTracks(tracks);
     updateTrackSegments();
+    Q_EMIT activityChanged();
 }
 
 bool Ruler::addRecordedSpans(const QString& trackIdentifier, const QList<TimeSpan>& spans)
@@ -149,6 +150,7 @@ bool Ruler::addRecordedSpans(const QString& trackIdentifier, const QList<TimeSpa
     if (!d->segments.addRecorded(trackIdentifier, spans))
         return false;
     updateTrackSegments();
+    Q_EMIT activityChanged();
     return true;
 }
 

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QUuid>
 
+#include <cstddef>
+
 namespace CorvelGui {
 
 struct RulerMarker;
@@ -35,6 +37,10 @@ struct RulerMarker
     /// icon.
     static constexpr int providedIconKind = 3;
 
+    /// How bad it is, from harmless to worst. It has a colour where the timeline shows severities.
+    enum class Severity : quint8 { None, Information, Warning, Alarm };
+    static constexpr std::size_t severityCount = 4;
+
     QUuid identifier = {};
     /// Also the key by which markers are removed. A marker without a valid time is not added.
     QDateTime time = {};
@@ -44,6 +50,9 @@ struct RulerMarker
     QString text = {};
     /// Not owned; must live as long as the marker is on a ruler.
     IRulerMarkerIconProvider* iconProvider = nullptr;
+    /// Milliseconds from its time to its end; 0 or less for an instant.
+    qint64 duration = 0;
+    Severity severity = Severity::None;
 
     bool operator==(const RulerMarker&) const = default;
 };

@@ -45,6 +45,8 @@ public:
     void setIconSize(const QSize& size);
     void setOrvaneGuiTheme(bool on);
 
+    const MarkerStore& store() const { return m_store; }
+
     /// Brings the buttons in line with the view. Costs nothing while neither the view nor what it
     /// shows has changed. Returns the times of markers that are in view for the first time.
     QList<QDateTime> update(const TimeScale& scale, const QRect& area);

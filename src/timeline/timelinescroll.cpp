@@ -1,23 +1,16 @@
-#include "timelinescroll.h"
-
-#include "accessiblerange.h"
 #include "base/whilealive.h"
 #include "devicegrid.h"
-#include "keyboardfocus.h"
-#include "viewareabox.h"
+#include "timelinescroll_p.h"
 
 #include <Hueloft/POrvGuiTheme>
 
 #include <QKeyEvent>
 #include <QLinearGradient>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 using Hueloft::POrvGuiTheme;
@@ -27,10 +20,8 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr int maximumStripHeight = 15;
 constexpr int holdInterval = 200; // milliseconds
 constexpr double sameSearchPosition = 1e-5;
-constexpr double keyStepsPerView = 10.0;
 
 /// The pixels from @p left to @p right and from @p top to @p bottom, all four included.
 QRectF pixelRect(int left, int top, int right, int bottom)
@@ -40,76 +31,9 @@ QRectF pixelRect(int left, int top, int right, int bottom)
 
 } // namespace
 
-struct TimelineScroll::Private
-{
-    explicit Private(TimelineScroll* strip)
-        : q(strip)
-        , accessible(strip, {.role = QAccessible::ScrollBar,
-                             .name = [] { return tr("Timeline overview"); },
-                             .minimum = [] { return 0.0; },
-                             .maximum = [] { return 1.0; },
-                             .value = [this] { return shownPosition(); },
-                             .step = [this] { return keyStep(); },
-                             .text = [this] { return spokenPosition(); },
-                             .move =
-                                 [this](double position) {
-                                     q->moveView(position);
-                                 }})
-    {}
-
-    ViewAreaBox box() const { return {q->width(), viewArea, centerPosition}; }
-    bool hovered() const { return hover || (mouseX && box().contains(*mouseX)); }
-
-    // The view may reach beyond the period.
-    double shownPosition() const
-    {
-        return centerPosition > 0.0 ? std::min(centerPosition, 1.0) : 0.0;
-    }
-    double keyStep() const { return viewArea > 0.0 ? viewArea / keyStepsPerView : 0.0; }
-    QString spokenPosition() const
-    {
-        return tr("%1 percent").arg(QLocale().toString(shownPosition() * 100, 'f', 1));
-    }
-
-    enum class Hold { None, Box, BesideBox };
-
-    TimelineScroll* const q;
-
-    bool active = false;
-    bool resultMode = false;
-    double viewArea = 1.0;
-    double indicatorPosition = 0.0;
-    double centerPosition = 0.0;
-
-    QColor boxColor{100, 100, 100};
-    QColor hoverColor{140, 140, 140};
-    QColor dragColor{80, 80, 80};
-    QColor indicatorColor{255, 210, 0};
-    QColor borderColor{180, 180, 180};
-    QColor inactiveBorderColor{180, 180, 180};
-    QColor searchColor{28, 187, 255};
-
-    double searchBegin = 0.0;
-    double searchEnd = 0.0;
-    bool searchValid = false;
-    bool searchDisplayed = false;
-
-    bool hover = false;
-    std::optional<int> mouseX; // while the mouse is inside
-    Hold hold = Hold::None;
-    bool toldHeld = false;
-    int pressX = 0;
-    int dragOffset = 0;
-    int step = 0;
-    QTimer repeatTimer{q};
-    const KeyboardFocus* const focus = new KeyboardFocus(q);
-
-    AccessibleRange accessible;
-};
-
 TimelineScroll::TimelineScroll(QWidget* parent) : QLabel(parent), d(std::make_unique<Private>(this))
 {
-    setMaximumHeight(maximumStripHeight);
+    setMaximumHeight(Private::plainHeight);
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
     setEnabled(d->active);
@@ -230,8 +154,8 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const DeviceGrid grid(painter);
     const int last = width() - 1;
-    const auto pixelAt = [last](double position) {
-        return ViewAreaBox::pixels((last - 1) * position + 1.0);
+    const auto pixelAt = [this](double position) {
+        return ViewAreaBox::pixels(d->xAt(position));
     };
 
     QLinearGradient background(0, 0, 0, height());
@@ -242,12 +166,17 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
     painter.fillRect(rect(), background);
     d->focus->draw(painter);
 
-    const ViewAreaBox box = d->box();
-    const QColor boxColor = d->hold == Private::Hold::Box ? d->dragColor
-                            : d->hovered()                ? d->hoverColor
-                                                          : d->boxColor;
-    painter.fillRect(grid.aligned(pixelRect(box.left(), 1, box.right() - 1, height() - 2)),
-                     boxColor);
+    const bool held = d->hold == Private::Hold::Box || d->hold == Private::Hold::Edge;
+    const QColor boxColor = held ? d->dragColor : d->hovered() ? d->hoverColor : d->boxColor;
+    if (d->activityVisible) {
+        const QRectF area(d->overview().left(), 1, d->overview().length(), height() - 2);
+        d->activity.paint(painter, area);
+        d->drawBoxOverActivity(painter, boxColor);
+    } else {
+        const ViewAreaBox box = d->box();
+        painter.fillRect(grid.aligned(pixelRect(box.left(), 1, box.right() - 1, height() - 2)),
+                         boxColor);
+    }
 
     if (d->searchDisplayed && d->searchValid) {
         const int left = std::max(pixelAt(d->searchBegin), 1);
@@ -256,7 +185,7 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
                          d->searchColor);
     }
 
-    const double x = (last - 1) * d->indicatorPosition + 1.0;
+    const double x = d->xAt(d->indicatorPosition);
     if (x >= 0.0 && x <= width()) {
         painter.setPen(QPen(d->indicatorColor, 0));
         painter.drawLine(QPointF(x, 0), QPointF(x, height()));
@@ -267,15 +196,16 @@ void TimelineScroll::mousePressEvent(QMouseEvent* event)
 {
     if (!d->active || event->button() != Qt::LeftButton)
         return;
-    const ViewAreaBox box = d->box();
     d->pressX = event->position().toPoint().x();
-    if (box.contains(d->pressX)) {
-        d->hold = Private::Hold::Box;
-        d->dragOffset = d->pressX - box.center();
-    } else {
+    if (const int side = d->sideOf(d->pressX); side != 0) {
         d->hold = Private::Hold::BesideBox;
-        d->step = d->pressX < box.left() ? -box.width() : box.width();
+        d->step = side * d->box().width();
         d->repeatTimer.start();
+    } else if (d->activityVisible) {
+        gripBox(event->position().x());
+    } else {
+        d->hold = Private::Hold::Box;
+        d->dragOffset = d->pressX - d->box().center();
     }
     update();
     tellHeld();
@@ -295,6 +225,10 @@ void TimelineScroll::mouseMoveEvent(QMouseEvent* event)
     if (d->hovered() != wasHovered)
         update();
 
+    if (d->activityVisible) {
+        dragBox(event->position().x());
+        return;
+    }
     if (d->hold != Private::Hold::Box || !(d->viewArea < 1.0) || x <= 0 || x >= width())
         return;
     const double position = d->box().draggedTo(x - d->dragOffset);
@@ -309,14 +243,14 @@ void TimelineScroll::mouseReleaseEvent(QMouseEvent* event)
     const bool besideBox = d->hold == Private::Hold::BesideBox;
     endHold();
 
-    const ViewAreaBox box = d->box();
     const int x = event->position().toPoint().x();
     whileAlive(
         this,
         [&] {
-            if (!besideBox || box.contains(x))
+            const int side = d->sideOf(x);
+            if (!besideBox || side == 0)
                 return;
-            d->step = x > box.right() ? box.width() : -box.width();
+            d->step = side * d->box().width();
             translateViewAreaCenter();
         },
         [this] { tellHeld(); });
@@ -324,7 +258,9 @@ void TimelineScroll::mouseReleaseEvent(QMouseEvent* event)
 
 void TimelineScroll::keyPressEvent(QKeyEvent* event)
 {
-    const double view = d->keyStep() * keyStepsPerView;
+    if (d->activityVisible && resizeByKey(event))
+        return;
+    const double view = d->keyStep() * Private::keyStepsPerView;
     switch (event->key()) {
     case Qt::Key_Left:
         moveView(d->shownPosition() - d->keyStep());
@@ -352,6 +288,7 @@ void TimelineScroll::keyPressEvent(QKeyEvent* event)
 void TimelineScroll::enterEvent(QEnterEvent* event)
 {
     d->mouseX = event->position().toPoint().x();
+    showCursor();
     update();
 }
 
@@ -387,9 +324,8 @@ void TimelineScroll::updateStyleSheet()
 
 void TimelineScroll::onMoveViewAreaTimer()
 {
-    const ViewAreaBox box = d->box();
-    const bool reached = d->step > 0 ? d->pressX <= box.right() : d->pressX >= box.left();
-    if (reached)
+    const int side = d->sideOf(d->pressX);
+    if (d->step > 0 ? side <= 0 : side >= 0)
         d->repeatTimer.stop();
     else
         translateViewAreaCenter();
@@ -397,6 +333,10 @@ void TimelineScroll::onMoveViewAreaTimer()
 
 void TimelineScroll::translateViewAreaCenter()
 {
+    if (d->activityVisible) {
+        moveView(d->centerPosition + (d->step > 0 ? d->viewArea : -d->viewArea));
+        return;
+    }
     const double position = d->box().pagedBy(d->step);
     storeCenterPosition(position);
     Q_EMIT viewAreaMoved(position);
@@ -427,6 +367,7 @@ void TimelineScroll::endHold()
 {
     d->repeatTimer.stop();
     d->hold = Private::Hold::None;
+    d->wanted.reset();
     update();
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <CorvelGui/TimelineActivity>
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QLabel>
 
+#include <functional>
 #include <memory>
 
 namespace CorvelGui {
@@ -20,6 +22,8 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT TimelineScroll : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(bool activityVisible READ isActivityVisible WRITE setActivityVisible NOTIFY
+                   activityVisibleChanged)
 
 public:
     /// Starts inactive, with the whole period in view.
@@ -36,7 +40,23 @@ public:
     /// The position of the view's centre: the latest of onCenterPositionChanged() and the user's.
     double centerPosition() const;
 
-    /// Whether the user holds the box, or the mouse beside it.
+    /// Whether the strip shows what is recorded and how much happens, as the source says. Off by
+    /// default.
+    ///
+    /// The strip is higher then, and has the margins of a ruler: under one of the same width,
+    /// positions stand where the ruler has them while it shows the whole period. The box is exactly
+    /// what the strip can show of the view, also of one that reaches beyond the period. Its edges
+    /// can be dragged; Shift with Left and Right moves its end, and Ctrl its begin, by a tenth of
+    /// its length.
+    bool isActivityVisible() const;
+    void setActivityVisible(bool visible);
+    /// Says what there is to show, in columns of equal width. Asked when the strip is painted for
+    /// the first time, with another width, or after renewActivity().
+    void setActivitySource(std::function<TimelineActivity(int columns)> source);
+    /// The position of a column of the strip while the activity is shown.
+    double positionAt(double x) const;
+
+    /// Whether the user holds the box, an edge of it, or the mouse beside it.
     bool isHeld() const;
 
     /// An inactive strip is disabled and shows nothing but its border.
@@ -60,12 +80,19 @@ public Q_SLOTS:
     void onIndicatorPositionChanged(quint64 msecs, double position);
     /// Moves the box.
     void onCenterPositionChanged(double position);
+    /// The source has something else to say.
+    void renewActivity();
 
 Q_SIGNALS:
     /// Emitted when the user moves the box: at every mouse move of a drag, at every page (every
     /// 200 ms while the mouse is held beside the box, and once when it is released there), for the
     /// keys, and for assistive technology. Also emitted when the box cannot go any further.
     void viewAreaMoved(double centerPosition);
+    /// Emitted when the user moves an edge of the box, with the positions of both ends that he
+    /// wants. Until he lets go of the edge, or of Shift or Ctrl, the strip shows these, whatever
+    /// view they lead to.
+    void viewAreaResized(double begin, double end);
+    void activityVisibleChanged(bool visible);
     /// Emitted when isHeld() changed: before the first move of the box, and after the last. Where
     /// the strip is hidden or disabled or its window loses the activation, that is on the next turn
     /// of the event loop.
@@ -77,6 +104,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -87,6 +116,12 @@ private:
     void onMoveViewAreaTimer();
     void translateViewAreaCenter();
     void moveView(double centerPosition);
+    void gripBox(double x);
+    void dragBox(double x);
+    bool resizeByKey(const QKeyEvent* event);
+    void moveEdge(double position, double shortest);
+    void forgetWanted();
+    void showCursor();
     void storeCenterPosition(double position);
     void endHold();
     void tellHeld();

@@ -47,6 +47,8 @@ public:
 
     /// Makes the two lists of segments for the view of @p scale.
     void update(const TimeScale& scale);
+    const TimeSpans& gapSpans() const { return m_gapSpans; }
+    const TimeSpans& recordedSpans() const { return m_recordedSpans; }
     const TrackSegmentList& gaps() const { return m_gaps; }
     const TrackSegmentList& recorded() const { return m_recorded; }
 

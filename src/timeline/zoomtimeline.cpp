@@ -5,10 +5,12 @@
 #include "timelinescroll.h"
 #include "zoomer.h"
 
-#include <QEvent>
+#include <QCoreApplication>
 #include <QGridLayout>
+#include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <utility>
 
@@ -27,19 +29,16 @@ ZoomTimeline::ZoomTimeline(QWidget* parent)
     , m_scroll(new TimelineScroll(this))
 {
     m_ruler->installEventFilter(this);
+    m_scroll->installEventFilter(this);
+    m_scroll->setActivitySource([this](int columns) { return m_ruler->activity(columns); });
     auto* layout = new QGridLayout(this);
     layout->setVerticalSpacing(2);
     layout->setContentsMargins(2, 2, 2, 2);
     if (m_zoomer) {
         connect(m_zoomer, &Zoomer::zoomerIn, m_ruler, &Ruler::onZoomerIn);
         connect(m_zoomer, &Zoomer::zoomerOut, m_ruler, &Ruler::onZoomerOut);
-        layout->addWidget(m_ruler, 0, 0, 1, 2);
-        layout->addWidget(m_zoomer, 1, 0);
-        layout->addWidget(m_scroll, 1, 1);
-    } else {
-        layout->addWidget(m_ruler, 0, 0);
-        layout->addWidget(m_scroll, 1, 0);
     }
+    arrange();
 
     connect(m_ruler, &Ruler::changeSliderZoom, this, &ZoomTimeline::onChangeSliderPosition);
     connect(m_scroll, &TimelineScroll::viewAreaMoved, this,
@@ -48,6 +47,17 @@ ZoomTimeline::ZoomTimeline(QWidget* parent)
             &TimelineScroll::onIndicatorPositionChanged);
     connect(m_ruler, &Ruler::centerPositionChanged, m_scroll,
             &TimelineScroll::onCenterPositionChanged);
+    connect(m_ruler, &Ruler::centerPositionChanged, this, [this] {
+        if (isActivityVisible())
+            m_scroll->onCenterPositionChanged(viewCenter());
+    });
+    connect(m_ruler, &Ruler::activityChanged, m_scroll, &TimelineScroll::renewActivity);
+    connect(m_scroll, &TimelineScroll::viewAreaResized, this, &ZoomTimeline::onViewAreaResized);
+    connect(m_scroll, &TimelineScroll::activityVisibleChanged, this, [this](bool visible) {
+        arrange();
+        m_scroll->onCenterPositionChanged(viewCenter());
+        Q_EMIT activityVisibleChanged(visible);
+    });
     connect(m_ruler, &Ruler::heldChanged, this, &ZoomTimeline::tellHeld);
     connect(m_scroll, &TimelineScroll::heldChanged, this, &ZoomTimeline::tellHeld);
 }
@@ -71,7 +81,7 @@ void ZoomTimeline::setTimeLimits(quint64 begin, quint64 end)
         [this] {
             onChangeSliderPosition(m_ruler->level());
             // The same view is another part of another period.
-            m_scroll->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
+            m_scroll->onCenterPositionChanged(viewCenter());
             m_scroll->setIndicatorPosition(m_ruler->getIndicatorPosition());
             updateSearchTimeRange();
         });
@@ -84,7 +94,7 @@ void ZoomTimeline::setIndicatorPosition(quint64 msecs)
     if (!alive || !changed)
         return;
     m_scroll->setIndicatorPosition(m_ruler->getIndicatorPosition());
-    m_scroll->onCenterPositionChanged(m_ruler->getCurrentCenterPosition());
+    m_scroll->onCenterPositionChanged(viewCenter());
 }
 
 void ZoomTimeline::setTimeLimitsAndIndicatorPosition(quint64 begin, quint64 end, quint64 indicator)
@@ -182,6 +192,16 @@ void ZoomTimeline::setPlayMode(bool on)
     setOrvaneGuiTheme(m_theme);
 }
 
+bool ZoomTimeline::isActivityVisible() const
+{
+    return m_scroll->isActivityVisible();
+}
+
+void ZoomTimeline::setActivityVisible(bool visible)
+{
+    m_scroll->setActivityVisible(visible);
+}
+
 bool ZoomTimeline::isHeld() const
 {
     return m_ruler->isHeld() || m_scroll->isHeld();
@@ -245,8 +265,70 @@ bool ZoomTimeline::eventFilter(QObject* watched, QEvent* event)
             m_scroll->setHover(true);
         else if (event->type() == QEvent::Leave)
             m_scroll->setHover(false);
+    } else if (event->type() == QEvent::Wheel && isActivityVisible()) {
+        event->accept();
+        turnWheelOnStrip(static_cast<QWheelEvent*>(event));
+        return true;
     }
     return false;
+}
+
+// What stands at one time stands in one column of all parts, as soon as more of them than the ruler
+// show times.
+void ZoomTimeline::arrange()
+{
+    auto* grid = static_cast<QGridLayout*>(layout());
+    for (QWidget* part : {static_cast<QWidget*>(m_ruler), static_cast<QWidget*>(m_zoomer),
+                          static_cast<QWidget*>(m_scroll)}) {
+        if (part)
+            grid->removeWidget(part);
+    }
+    if (isActivityVisible()) {
+        if (m_zoomer)
+            grid->addWidget(m_zoomer, 0, 0, Qt::AlignVCenter);
+        grid->addWidget(m_ruler, 0, 1);
+        grid->addWidget(m_scroll, 1, 1);
+    } else if (m_zoomer) {
+        grid->addWidget(m_ruler, 0, 0, 1, 2);
+        grid->addWidget(m_zoomer, 1, 0);
+        grid->addWidget(m_scroll, 1, 1);
+    } else {
+        grid->addWidget(m_ruler, 0, 0);
+        grid->addWidget(m_scroll, 1, 0);
+    }
+}
+
+// The ruler counts without a sign: it has the centre of a view before the begin limit far behind
+// the end.
+double ZoomTimeline::viewCenter() const
+{
+    const double duration = double(m_ruler->getTotalDuration());
+    const TimeSpan view = m_ruler->view();
+    if (!isActivityVisible() || view.isEmpty() || duration <= 0)
+        return m_ruler->getCurrentCenterPosition();
+    const double begin = double(view.begin - qint64(m_ruler->getTimeLimits().first));
+    return (begin + double(view.end - view.begin) / 2) / duration;
+}
+
+void ZoomTimeline::onViewAreaResized(double begin, double end)
+{
+    const auto timeAt = [from = m_ruler->getTimeLimits().first,
+                         duration = double(m_ruler->getTotalDuration())](double position) {
+        return qint64(from) + std::llround(position * duration);
+    };
+    m_ruler->setView(timeAt(begin), timeAt(end));
+}
+
+void ZoomTimeline::turnWheelOnStrip(const QWheelEvent* event)
+{
+    const double position = m_scroll->positionAt(event->position().x());
+    const double time =
+        double(m_ruler->getTimeLimits().first) + position * double(m_ruler->getTotalDuration());
+    const double x = std::clamp(m_ruler->xAt(qint64(time)), 0.0, double(m_ruler->width()));
+    QWheelEvent onRuler({x, m_ruler->height() / 2.0}, event->globalPosition(), event->pixelDelta(),
+                        event->angleDelta(), event->buttons(), event->modifiers(), event->phase(),
+                        event->inverted());
+    QCoreApplication::sendEvent(m_ruler, &onRuler);
 }
 
 void ZoomTimeline::updateViewArea()

@@ -19,6 +19,8 @@ class Zoomer;
 class CORVELGUI_EXPORT ZoomTimeline : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool activityVisible READ isActivityVisible WRITE setActivityVisible NOTIFY
+                   activityVisibleChanged)
 
 public:
     explicit ZoomTimeline(QWidget* parent = nullptr);
@@ -59,6 +61,15 @@ public:
     /// Selects the indicator's colour.
     void setPlayMode(bool on);
 
+    /// Whether the strip shows what is recorded in the period and how many markers begin when, as
+    /// TimelineScroll::isActivityVisible() describes. Off by default.
+    ///
+    /// The strip stands below the ruler from edge to edge then, with the zoomer left of both. The
+    /// wheel on it zooms the ruler about the time under the mouse, or about the nearest that is in
+    /// view.
+    bool isActivityVisible() const;
+    void setActivityVisible(bool visible);
+
     /// Whether the user holds the ruler, as Ruler::isHeld() says, or the strip.
     bool isHeld() const;
 
@@ -75,12 +86,17 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Emitted when isHeld() changed: before what a press does, and after what a release does.
     void heldChanged(bool held);
+    void activityVisibleChanged(bool visible);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void tellHeld();
+    void arrange();
+    double viewCenter() const;
+    void onViewAreaResized(double begin, double end);
+    void turnWheelOnStrip(const QWheelEvent* event);
     void updateViewArea();
     void updateSearchTimeRange();
     void displaySearchTimeRange(bool display);

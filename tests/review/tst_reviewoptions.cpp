@@ -219,7 +219,7 @@ void TestReviewOptions::windowItselfSets()
     Client client(m_path);
     client.speak(u"en"_s);
     for (QAction* action : client.window.findChildren<QAction*>()) {
-        if (action->text() == "Dark look"_L1)
+        if (action->text() == "Dark look"_L1 || action->text() == "Activity in the overview"_L1)
             action->trigger();
     }
     auto* zone = client.window.statusBar()->findChild<QComboBox*>();
@@ -227,6 +227,7 @@ void TestReviewOptions::windowItselfSets()
     QTest::keyClick(zone, Qt::Key_Return);
     const ReviewSettings stored = SettingsStore(m_path).settings();
     QCOMPARE(stored.dark, false);
+    QCOMPARE(stored.activity, false);
     QCOMPARE(stored.zone, u"Asia/Tokyo"_s);
 }
 

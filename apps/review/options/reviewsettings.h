@@ -22,6 +22,8 @@ struct ReviewSettings
     QString zone = {};
     TimeFormat timeFormat = {};
     bool skipGaps = false;
+    /// Whether the overview of the timeline shows recordings and how much happens.
+    bool activity = true;
     Shortcuts shortcuts = defaultShortcuts();
 
     UpdateServers servers = {};

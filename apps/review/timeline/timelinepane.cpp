@@ -108,6 +108,11 @@ void TimelinePane::setMarkersShown(bool shown)
         {.markers = {}, .code = shown ? RulerMarkerOperation::show : RulerMarkerOperation::hide});
 }
 
+void TimelinePane::setActivityShown(bool shown)
+{
+    m_timeline->setActivityVisible(shown);
+}
+
 void TimelinePane::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::FontChange)

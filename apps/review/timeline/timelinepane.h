@@ -66,6 +66,7 @@ public Q_SLOTS:
     /// Brings the moment back into view, and follows it from there.
     void showMoment();
     void setMarkersShown(bool shown);
+    void setActivityShown(bool shown);
 
 Q_SIGNALS:
     /// Emitted whenever view() may have changed, and with it what can be done to it.

@@ -31,6 +31,8 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_showMarkers->setChecked(true);
     m_showRanges = addAction(QString());
     m_showRanges->setCheckable(true);
+    m_showActivity = new QAction(this); // in menus only
+    m_showActivity->setCheckable(true);
 
     m_zoomIn->setShortcut(QKeySequence::ZoomIn);
     m_zoomOut->setShortcut(QKeySequence::ZoomOut);
@@ -46,6 +48,7 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     connect(m_later, &QAction::triggered, timeline, &TimelinePane::stepLater);
     connect(m_moment, &QAction::triggered, timeline, &TimelinePane::showMoment);
     connect(m_showMarkers, &QAction::toggled, timeline, &TimelinePane::setMarkersShown);
+    connect(m_showActivity, &QAction::toggled, timeline, &TimelinePane::setActivityShown);
     connect(timeline, &TimelinePane::viewChanged, this, &TimelineToolBar::showState);
     connect(timeline, &TimelinePane::followingChanged, this, &TimelineToolBar::showState);
     retranslate();
@@ -54,8 +57,8 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
 
 QList<QAction*> TimelineToolBar::viewActions() const
 {
-    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,       m_earlier,
-            m_later,  m_moment,  nullptr,       m_showMarkers, m_showRanges};
+    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,      m_earlier,     m_later,
+            m_moment, nullptr,   m_showMarkers, m_showRanges, m_showActivity};
 }
 
 void TimelineToolBar::retranslate()
@@ -72,6 +75,7 @@ void TimelineToolBar::retranslate()
     m_showMarkers->setToolTip(tr("Shows the events on the timeline"));
     m_showRanges->setText(tr("Ranges"));
     m_showRanges->setToolTip(tr("Sets a search range and a result range"));
+    m_showActivity->setText(tr("Activity in the overview"));
 }
 
 void TimelineToolBar::showState()

@@ -21,6 +21,8 @@ public:
     QList<QAction*> viewActions() const;
     /// Checkable: whether the panel for ranges is shown.
     QAction* showRanges() const { return m_showRanges; }
+    /// Checkable: whether the overview shows what is recorded and how much happens.
+    QAction* showActivity() const { return m_showActivity; }
 
 protected:
     void retranslate() final;
@@ -37,6 +39,7 @@ private:
     QAction* m_moment;
     QAction* m_showMarkers;
     QAction* m_showRanges;
+    QAction* m_showActivity;
 };
 
 } // namespace Review

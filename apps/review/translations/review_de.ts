@@ -1076,6 +1076,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Legt einen Suchbereich und einen Ergebnisbereich fest</translation>
     </message>
     <message>
+        <source>Activity in the overview</source>
+        <translation>Geschehen in der Übersicht</translation>
+    </message>
+    <message>
         <source>Current time</source>
         <translation>Aktuelle Zeit</translation>
     </message>
@@ -1166,6 +1170,7 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>The file is damaged or of an unknown kind: %1</source>
         <translation>Die Datei ist beschädigt oder von unbekannter Art: %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

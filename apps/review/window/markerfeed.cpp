@@ -16,6 +16,20 @@ namespace {
 constexpr std::chrono::milliseconds slice(8);
 constexpr qsizetype markersBetweenLooks = 256;
 
+RulerMarker::Severity severityOf(EventKind kind)
+{
+    switch (kind) {
+    case EventKind::Alarm:
+        return RulerMarker::Severity::Alarm;
+    case EventKind::Person:
+    case EventKind::Vehicle:
+    case EventKind::Animal:
+        return RulerMarker::Severity::Information;
+    default:
+        return RulerMarker::Severity::None;
+    }
+}
+
 } // namespace
 
 MarkerFeed::MarkerFeed(TimelinePane* timeline) : QObject(timeline), m_timeline(timeline)
@@ -45,12 +59,14 @@ void MarkerFeed::feed()
             break;
         if (!m_events.isShown(m_next))
             continue;
+        const EventKind kind = m_kinds[events.kindAt(m_next)];
         markers.append({.identifier = EventMarkers::identifierOf(m_next),
                         .time = QDateTime::fromMSecsSinceEpoch(events.timeAt(m_next), Qt::UTC),
                         .kind = RulerMarker::providedIconKind,
-                        .iconIndex = int(m_kinds[events.kindAt(m_next)]),
+                        .iconIndex = int(kind),
                         .text = {},
-                        .iconProvider = this});
+                        .iconProvider = this,
+                        .severity = severityOf(kind)});
     }
     if (m_next >= events.size())
         m_timer.stop();

@@ -147,6 +147,7 @@ void ReviewWindow::connectParts()
 
     connect(m_status, &ReviewStatusBar::zoneChosen, this, &ReviewWindow::settingsTouched);
     connect(m_darkLook, &QAction::triggered, this, &ReviewWindow::settingsTouched);
+    connect(m_toolBar->showActivity(), &QAction::triggered, this, &ReviewWindow::settingsTouched);
     connect(m_panes->transport()->skipGaps(), &QCheckBox::clicked, this,
             &ReviewWindow::settingsTouched);
 }
@@ -193,6 +194,7 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     m_darkLook->setChecked(settings.dark);
     m_clock.set(settings.zone, settings.timeFormat);
     m_panes->transport()->skipGaps()->setChecked(settings.skipGaps);
+    m_toolBar->showActivity()->setChecked(settings.activity);
     m_panes->player()->setShortcuts(settings.shortcuts);
     m_updates->setServers(settings.servers);
 }
@@ -202,6 +204,7 @@ void ReviewWindow::takeSettings(ReviewSettings& settings) const
     settings.dark = m_darkLook->isChecked();
     settings.zone = m_clock.zoneName();
     settings.skipGaps = m_panes->transport()->skipGaps()->isChecked();
+    settings.activity = m_toolBar->showActivity()->isChecked();
 }
 
 void ReviewWindow::writeUserSettings(QSettings& settings) const
