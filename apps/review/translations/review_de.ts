@@ -1170,7 +1170,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>The file is damaged or of an unknown kind: %1</source>
         <translation>Die Datei ist beschädigt oder von unbekannter Art: %1</translation>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
