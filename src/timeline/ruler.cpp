@@ -55,6 +55,8 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     connect(d->arrows, &RulerArrows::entered, d->hover.get(), &RulerHover::abandon);
     d->hover->setAreaHeight(2 * d->headerHeight);
     d->gestures = std::make_unique<RulerGestures>(this, *d);
+    d->zoomInput = std::make_unique<RulerZoomInput>(this, *d);
+    d->touch = std::make_unique<RulerTouch>(this, *d);
 
     setUpAccessibility();
     applyLook();

@@ -13,6 +13,8 @@
 
 namespace CorvelGui {
 
+struct FineTime;
+
 /// The time ruler: a horizontal, zoomable scale over a recording period, with a play indicator and
 /// the recorded spans of the described tracks.
 ///
@@ -34,6 +36,8 @@ class CORVELGUI_EXPORT Ruler : public QWidget
     Q_PROPERTY(bool canZoomBack READ canZoomBack NOTIFY zoomHistoryMoved)
     Q_PROPERTY(bool canZoomForward READ canZoomForward NOTIFY zoomHistoryMoved)
     Q_PROPERTY(bool fineWheel READ isFineWheel WRITE setFineWheel NOTIFY fineWheelChanged)
+    Q_PROPERTY(
+        bool touchGestures READ hasTouchGestures WRITE setTouchGestures NOTIFY touchGesturesChanged)
 
 public:
     /// How the view goes after the indicator.
@@ -138,6 +142,13 @@ public:
     /// default: every turn is a whole step, and a sideways one zooms out.
     bool isFineWheel() const;
     void setFineWheel(bool on);
+
+    /// Whether fingers on a touch screen drag the view, which runs out when it is let go in motion,
+    /// zoom with two of them about what is between them, and ask for the context menu by staying
+    /// where they are. Off by default: the first finger does what the left mouse button does, and a
+    /// second one ends that. On markers, indicator and arrows the first finger always is the mouse.
+    bool hasTouchGestures() const;
+    void setTouchGestures(bool on);
 
     /// How the view follows the indicator, as it is set by setIndicatorPosition() and by keys. Off
     /// by default.
@@ -284,6 +295,7 @@ Q_SIGNALS:
     /// Emitted when canZoomBack() or canZoomForward() changed, after what changed it.
     void zoomHistoryMoved();
     void fineWheelChanged(bool on);
+    void touchGesturesChanged(bool on);
     /// Emitted after every change of level, every refused zoom request and every step of the wheel.
     void changeSliderZoom(int level);
     /// For clients that drive a zoom slider of their own; the ruler does not emit it.
@@ -321,6 +333,7 @@ Q_SIGNALS:
                              const QDateTime& viewBegin, const QDateTime& viewEnd, bool moving);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -343,7 +356,8 @@ private:
     void updateIndicator();
     void showIndicatorTime(quint64 msecs);
     void setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
-    void zoomAbout(double factor, double x, bool moving = false);
+    void zoomAbout(double factor, double x);
+    void zoomTo(double span, const FineTime& time, double x, bool moving);
     double zoomColumn() const;
     void reportZoomHistory();
     void goInZoomHistory(bool back);
@@ -358,7 +372,9 @@ private:
     void noticeView();
     void reportFollowing();
 
-    friend class RulerGestures; // carries out what the user does
+    friend class RulerGestures; // carry out what the user does
+    friend class RulerTouch;
+    friend class RulerZoomInput;
     struct Private;
     struct Zoomed;
     void viewZoomed(const Zoomed& zoomed);

@@ -11,6 +11,8 @@
 #include "rulerhover.h"
 #include "rulermarkers.h"
 #include "rulerpainter.h"
+#include "rulertouch.h"
+#include "rulerzoominput.h"
 #include "timescale.h"
 #include "tracksegments.h"
 #include "viewfollower.h"
@@ -69,6 +71,8 @@ struct Ruler::Private
 
     std::unique_ptr<RulerHover> hover;
     std::unique_ptr<RulerGestures> gestures;
+    std::unique_ptr<RulerZoomInput> zoomInput;
+    std::unique_ptr<RulerTouch> touch;
 
     // Last, so that it stops asking before anything else is gone.
     std::unique_ptr<AccessibleRange> accessible;

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTouchEvent>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -17,10 +16,7 @@ namespace CorvelGui {
 namespace {
 
 constexpr int repeatInterval = 200; // milliseconds
-constexpr int restInterval = 200;   // milliseconds
 constexpr double centerAnchor = 0.5;
-constexpr double notchFactor = 1.4142135623730951;
-constexpr double pixelsPerNotch = 60;
 
 } // namespace
 
@@ -69,9 +65,6 @@ RulerGestures::RulerGestures(Ruler* ruler, Ruler::Private& rulerState)
     connect(d.arrows, &RulerArrows::activated, this, &RulerGestures::activateArrow);
     m_moveTimer.setInterval(repeatInterval);
     connect(&m_moveTimer, &QTimer::timeout, this, &RulerGestures::onMoveTimerTimeout);
-    m_restTimer.setSingleShot(true);
-    m_restTimer.setInterval(restInterval);
-    connect(&m_restTimer, &QTimer::timeout, this, [this] { m_ruler->changedTimeLineView(false); });
 }
 
 RulerGestures::~RulerGestures() = default;
@@ -88,7 +81,8 @@ bool RulerGestures::begin(Gesture gesture)
 void RulerGestures::end(Report report)
 {
     if (m_gesture != Gesture::None) {
-        m_untoldView = m_gesture == Gesture::ViewDrag || m_gesture == Gesture::ArrowHold;
+        m_untoldView = m_gesture == Gesture::ViewDrag || m_gesture == Gesture::ArrowHold ||
+                       m_gesture == Gesture::Pinch;
         m_moveTimer.stop();
         d.arrows->letGo();
         setGesture(Gesture::None);
@@ -99,13 +93,19 @@ void RulerGestures::end(Report report)
         QTimer::singleShot(0, this, &RulerGestures::tellEnd);
 }
 
+bool RulerGestures::beginPinch()
+{
+    return begin(Gesture::Pinch);
+}
+
 void RulerGestures::setGesture(Gesture gesture)
 {
     m_gesture = gesture;
     d.history.endGesture();
-    m_secondFinger->watch(gesture != Gesture::None);
+    m_secondFinger->watch(gesture != Gesture::None && gesture != Gesture::Pinch);
     d.markers->setHoverable(gesture != Gesture::ViewDrag);
-    d.hover->setDragging(gesture == Gesture::ViewDrag || gesture == Gesture::IndicatorDrag);
+    d.hover->setDragging(gesture != Gesture::None && gesture != Gesture::Press &&
+                         gesture != Gesture::ArrowHold);
 }
 
 void RulerGestures::tellEnd()
@@ -230,66 +230,6 @@ void RulerGestures::release(const QMouseEvent* event)
             if (wasViewDrag)
                 d.hover->resume(position);
         });
-}
-
-void RulerGestures::turnWheel(const QWheelEvent* event)
-{
-    if (d.blocked)
-        return;
-    const QPoint angle = event->angleDelta();
-    const double x = event->position().x();
-    if (!d.fineWheel) {
-        const QPoint degrees = angle / 8.0;
-        if (!degrees.isNull())
-            zoomByNotches(degrees.y() > 0 ? +1 : -1, x);
-    } else if (WheelTurns::isSideways(angle) || event->modifiers() & Qt::ShiftModifier) {
-        turnSideways(event);
-    } else if (angle.y() != 0 && event->phase() != Qt::ScrollMomentum) {
-        // With continuous zoom by just as much, else by whole notches.
-        const double notches = d.continuousZoom ? double(angle.y()) / WheelTurns::notch
-                                                : double(m_wheel.add(angle.y()));
-        zoomByNotches(notches, x);
-    }
-}
-
-void RulerGestures::turnSideways(const QWheelEvent* event)
-{
-    const auto length = [](QPoint delta) {
-        return WheelTurns::isSideways(delta) ? delta.x() : delta.y();
-    };
-    const int pixels = length(event->pixelDelta());
-    const double distance =
-        pixels != 0 ? pixels : length(event->angleDelta()) * pixelsPerNotch / WheelTurns::notch;
-    const TimeScale& scale = d.scale;
-    moveViewSoThat(scale.fineTimeAt(scale.margin()), scale.margin() + distance);
-    m_restTimer.start();
-}
-
-void RulerGestures::zoomByNotches(double notches, double x)
-{
-    if (notches == 0)
-        return;
-    if (d.continuousZoom)
-        return m_ruler->zoomAbout(std::pow(notchFactor, notches), x);
-    const int direction = notches > 0 ? +1 : -1;
-    for (int step = 0; step < std::abs(int(notches)); ++step)
-        if (!zoomByLevel(direction, x))
-            return;
-}
-
-bool RulerGestures::zoomByLevel(int direction, double x)
-{
-    const double anchor = x / m_ruler->width();
-    const int level = d.scale.level();
-    return whileAlive(
-        this,
-        [&] {
-            if (direction < 0)
-                m_ruler->onZoomerOut(level + 1, anchor);
-            else if (level > 0)
-                m_ruler->changeLevel(level - 1, anchor);
-        },
-        [this] { Q_EMIT m_ruler->changeSliderZoom(d.scale.level()); });
 }
 
 // The indicator

@@ -2,7 +2,6 @@
 
 #include "ruler.h"
 #include "timescale.h"
-#include "wheelturns.h"
 
 #include <QObject>
 #include <QPoint>
@@ -13,11 +12,11 @@
 
 namespace CorvelGui {
 
-/// What the user does to a ruler with mouse, wheel and keys.
+/// What the user does to a ruler with mouse and keys; RulerTouch brings fingers here.
 ///
 /// At most one gesture runs: from the press of the left mouse button on the ruler, its indicator or
-/// one of its arrows until end(), which comes with the release, or with whatever means that the
-/// release went elsewhere.
+/// one of its arrows, or of two fingers, until end(), which comes with the release, or with
+/// whatever means that the release went elsewhere.
 class RulerGestures : public QObject
 {
     Q_OBJECT
@@ -30,11 +29,16 @@ public:
     /// Whether the user holds the ruler, its indicator or an arrow.
     bool isHolding() const { return m_gesture != Gesture::None; }
     bool isDraggingIndicator() const { return m_gesture == Gesture::IndicatorDrag; }
+    bool isDraggingView() const { return m_gesture == Gesture::ViewDrag; }
+    bool isPinching() const { return m_gesture == Gesture::Pinch; }
 
     void press(const QMouseEvent* event);
     void move(const QMouseEvent* event);
     void release(const QMouseEvent* event);
-    void turnWheel(const QWheelEvent* event);
+    /// Two fingers take hold. Returns whether they still do, because clients hear of it at once.
+    bool beginPinch();
+    /// Moves the view so that a time is at column @p x, as far as the limits allow.
+    void moveViewSoThat(const FineTime& time, double x);
     /// Returns false for a key that means nothing to a ruler.
     bool pressKey(const QKeyEvent* event);
     /// Puts the indicator to an instant, as a key does.
@@ -54,7 +58,8 @@ private:
         Press, ///< of the ruler, which is a click unless it becomes a drag of the view
         ViewDrag,
         IndicatorDrag,
-        ArrowHold
+        ArrowHold,
+        Pinch
     };
     class SecondFinger;
 
@@ -67,10 +72,6 @@ private:
     bool mayLoseRelease(const QEvent* event) const;
 
     void dragView(int x);
-    void moveViewSoThat(const FineTime& time, double x);
-    void turnSideways(const QWheelEvent* event);
-    void zoomByNotches(double notches, double x);
-    bool zoomByLevel(int direction, double x);
     bool pressHistoryKey(const QKeyEvent* event);
     bool indicatorEvent(QEvent* event);
     void dragIndicator(QPoint position, bool isHeld);
@@ -92,8 +93,6 @@ private:
     QPoint m_pressPosition;
     FineTime m_pressTime;
     QTimer m_moveTimer;
-    QTimer m_restTimer; ///< until the view counts as no longer moving
-    WheelTurns m_wheel;
     int m_direction = 0;
     const std::unique_ptr<SecondFinger> m_secondFinger;
 

@@ -6,6 +6,8 @@
 #include <QEnterEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QTouchEvent>
 #include <QWheelEvent>
 
 namespace CorvelGui {
@@ -26,6 +28,19 @@ void Ruler::setFineWheel(bool on)
         return;
     d->fineWheel = on;
     Q_EMIT fineWheelChanged(on);
+}
+
+bool Ruler::hasTouchGestures() const
+{
+    return testAttribute(Qt::WA_AcceptTouchEvents);
+}
+
+void Ruler::setTouchGestures(bool on)
+{
+    if (hasTouchGestures() == on)
+        return;
+    setAttribute(Qt::WA_AcceptTouchEvents, on);
+    Q_EMIT touchGesturesChanged(on);
 }
 
 void Ruler::setPreviewEnabled(bool on)
@@ -79,6 +94,25 @@ void Ruler::setActive(bool active, bool blocked)
         [this] { d->hover->resume(mapFromGlobal(QCursor::pos())); });
 }
 
+bool Ruler::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        event->setAccepted(d->touch->handle(static_cast<const QTouchEvent*>(event)));
+        return true;
+    case QEvent::NativeGesture:
+        if (d->zoomInput->pinch(static_cast<const QNativeGestureEvent*>(event)))
+            return true;
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
 void Ruler::mousePressEvent(QMouseEvent* event)
 {
     d->gestures->press(event);
@@ -97,7 +131,7 @@ void Ruler::mouseReleaseEvent(QMouseEvent* event)
 void Ruler::wheelEvent(QWheelEvent* event)
 {
     event->accept();
-    d->gestures->turnWheel(event);
+    d->zoomInput->turnWheel(event);
 }
 
 void Ruler::keyPressEvent(QKeyEvent* event)

@@ -208,7 +208,7 @@ void RulerPainter::markClockChange(QPainter& painter, const QRectF& rect, const 
     // The hour that comes twice, and the second time again.
     tint(mark.x - mark.repeated, mark.x + mark.repeated, 70);
     tint(mark.x, mark.x + mark.repeated, 70);
-    painter.fillRect(grid.aligned(QRectF(mark.x - 1, rect.top(), 2, rect.height())),
+    painter.fillRect(grid.aligned(QRectF(mark.x - 1, mark.top, 2, rect.bottom() - mark.top)),
                      colors.clockChange);
 }
 

@@ -30,10 +30,15 @@ void Ruler::zoom(int level, double anchor, bool keepIndicator)
         [this] { repaint(); });
 }
 
-void Ruler::zoomAbout(double factor, double x, bool moving)
+void Ruler::zoomAbout(double factor, double x)
+{
+    zoomTo(d->scale.exactSpan() / factor, d->scale.fineTimeAt(x), x, false);
+}
+
+void Ruler::zoomTo(double span, const FineTime& time, double x, bool moving)
 {
     const TimeScale::View before = d->scale.shownView();
-    d->scale.zoomTo(before.span / factor, x);
+    d->scale.zoomTo(span, time, x);
     if (d->follower.mode() == FollowMode::Centered)
         followIndicator();
     if (d->scale.shownView() == before) {

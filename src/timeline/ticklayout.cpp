@@ -182,9 +182,11 @@ TickLayout layoutCalendarTicks(const TimeScale& scale, const QRectF& rect, const
     const CalendarScale calendar =
         layOutCalendar(view, clock, {QFontMetricsF(style.metrics), style.dateFormat});
 
-    const double firstRow = rect.top() + lineHeight(style);
-    const double secondRow = firstRow + lineHeight(style);
-    const double belowFirst = firstRow + 2;
+    // The first row in the middle of the header, the second right below it.
+    const double digitHeight = style.metrics.boundingRect(u'0').height();
+    const double body = rect.top() + style.headerHeight;
+    const double firstRow = std::round((rect.top() + body + digitHeight) / 2);
+    const double secondRow = body + digitHeight + 2;
     const double belowSecond = secondRow + 4;
     TickLayout layout;
     for (const CalendarLabel& label : calendar.labels)
@@ -194,19 +196,25 @@ TickLayout layoutCalendarTicks(const TimeScale& scale, const QRectF& rect, const
     TextRow first(calendar.labels, 0);
     TextRow second(calendar.labels, 1);
     for (const CalendarTick& tick : calendar.ticks) {
-        const double body = rect.top() + style.headerHeight;
-        double top = !tick.major ? body : first.covers(tick.x) ? belowFirst : rect.top();
+        double top = !tick.major || first.covers(tick.x) ? body : rect.top();
         if (second.covers(tick.x)) {
-            if (tick.major && top < belowFirst)
-                layout.ticks.push_back({tick.x, top, belowFirst, true});
-            top = std::max(top, belowSecond);
+            if (top < body)
+                layout.ticks.push_back({tick.x, top, body, true});
+            top = belowSecond;
         }
         layout.ticks.push_back({tick.x, top, rect.bottom(), tick.major});
     }
-    for (const ClockChange& change : calendar.changes)
+    TextRow firstAgain(calendar.labels, 0);
+    TextRow secondAgain(calendar.labels, 1);
+    for (const ClockChange& change : calendar.changes) {
+        const double x = view.xAt(change.instant);
+        const bool isRepeated = change.repeats();
+        const double top = secondAgain.covers(x)  ? belowSecond
+                           : firstAgain.covers(x) ? body
+                                                  : rect.top();
         layout.clockMarks.push_back(
-            {view.xAt(change.instant),
-             change.repeats() ? double(change.length()) * pixelsPerMillisecond : 0.0});
+            {x, top, isRepeated ? double(change.length()) * pixelsPerMillisecond : 0.0});
+    }
     return layout;
 }
 

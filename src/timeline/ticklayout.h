@@ -34,6 +34,7 @@ struct TickLabel
 struct ClockMark
 {
     double x;
+    double top;
     double repeated; ///< pixels before and behind it that the clocks show the same times; 0 forward
 };
 

@@ -159,11 +159,10 @@ bool TimeScale::centerRange(qint64 from, qint64 to, bool exactly)
     return true;
 }
 
-void TimeScale::zoomTo(double span, double x)
+void TimeScale::zoomTo(double span, const FineTime& time, double x)
 {
     if (!hasView() || std::isnan(span))
         return;
-    const FineTime time = fineTimeAt(x);
     setSpan(span);
     putAt(time, x);
 }

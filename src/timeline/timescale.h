@@ -120,10 +120,10 @@ public:
     bool canZoomOut() const;
 
     // Between the levels
-    /// Shows @p span milliseconds, at least closestSpan() and at most the period. What is at column
-    /// @p x stays there, exactly, as far as the limits allow. level() is the nearest one from now
-    /// on, until a level is made current.
-    void zoomTo(double span, double x);
+    /// Shows @p span milliseconds, at least closestSpan() and at most the period, with @p time at
+    /// column @p x, exactly, as far as the limits allow. level() is the nearest one from now on,
+    /// until a level is made current.
+    void zoomTo(double span, const FineTime& time, double x);
     /// As setView(), but exactly the range, if it is not closer than closestSpan().
     bool showSpan(qint64 from, qint64 to);
     /// Moves the view so that @p time is at column @p x, as far as the limits allow.

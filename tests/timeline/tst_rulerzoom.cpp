@@ -45,6 +45,8 @@ private Q_SLOTS:
     void history();
     void turnsCountAsOne();
     void smoothFollowing();
+    void fingers();
+    void flick();
     void paintedLabels();
     void repeatedHour();
 };
@@ -235,6 +237,94 @@ void TestRulerZoom::smoothFollowing()
     QCOMPARE(viewOf(ruler), u"36600 - 47400"_s);
 }
 
+void TestRulerZoom::fingers()
+{
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    LoggedRuler ruler;
+    play(&ruler, u"view 36000 46800"_s);
+    const auto touch = [&] {
+        return QTest::touchEvent(&ruler, screen.get());
+    };
+    const auto pinch = [&](int from, int to) {
+        touch().press(0, {from, 40}).press(1, {to, 40});
+        touch().move(0, {from, 41}).move(1, {to, 41});
+        touch().move(0, {from - 100, 41}).move(1, {to + 100, 41});
+        touch().release(0, {from - 100, 41}).stationary(1);
+        touch().release(1, {to, 41});
+    };
+    // Off, a finger is the mouse, and a second one ends that.
+    pinch(410, 610);
+    QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
+    ruler.setTouchGestures(true);
+    ruler.takeLog();
+    pinch(300, 400); // to a third, which is the next level
+    QCOMPARE(viewOf(ruler), u"38448 - 42048"_s);
+
+    ruler.setContinuousZoom(true);
+    ruler.setZoomHistory(true);
+    play(&ruler, u"view 36000 46000"_s);
+    QSignalSpy held(&ruler, &Ruler::heldChanged);
+    pinch(410, 610);
+    QCOMPARE(viewOf(ruler), u"38500 - 43500"_s);
+    QVERIFY(!held.isEmpty() && !held.last().first().toBool());
+    QCOMPARE(ruler.takeLog().last(), u"view 02 10:40 - 02 12:05"_s);
+    ruler.zoomBack();
+    QCOMPARE(viewOf(ruler), u"36000 - 46000"_s);
+
+    // One drags, and sets the indicator where it is lifted at once.
+    touch().press(0, {410, 40});
+    touch().move(0, {510, 40});
+    touch().move(0, {510, 41});
+    QCOMPARE(viewOf(ruler), u"35000 - 45000"_s);
+    touch().move(0, {410, 40});
+    touch().release(0, {410, 40});
+    QCOMPARE(viewOf(ruler), u"36000 - 46000"_s);
+    touch().press(0, {410, 40});
+    touch().release(0, {410, 40});
+    QCOMPARE(play(&ruler, u"where"_s), u"at 40000"_s);
+
+    // One that stays asks for the menu, and does nothing else.
+    ruler.setContextMenuPolicy(Qt::CustomContextMenu);
+    const QSignalSpy menu(&ruler, &QWidget::customContextMenuRequested);
+    touch().press(0, {610, 40});
+    QTRY_COMPARE(menu.size(), 1);
+    QCOMPARE(menu.first().first().toPoint(), QPoint(610, 40));
+    QVERIFY(!ruler.isHeld());
+    touch().release(0, {610, 40});
+    QCOMPARE(play(&ruler, u"where"_s), u"at 40000"_s);
+}
+
+void TestRulerZoom::flick()
+{
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    LoggedRuler ruler;
+    ruler.setTouchGestures(true);
+    play(&ruler, u"view 360000 363600"_s);
+    const auto touch = [&] {
+        return QTest::touchEvent(&ruler, screen.get());
+    };
+    touch().press(0, {300, 40});
+    QElapsedTimer time;
+    time.start();
+    for (int x = 320; x <= 400; x += 20) {
+        QTRY_VERIFY(time.elapsed() > (x - 300) / 5); // as fast as a finger
+        touch().move(0, {x, 40});
+    }
+    touch().release(0, {400, 40});
+    QVERIFY(!ruler.isHeld());
+    const qint64 released = ruler.view().begin;
+    QTRY_VERIFY(ruler.view().begin < released - 300 * second);
+    QVERIFY(ruler.takeLog().last().endsWith(u"moving"_s));
+    // Another finger stops it, and places nothing.
+    touch().press(0, {600, 40});
+    const qint64 stopped = ruler.view().begin;
+    touch().release(0, {600, 40});
+    QCoreApplication::processEvents();
+    QCOMPARE(ruler.view().begin, stopped);
+    QVERIFY(!ruler.takeLog().last().endsWith(u"moving"_s));
+    QCOMPARE(ruler.getIndicatorMSecs(), at(0));
+}
+
 // Against a plain reckoning with Qt's clock, at widths and fonts of all kinds.
 void TestRulerZoom::paintedLabels()
 {
@@ -247,7 +337,8 @@ void TestRulerZoom::paintedLabels()
         scale.setWidth(400 + random.bounded(3440));
         const QRectF rect(5, 0, scale.width() - 10, 60);
         const double span = scale.closestSpan() * std::pow(10, random.generateDouble() * 8);
-        scale.zoomTo(span, random.bounded(400));
+        const double x = random.bounded(400);
+        scale.zoomTo(span, scale.fineTimeAt(x), x);
         const QFont font(u"DejaVu Sans"_s, 8 + random.bounded(13));
         const QFontMetrics metrics(font);
         const TickLayout layout =
