@@ -48,31 +48,25 @@ struct Play
 
     void change()
     {
-        switch (below(8)) {
-        case 0:
-            return insert(source.rowCount() < 500 ? 700 : 1);
-        case 1:
-        case 2:
-            return insert(1 + below(3));
-        case 3:
-            if (const int rows = source.rowCount(); rows > 0) {
-                const int first = below(rows);
-                source.removeRows(first, std::min(rows - first, below(8) == 0 ? 600 : 3));
-            }
-            return;
-        case 4:
-            if (const int rows = source.rowCount(); rows > 0) {
-                source.item(below(rows))->setText(word());
-                filtered.refilter();
-            }
-            return;
-        case 5:
+        const int rows = source.rowCount();
+        const int kind = below(8);
+        if (kind == 0) {
+            insert(rows < 500 ? 700 : 1);
+        } else if (kind <= 2 || (kind <= 4 && rows == 0)) {
+            insert(1 + below(3));
+        } else if (kind == 3) {
+            const int first = below(rows);
+            source.removeRows(first, std::min(rows - first, below(8) == 0 ? 600 : 3));
+        } else if (kind == 4) {
+            source.item(below(rows))->setText(word());
+            filtered.refilter();
+        } else if (kind == 5) {
             text = below(3) == 0 ? QString() : QString::number(below(10));
-            return filtered.setFilterText(text);
-        default:
+            filtered.setFilterText(text);
+        } else {
             column = below(3) - 1;
             direction = below(2) ? Qt::AscendingOrder : Qt::DescendingOrder;
-            return filtered.sort(std::min(column, 0), direction);
+            filtered.sort(std::min(column, 0), direction);
         }
     }
 

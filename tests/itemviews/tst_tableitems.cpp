@@ -49,11 +49,14 @@ private Q_SLOTS:
 
 void TestTableItems::labelsToolTips()
 {
-    QCOMPARE(PIpItem(u"10.0.0.2"_s).toolTip(), table({{u"IP"_s, u"10.0.0.2"_s}}));
-    QCOMPARE(PSerialNumberItem().toolTip(), table({{u"Serial Number"_s, QString()}}));
-    QCOMPARE(PDeviceItem(u"<b>"_s).toolTip(), table({{u"Device"_s, u"<b>"_s}}));
-    QCOMPARE(PFirmwareVersionItem(u"1"_s).toolTip(), table({{u"Software"_s, u"1"_s}}));
-    QCOMPARE(PPathItem(u"A/B"_s).toolTip(), table({{u"Group Path"_s, u"A/B"_s}}));
+    const auto row = [](const QString& label, const QString& value) {
+        return table({{label, value}});
+    };
+    QCOMPARE(PIpItem(u"10.0.0.2"_s).toolTip(), row(u"IP"_s, u"10.0.0.2"_s));
+    QCOMPARE(PSerialNumberItem().toolTip(), row(u"Serial Number"_s, {}));
+    QCOMPARE(PDeviceItem(u"<b>"_s).toolTip(), row(u"Device"_s, u"<b>"_s));
+    QCOMPARE(PFirmwareVersionItem(u"1"_s).toolTip(), row(u"Software"_s, u"1"_s));
+    QCOMPARE(PPathItem(u"A/B"_s).toolTip(), row(u"Group Path"_s, u"A/B"_s));
     QVERIFY(!PTableWidgetItem(u"a"_s).data(Qt::ToolTipRole).isValid());
     QVERIFY(!PStatusItem(u"a"_s).data(Qt::ToolTipRole).isValid());
     QCOMPARE(PTextWidgetItem(u"a\nb"_s).toolTip(), u"a\nb"_s);
@@ -69,13 +72,12 @@ void TestTableItems::textsShowTheirColour()
     auto* item = new PTableWidgetItem;
     table.setItem(0, 0, item);
     // Full blocks take the pure colour into the picture.
-    const auto painted = [&table](const QColor& color) {
-        const QImage cell =
-            table.viewport()->grab(table.visualItemRect(table.item(0, 0))).toImage();
-        bool found = false;
-        for (int pixel = 0; pixel < cell.width() * cell.height(); ++pixel)
-            found |= cell.pixelColor(pixel % cell.width(), pixel / cell.width()) == color;
-        return found;
+    const auto painted = [&](const QColor& color) {
+        const QImage cell = table.viewport()->grab(table.visualItemRect(item)).toImage();
+        for (int x = 0; x < cell.width(); ++x)
+            if (cell.pixelColor(x, cell.height() / 2) == color)
+                return true;
+        return false;
     };
     item->SetRedText(u"████"_s);
     QVERIFY(painted(POrvGuiTheme::statusRed()));
@@ -91,25 +93,23 @@ void TestTableItems::sortsAddressesByValue()
 {
     const QStringList notAddresses{u""_s, u"camera"_s, u"1.2.3.256"_s, u"fe80::1"_s};
     QList<quint32> values(notAddresses.size(), 0);
-    QTableWidget table(10'000, 1);
+    QTableWidget table(1000, 1);
     QRandomGenerator random(1);
     for (int row = 0; row < table.rowCount(); ++row) {
-        values.append(random.generate());
-        table.setItem(row, 0, new PIpItem(QHostAddress(values.last()).toString()));
-    }
-    for (const QString& text : notAddresses) {
         auto* item = new PIpItem(u"9.9.9.9"_s);
-        item->setIp(text);
-        QCOMPARE(item->getIp(), 0u);
-        table.insertRow(5'000);
-        table.setItem(5'000, 0, item);
+        if (row < notAddresses.size()) {
+            item->setIp(notAddresses[row]);
+            QCOMPARE(item->getIp(), 0u);
+        } else {
+            values.append(random.generate());
+            item->setIp(QHostAddress(values.last()).toString());
+        }
+        table.setItem((row * 7) % 1000, 0, item);
     }
     table.sortItems(0);
     std::ranges::sort(values);
     for (int row = 0; row < table.rowCount(); ++row)
         QCOMPARE(static_cast<PIpItem*>(table.item(row, 0))->getIp(), values[row]);
-    for (int row = 0; row < notAddresses.size(); ++row)
-        QVERIFY(notAddresses.contains(table.item(row, 0)->text()));
     // The other cell is judged by its text, of whatever class it is.
     QVERIFY(PIpItem(u"9.255.255.255"_s) < QTableWidgetItem(u"10.0.0.2"_s));
     QVERIFY(!(PIpItem(u"10.0.0.10"_s) < QTableWidgetItem(u"10.0.0.2"_s)));

@@ -47,9 +47,13 @@ public:
     {
         QTest::mouseDClick(tabBar(), Qt::LeftButton, {}, tabBar()->tabRect(index).center());
     }
-    /// Types over what is selected.
-    void type(const QString& text) const { QTest::keyClicks(editor(), text); }
-    void strike(Qt::Key key) const { QTest::keyClick(editor(), key); }
+    /// Types over what is selected, and strikes a key if there is one.
+    void type(const QString& text, Qt::Key key = {}) const
+    {
+        QTest::keyClicks(editor(), text);
+        if (key)
+            QTest::keyClick(editor(), key);
+    }
 };
 
 } // namespace
@@ -72,8 +76,7 @@ void TestTabWidget::renames()
     QSignalSpy renamed(&tabs, &PTabWidget::tabRenamed);
     tabs.doubleClick(1);
     QVERIFY(tabs.editor() && tabs.tabBar()->tabRect(1).contains(tabs.editor()->geometry()));
-    tabs.type(u" Q&A "_s);
-    tabs.strike(Qt::Key_Return);
+    tabs.type(u" Q&A "_s, Qt::Key_Return);
     QCOMPARE(tabs.editor(), nullptr);
     QCOMPARE(tabs.tabText(1), u"Q&&A"_s);
     QCOMPARE(renamed.takeFirst(), (QVariantList{1, u"Q&A"_s}));
@@ -81,7 +84,7 @@ void TestTabWidget::renames()
     tabs.setCurrentIndex(2);
     QTest::keyClick(tabs.tabBar(), Qt::Key_F2);
     QCOMPARE(tabs.editor()->text(), u"R&D"_s);
-    tabs.strike(Qt::Key_Enter); // the same name
+    tabs.type({}, Qt::Key_Enter); // the same name
     QCOMPARE(tabs.tabName(2), u"R&D"_s);
     QCOMPARE(renamed.count(), 0);
 
@@ -106,11 +109,9 @@ void TestTabWidget::refusesAndCancels()
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     QSignalSpy renamed(tabs, &PTabWidget::tabRenamed);
     tabs->doubleClick(0);
-    tabs->type(u"  "_s);
-    tabs->strike(Qt::Key_Return);
+    tabs->type(u"  "_s, Qt::Key_Return);
     QVERIFY(tabs->editor());
-    tabs->type(u"Other"_s);
-    tabs->strike(Qt::Key_Escape);
+    tabs->type(u"Other"_s, Qt::Key_Escape);
     QCOMPARE(tabs->editor(), nullptr);
     tabs->doubleClick(0);
     tabs->type(u" "_s);
@@ -130,7 +131,7 @@ void TestTabWidget::editorFollowsItsTab()
     QTRY_COMPARE(tabs.editor()->geometry(), tabs.tabBar()->tabRect(1));
     tabs.tabBar()->moveTab(1, 2);
     QTRY_COMPARE(tabs.editor()->geometry(), tabs.tabBar()->tabRect(2));
-    tabs.strike(Qt::Key_Return);
+    tabs.type({}, Qt::Key_Return);
     QCOMPARE(tabs.tabName(2), u"First"_s);
 
     tabs.editTabName(2);
@@ -148,8 +149,7 @@ void TestTabWidget::closes()
     const QPointer<QWidget> page = tabs.widget(1);
     static_cast<Page*>(tabs.widget(0))->mayGo = false;
     const auto clickClose = [&](int index) {
-        QWidget* button = tabs.tabBar()->tabButton(index, QTabBar::RightSide);
-        QTest::mouseClick(button, Qt::LeftButton);
+        QTest::mouseClick(tabs.tabBar()->tabButton(index, QTabBar::RightSide), Qt::LeftButton);
     };
     clickClose(0);
     QCOMPARE(tabs.count(), 3);
@@ -176,7 +176,7 @@ void TestTabWidget::survivesItsReceivers()
             tabs->doubleClick(0);
             tabs->type(u"Last"_s);
             if (way == 0)
-                tabs->strike(Qt::Key_Return);
+                tabs->type({}, Qt::Key_Return);
             else
                 tabs->setCurrentIndex(1);
         }
