@@ -163,9 +163,9 @@ void TestMarkers::storeAgreesWithAList()
     const auto countBefore = [](const QList<Known>& sorted, qint64 time) {
         return std::ranges::count_if(sorted, [&](const Known& known) { return known.time < time; });
     };
-    // Many at first, then a few at a time, then few are left. Times come up again and again.
+    // None, many, then a few at a time, then few are left. Times come up again and again.
     for (const auto& [added, removed] :
-         {std::pair(3000, 0), {1, 1}, {7, 5}, {600, 3500}, {0, 80}}) {
+         {std::pair(0, 0), {3000, 0}, {1, 1}, {7, 5}, {600, 3500}, {0, 80}}) {
         const QList<Known> old = list;
         QList<RulerMarker> arriving{RulerMarker()}; // which has no time
         std::vector<quint32> icons{0};

@@ -1,5 +1,5 @@
-#include "loggedruler.h"
 #include "rulericonset.h"
+#include "rulerscript.h"
 #include "testsupport.h"
 
 #include <CorvelGui/RulerMarkerButton>
@@ -25,7 +25,7 @@ RulerMarker marker(qint64 offset, const QString& text = {})
 /// One hour is in view: a pixel is 3.6 seconds.
 constexpr qint64 pixel = 3600;
 
-QList<RulerMarker> markersAtPixels(std::initializer_list<int> pixels)
+QList<RulerMarker> markersAtPixels(const QList<int>& pixels)
 {
     QList<RulerMarker> markers;
     for (const int x : pixels)
@@ -93,7 +93,6 @@ class TestRulerMarkers : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void symbolsInView();
     void symbolsFollowTheView();
     void reportedOnce();
     void operations();
@@ -110,33 +109,15 @@ private Q_SLOTS:
     void clearingInsideSignals();
 };
 
-void TestRulerMarkers::symbolsInView()
-{
-    const std::pair<QList<RulerMarker>, QString> cases[] = {
-        {markersAtPixels({400, 100, 200}), u"100 200 400"_s},
-        {markersAtPixels({300, 302, 304, 500}), u"302+ 500"_s},
-        {markersAtPixels({5, 1015}), u"5 1015"_s},
-        {markersAtPixels({4, 1016, -500, 5000}), {}},
-        {{RulerMarker()}, {}},
-    };
-    for (const auto& [markers, expected] : cases) {
-        LoggedRuler ruler;
-        ruler.onAddMarkers(markers);
-        QCOMPARE(symbols(ruler), expected);
-    }
-}
-
 void TestRulerMarkers::symbolsFollowTheView()
 {
     LoggedRuler ruler;
     ruler.onAddMarkers(markersAtPixels({300, 302, 700}));
-    ruler.changeLevel(0, 290.0 / 999);
-    QCOMPARE(visibleButtons(ruler).size(), 1);
-    ruler.onTimelineOffsetChanged(302.0 * pixel / (10 * day));
-    QCOMPARE(visibleButtons(ruler).size(), 1);
-    ruler.changeLevel(8, 0.5);
-    QCOMPARE(symbols(ruler).count(u'+'), 1);
-    QCOMPARE(visibleButtons(ruler).size(), 1);
+    for (const QString& view : {u"level 0 0.2903"_s, u"offset 0.0012585"_s, u"level 8"_s}) {
+        play(&ruler, view);
+        QCOMPARE(visibleButtons(ruler).size(), 1);
+        QCOMPARE(symbols(ruler).count(u'+'), 1);
+    }
     ruler.changeLevel(1, 0.0);
     QCOMPARE(symbols(ruler), u"300+ 700"_s);
 }
@@ -161,16 +142,33 @@ void TestRulerMarkers::reportedOnce()
 
 void TestRulerMarkers::operations()
 {
+    using Operation = RulerMarkerOperation;
     LoggedRuler ruler;
-    const std::pair<int, QString> steps[] = {
-        {0, {}}, {6, {}}, {4, u"100 200"_s},   {2, {}},
-        {4, {}}, {0, {}}, {1, u"100+ 200+"_s}, {5, u"100 200"_s}};
-    for (const auto& [code, expected] : steps) {
-        ruler.onMarkerOperation({.markers = markersAtPixels({100, 200}), .code = code});
+    const struct
+    {
+        int code;
+        QList<int> pixels;
+        QString symbols;
+    } steps[] = {{Operation::add, {400, 100, 200}, u"100 200 400"_s},
+                 {Operation::clear, {}, {}},
+                 {Operation::add, {300, 302, 304, 500}, u"302+ 500"_s},
+                 {Operation::clear, {}, {}},
+                 {Operation::add, {5, 1015}, u"5 1015"_s},
+                 {Operation::clear, {}, {}},
+                 {Operation::add, {4, 1016, -500, 5000}, {}},
+                 {Operation::add, {100, 200}, u"100 200"_s},
+                 {Operation::hide, {}, {}},
+                 {Operation::add, {100, 200}, {}},
+                 {0, {}, {}},
+                 {Operation::show, {}, u"100+ 200+"_s},
+                 {Operation::remove, {100, 200}, u"100 200"_s},
+                 {6, {}, u"100 200"_s}};
+    for (const auto& [code, pixels, expected] : steps) {
+        ruler.onMarkerOperation({.markers = markersAtPixels(pixels), .code = code});
         QCOMPARE(symbols(ruler), expected);
+        if (code == Operation::clear)
+            QVERIFY(ruler.findChildren<RulerMarkerButton*>().isEmpty());
     }
-    ruler.onMarkerOperation({.code = 3});
-    QCOMPARE(ruler.findChildren<RulerMarkerButton*>().size(), 0);
 }
 
 void TestRulerMarkers::pressAndDoubleClick()
