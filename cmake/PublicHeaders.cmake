@@ -88,6 +88,7 @@ set(CORVELGUI_PUBLIC_HEADERS
     timeline/RulerMarker
     timeline/RulerMarkerButton
     timeline/TimelineActivity
+    timeline/TimelineLanes
     timeline/TimelineScroll
     timeline/TrackDescription
     timeline/ZoomTimeline

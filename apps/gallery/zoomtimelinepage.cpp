@@ -2,6 +2,7 @@
 
 #include <CorvelGui/Ruler>
 #include <CorvelGui/RulerMarker>
+#include <CorvelGui/TimelineLanes>
 #include <CorvelGui/ZoomTimeline>
 #include <Hueloft/POrvGuiTheme>
 
@@ -108,6 +109,25 @@ QList<RulerMarker> markers(qint64 distance)
     return all;
 }
 
+/// Some record all the time, some when something moves; one is described for some days only.
+QList<TrackDescription> cameras()
+{
+    QList<TrackDescription> all;
+    const QStringList names{u"Gate"_s,  u"Yard, north"_s, u"Loading dock 1 with the long name"_s,
+                            u"Lobby"_s, u"Car park"_s,    u"Stairs"_s,
+                            u"Roof"_s};
+    for (int i = 0; i < int(names.size()); ++i) {
+        const qint64 from = i == 3 ? middle - 2 * hour : begin + day;
+        TrackDescription camera{QString::number(i), names[i], from, begin + 18 * day, {}};
+        const qint64 step = (13 + 17 * i) * minute;
+        for (qint64 time = from; time < camera.end; time += step)
+            camera.recorded.append(
+                {time, time + (i % 3 == 0 ? step - 4 * minute : time / minute % 31 * minute)});
+        all.append(camera);
+    }
+    return all;
+}
+
 /// More by day than by night, and some of it bad.
 QList<RulerMarker> busyMarkers()
 {
@@ -146,6 +166,14 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     ZoomTimeline* busy = add(tr("Activity in the overview"));
     busy->setActivityVisible(true);
     busy->ruler()->onAddMarkers(busyMarkers());
+
+    ZoomTimeline* lanes = add(tr("Lanes and activity"));
+    lanes->ruler()->setTrackDescriptions(cameras());
+    lanes->ruler()->onAddMarkers(busyMarkers());
+    lanes->lanes()->setMaximumLanes(5);
+    lanes->setLanesVisible(true);
+    lanes->setActivityVisible(true);
+    lanes->setCurrentTrack(u"2"_s);
 
     ZoomTimeline* search = add(tr("Search range"));
     search->setSearchTimeRange(at(middle - 2 * hour), at(middle + 3 * hour), false);

@@ -725,6 +725,13 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::TimelineLanes</name>
+    <message>
+        <source>Tracks</source>
+        <translation>Spuren</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::TimelineScroll</name>
     <message>
         <source>Timeline overview</source>

@@ -69,6 +69,8 @@ public:
     void applyTimeZone();
     /// What is known of the recorded tracks. Replaces what was set before.
     void setTrackDescriptions(const QList<TrackDescription>& tracks);
+    /// What setTrackDescriptions() set, with the recordings that were added.
+    QList<TrackDescription> trackDescriptions() const;
     /// Adds recordings to a described track, in any order, as recording goes on. A span at the end
     /// costs microseconds, however many there are. Returns false, and changes nothing, if no track
     /// with that identifier is described.
@@ -307,6 +309,8 @@ Q_SIGNALS:
     /// was done meanwhile. Where a hold ends without a release, that is on the next turn of the
     /// event loop, except for setActive().
     void heldChanged(bool held);
+    /// Emitted when the described tracks or their recordings changed.
+    void tracksChanged();
     /// Emitted when activity() may have changed: the limits, the tracks, their recordings or the
     /// markers.
     void activityChanged();
@@ -349,6 +353,7 @@ private:
     void createGradients();
     void layOutChildren();
     void updateTrackSegments();
+    void tellTracksChanged();
     void followView();
     void markersChanged();
     void setUpAccessibility();
@@ -375,6 +380,7 @@ private:
     friend class RulerGestures; // carry out what the user does
     friend class RulerTouch;
     friend class RulerZoomInput;
+    friend class TimelineLanes; // shows the same view
     struct Private;
     struct Zoomed;
     void viewZoomed(const Zoomed& zoomed);

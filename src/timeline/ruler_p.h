@@ -14,6 +14,7 @@
 #include "rulertouch.h"
 #include "rulerzoominput.h"
 #include "timescale.h"
+#include "tracklanes.h"
 #include "tracksegments.h"
 #include "viewfollower.h"
 #include "viewhistory.h"
@@ -28,6 +29,7 @@ struct Ruler::Private
     TimeScale scale;
     ClockChanges clock;
     TrackSegments segments;
+    TrackLanes lanes;
     RulerPainter painter;
     QString dateFormat;
 

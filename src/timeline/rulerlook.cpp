@@ -141,17 +141,29 @@ void Ruler::paintEvent(QPaintEvent*)
 void Ruler::setTrackDescriptions(const QList<TrackDescription>& tracks)
 {
     d->segments.setTracks(tracks);
-    updateTrackSegments();
-    Q_EMIT activityChanged();
+    d->lanes.setTracks(tracks);
+    tellTracksChanged();
+}
+
+QList<TrackDescription> Ruler::trackDescriptions() const
+{
+    return d->lanes.tracks();
 }
 
 bool Ruler::addRecordedSpans(const QString& trackIdentifier, const QList<TimeSpan>& spans)
 {
     if (!d->segments.addRecorded(trackIdentifier, spans))
         return false;
-    updateTrackSegments();
-    Q_EMIT activityChanged();
+    d->lanes.addRecorded(trackIdentifier, spans);
+    tellTracksChanged();
     return true;
+}
+
+void Ruler::tellTracksChanged()
+{
+    updateTrackSegments();
+    whileAlive(
+        this, [this] { Q_EMIT tracksChanged(); }, [this] { Q_EMIT activityChanged(); });
 }
 
 void Ruler::updateTrackSegments()

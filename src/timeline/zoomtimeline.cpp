@@ -2,6 +2,7 @@
 
 #include "base/whilealive.h"
 #include "ruler.h"
+#include "timelinelanes.h"
 #include "timelinescroll.h"
 #include "zoomer.h"
 
@@ -25,6 +26,7 @@ bool zoomerEnabled = true;
 ZoomTimeline::ZoomTimeline(QWidget* parent)
     : QWidget(parent)
     , m_ruler(new Ruler(this))
+    , m_lanes(new TimelineLanes(m_ruler, this))
     , m_zoomer(zoomerEnabled ? new Zoomer(m_ruler->getNrOfZooomLevels(), this) : nullptr)
     , m_scroll(new TimelineScroll(this))
 {
@@ -51,6 +53,11 @@ ZoomTimeline::ZoomTimeline(QWidget* parent)
         if (isActivityVisible())
             m_scroll->onCenterPositionChanged(viewCenter());
     });
+    connect(m_lanes, &TimelineLanes::lanesChanged, this, [this] {
+        if (m_lanesVisible)
+            arrange();
+    });
+    connect(m_lanes, &TimelineLanes::currentTrackChanged, this, &ZoomTimeline::currentTrackChanged);
     connect(m_ruler, &Ruler::activityChanged, m_scroll, &TimelineScroll::renewActivity);
     connect(m_scroll, &TimelineScroll::viewAreaResized, this, &ZoomTimeline::onViewAreaResized);
     connect(m_scroll, &TimelineScroll::activityVisibleChanged, this, [this](bool visible) {
@@ -165,6 +172,7 @@ void ZoomTimeline::setOrvaneGuiTheme(bool on)
 void ZoomTimeline::setFontSize(int points)
 {
     m_ruler->setFontSize(unsigned(std::max(points, 1)));
+    m_lanes->setFontSize(points);
 }
 
 void ZoomTimeline::setResultMode(bool on)
@@ -200,6 +208,25 @@ bool ZoomTimeline::isActivityVisible() const
 void ZoomTimeline::setActivityVisible(bool visible)
 {
     m_scroll->setActivityVisible(visible);
+}
+
+void ZoomTimeline::setLanesVisible(bool visible)
+{
+    if (m_lanesVisible == visible)
+        return;
+    m_lanesVisible = visible;
+    arrange();
+    Q_EMIT lanesVisibleChanged(visible);
+}
+
+QString ZoomTimeline::currentTrack() const
+{
+    return m_lanes->currentTrack();
+}
+
+void ZoomTimeline::setCurrentTrack(const QString& identifier)
+{
+    m_lanes->setCurrentTrack(identifier);
 }
 
 bool ZoomTimeline::isHeld() const
@@ -278,16 +305,17 @@ bool ZoomTimeline::eventFilter(QObject* watched, QEvent* event)
 void ZoomTimeline::arrange()
 {
     auto* grid = static_cast<QGridLayout*>(layout());
-    for (QWidget* part : {static_cast<QWidget*>(m_ruler), static_cast<QWidget*>(m_zoomer),
-                          static_cast<QWidget*>(m_scroll)}) {
-        if (part)
-            grid->removeWidget(part);
-    }
-    if (isActivityVisible()) {
+    while (QLayoutItem* item = grid->takeAt(0))
+        delete item;
+    m_lanes->setVisible(m_lanesVisible && m_lanes->laneCount() > 0);
+    grid->setColumnMinimumWidth(0, m_lanesVisible ? m_lanes->namesWidth() : 0);
+    if (m_lanesVisible || isActivityVisible()) {
         if (m_zoomer)
             grid->addWidget(m_zoomer, 0, 0, Qt::AlignVCenter);
         grid->addWidget(m_ruler, 0, 1);
-        grid->addWidget(m_scroll, 1, 1);
+        if (m_lanesVisible)
+            grid->addWidget(m_lanes, 1, 0, 1, 2);
+        grid->addWidget(m_scroll, 2, 1);
     } else if (m_zoomer) {
         grid->addWidget(m_ruler, 0, 0, 1, 2);
         grid->addWidget(m_zoomer, 1, 0);

@@ -9,6 +9,7 @@
 namespace CorvelGui {
 
 class Ruler;
+class TimelineLanes;
 class TimelineScroll;
 class Zoomer;
 
@@ -21,6 +22,10 @@ class CORVELGUI_EXPORT ZoomTimeline : public QWidget
     Q_OBJECT
     Q_PROPERTY(bool activityVisible READ isActivityVisible WRITE setActivityVisible NOTIFY
                    activityVisibleChanged)
+    Q_PROPERTY(
+        bool lanesVisible READ areLanesVisible WRITE setLanesVisible NOTIFY lanesVisibleChanged)
+    Q_PROPERTY(
+        QString currentTrack READ currentTrack WRITE setCurrentTrack NOTIFY currentTrackChanged)
 
 public:
     explicit ZoomTimeline(QWidget* parent = nullptr);
@@ -30,6 +35,7 @@ public:
 
     /// The parts; they belong to the timeline.
     Ruler* ruler() const { return m_ruler; }
+    TimelineLanes* lanes() const { return m_lanes; }
     TimelineScroll* timelineScroll() const { return m_scroll; }
     /// Null where the timeline was made without one.
     Zoomer* zoomer() const { return m_zoomer; }
@@ -64,11 +70,19 @@ public:
     /// Whether the strip shows what is recorded in the period and how many markers begin when, as
     /// TimelineScroll::isActivityVisible() describes. Off by default.
     ///
-    /// The strip stands below the ruler from edge to edge then, with the zoomer left of both. The
+    /// The strip stands below the ruler from edge to edge then, with the zoomer left of them. The
     /// wheel on it zooms the ruler about the time under the mouse, or about the nearest that is in
     /// view.
     bool isActivityVisible() const;
     void setActivityVisible(bool visible);
+
+    /// Whether there is a lane for each track below the ruler, with its name left of it; the ruler
+    /// shows all of them together as before. Off by default.
+    bool areLanesVisible() const { return m_lanesVisible; }
+    void setLanesVisible(bool visible);
+    /// The track whose lane is highlighted, as TimelineLanes::currentTrack().
+    QString currentTrack() const;
+    void setCurrentTrack(const QString& identifier);
 
     /// Whether the user holds the ruler, as Ruler::isHeld() says, or the strip.
     bool isHeld() const;
@@ -87,6 +101,9 @@ Q_SIGNALS:
     /// Emitted when isHeld() changed: before what a press does, and after what a release does.
     void heldChanged(bool held);
     void activityVisibleChanged(bool visible);
+    void lanesVisibleChanged(bool visible);
+    /// As TimelineLanes::currentTrackChanged().
+    void currentTrackChanged(const QString& identifier);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -104,12 +121,14 @@ private:
 
     Ruler* const m_ruler;
     // Made in the order in which Tab reaches them.
+    TimelineLanes* const m_lanes;
     Zoomer* const m_zoomer;
     TimelineScroll* const m_scroll;
     QDateTime m_searchBegin;
     QDateTime m_searchEnd;
     bool m_theme = true;
     bool m_resultMode = false;
+    bool m_lanesVisible = false;
     bool m_toldHeld = false;
     bool m_searchDisplayed = false; ///< outside result mode
 };

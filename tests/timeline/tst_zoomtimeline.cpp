@@ -81,7 +81,7 @@ void TestZoomTimeline::layout()
     QList<QPoint> tabbed;
     QWidget* widget = timeline.ruler();
     do {
-        if (widget->focusPolicy() & Qt::TabFocus)
+        if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus)
             tabbed << widget->mapTo(&timeline, widget->rect().bottomLeft());
         widget = widget->nextInFocusChain();
     } while (widget != timeline.ruler());

@@ -112,6 +112,7 @@ void forEachValue(Settings& settings, const Use& use)
     use(u"Time/Milliseconds"_s, settings.timeFormat.milliseconds);
     use(u"Playback/SkipGaps"_s, settings.skipGaps);
     use(u"Timeline/Activity"_s, settings.activity);
+    use(u"Timeline/Lanes"_s, settings.lanes);
     use(u"Updates/InternalChannel"_s, settings.servers.internalChannel);
     use(u"Updates/PublicServer"_s, settings.servers.publicServer);
     use(u"Updates/QueryServer"_s, settings.servers.queryServer);

@@ -24,6 +24,8 @@ struct ReviewSettings
     bool skipGaps = false;
     /// Whether the overview of the timeline shows recordings and how much happens.
     bool activity = true;
+    /// Whether the timeline has a lane for each camera.
+    bool lanes = true;
     Shortcuts shortcuts = defaultShortcuts();
 
     UpdateServers servers = {};

@@ -5,6 +5,7 @@
 #include "timelinepreview.h"
 
 #include <CorvelGui/Ruler>
+#include <CorvelGui/TimelineLanes>
 #include <CorvelGui/ZoomTimeline>
 
 #include <QFontInfo>
@@ -23,7 +24,8 @@ namespace Review {
 namespace {
 
 constexpr double viewCentre = 0.5;
-constexpr int smallestWidth = 320;
+constexpr int smallestWidth = 300;
+constexpr int mostLanes = 6;
 constexpr qint64 spanAroundMarker = qint64(20) * 60 * 1'000;
 
 QDateTime dateTime(qint64 msecs)
@@ -44,6 +46,7 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
     m_timeline->setTimeZone(clock.zoneName());
     m_ruler->setMinimumWidth(smallestWidth);
     m_ruler->setIndicatorDragEnabled(true);
+    m_timeline->lanes()->setMaximumLanes(mostLanes);
     m_ruler->setFollowMode(Ruler::FollowMode::Pages);
     followFont();
     retranslate();
@@ -69,6 +72,9 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
     connect(m_ruler, &Ruler::followingChanged, this, &TimelinePane::followingChanged);
     connect(&clock, &Clock::changed, this, [&] { m_timeline->setTimeZone(clock.zoneName()); });
     connect(&selection, &Selection::momentChanged, this, &TimelinePane::followMoment);
+    connect(&selection, &Selection::cameraChanged, this,
+            [this] { m_timeline->setCurrentTrack(m_selection.camera()); });
+    connect(m_timeline, &ZoomTimeline::currentTrackChanged, &selection, &Selection::setCamera);
     connect(&selection, &Selection::viewWanted, this, &TimelinePane::bringIntoView);
 
     auto* layout = new QVBoxLayout(this);
@@ -113,6 +119,11 @@ void TimelinePane::setActivityShown(bool shown)
     m_timeline->setActivityVisible(shown);
 }
 
+void TimelinePane::setLanesShown(bool shown)
+{
+    m_timeline->setLanesVisible(shown);
+}
+
 void TimelinePane::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::FontChange)
@@ -128,6 +139,7 @@ void TimelinePane::followFont()
 void TimelinePane::retranslate()
 {
     m_ruler->setAccessibleName(tr("Timeline"));
+    m_timeline->lanes()->setAccessibleName(tr("Cameras on the timeline"));
 }
 
 void TimelinePane::followMoment()

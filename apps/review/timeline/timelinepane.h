@@ -67,6 +67,8 @@ public Q_SLOTS:
     void showMoment();
     void setMarkersShown(bool shown);
     void setActivityShown(bool shown);
+    /// One lane for each camera; choosing one selects the camera.
+    void setLanesShown(bool shown);
 
 Q_SIGNALS:
     /// Emitted whenever view() may have changed, and with it what can be done to it.

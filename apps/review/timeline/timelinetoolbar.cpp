@@ -33,6 +33,8 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_showRanges->setCheckable(true);
     m_showActivity = new QAction(this); // in menus only
     m_showActivity->setCheckable(true);
+    m_showLanes = new QAction(this);
+    m_showLanes->setCheckable(true);
 
     m_zoomIn->setShortcut(QKeySequence::ZoomIn);
     m_zoomOut->setShortcut(QKeySequence::ZoomOut);
@@ -49,6 +51,7 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     connect(m_moment, &QAction::triggered, timeline, &TimelinePane::showMoment);
     connect(m_showMarkers, &QAction::toggled, timeline, &TimelinePane::setMarkersShown);
     connect(m_showActivity, &QAction::toggled, timeline, &TimelinePane::setActivityShown);
+    connect(m_showLanes, &QAction::toggled, timeline, &TimelinePane::setLanesShown);
     connect(timeline, &TimelinePane::viewChanged, this, &TimelineToolBar::showState);
     connect(timeline, &TimelinePane::followingChanged, this, &TimelineToolBar::showState);
     retranslate();
@@ -57,8 +60,8 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
 
 QList<QAction*> TimelineToolBar::viewActions() const
 {
-    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,      m_earlier,     m_later,
-            m_moment, nullptr,   m_showMarkers, m_showRanges, m_showActivity};
+    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,      m_earlier,      m_later,
+            m_moment, nullptr,   m_showMarkers, m_showRanges, m_showActivity, m_showLanes};
 }
 
 void TimelineToolBar::retranslate()
@@ -76,6 +79,7 @@ void TimelineToolBar::retranslate()
     m_showRanges->setText(tr("Ranges"));
     m_showRanges->setToolTip(tr("Sets a search range and a result range"));
     m_showActivity->setText(tr("Activity in the overview"));
+    m_showLanes->setText(tr("Cameras on the timeline"));
 }
 
 void TimelineToolBar::showState()

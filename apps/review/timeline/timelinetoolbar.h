@@ -23,6 +23,8 @@ public:
     QAction* showRanges() const { return m_showRanges; }
     /// Checkable: whether the overview shows what is recorded and how much happens.
     QAction* showActivity() const { return m_showActivity; }
+    /// Checkable: whether the timeline has a lane for each camera.
+    QAction* showLanes() const { return m_showLanes; }
 
 protected:
     void retranslate() final;
@@ -40,6 +42,7 @@ private:
     QAction* m_showMarkers;
     QAction* m_showRanges;
     QAction* m_showActivity;
+    QAction* m_showLanes;
 };
 
 } // namespace Review

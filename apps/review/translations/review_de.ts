@@ -1029,6 +1029,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
 <context>
     <name>Review::TimelinePane</name>
     <message>
+        <source>Cameras on the timeline</source>
+        <translation>Kameras auf der Zeitleiste</translation>
+    </message>
+    <message>
         <source>Timeline</source>
         <translation>Zeitleiste</translation>
     </message>
@@ -1074,6 +1078,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Sets a search range and a result range</source>
         <translation>Legt einen Suchbereich und einen Ergebnisbereich fest</translation>
+    </message>
+    <message>
+        <source>Cameras on the timeline</source>
+        <translation>Kameras auf der Zeitleiste</translation>
     </message>
     <message>
         <source>Activity in the overview</source>

@@ -148,6 +148,7 @@ void ReviewWindow::connectParts()
     connect(m_status, &ReviewStatusBar::zoneChosen, this, &ReviewWindow::settingsTouched);
     connect(m_darkLook, &QAction::triggered, this, &ReviewWindow::settingsTouched);
     connect(m_toolBar->showActivity(), &QAction::triggered, this, &ReviewWindow::settingsTouched);
+    connect(m_toolBar->showLanes(), &QAction::triggered, this, &ReviewWindow::settingsTouched);
     connect(m_panes->transport()->skipGaps(), &QCheckBox::clicked, this,
             &ReviewWindow::settingsTouched);
 }
@@ -195,6 +196,7 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     m_clock.set(settings.zone, settings.timeFormat);
     m_panes->transport()->skipGaps()->setChecked(settings.skipGaps);
     m_toolBar->showActivity()->setChecked(settings.activity);
+    m_toolBar->showLanes()->setChecked(settings.lanes);
     m_panes->player()->setShortcuts(settings.shortcuts);
     m_updates->setServers(settings.servers);
 }
@@ -205,6 +207,7 @@ void ReviewWindow::takeSettings(ReviewSettings& settings) const
     settings.zone = m_clock.zoneName();
     settings.skipGaps = m_panes->transport()->skipGaps()->isChecked();
     settings.activity = m_toolBar->showActivity()->isChecked();
+    settings.lanes = m_toolBar->showLanes()->isChecked();
 }
 
 void ReviewWindow::writeUserSettings(QSettings& settings) const

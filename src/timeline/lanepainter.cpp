@@ -1,0 +1,94 @@
+#include "lanepainter.h"
+
+#include "devicegrid.h"
+#include "timescale.h"
+#include "tracksegments.h"
+
+#include <Hueloft/POrvGuiTheme>
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+using Hueloft::POrvGuiTheme;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr double footHeight = 2.0;
+constexpr double accentWidth = 3.0;
+constexpr double namePadding = 8.0;
+
+} // namespace
+
+void LanePainter::drawLane(QPainter& painter, const QRectF& lane,
+                           const TrackLanes::Spans& spans) const
+{
+    const DeviceGrid grid(painter);
+    const double left = rulerLeft + std::round(TimeScale::halfMargin());
+    const double right = rulerLeft + std::round(scale.sightEnd());
+    const QRectF body = lane.adjusted(0, 0, 0, -1);
+    const auto part = [&](double x1, double x2) {
+        return grid.aligned({QPointF(x1, body.top()), QPointF(x2, body.bottom())});
+    };
+    painter.fillRect(part(rulerLeft, lane.right()), POrvGuiTheme::colorShark);
+
+    const auto fill = [&](const TimeSpans& states, const QColor& color, const QColor& foot) {
+        for (const TrackSegment& segment : visibleSegments(states, scale)) {
+            const double x1 = std::max(rulerLeft + std::trunc(segment.start), left);
+            const double x2 =
+                std::max(std::min(rulerLeft + std::trunc(segment.end), right), x1 + 1);
+            const QRectF stretch = part(x1, x2);
+            painter.fillRect(stretch, color);
+            if (foot.isValid())
+                painter.fillRect(
+                    grid.aligned(stretch.adjusted(0, stretch.height() - footHeight, 0, 0)), foot);
+        }
+    };
+    fill(spans.gaps, POrvGuiTheme::colorBlack, {});
+    fill(spans.recorded, POrvGuiTheme::colorTuna, POrvGuiTheme::colorYellow.darker(200));
+
+    if (!scale.hasView())
+        return;
+    const double begin = rulerLeft + std::trunc(scale.xAt(scale.beginLimitMs()));
+    const double end = rulerLeft + std::trunc(scale.xAt(scale.endLimitMs()));
+    if (begin > left)
+        painter.fillRect(part(left, std::min(begin, right)), POrvGuiTheme::colorBlack);
+    if (end < right)
+        painter.fillRect(part(std::max(end, left), right), POrvGuiTheme::colorBlack);
+}
+
+void LanePainter::drawName(QPainter& painter, const QRectF& lane, const QString& name,
+                           bool current) const
+{
+    const DeviceGrid grid(painter);
+    const QRectF plate = grid.aligned({lane.left(), lane.top(), namesWidth, lane.height() - 1});
+    painter.fillRect(plate, current ? POrvGuiTheme::colorElephant.darker(130)
+                                    : POrvGuiTheme::colorPanther);
+    if (current)
+        painter.fillRect(grid.aligned({plate.left(), plate.top(), accentWidth, plate.height()}),
+                         POrvGuiTheme::colorBlue);
+    QFont font = painter.font();
+    font.setBold(current);
+    painter.setFont(font);
+    const QRectF text = plate.adjusted(namePadding, 0, -namePadding / 2, 0);
+    painter.setPen(current ? QColor(Qt::white) : QColor(200, 200, 200));
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     QFontMetricsF(font).elidedText(name, Qt::ElideRight, text.width()));
+    font.setBold(false);
+    painter.setFont(font);
+}
+
+void LanePainter::drawFrame(QPainter& painter, const QRectF& lane) const
+{
+    const DeviceGrid grid(painter);
+    const QRectF body(QPointF(rulerLeft, lane.top()), QPointF(lane.right(), lane.bottom() - 1));
+    painter.fillRect(grid.aligned({body.left(), body.top(), body.width(), 1}),
+                     POrvGuiTheme::colorBlue);
+    painter.fillRect(grid.aligned({body.left(), body.bottom() - 1, body.width(), 1}),
+                     POrvGuiTheme::colorBlue);
+}
+
+} // namespace CorvelGui

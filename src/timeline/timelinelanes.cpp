@@ -1,0 +1,368 @@
+#include "timelinelanes.h"
+
+#include "accessiblelanes.h"
+#include "base/whilealive.h"
+#include "devicegrid.h"
+#include "lanelayout.h"
+#include "lanepainter.h"
+#include "ruler_p.h"
+
+#include <Hueloft/POrvGuiTheme>
+
+#include <QCoreApplication>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+using Hueloft::POrvGuiTheme;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr int lanePadding = 6;
+constexpr int namePadding = 12;
+constexpr int widestNames = 240;
+constexpr int narrowestNames = 60;
+constexpr int largestFont = 200;
+constexpr int wheelNotch = 120;
+
+/// What of the ruler is seen in the lanes.
+struct ShownView
+{
+    FineTime start;
+    double pixels;
+    qint64 begin;
+    qint64 end;
+    int indicator; ///< its column; -1 without one
+    QRgb indicatorColor;
+
+    bool operator==(const ShownView&) const = default;
+};
+
+} // namespace
+
+struct TimelineLanes::Private
+{
+    Private(TimelineLanes* lanes, Ruler* r, const TimeScale& s, const TrackLanes& t,
+            const Indicator& i)
+        : q(lanes)
+        , ruler(r)
+        , scale(s)
+        , tracks(t)
+        , indicator(i)
+        , scrollBar(new QScrollBar(Qt::Vertical, lanes))
+        , focus(new KeyboardFocus(lanes))
+    {}
+
+    LaneLayout layout() const
+    {
+        return {tracks.count(), laneHeight, q->height(), scrollBar->value()};
+    }
+    int rulerLeft() const
+    {
+        return ruler->mapTo(q->window(), QPoint()).x() - q->mapTo(q->window(), QPoint()).x();
+    }
+    int barWidth() const { return scrollBar->isVisibleTo(q) ? scrollBar->width() : 0; }
+
+    ShownView shownView() const
+    {
+        const bool indicated = indicator.isVisibleTo(ruler);
+        return {scale.fineViewStart(),
+                scale.lengthPerMillisecond(),
+                scale.beginLimitMs(),
+                scale.endLimitMs(),
+                indicated ? indicator.x() + indicator.hotSpot() : -1,
+                indicator.color().rgb()};
+    }
+
+    TimelineLanes* const q;
+    Ruler* const ruler;
+    const TimeScale& scale;
+    const TrackLanes& tracks;
+    const Indicator& indicator;
+    QScrollBar* const scrollBar;
+    const KeyboardFocus* const focus;
+    QString currentTrack;
+    int maximumLanes = 8;
+    int laneHeight = 1;
+    int wheelRest = 0;
+    ShownView shown{};
+};
+
+TimelineLanes::TimelineLanes(Ruler* ruler, QWidget* parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>(this, ruler, ruler->d->scale, ruler->d->lanes,
+                                  *ruler->d->indicator))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    makeLanesAccessible();
+    d->scrollBar->setFocusPolicy(Qt::NoFocus);
+    d->scrollBar->hide();
+    connect(d->scrollBar, &QScrollBar::valueChanged, this, qOverload<>(&QWidget::update));
+    connect(ruler, &Ruler::tracksChanged, this, &TimelineLanes::followTracks);
+    ruler->installEventFilter(this);
+    setFontSize(int(ruler->d->fontSize));
+}
+
+TimelineLanes::~TimelineLanes() = default;
+
+int TimelineLanes::laneCount() const
+{
+    return d->tracks.count();
+}
+
+QString TimelineLanes::laneName(int lane) const
+{
+    const TrackDescription& track = d->tracks.tracks()[lane];
+    return track.name.isEmpty() ? track.identifier : track.name;
+}
+
+QString TimelineLanes::laneTrack(int lane) const
+{
+    return d->tracks.tracks()[lane].identifier;
+}
+
+QRect TimelineLanes::laneRect(int lane) const
+{
+    return {0, d->layout().top(lane), width(), d->laneHeight};
+}
+
+int TimelineLanes::laneAt(const QPoint& position) const
+{
+    return rect().contains(position) ? d->layout().laneAt(position.y()) : -1;
+}
+
+QString TimelineLanes::currentTrack() const
+{
+    return d->currentTrack;
+}
+
+void TimelineLanes::setCurrentTrack(const QString& identifier)
+{
+    if (d->currentTrack == identifier)
+        return;
+    d->currentTrack = identifier;
+    showCurrentLane();
+    update();
+    reportCurrentLane();
+    Q_EMIT currentTrackChanged(identifier);
+}
+
+int TimelineLanes::currentLane() const
+{
+    return d->tracks.indexOf(d->currentTrack);
+}
+
+int TimelineLanes::maximumLanes() const
+{
+    return d->maximumLanes;
+}
+
+void TimelineLanes::setMaximumLanes(int count)
+{
+    const int maximum = std::max(count, 1);
+    if (d->maximumLanes == maximum)
+        return;
+    d->maximumLanes = maximum;
+    updateGeometryOfLanes();
+    Q_EMIT maximumLanesChanged(maximum);
+}
+
+void TimelineLanes::setFontSize(int points)
+{
+    QFont font = this->font();
+    font.setPointSize(std::clamp(points, 1, largestFont));
+    setFont(font);
+    updateGeometryOfLanes();
+}
+
+int TimelineLanes::namesWidth() const
+{
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    int widest = 0;
+    for (int lane = 0; lane < laneCount(); ++lane)
+        widest = std::max(widest, metrics.horizontalAdvance(laneName(lane)));
+    const int bar = laneCount() > d->maximumLanes ? d->scrollBar->sizeHint().width() : 0;
+    return std::clamp(widest + namePadding, narrowestNames, widestNames) + bar;
+}
+
+void TimelineLanes::followTracks()
+{
+    updateGeometryOfLanes();
+    Q_EMIT lanesChanged();
+}
+
+void TimelineLanes::updateGeometryOfLanes()
+{
+    d->laneHeight = fontMetrics().height() + lanePadding;
+    setFixedHeight(std::max(std::min(laneCount(), d->maximumLanes), 1) * d->laneHeight);
+    updateScrollBar();
+    showCurrentLane();
+    update();
+}
+
+// Between the names and the ruler's columns, which reach to the right edge.
+void TimelineLanes::updateScrollBar()
+{
+    const LaneLayout layout = d->layout();
+    QScrollBar* bar = d->scrollBar;
+    bar->setRange(0, layout.maximumOffset());
+    bar->setSingleStep(d->laneHeight);
+    bar->setPageStep(height());
+    bar->setVisible(layout.maximumOffset() > 0);
+    const int width = bar->sizeHint().width();
+    bar->setGeometry(d->rulerLeft() - width, 0, width, height());
+}
+
+void TimelineLanes::showCurrentLane()
+{
+    if (const int lane = currentLane(); lane >= 0)
+        d->scrollBar->setValue(d->layout().offsetShowing(lane));
+}
+
+void TimelineLanes::reportCurrentLane()
+{
+    const int lane = currentLane();
+    if (lane < 0)
+        return;
+    for (const QAccessible::Event type : {QAccessible::Selection, QAccessible::Focus}) {
+        if (type == QAccessible::Focus && !hasFocus())
+            continue;
+        QAccessibleEvent event(this, type);
+        event.setChild(lane);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void TimelineLanes::paintEvent(QPaintEvent*)
+{
+    d->shown = d->shownView();
+    QPainter painter(this);
+    painter.fillRect(rect(), POrvGuiTheme::colorBlack);
+    const LaneLayout layout = d->layout();
+    const int left = d->rulerLeft();
+    const LanePainter lanes{d->scale, double(left), double(left - d->barWidth())};
+    const int current = currentLane();
+    for (int lane = layout.first(); lane < layout.end(); ++lane) {
+        const QRectF area = laneRect(lane);
+        lanes.drawLane(painter, area, d->tracks.spans(lane));
+        lanes.drawName(painter, area, laneName(lane), lane == current);
+    }
+    if (current >= layout.first() && current < layout.end())
+        lanes.drawFrame(painter, laneRect(current));
+    if (d->shown.indicator >= 0) {
+        const DeviceGrid grid(painter);
+        painter.fillRect(grid.aligned(QRectF(left + d->shown.indicator - 1, 0, 2, height())),
+                         QColor(d->shown.indicatorColor));
+    }
+    d->focus->draw(painter);
+}
+
+void TimelineLanes::resizeEvent(QResizeEvent*)
+{
+    updateScrollBar();
+}
+
+void TimelineLanes::mousePressEvent(QMouseEvent* event)
+{
+    const int lane = laneAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && lane >= 0)
+        setCurrentTrack(laneTrack(lane));
+    else
+        QWidget::mousePressEvent(event);
+}
+
+void TimelineLanes::wheelEvent(QWheelEvent* event)
+{
+    event->accept();
+    const QPointF onRuler(event->position().x() - d->rulerLeft(), d->ruler->height() / 2.0);
+    if (onRuler.x() >= 0 && !(event->modifiers() & Qt::ShiftModifier)) {
+        QWheelEvent wheel(onRuler, event->globalPosition(), event->pixelDelta(),
+                          event->angleDelta(), event->buttons(), event->modifiers(), event->phase(),
+                          event->inverted());
+        QCoreApplication::sendEvent(d->ruler, &wheel);
+        return;
+    }
+    // Some systems turn the wheel sideways while Shift is held.
+    const QPoint delta = event->angleDelta();
+    d->wheelRest += (delta.y() != 0 ? delta.y() : delta.x()) * d->laneHeight;
+    d->scrollBar->setValue(d->scrollBar->value() - d->wheelRest / wheelNotch);
+    d->wheelRest %= wheelNotch;
+}
+
+void TimelineLanes::keyPressEvent(QKeyEvent* event)
+{
+    const int last = laneCount() - 1;
+    const int current = currentLane();
+    const int page = std::max(height() / d->laneHeight, 1);
+    int lane = -1;
+    switch (event->key()) {
+    case Qt::Key_Up:
+        lane = current < 0 ? last : current - 1;
+        break;
+    case Qt::Key_Down:
+        lane = current + 1;
+        break;
+    case Qt::Key_PageUp:
+        lane = current - page;
+        break;
+    case Qt::Key_PageDown:
+        lane = current + page;
+        break;
+    case Qt::Key_Home:
+        lane = 0;
+        break;
+    case Qt::Key_End:
+        lane = last;
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (last >= 0)
+        setCurrentTrack(laneTrack(std::clamp(lane, 0, last)));
+}
+
+void TimelineLanes::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        updateGeometryOfLanes();
+        Q_EMIT lanesChanged();
+    }
+}
+
+bool TimelineLanes::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int lane = help->x() < d->rulerLeft() ? laneAt(help->pos()) : -1;
+    if (lane >= 0)
+        QToolTip::showText(help->globalPos(), RulerMarkerButton::plainToolTip(laneName(lane)),
+                           this);
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+// Whatever moves the ruler's view or indicator has it painted anew.
+bool TimelineLanes::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() == QEvent::Paint && !(d->shown == d->shownView()))
+        update();
+    else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        updateScrollBar();
+    return false;
+}
+
+} // namespace CorvelGui
