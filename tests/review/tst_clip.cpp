@@ -31,7 +31,7 @@ private Q_SLOTS:
     void rightPicture_data();
     void rightPicture();
     void keyFrames();
-    void creationTime();
+    void facts();
     void faults_data();
     void faults();
     void vanishing();
@@ -120,12 +120,15 @@ void TestClip::keyFrames()
     QCOMPARE(numberOf(clip->pictureAt(middleOf(76))->image), 76);
 }
 
-void TestClip::creationTime()
+void TestClip::facts()
 {
     constexpr qint64 recorded = 1'795'000'000'000;
     const QString path = m_folder.filePath(u"dated.mp4"_s);
-    QCOMPARE(NumberedClip::write(path, 2, {.creationTime = recorded}), QString());
-    QCOMPARE(open(path)->creationTime(), std::optional(recorded));
+    QCOMPARE(NumberedClip::write(path, 50, {.creationTime = recorded}), QString());
+    const Clip::Facts facts = Clip::factsOf(path, m_aborted);
+    QCOMPARE(facts.created, std::optional(recorded));
+    QCOMPARE(facts.duration, 2'000);
+    QVERIFY(!Clip::factsOf(m_folder.path(), m_aborted).fault.isEmpty());
 }
 
 void TestClip::faults_data()

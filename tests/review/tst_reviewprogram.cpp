@@ -69,7 +69,8 @@ void TestReviewProgram::refusals_data()
     row({u"--size"_s, u"1200"_s}, u"Bad size “1200”"_s);
     row({u"--size"_s, u"100x700"_s}, u"Bad size “100x700”"_s);
     row({u"--colour"_s}, u"colour"_s);
-    row({u"recordings.csv"_s}, u"Unexpected argument “recordings.csv”"_s);
+    row({u"--pattern"_s, u"{yyyy}-{dd}.mp4"_s}, u"Bad pattern “{yyyy}-{dd}.mp4”"_s);
+    row({u"recordings.csv"_s}, u"There is no file or folder “recordings.csv”"_s);
 }
 
 void TestReviewProgram::refusals()

@@ -13,10 +13,15 @@ class LoadProgress
 public:
     void cancel() { m_cancelled = true; }
     bool isCancelled() const { return m_cancelled; }
+    const std::atomic<bool>& cancelled() const { return m_cancelled; }
 
-    /// Of all files, in bytes.
-    void setTotal(qint64 bytes) { m_total = bytes; }
-    void add(qint64 bytes) { m_done += bytes; }
+    /// Begins anew, with as many steps before it: bytes, or files.
+    void setTotal(qint64 steps)
+    {
+        m_done = 0;
+        m_total = steps;
+    }
+    void add(qint64 steps) { m_done += steps; }
     /// From 0 to 100.
     int percent() const { return m_total > 0 ? int(m_done * 100 / m_total) : 0; }
 

@@ -32,9 +32,21 @@ ReviewFiles ReviewFiles::inFolder(const QString& folder)
     const auto existing = [dir = QDir(folder)](const QString& name) {
         return dir.exists(name) ? dir.filePath(name) : QString();
     };
-    return {.recordings = existing(u"recordings.csv"_s),
-            .events = existing(u"events.csv"_s),
-            .deployments = existing(u"deployments.csv"_s)};
+    ReviewFiles files{.recordings = existing(u"recordings.csv"_s),
+                      .events = existing(u"events.csv"_s),
+                      .deployments = existing(u"deployments.csv"_s)};
+    if (files.recordings.isEmpty())
+        files.footage = {folder};
+    return files;
+}
+
+ReviewFiles ReviewFiles::named(const QStringList& paths)
+{
+    if (paths.size() == 1 && QFileInfo(paths[0]).isDir())
+        return inFolder(paths[0]);
+    ReviewFiles files;
+    files.footage = paths;
+    return files;
 }
 
 QString ReviewFiles::name() const
@@ -42,6 +54,8 @@ QString ReviewFiles::name() const
     const QString first = !recordings.isEmpty() ? recordings
                           : !events.isEmpty()   ? events
                                                 : deployments;
+    if (!footage.isEmpty())
+        return QFileInfo(footage.first()).fileName();
     return first.isEmpty() ? QString() : QFileInfo(first).absoluteDir().dirName();
 }
 
@@ -75,10 +89,17 @@ QString ReviewLoader::load(const ReviewFiles& files)
     return {};
 }
 
+void ReviewLoader::add(const QString& camera, const VideoFile& file)
+{
+    track(camera).recorded.append({file.begin, file.end});
+    if (!file.path.isEmpty())
+        m_data.files[camera].append(file);
+}
+
 QString ReviewLoader::loadRecordings(const QString& path)
 {
     const QDir folder = QFileInfo(path).absoluteDir();
-    const auto add = [&](const CsvTable::Values& values) {
+    const auto addLine = [&](const CsvTable::Values& values) {
         QString identifier;
         TimeSpan span;
         VideoFile file;
@@ -87,17 +108,15 @@ QString ReviewLoader::loadRecordings(const QString& path)
             fault = LineParser::parseSeconds(values[4], file.offset);
         if (!fault.isEmpty())
             return fault;
-        track(identifier).recorded.append(span);
-        if (values[3].isEmpty())
-            return fault;
-        file.path = folder.absoluteFilePath(QString::fromUtf8(values[3]));
         file.begin = span.begin;
         file.end = span.end;
-        m_data.files[identifier].append(file);
+        if (!values[3].isEmpty())
+            file.path = folder.absoluteFilePath(QString::fromUtf8(values[3]));
+        add(identifier, file);
         return fault;
     };
-    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {u"file"_s, u"offset"_s}, add,
-                          m_problems, m_progress);
+    return CsvTable::read(path, {u"camera"_s, u"begin"_s, u"end"_s}, {u"file"_s, u"offset"_s},
+                          addLine, m_problems, m_progress);
 }
 
 QString ReviewLoader::loadDeployments(const QString& path)

@@ -16,15 +16,23 @@ struct ReviewFiles
     QString recordings;
     QString events;
     QString deployments;
+    /// Folders with clips and pictures, and single ones.
+    QStringList footage = {};
+    /// How their paths are built; empty for the common ways.
+    QString pattern = {};
 
-    /// Those of recordings.csv, events.csv and deployments.csv that are in @p folder.
+    /// Those of recordings.csv, events.csv and deployments.csv that are in @p folder. Without
+    /// recordings.csv, the clips and pictures are looked for.
     static ReviewFiles inFolder(const QString& folder);
+    /// What somebody means who names files and folders.
+    static ReviewFiles named(const QStringList& paths);
 
     /// Of all of them, in bytes.
     qint64 size() const;
     bool isEmpty() const
     {
-        return recordings.isEmpty() && events.isEmpty() && deployments.isEmpty();
+        return recordings.isEmpty() && events.isEmpty() && deployments.isEmpty() &&
+               footage.isEmpty();
     }
     /// What the user calls them: the folder that they are in.
     QString name() const;
@@ -39,6 +47,8 @@ public:
     /// Returns why a file cannot be read, or an empty string. What a cancelled load leaves is
     /// incomplete.
     QString load(const ReviewFiles& files);
+    /// Adds a recording that is known already.
+    void add(const QString& camera, const VideoFile& file);
     /// Any thread may look at it, or end the load by it.
     LoadProgress& progress() { return m_progress; }
     const LoadProgress& progress() const { return m_progress; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileInfo>
 #include <QString>
 
 namespace Review {
@@ -14,5 +15,12 @@ struct VideoFile
 
     bool operator==(const VideoFile&) const = default;
 };
+
+/// Whether a file is a single picture, by the ending of its name.
+inline bool isPictureFile(const QString& path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    return ending == QStringLiteral("jpg") || ending == QStringLiteral("jpeg");
+}
 
 } // namespace Review

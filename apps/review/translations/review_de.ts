@@ -118,10 +118,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Größe</translation>
     </message>
     <message>
-        <source>Unexpected argument “%1”.</source>
-        <translation>Unerwartetes Argument „%1“.</translation>
-    </message>
-    <message>
         <source>The option --%1 needs a value.</source>
         <translation>Die Option --%1 braucht einen Wert.</translation>
     </message>
@@ -152,6 +148,26 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Recorded spans, in the columns camera, begin, end and, for those with pictures, file and offset: seconds into the file at begin.</source>
         <translation>Aufgezeichnete Abschnitte, in den Spalten camera, begin, end und, wo es Bilder gibt, file und offset: Sekunden in der Datei bei begin.</translation>
+    </message>
+    <message>
+        <source>A folder with those CSV files, or with a folder of clips and pictures per camera; or single clips and pictures.</source>
+        <translation>Ein Ordner mit diesen CSV-Dateien oder mit einem Ordner voller Clips und Bilder je Kamera; oder einzelne Clips und Bilder.</translation>
+    </message>
+    <message>
+        <source>How the paths of clips and pictures say when they were recorded, such as {camera}/{yyyy}-{MM}-{dd}/{HH}/{mm}.{ss}.mp4. Without one, the common ways are known.</source>
+        <translation>Wie die Pfade von Clips und Bildern sagen, wann sie aufgezeichnet wurden, zum Beispiel {camera}/{yyyy}-{MM}-{dd}/{HH}/{mm}.{ss}.mp4. Ohne Angabe gelten die üblichen Arten.</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>There is no file or folder “%1”.</source>
+        <translation>Es gibt keine Datei und keinen Ordner „%1“.</translation>
+    </message>
+    <message>
+        <source>Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}.</source>
+        <translation>Falsches Muster „%1“: Es braucht {yyyy}, {MM} und {dd}.</translation>
     </message>
 </context>
 <context>
@@ -593,6 +609,13 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::LoadJob</name>
+    <message>
+        <source>There are neither recordings nor events in %1.</source>
+        <translation>In %1 gibt es weder Aufzeichnungen noch Ereignisse.</translation>
+    </message>
+</context>
+<context>
     <name>Review::LoadPanel</name>
     <message>
         <source>Loading</source>
@@ -881,6 +904,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>&amp;Tools</source>
         <translation>E&amp;xtras</translation>
     </message>
+    <message>
+        <source>Open &amp;files…</source>
+        <translation>&amp;Dateien öffnen …</translation>
+    </message>
 </context>
 <context>
     <name>Review::ReviewOpener</name>
@@ -889,8 +916,12 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Ordner öffnen</translation>
     </message>
     <message>
-        <source>There is no recordings.csv, events.csv or deployments.csv in %1.</source>
-        <translation>In %1 gibt es weder recordings.csv noch events.csv oder deployments.csv.</translation>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open files</source>
+        <translation>Dateien öffnen</translation>
     </message>
 </context>
 <context>
@@ -932,6 +963,30 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>%1 – Recording review</source>
         <translation>%1 – Aufzeichnungen sichten</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>time of creation</source>
+        <translation>Zeit der Entstehung</translation>
+    </message>
+    <message>
+        <source>EXIF</source>
+        <translation>EXIF</translation>
+    </message>
+    <message>
+        <source>time of change</source>
+        <translation>Zeit der Änderung</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Where the times of recordings come from: %1; zone: %2</source>
+        <translation>Woher die Zeiten der Aufzeichnungen stammen: %1; Zeitzone: %2</translation>
     </message>
 </context>
 <context>

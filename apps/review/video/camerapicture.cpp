@@ -75,7 +75,9 @@ void CameraPicture::paintTexts(QPainter& painter, const QRect& area) const
         return;
     painter.setPen(QColor(190, 194, 198));
     painter.drawText(area.adjusted(margin, 3 * line.height(), -margin, -margin),
-                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, message);
+                     Qt::AlignHCenter | (image.isNull() ? Qt::AlignVCenter : Qt::AlignTop) |
+                         Qt::TextWordWrap,
+                     message);
 }
 
 QImage CameraPicture::withTexts() const

@@ -36,7 +36,17 @@ Clip::Clip(QString path, qint64 cacheBytes, const std::atomic<bool>& aborted)
 
 Clip::~Clip() = default;
 
-bool Clip::openFile(QString& fault)
+Clip::Facts Clip::factsOf(const QString& path, const std::atomic<bool>& aborted)
+{
+    silenceFFmpeg();
+    Clip clip(path, 0, aborted);
+    if (const int error = clip.openContainer(); error < 0)
+        return {.fault = ffmpegText(error)};
+    return {.duration = clip.declaredDuration(), .created = clip.creationTime()};
+}
+
+/// Makes container, stream and codec known. Returns an error or 0.
+int Clip::openContainer()
 {
     m_codec.reset();
     m_format.reset(avformat_alloc_context());
@@ -63,10 +73,16 @@ bool Clip::openFile(QString& fault)
         m_codec.reset(avcodec_alloc_context3(decoder));
         error = avcodec_parameters_to_context(m_codec.get(), m_stream->codecpar);
     }
+    return error;
+}
+
+bool Clip::openFile(QString& fault)
+{
+    int error = openContainer();
     if (error >= 0) {
         m_codec->thread_count = 1;
         m_codec->pkt_timebase = m_stream->time_base;
-        error = avcodec_open2(m_codec.get(), decoder, nullptr);
+        error = avcodec_open2(m_codec.get(), m_codec->codec, nullptr);
     }
     m_awaitsKey = true;
     m_drained = false;

@@ -44,15 +44,24 @@ public:
     /// before the first one, once aborted, and where nothing can be decoded.
     std::optional<ClipPicture> pictureAt(qint64 msecs, Accuracy accuracy = Accuracy::Exact);
 
-    /// Milliseconds that the file says it lasts; files say all kinds of things. 0 for unknown.
-    qint64 declaredDuration() const;
-    /// Milliseconds since the Unix epoch at which the file says it was recorded, if it does.
-    std::optional<qint64> creationTime() const;
+    /// What a file says of itself; files say all kinds of things.
+    struct Facts
+    {
+        qint64 duration = 0;                ///< milliseconds; 0 for unknown
+        std::optional<qint64> created = {}; ///< milliseconds since the Unix epoch
+        QString fault = {};                 ///< why it cannot be read
+    };
+
+    /// Found without decoding a picture. See open() for @p aborted.
+    static Facts factsOf(const QString& path, const std::atomic<bool>& aborted);
 
 private:
     Clip(QString path, qint64 cacheBytes, const std::atomic<bool>& aborted);
 
+    int openContainer();
     bool openFile(QString& fault);
+    qint64 declaredDuration() const;
+    std::optional<qint64> creationTime() const;
     bool restart();
     bool seek(qint64 timestamp);
     DecodedFrame decode();

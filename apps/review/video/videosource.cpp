@@ -8,8 +8,6 @@
 #include <iterator>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace Review {
 
 namespace {
@@ -23,12 +21,6 @@ constexpr QSize largestPicture(3840, 2160);
 QString translated(const char* text)
 {
     return QCoreApplication::translate("Review::VideoSource", text);
-}
-
-bool isPicture(const QString& path)
-{
-    const QString ending = QFileInfo(path).suffix().toLower();
-    return ending == u"jpg"_s || ending == u"jpeg"_s;
 }
 
 } // namespace
@@ -85,7 +77,7 @@ VideoFrame VideoSource::frameAt(qint64 instant, Clip::Accuracy accuracy)
     const VideoFile* file = fileAt(instant);
     if (!file)
         return {.asked = instant};
-    if (isPicture(file->path))
+    if (isPictureFile(file->path))
         return pictureOf(*file, instant);
 
     VideoFrame frame{.state = VideoFrame::State::Fault, .asked = instant};

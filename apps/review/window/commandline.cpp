@@ -1,10 +1,12 @@
 #include "commandline.h"
 
+#include "footage/pathpattern.h"
 #include "look/languages.h"
 
 #include <Corvel/TimeZoneHelper>
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -55,6 +57,11 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addOptions(options());
+    parser.addPositionalArgument(
+        u"paths"_s,
+        tr("A folder with those CSV files, or with a folder of clips and pictures per "
+           "camera; or single clips and pictures."),
+        u"[paths...]"_s);
     const bool parsed = parser.parse(withoutToolkitOptions(arguments));
     if (parsed && parser.isSet(help)) {
         m_message = parser.helpText();
@@ -85,6 +92,11 @@ QList<QCommandLineOption> CommandLine::options()
          tr("Periods in which the cameras were in service, in the columns camera, begin, end. "
             "Without one, a camera was from its first to its last recording."),
          file},
+        {u"pattern"_s,
+         tr("How the paths of clips and pictures say when they were recorded, such as "
+            "{camera}/{yyyy}-{MM}-{dd}/{HH}/{mm}.{ss}.mp4. Without one, the common ways are "
+            "known."),
+         tr("pattern")},
         {u"zone"_s, tr("Time zone, such as Europe/Brussels."), tr("name")},
         {u"look"_s, tr("Look of the window: dark or light."), tr("look")},
         {u"language"_s, tr("Language of the window: de or en."), tr("key")},
@@ -96,16 +108,27 @@ QList<QCommandLineOption> CommandLine::options()
 // Returns what is wrong with them, or an empty string.
 QString CommandLine::takeArguments(const QCommandLineParser& parser)
 {
-    if (const QStringList extra = parser.positionalArguments(); !extra.isEmpty())
-        return tr("Unexpected argument “%1”.").arg(extra.first());
+    const QStringList paths = parser.positionalArguments();
+    for (const QString& path : paths)
+        if (!QFileInfo::exists(path))
+            return tr("There is no file or folder “%1”.").arg(path);
     for (const QString& option : parser.optionNames()) {
         if (parser.value(option).isEmpty())
             return tr("The option --%1 needs a value.").arg(option);
     }
 
-    m_arguments.files = {.recordings = parser.value(u"recordings"_s),
-                         .events = parser.value(u"events"_s),
-                         .deployments = parser.value(u"deployments"_s)};
+    ReviewFiles& files = m_arguments.files;
+    if (!paths.isEmpty())
+        files = ReviewFiles::named(paths);
+    for (const auto& [option, file] :
+         {std::pair(u"recordings"_s, &files.recordings), std::pair(u"events"_s, &files.events),
+          std::pair(u"deployments"_s, &files.deployments)}) {
+        if (parser.isSet(option))
+            *file = parser.value(option);
+    }
+    files.pattern = parser.value(u"pattern"_s);
+    if (!files.pattern.isEmpty() && !PathPattern(files.pattern).isValid())
+        return tr("Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}.").arg(files.pattern);
     m_arguments.picture = parser.value(u"picture"_s);
     m_arguments.settings = parser.value(u"settings"_s);
     if (const QString zone = parser.value(u"zone"_s); !zone.isEmpty()) {

@@ -1,6 +1,6 @@
 #include "loadpanel.h"
 
-#include "data/loadjob.h"
+#include "footage/loadjob.h"
 
 #include <QHBoxLayout>
 #include <QProgressBar>

@@ -16,6 +16,7 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     m_file = addMenu(QString());
     m_open = m_file->addAction(QString());
     m_open->setShortcut(QKeySequence::Open);
+    m_openFiles = m_file->addAction(QString());
     m_file->addAction(events.exportAction());
     m_export = m_file->addAction(QString());
     m_export->setShortcut(Qt::CTRL | Qt::Key_E);
@@ -48,6 +49,7 @@ void ReviewMenuBar::retranslate()
 {
     m_file->setTitle(tr("&File"));
     m_open->setText(tr("&Open folder…"));
+    m_openFiles->setText(tr("Open &files…"));
     m_export->setText(tr("Export &pictures…"));
     m_quit->setText(tr("&Quit"));
     m_devices->setTitle(tr("&Devices"));

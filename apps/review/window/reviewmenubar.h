@@ -21,6 +21,7 @@ public:
                   QWidget* parent = nullptr);
 
     QAction* open() const { return m_open; }
+    QAction* openFiles() const { return m_openFiles; }
     QAction* exportPictures() const { return m_export; }
     QAction* quit() const { return m_quit; }
     /// For what belongs to the whole program; hidden as long as it is empty.
@@ -32,6 +33,7 @@ protected:
 private:
     QMenu* m_file;
     QAction* m_open;
+    QAction* m_openFiles;
     QAction* m_export;
     QAction* m_quit;
     QMenu* m_devices;

@@ -1,12 +1,12 @@
 #include "reviewopener.h"
 
-#include "data/loadjob.h"
+#include "footage/loadjob.h"
 #include "loadpanel.h"
+#include "session/clock.h"
 
 #include <CorvelGui/BusyIndicator>
 #include <Hueloft/PMessageBox>
 
-#include <QDir>
 #include <QFileDialog>
 #include <QMainWindow>
 #include <QStatusBar>
@@ -24,13 +24,16 @@ constexpr std::chrono::milliseconds quickLoad(200);
 
 } // namespace
 
-ReviewOpener::ReviewOpener(QMainWindow* window) : QObject(window), m_window(window) {}
+ReviewOpener::ReviewOpener(QMainWindow* window, const Clock& clock)
+    : QObject(window), m_window(window), m_clock(clock)
+{}
 
 ReviewOpener::~ReviewOpener() = default;
 
 void ReviewOpener::load(const ReviewFiles& files)
 {
-    m_job = std::make_unique<LoadJob>(files);
+    m_pattern = files.pattern;
+    m_job = std::make_unique<LoadJob>(files, m_clock.times().zone());
     auto* busy = new BusyIndicator(m_window->centralWidget());
     busy->setDelay(quickLoad);
     busy->show();
@@ -54,23 +57,29 @@ void ReviewOpener::finish()
     Q_EMIT ended(*job);
 }
 
-void ReviewOpener::askForFolder()
+void ReviewOpener::open(const QStringList& paths)
 {
-    const QString folder = QFileDialog::getExistingDirectory(m_window, tr("Open folder"));
-    if (folder.isEmpty())
+    if (paths.isEmpty() || isLoading())
         return;
-    const ReviewFiles files = ReviewFiles::inFolder(folder);
-    if (files.isEmpty()) {
-        PMessageBox::Warning(m_window, tr("Open folder"),
-                             tr("There is no recordings.csv, events.csv or deployments.csv in %1.")
-                                 .arg(QDir::toNativeSeparators(folder)));
-        return;
-    }
+    ReviewFiles files = ReviewFiles::named(paths);
+    files.pattern = m_pattern;
     load(files);
     connect(m_job.get(), &LoadJob::loaded, this, [this, job = m_job.get()] {
         if (!job->error().isEmpty())
-            PMessageBox::Warning(m_window, tr("Open folder"), job->error());
+            PMessageBox::Warning(m_window, tr("Open"), job->error());
     });
+}
+
+void ReviewOpener::askForFolder()
+{
+    if (const QString folder = QFileDialog::getExistingDirectory(m_window, tr("Open folder"));
+        !folder.isEmpty())
+        open({folder});
+}
+
+void ReviewOpener::askForFiles()
+{
+    open(QFileDialog::getOpenFileNames(m_window, tr("Open files")));
 }
 
 } // namespace Review

@@ -10,6 +10,7 @@ class QMainWindow;
 
 namespace Review {
 
+class Clock;
 class LoadJob;
 
 /// Loads files for a window, which is covered meanwhile.
@@ -18,13 +19,20 @@ class ReviewOpener : public QObject
     Q_OBJECT
 
 public:
-    explicit ReviewOpener(QMainWindow* window);
+    /// Owns neither. Clocks of cameras count as those of the zone of @p clock, unless they say
+    /// more.
+    ReviewOpener(QMainWindow* window, const Clock& clock);
     ~ReviewOpener() override;
 
     /// Loads files, or the sample when none is named. Not while another load is under way.
     void load(const ReviewFiles& files);
-    /// Loads the files in a folder that the user chooses, and tells him when they cannot be read.
+    /// Loads what the user chose, unless another load is under way, and tells him when it cannot be
+    /// read.
+    void open(const QStringList& paths);
+    /// Lets the user choose a folder, or files.
     void askForFolder();
+    void askForFiles();
+    bool isLoading() const { return m_job != nullptr; }
 
 Q_SIGNALS:
     /// Emitted when a load begins, and before ended().
@@ -36,6 +44,8 @@ private:
     void finish();
 
     QMainWindow* m_window;
+    const Clock& m_clock;
+    QString m_pattern; ///< of the paths of clips, once there is one
     std::unique_ptr<LoadJob> m_job;
 };
 

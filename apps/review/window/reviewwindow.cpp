@@ -1,8 +1,8 @@
 #include "reviewwindow.h"
 
-#include "data/loadjob.h"
 #include "data/sampledata.h"
 #include "export/exportpanel.h"
+#include "footage/loadjob.h"
 #include "lists/devicepane.h"
 #include "lists/eventpane.h"
 #include "lists/problemdock.h"
@@ -23,7 +23,12 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QLocale>
+#include <QMimeData>
 #include <QSettings>
+#include <QUrl>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -47,11 +52,12 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
     , m_toolBar(new TimelineToolBar(m_panes->timeline(), this))
     , m_problems(new ProblemDock(this))
     , m_updates(new UpdateMenu(this, m_status))
-    , m_opener(new ReviewOpener(this))
+    , m_opener(new ReviewOpener(this, m_clock))
 {
     createDarkFusionStyle(dark);
     setCentralWidget(m_panes);
     setStatusBar(m_status);
+    setAcceptDrops(true);
     createToolBar(dark);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     m_menus = new ReviewMenuBar(m_panes->events(), m_panes->devices(), *m_toolBar, m_darkLook,
@@ -97,8 +103,38 @@ void ReviewWindow::showLoaded(const LoadJob& job)
         m_showsSample = job.files().isEmpty();
         m_name = job.files().name();
         showTitle();
+        tellTimeSources(job);
     }
     Q_EMIT loaded(job.error());
+}
+
+void ReviewWindow::tellTimeSources(const LoadJob& job)
+{
+    const QString names[] = {tr("path"), tr("time of creation"), tr("EXIF"), tr("time of change")};
+    QStringList parts;
+    for (int source = 0; source < FootageScan::SourceCount; ++source)
+        if (const qsizetype count = job.timeSources()[source]; count > 0)
+            parts.append(tr("%1: %2").arg(names[source], QLocale().toString(count)));
+    if (!parts.isEmpty())
+        m_status->tell(tr("Where the times of recordings come from: %1; zone: %2")
+                           .arg(parts.join(u", "_s), m_clock.times().zoneName()));
+}
+
+void ReviewWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (!m_opener->isLoading() && std::ranges::any_of(urls, &QUrl::isLocalFile))
+        event->acceptProposedAction();
+}
+
+void ReviewWindow::dropEvent(QDropEvent* event)
+{
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    event->acceptProposedAction();
+    m_opener->open(paths);
 }
 
 void ReviewWindow::showMiddleDay()
@@ -131,7 +167,9 @@ void ReviewWindow::createToolBar(bool dark)
 void ReviewWindow::connectParts()
 {
     connect(m_menus->open(), &QAction::triggered, m_opener, &ReviewOpener::askForFolder);
+    connect(m_menus->openFiles(), &QAction::triggered, m_opener, &ReviewOpener::askForFiles);
     connect(m_opener, &ReviewOpener::loadingChanged, m_menus->open(), &QAction::setDisabled);
+    connect(m_opener, &ReviewOpener::loadingChanged, m_menus->openFiles(), &QAction::setDisabled);
     connect(m_opener, &ReviewOpener::ended, this, &ReviewWindow::showLoaded);
     connect(m_menus->exportPictures(), &QAction::triggered, this, &ReviewWindow::exportPictures);
     connect(&m_panes->events(), &EventPane::exportWanted, m_status->exportPanel(),

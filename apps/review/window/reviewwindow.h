@@ -73,11 +73,15 @@ protected:
     void retranslate() final;
     /// Asks first while pictures are exported.
     void closeEvent(QCloseEvent* event) override;
+    /// Takes files and folders of this machine.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void createToolBar(bool dark);
     void connectParts();
     void showLoaded(const LoadJob& job);
+    void tellTimeSources(const LoadJob& job);
     void showTitle();
     void exportPictures();
     void enableExport();

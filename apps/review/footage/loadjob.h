@@ -1,6 +1,7 @@
 #pragma once
 
-#include "reviewloader.h"
+#include "data/reviewloader.h"
+#include "footagescan.h"
 
 #include <QObject>
 #include <QThread>
@@ -9,14 +10,15 @@
 
 namespace Review {
 
-/// Loads files on a thread of its own, so that the window stays alive.
+/// Loads files, and finds those in folders, on a thread of its own, so that the window stays alive.
 class LoadJob : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Loads the sample when no file is named.
-    explicit LoadJob(const ReviewFiles& files, QObject* parent = nullptr);
+    /// Loads the sample when no file is named. Recordings whose times are without an offset were
+    /// made in @p zone.
+    LoadJob(const ReviewFiles& files, const QTimeZone& zone, QObject* parent = nullptr);
     /// Cancels a load that is under way, and waits for it to end.
     ~LoadJob() override;
 
@@ -33,6 +35,11 @@ public:
     /// Why a file could not be read, or an empty string.
     const QString& error() const { return m_error; }
     const ReviewFiles& files() const { return m_files; }
+    /// How many recordings that were found in folders got their time from where.
+    const std::array<qsizetype, FootageScan::SourceCount>& timeSources() const
+    {
+        return m_timeSources;
+    }
 
 Q_SIGNALS:
     /// Emitted once, from the event loop of the thread that made the job.
@@ -40,11 +47,14 @@ Q_SIGNALS:
 
 private:
     void load();
+    void findFootage();
 
     const ReviewFiles m_files;
+    const QTimeZone m_zone;
     ReviewLoader m_loader;
     ReviewData m_data;
     QString m_error;
+    std::array<qsizetype, FootageScan::SourceCount> m_timeSources{};
     const std::unique_ptr<QThread> m_thread;
 };
 

@@ -1,0 +1,123 @@
+#include "footagescan.h"
+
+#include <QDir>
+#include <QDirIterator>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+namespace {
+
+/// A picture is of an instant; so long it is shown.
+constexpr qint64 pictureTime = 1'000;
+constexpr qint64 longestRecording = qint64(24) * 60 * 60 * 1'000;
+
+/// Of the path of a file, from the name of the folder that was opened on.
+QString cameraOf(const QString& path)
+{
+    static const QRegularExpression dateLike(u"^[\\d._-]+$"_s);
+    const QStringList parts = path.split(u'/');
+    const bool isBelow = parts.size() > 2 && !dateLike.match(parts[1]).hasMatch();
+    return parts[isBelow ? 1 : 0];
+}
+
+/// How long a file lasts that says nothing of it, or does not say the truth.
+qint64 guessedDuration(const FileFacts& facts, qint64 begin, qint64 changed)
+{
+    // A recorder writes to the end of the recording.
+    const bool isPlausible = changed > begin && changed - begin < longestRecording;
+    return facts.fault.isEmpty() && isPlausible ? changed - begin : pictureTime;
+}
+
+} // namespace
+
+FootageScan::FootageScan(PathPattern pattern, QTimeZone zone, FootageIndex& index,
+                         LoadProgress& progress)
+    : m_pattern(std::move(pattern)), m_zone(std::move(zone)), m_index(index), m_progress(progress)
+{}
+
+void FootageScan::scan(const QStringList& paths)
+{
+    const QList<Found> all = list(paths);
+    m_progress.setTotal(all.size());
+    for (const Found& found : all) {
+        if (m_progress.isCancelled())
+            return;
+        add(found);
+        m_progress.add(1);
+    }
+}
+
+QList<FootageScan::Found> FootageScan::list(const QStringList& paths) const
+{
+    QList<Found> all;
+    for (const QString& path : paths) {
+        const QFileInfo root(path);
+        if (root.isFile()) {
+            const QDir folder = root.absoluteDir();
+            if (FileFacts::isFootage(path))
+                all.append({root, folder.dirName() + u'/' + root.fileName()});
+            continue;
+        }
+        const QDir folder(root.absoluteFilePath());
+        QDirIterator files(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext() && !m_progress.isCancelled()) {
+            files.next();
+            if (FileFacts::isFootage(files.fileName()))
+                all.append({files.fileInfo(),
+                            folder.dirName() + u'/' + folder.relativeFilePath(files.filePath())});
+        }
+    }
+    return all;
+}
+
+void FootageScan::add(const Found& found)
+{
+    FileFacts facts;
+    if (const FileFacts* known = m_index.find(found.file)) {
+        facts = *known;
+    } else {
+        facts = FileFacts::of(found.file.filePath(), m_progress.cancelled());
+        if (m_progress.isCancelled())
+            return;
+        m_index.add(found.file, facts);
+    }
+    const bool isPicture = isPictureFile(found.path);
+    const qint64 changed = found.file.lastModified().toMSecsSinceEpoch();
+    const auto match = m_pattern.match(found.path);
+    qint64 duration = isPicture ? pictureTime : facts.duration;
+    qint64 begin = 0;
+    Source source = ChangeTime;
+    if (match) {
+        source = Path;
+        begin = instantOf(match->begin);
+    } else if (facts.created) {
+        source = CreationTime;
+        begin = *facts.created;
+    } else if (facts.taken) {
+        source = Exif;
+        begin = instantOf(*facts.taken);
+    } else {
+        begin = isPicture ? changed : changed - duration;
+    }
+    if (duration <= 0)
+        duration = guessedDuration(facts, begin, changed);
+    if (begin < 0)
+        return; // no time of a camera
+    ++m_sources[source];
+    const bool hasCamera = match && !match->camera.isEmpty();
+    m_recordings.append({hasCamera ? match->camera : cameraOf(found.path),
+                         {found.file.absoluteFilePath(), begin, begin + duration, 0}});
+}
+
+qint64 FootageScan::instantOf(const WallTime& time) const
+{
+    if (time.offset)
+        return time.clock.toMSecsSinceEpoch() - *time.offset * qint64(1'000);
+    return QDateTime(time.clock.date(), time.clock.time(), m_zone).toMSecsSinceEpoch();
+}
+
+} // namespace Review

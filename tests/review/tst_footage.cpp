@@ -1,0 +1,203 @@
+#include "footage/exiftime.h"
+#include "footage/footagescan.h"
+#include "footage/loadjob.h"
+#include "numberedclip.h"
+#include "testsupport.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Review;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString textOf(const std::optional<WallTime>& time)
+{
+    if (!time)
+        return u"none"_s;
+    const QString clock = time->clock.toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s);
+    return time->offset ? clock + u' ' + QString::number(*time->offset) : clock;
+}
+
+/// A JPEG file with nothing but when it was taken. The byte order is that of the first letter.
+QByteArray jpegTakenAt(const QByteArray& order, const QByteArray& time, const QByteArray& offset)
+{
+    const auto number = [&order](quint32 value, int bytes) {
+        QByteArray text;
+        for (int i = 0; i < bytes; ++i)
+            text.append(char(value >> 8 * (order == "MM" ? bytes - 1 - i : i)));
+        return text;
+    };
+    const auto entry = [&](quint32 tag, quint32 type, qsizetype count, quint32 value) {
+        return number(tag, 2) + number(type, 2) + number(quint32(count), 4) + number(value, 4);
+    };
+    constexpr quint32 second = 8 + 2 + 12 + 4;
+    constexpr quint32 texts = second + 2 + 2 * 12 + 4;
+    const QByteArray tiff = order + number(42, 2) + number(8, 4) + number(1, 2) +
+                            entry(0x8769, 4, 1, second) + number(0, 4) + number(2, 2) +
+                            entry(0x9003, 2, time.size() + 1, texts) +
+                            entry(0x9011, 2, offset.size() + 1, texts + quint32(time.size()) + 1) +
+                            number(0, 4) + time + '\0' + offset + '\0';
+    const QByteArray exif = QByteArray("Exif\0\0", 6) + tiff;
+    const auto segment = [](char marker, const QByteArray& content) {
+        const auto size = quint32(content.size()) + 2;
+        return QByteArray("\xFF") + marker + char(size >> 8) + char(size & 0xFF) + content;
+    };
+    return "\xFF\xD8" + segment('\xE0', "JFIF") + segment('\xE1', exif) + "\xFF\xDA";
+}
+
+} // namespace
+
+class TestFootage : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void paths_data();
+    void paths();
+    void ownPattern();
+    void exif();
+    void foldersAreScanned();
+    void whatIsKnownIsKept();
+};
+
+void TestFootage::paths_data()
+{
+    QTest::addColumn<QString>("time");
+    const auto row = [](const char* path, const QString& time) {
+        QTest::newRow(path) << time;
+    };
+    const QString morning = u"2026-03-02 10:15:00.000"_s;
+    row("Gate/VID_20260302_101500.mp4", morning);
+    row("Gate/20260302101500-20260302102000.mkv", morning);
+    row("Gate/2026-03-02/10/15.00.mp4", morning);
+    row("Gate/2026/03/02/10/15.mp4", morning);
+    row("Gate/20200101_000000/cam 2026-03-02 10.15.00 2026-03-02 10.16.00.mp4", morning);
+    row("Gate/2026-03-02_10-15-00-0100.mp4", morning);
+    row("Gate/2026-03-02_10-15-00.250.mp4", u"2026-03-02 10:15:00.250"_s);
+    row("Gate/2026-03-02T10:15:00Z.ts", morning + u" 0"_s);
+    row("Gate/2026-03-02T101500-0330.ts", morning + u" -12600"_s);
+    row("Gate/1772446500.mp4", morning + u" 0"_s);
+    row("Gate/1772446500250.mp4", u"2026-03-02 10:15:00.250 0"_s);
+    row("Gate/20260231_101500.mp4", u"none"_s);
+    row("Gate/20260302_251500.mp4", u"none"_s);
+    row("Gate/clip-0001.mp4", u"none"_s);
+}
+
+void TestFootage::paths()
+{
+    const auto match = PathPattern().match(QString::fromUtf8(QTest::currentDataTag()));
+    QTEST(textOf(match ? std::optional(match->begin) : std::nullopt), "time");
+}
+
+void TestFootage::ownPattern()
+{
+    const PathPattern pattern(u"{camera}/{dd}.{MM}.{yyyy}/{HH}h{mm}.mp4"_s);
+    const auto match = pattern.match(u"all/Gate 2/02.03.2026/10h15.mp4"_s);
+    QVERIFY(match);
+    QCOMPARE(match->camera, u"Gate 2"_s);
+    QCOMPARE(textOf(match->begin), u"2026-03-02 10:15:00.000"_s);
+    QVERIFY(!pattern.match(u"Gate/02.03.2026/10h15.mp4x"_s));
+    QVERIFY(!pattern.match(u"Gate/02.13.2026/10h15.mp4"_s));
+}
+
+void TestFootage::exif()
+{
+    const QByteArray time = "2026:03:02 10:15:00";
+    QCOMPARE(textOf(exifTime(jpegTakenAt("MM", time, "+01:00"))),
+             u"2026-03-02 10:15:00.000 3600"_s);
+    const QByteArray whole = jpegTakenAt("II", time, "");
+    QCOMPARE(textOf(exifTime(whole)), u"2026-03-02 10:15:00.000"_s);
+    QCOMPARE(textOf(exifTime(jpegTakenAt("II", "    :  :     :  :  ", ""))), u"none"_s);
+    // Nothing is read beyond the end, which sanitizers see, and no damage is believed.
+    for (qsizetype size = 0; size < whole.size(); ++size) {
+        QByteArray part = whole.first(size);
+        part.squeeze();
+        const QString text = textOf(exifTime(part));
+        QVERIFY(text == u"none"_s || text.startsWith(u"2026"_s));
+    }
+}
+
+void TestFootage::foldersAreScanned()
+{
+    const QTemporaryDir temporary;
+    const QDir folder(temporary.filePath(u"Site"_s));
+    for (const QString& name : {u"Gate"_s, u"Yard"_s, u"2026-03-02"_s})
+        QVERIFY(folder.mkpath(name));
+    const auto write = [&folder](const QString& name, const QByteArray& content) {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    };
+    constexpr qint64 created = 1'772'446'560'000; // 10:16 UTC
+    QCOMPARE(NumberedClip::write(folder.filePath(u"Gate/20260302_101500.mp4"_s), 50), QString());
+    QCOMPARE(NumberedClip::write(folder.filePath(u"Yard/a.mp4"_s), 25, {.creationTime = created}),
+             QString());
+    QVERIFY(write(u"Yard/b.jpg"_s, jpegTakenAt("II", "2026:03:02 10:17:00", "")));
+    QVERIFY(write(u"2026-03-02/101800.mp4"_s, {}));
+    QVERIFY(write(u"Yard/c.jpeg"_s, {}));
+    QVERIFY(write(u"Yard/notes.txt"_s, "20260302_101500"));
+    QFile unknown(folder.filePath(u"Yard/c.jpeg"_s));
+    QVERIFY(unknown.open(QIODevice::ReadWrite));
+    QVERIFY(unknown.setFileTime(QDateTime::fromMSecsSinceEpoch(created, Qt::UTC),
+                                QFileDevice::FileModificationTime));
+    unknown.close();
+
+    LoadJob job(ReviewFiles::named({folder.path()}), QTimeZone("Europe/Brussels"));
+    QSignalSpy loaded(&job, &LoadJob::loaded);
+    job.start();
+    QVERIFY(loaded.wait());
+    QCOMPARE(job.error(), QString());
+    QStringList found;
+    for (const CorvelGui::TrackDescription& track : job.data().tracks)
+        for (const VideoFile& file : job.data().files[track.identifier])
+            found.append(u"%1 %2 %3 %4"_s.arg(
+                track.name, folder.relativeFilePath(file.path),
+                QDateTime::fromMSecsSinceEpoch(file.begin, Qt::UTC).toString(u"HH:mm:ss"_s),
+                QString::number(file.end - file.begin)));
+    found.sort();
+    QCOMPARE(found,
+             (QStringList{u"Gate Gate/20260302_101500.mp4 09:15:00 2000"_s,
+                          u"Site 2026-03-02/101800.mp4 09:18:00 1000"_s,
+                          u"Yard Yard/a.mp4 10:16:00 1000"_s, u"Yard Yard/b.jpg 09:17:00 1000"_s,
+                          u"Yard Yard/c.jpeg 10:16:00 1000"_s}));
+    QCOMPARE(job.timeSources(), (std::array<qsizetype, FootageScan::SourceCount>{2, 1, 1, 1}));
+
+    LoadJob nothing(ReviewFiles::named({folder.filePath(u"none"_s)}), QTimeZone::utc());
+    QSignalSpy ended(&nothing, &LoadJob::loaded);
+    nothing.start();
+    QVERIFY(ended.wait());
+    QVERIFY(nothing.error().startsWith(u"There are neither recordings nor events in "_s));
+}
+
+void TestFootage::whatIsKnownIsKept()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"deep/index"_s);
+    QFile file(folder.filePath(u"a.mp4"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const FileFacts facts{.duration = 2'000,
+                          .created = 7,
+                          .taken = WallTime{QDateTime({2026, 3, 2}, {10, 15}, Qt::UTC), -60},
+                          .fault = u"x"_s};
+    FootageIndex index(path);
+    index.add(QFileInfo(file), facts);
+    index.save();
+    const FootageIndex known(path);
+    QVERIFY(known.find(QFileInfo(file)));
+    QCOMPARE(*known.find(QFileInfo(file)), facts);
+    QVERIFY(file.resize(1));
+    QVERIFY(!known.find(QFileInfo(file.fileName())));
+
+    QFile saved(path);
+    QVERIFY(saved.resize(saved.size() - 1));
+    QVERIFY(file.resize(0));
+    QVERIFY(!FootageIndex(path).find(QFileInfo(file.fileName())));
+}
+
+QTEST_GUILESS_MAIN(TestFootage)
+#include "tst_footage.moc"
