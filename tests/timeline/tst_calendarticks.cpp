@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTimeZone>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace CorvelGui;
@@ -186,6 +187,8 @@ void TestCalendarTicks::labelsOfRandomViews()
                                                      .arg(view.left)
                                                      .arg(view.right)));
             QVERIFY(!scale.ticks.empty());
+            QVERIFY(std::ranges::adjacent_find(scale.ticks, std::greater_equal(),
+                                               &CalendarTick::instant) == scale.ticks.end());
         }
     }
 }
