@@ -102,6 +102,11 @@ bool PCsvDialog::AddColumnsAtTop() const
     return d->ui.checkBoxAddColumns->isChecked();
 }
 
+bool PCsvDialog::openFile(const QString& fileName)
+{
+    return openWithSystem(fileName);
+}
+
 void PCsvDialog::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -133,7 +138,7 @@ void PCsvDialog::slotAccept()
     }
     // The shell may handle other events meanwhile.
     const auto open = [&] {
-        if (d->ui.checkBoxOpenExcel->isChecked() && !documentOpener()(fileName))
+        if (d->ui.checkBoxOpenExcel->isChecked() && !openFile(fileName))
             qCWarning(dialogsLog, "No program opens %s", qUtf8Printable(fileName));
     };
     whileAlive(this, open, [this] { accept(); });

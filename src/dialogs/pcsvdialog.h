@@ -47,6 +47,9 @@ public:
     bool AddColumnsAtTop() const;
 
 protected:
+    /// Opens what was written, in the program that the system has for it. Returns false if there is
+    /// none.
+    virtual bool openFile(const QString& fileName);
     void changeEvent(QEvent* event) override;
 
 private Q_SLOTS:

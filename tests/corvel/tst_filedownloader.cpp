@@ -1,4 +1,5 @@
 #include "scriptedserver.h"
+#include "testfiles.h"
 #include "testsupport.h"
 
 #include <Corvel/FileDownloader>
@@ -10,11 +11,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
-
 using Corvel::FileDownloader;
 using LocalHttp::Answer;
 using LocalHttp::Misbehaviour;
@@ -25,41 +21,202 @@ namespace {
 
 const QByteArray content(3'000'000, 'n');
 
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
 } // namespace
-
-using Act = std::function<void(QPointer<FileDownloader>&)>;
-Q_DECLARE_METATYPE(Act)
 
 class TestFileDownloader : public WarningFreeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void complete();
-    void faults_data();
-    void faults();
-    void refusals();
-    void interruptions_data();
-    void interruptions();
-#ifdef Q_OS_UNIX
-    void fullDisk();
-#endif
+    void init()
+    {
+        WarningFreeTest::init();
+        Corvel::ProxyUserSettings::m_Settings = {.mode = Corvel::ProxyUserSettings::Mode::None};
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_server = std::make_unique<ScriptedServer>();
+        m_target = m_folder->filePath(u"setup.exe"_s);
+        writeFile(m_target, "old");
+    }
+
+    void complete()
+    {
+        FileDownloader downloader;
+        QSignalSpy progress(&downloader, &FileDownloader::downloadProgress);
+        QSignalSpy finished(&downloader, &FileDownloader::downloadFinished);
+        m_server->script("/file", Answer::redirect("/real"));
+        for (const QByteArray& body : {content, QByteArray()}) {
+            for (const qint64 announced : {qint64(body.size()), qint64(-1)}) {
+                Answer answer = Answer::ok(body);
+                answer.announcedLength = announced;
+                m_server->script("/real", answer);
+                QVERIFY(downloader.downloadFile(m_server->address(u"/file"_s), m_target));
+                QVERIFY(!downloader.downloadFile(m_server->address(u"/file"_s), m_target));
+                QTRY_VERIFY(!downloader.isBusy());
+                QCOMPARE(finished.takeFirst(), QVariantList{m_target});
+                QCOMPARE(readFile(m_target), body);
+                QCOMPARE(files(), QStringList{u"setup.exe"_s});
+                QCOMPARE(progress.last().last().toLongLong(), body.isEmpty() ? -1 : announced);
+            }
+        }
+    }
+
+    void faults_data()
+    {
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<QString>("text");
+
+        const auto row = [](Misbehaviour how, const QString& text) {
+            QTest::addRow("%s", qPrintable(LocalHttp::misbehaviourNames().at(int(how))))
+                << misbehave(how, {.target = "/file"}, Answer::ok(content)) << text;
+        };
+        row(Misbehaviour::Never, u"The server does not answer."_s);
+        row(Misbehaviour::Slow, u"The server did not finish in time."_s);
+        row(Misbehaviour::Endless, u"The server sends more than 4.00 MiB."_s);
+        row(Misbehaviour::Cut, u"The connection was closed too early."_s);
+        row(Misbehaviour::Length, u"The connection was closed too early."_s);
+        row(Misbehaviour::NotFound, u"The server answered with status 404."_s);
+        row(Misbehaviour::ServerError, u"The server answered with status 500."_s);
+        row(Misbehaviour::RedirectLoop, u"The server leads in circles."_s);
+        row(Misbehaviour::RedirectFile, u"The server leads to an address that is not safe."_s);
+
+        Answer answer = Answer::ok("short");
+        answer.announcedLength = 1LL << 40;
+        QTest::newRow("announced too large") << answer << u"The server sends more than 4.00 MiB."_s;
+        answer = Answer::error(204, "No Content");
+        QTest::newRow("no content") << answer << u"The server answered with status 204."_s;
+        answer = Answer::ok("2DC6C1\r\n" + content);
+        answer.announcedLength = -1;
+        answer.headers.append(LocalHttp::Header{"Transfer-Encoding", "chunked"});
+        QTest::newRow("cut within a chunk") << answer << u"The connection was closed too early."_s;
+    }
+
+    void faults()
+    {
+        QFETCH(Answer, answer);
+        m_server->script("/file", answer);
+
+        FileDownloader downloader;
+        const bool slow = answer.pace == Answer::Pace::Slow;
+        downloader.setLimits({.deadline = slow ? 300ms : 30s,
+                              .silence = answer.pace == Answer::Pace::Never ? 100ms : 30s,
+                              .size = 4 * 1024 * 1024});
+        QTEST(failure(downloader), "text");
+    }
+
+    void refusals()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"directory"_s));
+        const QUrl url(u"http://127.0.0.1/file"_s);
+        const QString fresh = m_folder->filePath(u"fresh"_s);
+        QFile::setPermissions(m_target, QFile::ReadOwner);
+
+        FileDownloader downloader;
+        QVERIFY(!downloader.downloadFile(QUrl(u"file:///etc/hostname"_s), fresh));
+        QVERIFY(!downloader.downloadFile(QUrl(u"http:///file"_s), fresh));
+        QVERIFY(!downloader.downloadFile(url, QString()));
+        QVERIFY(!downloader.downloadFile(url, m_folder->filePath(u"directory"_s)));
+        QVERIFY(!downloader.downloadFile(url, m_folder->filePath(u"nowhere/file"_s)));
+        QVERIFY(!downloader.downloadFile(url, m_target));
+        QVERIFY(!downloader.isBusy());
+        QCOMPARE(files(), (QStringList{u"directory"_s, u"setup.exe"_s}));
+        QFile::setPermissions(m_target, QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    void interruptions_data()
+    {
+        // What is done within which signal, and how the downloads end.
+        const auto rows =
+            u"delete progress:|quit progress:|cancel progress: error|protect progress: error|"
+            "delete finished: finished|quit finished: finished|cancel finished: finished|"
+            "start finished: finished finished|delete error: error|quit error: error|"
+            "cancel error: error|start error: error finished"_s;
+        QTest::addColumn<QString>("act");
+        QTest::addColumn<QString>("at");
+        QTest::addColumn<QString>("outcomes");
+        for (const QString& row : rows.split(u'|'))
+            QTest::newRow(qPrintable(row))
+                << row.section(u' ', 0, 0) << row.section(u' ', 1, 1).chopped(1)
+                << row.section(u' ', 2);
+    }
+
+    void interruptions()
+    {
+        QFETCH(const QString, act);
+        QFETCH(QString, at);
+        m_server->script("/file", content,
+                         at == "error"_L1 ? Misbehaviour::Cut : Misbehaviour::None);
+
+        QPointer<FileDownloader> downloader = new FileDownloader;
+        const auto start = [&] {
+            return downloader->downloadFile(m_server->address(u"/file"_s), m_target);
+        };
+        const auto interrupt = [&] {
+            if (act == "delete"_L1) {
+                delete downloader;
+            } else if (act == "quit"_L1) {
+                QCoreApplication::exit();
+            } else if (act == "cancel"_L1) {
+                downloader->cancelDownload();
+                downloader->cancelDownload();
+                QCOMPARE(files(), QStringList{u"setup.exe"_s});
+            } else if (act == "start"_L1) {
+                m_server->script("/file", content);
+                QVERIFY(start());
+            } else {
+                QFile::setPermissions(m_target, QFile::ReadOwner);
+            }
+        };
+        QStringList outcomes;
+        const auto happens = [&](const QString& what) {
+            if (what != "progress"_L1)
+                outcomes.append(what);
+            if (what == at && std::exchange(at, {}) == what)
+                interrupt();
+            if (what != "progress"_L1 && (!downloader || !downloader->isBusy()))
+                QCoreApplication::exit();
+        };
+        connect(downloader, &FileDownloader::downloadProgress, this,
+                [&] { happens(u"progress"_s); });
+        connect(downloader, &FileDownloader::downloadError, this, [&] { happens(u"error"_s); });
+        connect(downloader, &FileDownloader::downloadFinished, this,
+                [&] { happens(u"finished"_s); });
+        connect(downloader, &QObject::destroyed, this, [] { QCoreApplication::exit(); });
+        QVERIFY(start());
+        QCoreApplication::exec();
+        delete downloader;
+
+        QTEST(outcomes.join(u' '), "outcomes");
+        QCOMPARE(readFile(m_target), outcomes.contains("finished"_L1) ? content : "old");
+        QCOMPARE(files(), QStringList{u"setup.exe"_s});
+        QFile::setPermissions(m_target, QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    void fullDisk()
+    {
+        m_server->script("/file", content);
+        if (!limitFiles(1'000'000))
+            QSKIP("This cannot be had here");
+        FileDownloader downloader;
+        const QString text = failure(downloader);
+        limitFiles(0);
+        QVERIFY2(text.startsWith("The file cannot be written: "_L1), qPrintable(text));
+    }
 
 private:
-    QString failure(FileDownloader& downloader);
+    // The text with which a download fails that leaves everything as it was.
+    QString failure(FileDownloader& downloader)
+    {
+        QSignalSpy failed(&downloader, &FileDownloader::downloadError);
+        QSignalSpy finished(&downloader, &FileDownloader::downloadFinished);
+        const bool started = downloader.downloadFile(m_server->address(u"/file"_s), m_target);
+        const bool ended = QTest::qWaitFor([&] { return !downloader.isBusy(); });
+        const bool unchanged =
+            readFile(m_target) == "old" && files() == QStringList{u"setup.exe"_s};
+        if (!started || !ended || failed.size() != 1 || !finished.isEmpty() || !unchanged)
+            return u"not a clean failure"_s;
+        return failed.first().first().toString();
+    }
+
     QStringList files() const
     {
         return QDir(m_folder->path())
@@ -70,194 +227,6 @@ private:
     std::unique_ptr<ScriptedServer> m_server;
     QString m_target;
 };
-
-void TestFileDownloader::init()
-{
-    WarningFreeTest::init();
-    Corvel::ProxyUserSettings::m_Settings = {.mode = Corvel::ProxyUserSettings::Mode::None};
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_server = std::make_unique<ScriptedServer>();
-    m_target = m_folder->filePath(u"setup.exe"_s);
-    write(m_target, "old");
-}
-
-// The text with which a download fails that leaves everything as it was.
-QString TestFileDownloader::failure(FileDownloader& downloader)
-{
-    QSignalSpy failed(&downloader, &FileDownloader::downloadError);
-    QSignalSpy finished(&downloader, &FileDownloader::downloadFinished);
-    const bool started = downloader.downloadFile(m_server->address(u"/file"_s), m_target);
-    const bool ended = QTest::qWaitFor([&] { return !downloader.isBusy(); });
-    const bool unchanged = read(m_target) == "old" && files() == QStringList{u"setup.exe"_s};
-    if (!started || !ended || failed.size() != 1 || !finished.isEmpty() || !unchanged)
-        return u"not a clean failure"_s;
-    return failed.first().first().toString();
-}
-
-void TestFileDownloader::complete()
-{
-    FileDownloader downloader;
-    QSignalSpy progress(&downloader, &FileDownloader::downloadProgress);
-    QSignalSpy finished(&downloader, &FileDownloader::downloadFinished);
-    m_server->script("/file", Answer::redirect("/real"));
-    for (const QByteArray& body : {content, QByteArray()}) {
-        for (const qint64 announced : {qint64(body.size()), qint64(-1)}) {
-            Answer answer = Answer::ok(body);
-            answer.announcedLength = announced;
-            m_server->script("/real", answer);
-            QVERIFY(downloader.downloadFile(m_server->address(u"/file"_s), m_target));
-            QVERIFY(!downloader.downloadFile(m_server->address(u"/file"_s), m_target));
-            QTRY_VERIFY(!downloader.isBusy());
-            QCOMPARE(finished.takeFirst(), QVariantList{m_target});
-            QCOMPARE(read(m_target), body);
-            QCOMPARE(files(), QStringList{u"setup.exe"_s});
-            QCOMPARE(progress.last().last().toLongLong(), body.isEmpty() ? -1 : announced);
-        }
-    }
-}
-
-void TestFileDownloader::faults_data()
-{
-    QTest::addColumn<Answer>("answer");
-    QTest::addColumn<QString>("text");
-
-    const auto row = [](Misbehaviour how, const QString& text) {
-        QTest::addRow("%s", qPrintable(LocalHttp::misbehaviourNames().at(int(how))))
-            << misbehave(how, {.target = "/file"}, Answer::ok(content)) << text;
-    };
-    row(Misbehaviour::Never, u"The server does not answer."_s);
-    row(Misbehaviour::Slow, u"The server did not finish in time."_s);
-    row(Misbehaviour::Endless, u"The server sends more than 4.00 MiB."_s);
-    row(Misbehaviour::Cut, u"The connection was closed too early."_s);
-    row(Misbehaviour::Length, u"The connection was closed too early."_s);
-    row(Misbehaviour::NotFound, u"The server answered with status 404."_s);
-    row(Misbehaviour::ServerError, u"The server answered with status 500."_s);
-    row(Misbehaviour::RedirectLoop, u"The server leads in circles."_s);
-    row(Misbehaviour::RedirectFile, u"The server leads to an address that is not safe."_s);
-
-    Answer answer = Answer::ok("short");
-    answer.announcedLength = 1LL << 40;
-    QTest::newRow("announced too large") << answer << u"The server sends more than 4.00 MiB."_s;
-    answer = Answer::error(204, "No Content");
-    QTest::newRow("no content") << answer << u"The server answered with status 204."_s;
-    answer = Answer::ok("2DC6C1\r\n" + content);
-    answer.announcedLength = -1;
-    answer.headers.append(LocalHttp::Header{"Transfer-Encoding", "chunked"});
-    QTest::newRow("cut within a chunk") << answer << u"The connection was closed too early."_s;
-}
-
-void TestFileDownloader::faults()
-{
-    QFETCH(Answer, answer);
-    m_server->script("/file", answer);
-
-    FileDownloader downloader;
-    const bool slow = answer.pace == Answer::Pace::Slow;
-    downloader.setLimits({.deadline = slow ? 300ms : 30s,
-                          .silence = answer.pace == Answer::Pace::Never ? 100ms : 30s,
-                          .size = 4 * 1024 * 1024});
-    QTEST(failure(downloader), "text");
-}
-
-void TestFileDownloader::refusals()
-{
-    QVERIFY(QDir(m_folder->path()).mkdir(u"directory"_s));
-    const QUrl url(u"http://127.0.0.1/file"_s);
-    const QString fresh = m_folder->filePath(u"fresh"_s);
-    QFile::setPermissions(m_target, QFile::ReadOwner);
-
-    FileDownloader downloader;
-    QVERIFY(!downloader.downloadFile(QUrl(u"file:///etc/hostname"_s), fresh));
-    QVERIFY(!downloader.downloadFile(QUrl(u"http:///file"_s), fresh));
-    QVERIFY(!downloader.downloadFile(url, QString()));
-    QVERIFY(!downloader.downloadFile(url, m_folder->filePath(u"directory"_s)));
-    QVERIFY(!downloader.downloadFile(url, m_folder->filePath(u"nowhere/file"_s)));
-    QVERIFY(!downloader.downloadFile(url, m_target));
-    QVERIFY(!downloader.isBusy());
-    QCOMPARE(files(), (QStringList{u"directory"_s, u"setup.exe"_s}));
-    QFile::setPermissions(m_target, QFile::ReadOwner | QFile::WriteOwner);
-}
-
-void TestFileDownloader::interruptions_data()
-{
-    QTest::addColumn<QString>("at");
-    QTest::addColumn<Act>("act");
-    QTest::addColumn<QString>("outcomes");
-
-    const auto row = [](const char* name, const QString& at, const QString& outcomes, Act act) {
-        QTest::addRow("%s at %s", name, qPrintable(at)) << at << act << outcomes;
-    };
-    const QString progress = u"progress"_s;
-    const QString finished = u"finished"_s;
-    const QString error = u"error"_s;
-    for (const QString& at : {progress, finished, error}) {
-        const QString outcome = at == progress ? QString() : at;
-        row("delete", at, outcome, [](auto& downloader) { delete downloader; });
-        row("quit", at, outcome, [](auto&) { QCoreApplication::exit(); });
-        row("cancel", at, at == progress ? error : outcome, [this](auto& downloader) {
-            downloader->cancelDownload();
-            downloader->cancelDownload();
-            QCOMPARE(files(), QStringList{u"setup.exe"_s});
-        });
-        if (at != progress) {
-            row("start", at, at + u' ' + finished, [this](auto& downloader) {
-                m_server->script("/file", content);
-                QVERIFY(downloader->downloadFile(m_server->address(u"/file"_s), m_target));
-            });
-        }
-    }
-    row("protect", progress, error,
-        [this](auto&) { QFile::setPermissions(m_target, QFile::ReadOwner); });
-}
-
-void TestFileDownloader::interruptions()
-{
-    QFETCH(QString, at);
-    QFETCH(Act, act);
-    m_server->script("/file", content, at == "error"_L1 ? Misbehaviour::Cut : Misbehaviour::None);
-
-    QPointer<FileDownloader> downloader = new FileDownloader;
-    QStringList outcomes;
-    const auto happens = [&](const QString& what) {
-        if (what != "progress"_L1)
-            outcomes.append(what);
-        if (what == at && std::exchange(at, {}) == what)
-            act(downloader);
-        if (what != "progress"_L1 && (!downloader || !downloader->isBusy()))
-            QCoreApplication::exit();
-    };
-    connect(downloader, &FileDownloader::downloadProgress, this, [&] { happens(u"progress"_s); });
-    connect(downloader, &FileDownloader::downloadError, this, [&] { happens(u"error"_s); });
-    connect(downloader, &FileDownloader::downloadFinished, this, [&] { happens(u"finished"_s); });
-    connect(downloader, &QObject::destroyed, this, [] { QCoreApplication::exit(); });
-    QVERIFY(downloader->downloadFile(m_server->address(u"/file"_s), m_target));
-    QCoreApplication::exec();
-    delete downloader;
-
-    QTEST(outcomes.join(u' '), "outcomes");
-    QCOMPARE(read(m_target), outcomes.contains("finished"_L1) ? content : "old");
-    QCOMPARE(files(), QStringList{u"setup.exe"_s});
-    QFile::setPermissions(m_target, QFile::ReadOwner | QFile::WriteOwner);
-}
-
-#ifdef Q_OS_UNIX
-void TestFileDownloader::fullDisk()
-{
-    m_server->script("/file", content);
-    // A file that may grow no more fails like one on a full disk.
-    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit former;
-    getrlimit(RLIMIT_FSIZE, &former);
-    const rlimit tight{.rlim_cur = 1'000'000, .rlim_max = former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &tight);
-
-    FileDownloader downloader;
-    const QString text = failure(downloader);
-    setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, formerHandler);
-    QVERIFY2(text.startsWith("The file cannot be written: "_L1), qPrintable(text));
-}
-#endif
 
 QTEST_GUILESS_MAIN(TestFileDownloader)
 #include "tst_filedownloader.moc"

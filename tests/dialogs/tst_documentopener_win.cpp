@@ -17,36 +17,33 @@ class TestDocumentOpener : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsTheRegisteredProgram();
+    void startsTheRegisteredProgram()
+    {
+        const QTemporaryDir directory;
+        const QString file =
+            QDir::toNativeSeparators(directory.filePath(u"Liste für Büro.corvelguitest"_s));
+        QFile document(file);
+        QVERIFY(document.open(QIODevice::WriteOnly));
+        document.close();
+        QVERIFY(!CorvelGui::openWithSystem(file)); // nobody opens it yet
+
+        QSettings classes(u"HKEY_CLASSES_ROOT"_s, QSettings::NativeFormat);
+        classes.setValue(u".corvelguitest/."_s, u"CorvelGuiTest"_s);
+        classes.setValue(
+            u"CorvelGuiTest/shell/open/command/."_s,
+            u"\"%1\" --opened \"%2\""_s.arg(
+                QDir::toNativeSeparators(QCoreApplication::applicationFilePath()), u"%1"_s));
+        classes.sync();
+        const bool opened = CorvelGui::openWithSystem(file);
+        QFile record(directory.filePath(u"opened"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(!opened || record.size() > 0, 20'000);
+        classes.remove(u".corvelguitest"_s);
+        classes.remove(u"CorvelGuiTest"_s);
+        QVERIFY(opened);
+        QVERIFY(record.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(record.readAll()), file);
+    }
 };
-
-void TestDocumentOpener::startsTheRegisteredProgram()
-{
-    const QTemporaryDir directory;
-    const QString file =
-        QDir::toNativeSeparators(directory.filePath(u"Liste für Büro.corvelguitest"_s));
-    QFile document(file);
-    QVERIFY(document.open(QIODevice::WriteOnly));
-    document.close();
-    CorvelGui::setDocumentOpener(nullptr);
-    QVERIFY(!CorvelGui::documentOpener()(file)); // nobody opens it yet
-
-    QSettings classes(u"HKEY_CLASSES_ROOT"_s, QSettings::NativeFormat);
-    classes.setValue(u".corvelguitest/."_s, u"CorvelGuiTest"_s);
-    classes.setValue(
-        u"CorvelGuiTest/shell/open/command/."_s,
-        u"\"%1\" --opened \"%2\""_s.arg(
-            QDir::toNativeSeparators(QCoreApplication::applicationFilePath()), u"%1"_s));
-    classes.sync();
-    const bool opened = CorvelGui::documentOpener()(file);
-    QFile record(directory.filePath(u"opened"_s));
-    QTRY_VERIFY_WITH_TIMEOUT(!opened || record.size() > 0, 20'000);
-    classes.remove(u".corvelguitest"_s);
-    classes.remove(u"CorvelGuiTest"_s);
-    QVERIFY(opened);
-    QVERIFY(record.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(record.readAll()), file);
-}
 
 int main(int argc, char** argv)
 {

@@ -85,209 +85,193 @@ class TestBusyIndicator : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void ring();
-    void ringInTheDark();
-    void background();
-    void delay();
-    void parents();
-    void keyboard();
-    void focusGoesBack();
-    void percentage();
-};
-
-void TestBusyIndicator::ring()
-{
-    QWidget white;
-    white.setPalette(Qt::white);
-    white.resize(201, 160);
-    white.show();
-    // Steps, and where the arc begins and ends in degrees, clockwise from three o'clock.
-    for (const auto& [steps, begin, end] :
-         {std::tuple(1, 0, 11), {5, 0, 54}, {20, 144, 216}, {38, 338, 410}, {40, 0, 72}}) {
-        Overlay overlay(&white);
-        overlay.show();
-        overlay.step(steps);
-        for (const int radius : {37, 43}) {
-            for (const int degrees : {begin + 4, end - 4})
-                QCOMPARE(overlay.colorAt(degrees, radius), arc);
-            for (const int degrees : {begin - 4, end + 4})
-                QCOMPARE(overlay.colorAt(degrees, radius), track);
-        }
-        for (const int degrees : {45, 135, 225, 315})
+    void ring()
+    {
+        QWidget white;
+        white.setPalette(Qt::white);
+        white.resize(201, 160);
+        white.show();
+        // Steps, and where the arc begins and ends in degrees, clockwise from three o'clock.
+        for (const auto& [steps, begin, end] :
+             {std::tuple(1, 0, 11), {5, 0, 54}, {20, 144, 216}, {38, 338, 410}, {40, 0, 72}}) {
+            Overlay overlay(&white);
+            overlay.show();
+            overlay.step(steps);
+            for (const int radius : {37, 43}) {
+                for (const auto& [degrees, color] : {std::pair(begin + 4, arc),
+                                                     {end - 4, arc},
+                                                     {begin - 4, track},
+                                                     {end + 4, track}})
+                    QCOMPARE(overlay.colorAt(degrees, radius), color);
+            }
             for (const int radius : {30, 50})
-                QCOMPARE(overlay.colorAt(degrees, radius), dimmedWhite);
+                QCOMPARE(overlay.colorAt(45, radius), dimmedWhite);
+        }
     }
-}
 
-void TestBusyIndicator::ringInTheDark()
-{
-    QWidget dark;
-    dark.setPalette(QColor(34, 37, 41));
-    dark.resize(201, 160);
-    dark.show();
-    Overlay overlay(&dark);
-    overlay.show();
-    overlay.step(1);
-    double rim = 0; // the pixels do not lie along the ring
-    for (const double radius : {45.5, 46.0, 46.5, 47.0, 47.5})
-        rim = std::max(rim, contrast(overlay.colorAt(180, radius), track));
-    QCOMPARE_GE(rim, 3);
-}
+    void ringInTheDark()
+    {
+        QWidget dark;
+        dark.setPalette(QColor(34, 37, 41));
+        dark.resize(201, 160);
+        dark.show();
+        Overlay overlay(&dark);
+        overlay.show();
+        overlay.step(1);
+        double rim = 0; // the pixels do not lie along the ring
+        for (const double radius : {45.5, 46.0, 46.5, 47.0, 47.5})
+            rim = std::max(rim, contrast(overlay.colorAt(180, radius), track));
+        QCOMPARE_GE(rim, 3);
+    }
 
-void TestBusyIndicator::background()
-{
-    Window window;
-    Overlay overlay(window.panel);
-    overlay.show();
-    const auto corner = [&] {
-        return window.panel->grab().toImage().pixelColor(1, 1);
-    };
-    QCOMPARE(corner(), dimmedWhite);
-    QPixmap red(1, 1);
-    red.fill(Qt::red);
-    overlay.setBackgroundImage(red);
-    overlay.step(1);
-    QCOMPARE(corner(), QColor(243, 8, 8));
-    overlay.setBackgroundImage({});
-    overlay.step(2);
-    QCOMPARE(corner(), dimmedWhite);
-}
-
-void TestBusyIndicator::delay()
-{
-    Window window;
-    Overlay overlay(window.panel);
-    const auto hasRing = [&overlay] {
-        return overlay.colorAt(180) == track;
-    };
-    overlay.setDelay(300ms);
-    QElapsedTimer time;
-    time.start();
-    overlay.show();
-    QVERIFY(!hasRing() || time.hasExpired(300));
-    QTRY_VERIFY(hasRing());
-    QVERIFY(time.hasExpired(299));
-    overlay.hide();
-    overlay.show();
-    QVERIFY(hasRing());
-    overlay.setFinished();
-    QVERIFY(overlay.isHidden());
-    QCOMPARE(overlay.colorAt(180), QColor(Qt::white));
-}
-
-void TestBusyIndicator::parents()
-{
-    QWidget other;
-    other.show();
-    QPointer<BusyIndicator> overlay;
+    void background()
     {
         Window window;
-        QWidget* panel = window.panel;
-        overlay = new BusyIndicator(panel);
-        panel->resize(400, 250);
-        QCOMPARE(overlay->geometry(), panel->rect());
-        auto* late = new QLabel(panel);
-        QCOMPARE(panel->children().constLast(), overlay);
-
-        overlay->setParent(&other);
-        QCOMPARE(overlay->size(), other.size());
-        panel->resize(100, 90);
-        delete late;
-        // A window with a frame cannot be narrow everywhere.
-        other.resize(250, 160);
-        QCOMPARE(overlay->size(), QSize(250, 160));
-        new QLabel(&other);
-        QCOMPARE(other.children().constLast(), overlay);
-
-        overlay->setParent(panel);
-        overlay->show();
-        QCOMPARE(overlay->size(), panel->size());
+        Overlay overlay(window.panel);
+        overlay.show();
+        const auto corner = [&] {
+            return window.panel->grab().toImage().pixelColor(1, 1);
+        };
+        QPixmap red(1, 1);
+        red.fill(Qt::red);
+        for (const auto& [image, color] : {std::pair(QPixmap(), dimmedWhite),
+                                           {red, QColor(243, 8, 8)},
+                                           {QPixmap(), dimmedWhite}}) {
+            overlay.setBackgroundImage(image);
+            overlay.step(2);
+            QCOMPARE(corner(), color);
+        }
     }
-    QVERIFY(!overlay);
-}
 
-void TestBusyIndicator::keyboard()
-{
-    Window window;
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    BusyIndicator overlay(window.panel);
-    BusyIndicator another(window.panel);
-    overlay.show();
-    QCOMPARE(focus(), &overlay);
-    QTest::keyClicks(focus(), u"ab"_s);
-    QTest::keyClicks(window.second, u"c"_s);
-    QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
-    QCOMPARE(window.first->text() + window.second->text(), QString());
-    QVERIFY(!window.button->isDown());
+    void delay()
+    {
+        Window window;
+        Overlay overlay(window.panel);
+        const auto hasRing = [&overlay] {
+            return overlay.colorAt(180) == track;
+        };
+        overlay.setDelay(300ms);
+        QElapsedTimer time;
+        time.start();
+        overlay.show();
+        QVERIFY(!hasRing() || time.hasExpired(300));
+        QTRY_VERIFY(hasRing());
+        QVERIFY(time.hasExpired(299));
+        overlay.hide();
+        overlay.show();
+        QVERIFY(hasRing());
+        overlay.setFinished();
+        QVERIFY(overlay.isHidden());
+        QCOMPARE(overlay.colorAt(180), QColor(Qt::white));
+    }
 
-    // Tab leaves for what is not covered, and comes back to the overlay.
-    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
-        QTest::keyClick(focus(), key);
-        QCOMPARE(focus(), window.outside);
-        QTest::keyClick(focus(), key);
+    void parents()
+    {
+        QWidget other;
+        other.show();
+        QPointer<BusyIndicator> overlay;
+        {
+            Window window;
+            QWidget* panel = window.panel;
+            overlay = new BusyIndicator(panel);
+            // A window with a frame cannot be narrow everywhere.
+            for (QWidget* parent : {panel, &other, panel}) {
+                overlay->setParent(parent);
+                QCOMPARE(overlay->size(), parent->size());
+                (parent == panel ? &other : panel)->resize(300, 170); // no longer its parent
+                new QLabel(parent == panel ? &other : panel);
+                parent->resize(parent->size() + QSize(50, 10));
+                QCOMPARE(overlay->size(), parent->size());
+                new QLabel(parent);
+                QCOMPARE(parent->children().constLast(), overlay);
+            }
+        }
+        QVERIFY(!overlay);
+    }
+
+    void keyboard()
+    {
+        Window window;
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        BusyIndicator overlay(window.panel);
+        BusyIndicator another(window.panel);
+        overlay.show();
         QCOMPARE(focus(), &overlay);
-    }
-    window.second->setFocus();
-    QCOMPARE(focus(), &overlay);
-    // Two of them hand the focus on instead of fighting for it.
-    another.show();
-    overlay.hide();
-    QCOMPARE(focus(), &another);
-    another.hide();
-    QCOMPARE(focus(), window.second);
-    QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
-    QVERIFY(window.button->isDown());
-}
+        QTest::keyClicks(focus(), u"ab"_s);
+        QTest::keyClicks(window.second, u"c"_s);
+        QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+        QCOMPARE(window.first->text() + window.second->text(), QString());
+        QVERIFY(!window.button->isDown());
 
-void TestBusyIndicator::focusGoesBack()
-{
-    Window window;
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    auto* overlay = new BusyIndicator(window.panel);
-    overlay->show();
-    overlay->hide();
-    QCOMPARE(focus(), window.first);
-    // Not from where the user went, and not to what is gone.
-    overlay->show();
-    window.outside->setFocus();
-    overlay->hide();
-    QCOMPARE(focus(), window.outside);
-    window.first->setFocus();
-    overlay->show();
-    delete window.first;
-    overlay->hide();
-    QVERIFY(focus() != overlay);
-    // When the overlay moves away, when it is deleted, and when all of it is.
-    for (const bool moves : {true, false}) {
+        // Tab leaves for what is not covered, and comes back to the overlay.
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+            QTest::keyClick(focus(), key);
+            QCOMPARE(focus(), window.outside);
+            QTest::keyClick(focus(), key);
+            QCOMPARE(focus(), &overlay);
+        }
         window.second->setFocus();
-        overlay->setParent(window.panel);
-        overlay->show();
-        QCOMPARE(focus(), overlay);
-        if (moves)
-            overlay->setParent(nullptr);
-        else
-            delete overlay;
-        QTRY_COMPARE(focus(), window.second);
+        QCOMPARE(focus(), &overlay);
+        // Two of them hand the focus on instead of fighting for it.
+        another.show();
+        overlay.hide();
+        QCOMPARE(focus(), &another);
+        another.hide();
+        QCOMPARE(focus(), window.second);
+        QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+        QVERIFY(window.button->isDown());
     }
-    (new BusyIndicator(window.panel))->show();
-    delete window.panel;
-    QCoreApplication::processEvents();
-}
 
-void TestBusyIndicator::percentage()
-{
-    PFractionalProgressBar bar;
-    for (const auto& [minimum, maximum, value, text] : {std::tuple(0, 100, -1, "-1.0%"),
-                                                        {0, 3, 1, "33.3%"},
-                                                        {0, 3, 2, "66.7%"},
-                                                        {-7, -3, -3, "100.0%"},
-                                                        {INT_MIN, INT_MAX, 0, "50.0%"},
-                                                        {5, 5, 5, ""}}) {
-        bar.setRange(minimum, maximum);
-        bar.setValue(value);
-        QCOMPARE(bar.text(), QString::fromLatin1(text));
+    void focusGoesBack()
+    {
+        Window window;
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto* overlay = new BusyIndicator(window.panel);
+        overlay->show();
+        overlay->hide();
+        QCOMPARE(focus(), window.first);
+        // Not from where the user went, and not to what is gone.
+        overlay->show();
+        window.outside->setFocus();
+        overlay->hide();
+        QCOMPARE(focus(), window.outside);
+        window.first->setFocus();
+        overlay->show();
+        delete window.first;
+        overlay->hide();
+        QVERIFY(focus() != overlay);
+        // When the overlay moves away, when it is deleted, and when all of it is.
+        for (const bool moves : {true, false}) {
+            window.second->setFocus();
+            overlay->setParent(window.panel);
+            overlay->show();
+            QCOMPARE(focus(), overlay);
+            if (moves)
+                overlay->setParent(nullptr);
+            else
+                delete overlay;
+            QTRY_COMPARE(focus(), window.second);
+        }
+        (new BusyIndicator(window.panel))->show();
+        delete window.panel;
+        QCoreApplication::processEvents();
     }
-}
+
+    void percentage()
+    {
+        PFractionalProgressBar bar;
+        for (const auto& [minimum, maximum, value, text] : {std::tuple(0, 100, -1, "-1.0%"),
+                                                            {0, 3, 1, "33.3%"},
+                                                            {0, 3, 2, "66.7%"},
+                                                            {-7, -3, -3, "100.0%"},
+                                                            {INT_MIN, INT_MAX, 0, "50.0%"},
+                                                            {5, 5, 5, ""}}) {
+            bar.setRange(minimum, maximum);
+            bar.setValue(value);
+            QCOMPARE(bar.text(), QString::fromLatin1(text));
+        }
+    }
+};
 
 QTEST_MAIN(TestBusyIndicator)
 #include "tst_busyindicator.moc"

@@ -1,6 +1,7 @@
 #include "data/reviewloader.h"
 #include "export/exportdialog.h"
 #include "samplewindow.h"
+#include "testfiles.h"
 #include "testsupport.h"
 #include "times.h"
 #include "useranswers.h"
@@ -10,7 +11,6 @@
 #include <CorvelGui/FilterLineEdit>
 
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -25,224 +25,184 @@ using namespace Qt::StringLiterals;
 using namespace Review;
 using CorvelGui::TimeSpan;
 
-Q_DECLARE_METATYPE(QList<CorvelGui::TimeSpan>)
-
 class TestReviewExport : public WarningFreeTest
 {
     Q_OBJECT
 
-public:
-    /// Is told of folders that are opened.
-    Q_INVOKABLE void openFolder(const QUrl& folder) { m_opened = folder.toLocalFile(); }
-
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase() { QDesktopServices::unsetUrlHandler(u"file"_s); }
-    void pictureTimes_data();
-    void pictureTimes();
-    void exportEnds_data();
-    void exportEnds();
-    void picturesAreAsked();
-    void quittingIsAsked();
-    void eventsComeBack();
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
+
+    void pictureTimes()
+    {
+        const std::tuple<int, QList<TimeSpan>, QString> rows[] = {
+            {2, {}, u""_s},
+            {3, {{0, 30}}, u"10 13 16 19"_s},
+            {5, {{0, 30}}, u"10 15"_s},
+            {2, {{11, 13}, {14, 15}, {19, 30}}, u"11 14 19"_s},
+            {2, {{8, 13}, {14, 18}}, u"10 12 14 16"_s},
+            {4, {{10, 12}, {13, 18}}, u"10 14"_s}, // a pause shorter than the interval
+            {1, {{5, 10}, {20, 30}}, u""_s}};
+        for (const auto& [interval, recorded, expected] : rows) {
+            const PictureTimes times({10, 20}, interval, recorded);
+            QStringList texts;
+            for (const qint64 time : times.all())
+                texts.append(QString::number(time));
+            QCOMPARE(texts.join(u' '), expected);
+            QCOMPARE(times.count(), texts.size());
+        }
+    }
+
+    void exportEnds()
+    {
+        using enum PictureExport::Outcome;
+        const QString existing = u"Gate__1___2026-03-02T000004Z.png"_s;
+        // What is in the way, after how many pictures the user cancels, and how many files there
+        // are at the end.
+        const std::tuple<QString, int, PictureExport::Outcome, int> rows[] = {
+            {{}, -1, Complete, 6},
+            {{}, 2, Cancelled, 2},
+            {existing, -1, Failed, 3},
+            {u"."_s, -1, Failed, 0}};
+        for (const auto& [obstacle, cancelAfter, outcome, count] : rows) {
+            QTemporaryDir folder;
+            if (obstacle == u"."_s)
+                folder.remove();
+            else if (!obstacle.isEmpty())
+                writeFile(folder.filePath(obstacle), {});
+            const Camera camera({u"a"_s, u"Gate/(1)?"_s, monday, monday + day, {}}, {},
+                                TimeTexts(u"UTC"_s));
+            PictureExport job(camera, {{monday, monday + 10'001}, 2, false, folder.path()});
+            QCOMPARE(job.existingFiles(), obstacle == existing ? 1 : 0);
+            QList<PictureExport::Outcome> outcomes;
+            connect(&job, &PictureExport::progressed, this, [&, after = cancelAfter](int written) {
+                if (written == after)
+                    job.cancel();
+            });
+            connect(&job, &PictureExport::ended, this, [&](auto how) { outcomes.append(how); });
+            job.start();
+            QTRY_COMPARE(outcomes.size(), 1);
+            QCoreApplication::processEvents();
+            QCOMPARE(outcomes, {outcome});
+
+            const QStringList names = QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
+            QCOMPARE(names.size(), count);
+            for (const QString& name : names) {
+                const QString path = folder.filePath(name);
+                QCOMPARE(QImage(path).size(), name == obstacle ? QSize(0, 0) : CameraPicture::size);
+            }
+        }
+    }
+
+    void picturesAreAsked()
+    {
+        constexpr int aDay = 86'400;
+        const SampleWindow sample(u"UTC"_s);
+        const UserAnswers user;
+        QCOMPARE(exportPictures(sample, aDay, false), 14);
+        QVERIFY(sample.withText<QProgressBar>(u"0.0%"_s)->isVisible());
+        QVERIFY(!sample.action(u"Export &pictures…"_s)->isEnabled());
+        QTRY_VERIFY(sample.says(u"Pictures exported: 14"_s));
+        QCOMPARE(files().size(), 14);
+        QVERIFY(files().contains(u"Main_gate_2026-03-04T000000Z.png"_s));
+        sample.withText<QToolButton>(u"Open folder"_s)->click();
+        QCOMPARE(user.opened(), QStringList{QUrl::fromLocalFile(m_folder.path()).toString()});
+        sample.withText<QToolButton>(u"Close"_s)->click();
+        QVERIFY(!sample.withText<QToolButton>(u"Open folder"_s)->isVisible());
+
+        QFile first(QDir(m_folder.path()).filePath(files()[0]));
+        QVERIFY(first.resize(0));
+        exportPictures(sample, aDay, false);
+        QCOMPARE(user.said(),
+                 QStringList{u"Question: Export pictures: Files that exist already: 14 of "
+                             "14. Replace them?"_s});
+        QCOMPARE(first.size(), 0);
+        QVERIFY(sample.action(u"Export &pictures…"_s)->isEnabled());
+    }
+
+    void quittingIsAsked()
+    {
+        SampleWindow sample(u"UTC"_s);
+        const int count = exportPictures(sample, 10'000);
+        QVERIFY(count > 50);
+        for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+            whenShown<QMessageBox>(this, [&](QMessageBox& box) {
+                QVERIFY2(box.text().startsWith(u"Pictures are still being exported: "_s),
+                         qPrintable(box.text()));
+                box.button(answer)->click();
+            });
+            QCOMPARE(sample.window.close(), answer == QMessageBox::Yes);
+        }
+        QVERIFY(files().size() < count);
+    }
+
+    void eventsComeBack()
+    {
+        // Texts of times do not sort as instants do; two of them are the same on the clock of
+        // Brussels.
+        const qint64 repeated = monday + 237 * day + 30 * minute + 7;
+        const ReviewData review{.tracks = {{u"a"_s, u"Gate"_s, monday, monday + day, {}}},
+                                .events = {{monday, u"person"_s, u"say \"hi\"; now"_s, u"a"_s},
+                                           {repeated, u"car"_s, u"früher"_s, u"b"_s},
+                                           {repeated + hour, u"alarm"_s, u"später"_s, u"a"_s}}};
+        const SampleWindow sample(u"Europe/Brussels"_s, {}, review);
+        UserAnswers user;
+        user.savePath = m_folder.filePath(u"events.csv"_s);
+        const auto exported = [&] {
+            sample.action(u"Export events…"_s)->trigger();
+            ReviewLoader loader;
+            const QString error =
+                loader.load({.recordings = {}, .events = user.savePath, .deployments = {}});
+            return error.isEmpty() && loader.problems().count() == 0 ? loader.data().events
+                                                                     : Events();
+        };
+        sample.events()->selectRow(1);
+        QCOMPARE(exported(), review.events);
+        QVERIFY(sample.says(u"Events exported: 3"_s));
+
+        // What the filter leaves, or several selected events.
+        auto* filter = sample.events()->parentWidget()->findChild<CorvelGui::FilterLineEdit*>();
+        filter->setText(u"gate"_s);
+        QCOMPARE(exported(), (Events{review.events[0], review.events[2]}));
+        filter->setText({});
+        QItemSelection lastTwo(sample.events()->model()->index(1, 0),
+                               sample.events()->model()->index(2, 3));
+        sample.events()->selectionModel()->select(lastTwo, QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(exported(), (Events{review.events[1], review.events[2]}));
+
+        user.savePath = m_folder.filePath(u"none/events.csv"_s);
+        sample.action(u"Export events…"_s)->trigger();
+        QVERIFY2(user.said().last().startsWith(u"Warning: Export events: "_s),
+                 qPrintable(user.said().last()));
+    }
 
 private:
     /// Exports from the dialog. Returns how many pictures it announced.
-    int exportPictures(const SampleWindow& sample, int interval, bool recordedOnly = true);
+    int exportPictures(const SampleWindow& sample, int interval, bool recordedOnly = true)
+    {
+        int count = 0;
+        whenShown<ExportDialog>(this, [&](ExportDialog& dialog) {
+            auto* seconds = dialog.findChild<QSpinBox*>();
+            QPushButton* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            dialog.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)
+                ->setText(m_folder.path());
+            seconds->setValue(1); // tens of thousands of pictures
+            QVERIFY(!ok->isEnabled());
+            seconds->setValue(interval);
+            dialog.findChild<QCheckBox*>()->setChecked(recordedOnly);
+            for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+                if (label->text().startsWith(u"Pictures: "_s))
+                    count = label->text().sliced(10).toInt();
+            }
+            QTest::mouseClick(ok, Qt::LeftButton);
+        });
+        sample.action(u"Export &pictures…"_s)->trigger();
+        return count;
+    }
+
     QStringList files() const { return QDir(m_folder.path()).entryList(QDir::Files); }
 
     QTemporaryDir m_folder;
-    QString m_opened;
 };
-
-void TestReviewExport::initTestCase()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QLocale::setDefault(QLocale(QLocale::English));
-    QDesktopServices::setUrlHandler(u"file"_s, this, "openFolder");
-}
-
-void TestReviewExport::pictureTimes_data()
-{
-    QTest::addColumn<int>("interval");
-    QTest::addColumn<QList<TimeSpan>>("recorded");
-    QTest::addColumn<QString>("times");
-    const auto row = [](const char* name, int interval, const QList<TimeSpan>& recorded,
-                        const QString& times) {
-        QTest::newRow(name) << interval << recorded << times;
-    };
-    // Of the range from 10 to 20.
-    row("nothing recorded", 2, {}, u""_s);
-    row("all", 3, {{0, 30}}, u"10 13 16 19"_s);
-    row("end", 5, {{0, 30}}, u"10 15"_s);
-    row("each recording", 2, {{11, 13}, {14, 15}, {19, 30}}, u"11 14 19"_s);
-    row("short pause", 2, {{8, 13}, {14, 18}}, u"10 12 14 16"_s);
-    row("shorter pause than the interval", 4, {{10, 12}, {13, 18}}, u"10 14"_s);
-    row("beyond", 1, {{5, 10}, {20, 30}}, u""_s);
-}
-
-void TestReviewExport::pictureTimes()
-{
-    QFETCH(const int, interval);
-    QFETCH(const QList<TimeSpan>, recorded);
-    const PictureTimes times({10, 20}, interval, recorded);
-    QStringList texts;
-    for (const qint64 time : times.all())
-        texts.append(QString::number(time));
-    QTEST(texts.join(u' '), "times");
-    QCOMPARE(times.count(), texts.size());
-}
-
-void TestReviewExport::exportEnds_data()
-{
-    QTest::addColumn<PictureExport::Outcome>("outcome");
-    QTest::addColumn<int>("cancelAfter");
-    QTest::addColumn<QString>("obstacle");
-    QTest::addColumn<int>("files");
-    QTest::newRow("complete") << PictureExport::Outcome::Complete << -1 << QString() << 6;
-    QTest::newRow("cancelled") << PictureExport::Outcome::Cancelled << 2 << QString() << 2;
-    QTest::newRow("existing file")
-        << PictureExport::Outcome::Failed << -1 << u"Gate__1___2026-03-02T000004Z.png"_s << 3;
-    QTest::newRow("no folder") << PictureExport::Outcome::Failed << -1 << u"."_s << 0;
-}
-
-void TestReviewExport::exportEnds()
-{
-    QFETCH(const PictureExport::Outcome, outcome);
-    QFETCH(const int, cancelAfter);
-    QFETCH(const QString, obstacle);
-    QTemporaryDir folder;
-    if (obstacle == u"."_s) {
-        folder.remove();
-    } else if (!obstacle.isEmpty()) {
-        QFile file(folder.filePath(obstacle));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    const Camera camera({u"a"_s, u"Gate/(1)?"_s, monday, monday + day, {}}, {},
-                        TimeTexts(u"UTC"_s));
-    PictureExport job(camera, {{monday, monday + 10'001}, 2, false, folder.path()});
-    QCOMPARE(job.existingFiles(), obstacle.endsWith(u".png"_s) ? 1 : 0);
-    QList<PictureExport::Outcome> outcomes;
-    connect(&job, &PictureExport::progressed, this, [&](int written) {
-        if (written == cancelAfter)
-            job.cancel();
-    });
-    connect(&job, &PictureExport::ended, this, [&](auto how) { outcomes.append(how); });
-    job.start();
-    QTRY_COMPARE(outcomes.size(), 1);
-    QCoreApplication::processEvents();
-    QCOMPARE(outcomes, {outcome});
-
-    const QStringList names = QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
-    QTEST(int(names.size()), "files");
-    for (const QString& name : names) {
-        if (name != obstacle)
-            QCOMPARE(QImage(folder.filePath(name)).size(), CameraPicture::size);
-        else
-            QCOMPARE(QFileInfo(folder.filePath(name)).size(), 0);
-    }
-}
-
-int TestReviewExport::exportPictures(const SampleWindow& sample, int interval, bool recordedOnly)
-{
-    int count = 0;
-    whenShown<ExportDialog>(this, [&](ExportDialog& dialog) {
-        auto* seconds = dialog.findChild<QSpinBox*>();
-        QPushButton* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-        dialog.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)
-            ->setText(m_folder.path());
-        seconds->setValue(1); // tens of thousands of pictures
-        QVERIFY(!ok->isEnabled());
-        seconds->setValue(interval);
-        dialog.findChild<QCheckBox*>()->setChecked(recordedOnly);
-        for (const QLabel* label : dialog.findChildren<QLabel*>()) {
-            if (label->text().startsWith(u"Pictures: "_s))
-                count = label->text().sliced(10).toInt();
-        }
-        QTest::mouseClick(ok, Qt::LeftButton);
-    });
-    sample.action(u"Export &pictures…"_s)->trigger();
-    return count;
-}
-
-void TestReviewExport::picturesAreAsked()
-{
-    constexpr int aDay = 86'400;
-    const SampleWindow sample(u"UTC"_s);
-    QCOMPARE(exportPictures(sample, aDay, false), 14);
-    QVERIFY(sample.withText<QProgressBar>(u"0.0%"_s)->isVisible());
-    QVERIFY(!sample.action(u"Export &pictures…"_s)->isEnabled());
-    QTRY_VERIFY(sample.says(u"Pictures exported: 14"_s));
-    QCOMPARE(files().size(), 14);
-    QVERIFY(files().contains(u"Main_gate_2026-03-04T000000Z.png"_s));
-    sample.withText<QToolButton>(u"Open folder"_s)->click();
-    QCOMPARE(m_opened, m_folder.path());
-    sample.withText<QToolButton>(u"Close"_s)->click();
-    QVERIFY(!sample.withText<QToolButton>(u"Open folder"_s)->isVisible());
-
-    const UserAnswers user;
-    QFile first(QDir(m_folder.path()).filePath(files()[0]));
-    QVERIFY(first.resize(0));
-    exportPictures(sample, aDay, false);
-    QCOMPARE(user.said(), QStringList{u"Question: Export pictures: Files that exist already: 14 of "
-                                      "14. Replace them?"_s});
-    QCOMPARE(first.size(), 0);
-    QVERIFY(sample.action(u"Export &pictures…"_s)->isEnabled());
-}
-
-void TestReviewExport::quittingIsAsked()
-{
-    SampleWindow sample(u"UTC"_s);
-    const int count = exportPictures(sample, 10'000);
-    QVERIFY(count > 50);
-    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
-        whenShown<QMessageBox>(this, [&](QMessageBox& box) {
-            QVERIFY2(box.text().startsWith(u"Pictures are still being exported: "_s),
-                     qPrintable(box.text()));
-            box.button(answer)->click();
-        });
-        QCOMPARE(sample.window.close(), answer == QMessageBox::Yes);
-    }
-    QVERIFY(files().size() < count);
-}
-
-void TestReviewExport::eventsComeBack()
-{
-    // Texts of times do not sort as instants do; two of them are the same on the clock of Brussels.
-    const qint64 repeated = monday + 237 * day + 30 * minute + 7;
-    const ReviewData review{.tracks = {{u"a"_s, u"Gate"_s, monday, monday + day, {}}},
-                            .events = {{monday, u"person"_s, u"say \"hi\"; now"_s, u"a"_s},
-                                       {repeated, u"car"_s, u"früher"_s, u"b"_s},
-                                       {repeated + hour, u"alarm"_s, u"später"_s, u"a"_s}}};
-    const SampleWindow sample(u"Europe/Brussels"_s, {}, review);
-    UserAnswers user;
-    user.savePath = m_folder.filePath(u"events.csv"_s);
-    const auto exported = [&] {
-        sample.action(u"Export events…"_s)->trigger();
-        ReviewLoader loader;
-        const QString error =
-            loader.load({.recordings = {}, .events = user.savePath, .deployments = {}});
-        return error.isEmpty() && loader.problems().count() == 0 ? loader.data().events : Events();
-    };
-    sample.events()->selectRow(1);
-    QCOMPARE(exported(), review.events);
-    QVERIFY(sample.says(u"Events exported: 3"_s));
-
-    // What the filter leaves, or several selected events.
-    auto* filter = sample.events()->parentWidget()->findChild<CorvelGui::FilterLineEdit*>();
-    filter->setText(u"gate"_s);
-    QCOMPARE(exported(), (Events{review.events[0], review.events[2]}));
-    filter->setText({});
-    QItemSelection lastTwo(sample.events()->model()->index(1, 0),
-                           sample.events()->model()->index(2, 3));
-    sample.events()->selectionModel()->select(lastTwo, QItemSelectionModel::ClearAndSelect);
-    QCOMPARE(exported(), (Events{review.events[1], review.events[2]}));
-
-    user.savePath = m_folder.filePath(u"none/events.csv"_s);
-    sample.action(u"Export events…"_s)->trigger();
-    QVERIFY2(user.said().last().startsWith(u"Warning: Export events: "_s),
-             qPrintable(user.said().last()));
-}
 
 QTEST_MAIN(TestReviewExport)
 #include "tst_reviewexport.moc"

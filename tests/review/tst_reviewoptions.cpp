@@ -1,5 +1,6 @@
 #include "look/languages.h"
 #include "options/settingsstore.h"
+#include "testfiles.h"
 #include "testsupport.h"
 #include "visibletexts.h"
 #include "whenshown.h"
@@ -126,246 +127,204 @@ class TestReviewOptions : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void buttons_data();
-    void buttons();
-    void passwordIsStoredOnRequest();
-    void windowItselfSets();
-    void stateOfTheWindowSurvives();
-    void damagedFiles_data();
-    void damagedFiles();
-    void unwritableFileIsToldOnce();
-    void languages();
-    void searchFindsGermanLabels();
-
-private:
-    QByteArray content(const QString& name = u"settings.ini"_s) const;
-
-    std::unique_ptr<QTemporaryDir> m_dir;
-    QString m_path;
-};
-
-void TestReviewOptions::init()
-{
-    WarningFreeTest::init();
-    m_dir = std::make_unique<QTemporaryDir>();
-    m_path = m_dir->filePath(u"settings.ini"_s);
-}
-
-QByteArray TestReviewOptions::content(const QString& name) const
-{
-    QFile file(m_dir->filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void TestReviewOptions::buttons_data()
-{
-    QTest::addColumn<QDialogButtonBox::StandardButton>("button");
-    QTest::addColumn<bool>("taken");
-    QTest::newRow("OK") << QDialogButtonBox::Ok << true;
-    QTest::newRow("Cancel") << QDialogButtonBox::Cancel << false;
-}
-
-void TestReviewOptions::buttons()
-{
-    QFETCH(const QDialogButtonBox::StandardButton, button);
-    QFETCH(const bool, taken);
-    Client client(m_path);
-    client.speak(u"en"_s);
-    const ReviewSettings before = client.store.settings();
-    const int darkness = client.window.palette().window().color().lightness();
-
-    bool untouched = false;
-    QString message;
-    whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
-        fill(dialog);
-        for (const QLabel* label : dialog.findChildren<QLabel*>())
-            message += label->text().contains(u"belongs to"_s) ? label->text() : QString();
-        untouched = client.store.settings() == before;
-        press(dialog, button);
-    });
-    client.options.run();
-
-    QVERIFY(untouched);
-    QVERIFY2(message.contains(u"Track End: Ctrl+O belongs to “Open folder…”."_s) &&
-                 message.contains(u"Frame Backward: Alt+Home is also set for “Track Begin”."_s),
-             qPrintable(message));
-    QVERIFY(client.store.settings() == (taken ? filled() : before));
-    QCOMPARE(ProxyUserSettings::m_Settings.host, taken ? u"proxy.example"_s : QString());
-    QCOMPARE(client.window.palette().window().color().lightness() > darkness, taken);
-    QCOMPARE(visibleTexts(client.window).filter(u"2026-03-02 "_s).isEmpty(), !taken);
-
-    ReviewSettings stored = taken ? filled() : before;
-    stored.proxy.password.clear();
-    QVERIFY(Client(m_path).store.settings() == stored);
-    QVERIFY(!content().contains("secret"));
-}
-
-void TestReviewOptions::passwordIsStoredOnRequest()
-{
-    Client client(m_path);
-    ReviewSettings settings = client.store.settings();
-    settings.proxy.password = u"secret"_s;
-    settings.rememberPassword = true;
-    client.store.change(settings);
-    QCOMPARE(SettingsStore(m_path).settings().proxy.password, u"secret"_s);
-    settings.rememberPassword = false;
-    client.store.change(settings);
-    QVERIFY(!content().contains("secret"));
-}
-
-void TestReviewOptions::windowItselfSets()
-{
-    Client client(m_path);
-    client.speak(u"en"_s);
-    const QStringList set{u"Dark look"_s, u"Activity in the overview"_s,
-                          u"Cameras on the timeline"_s};
-    for (QAction* action : client.window.findChildren<QAction*>()) {
-        if (set.contains(action->text()))
-            action->trigger();
+    void init()
+    {
+        WarningFreeTest::init();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_path = m_dir->filePath(u"settings.ini"_s);
     }
-    auto* zone = client.window.statusBar()->findChild<QComboBox*>();
-    zone->setCurrentText(u"Asia/Tokyo"_s);
-    QTest::keyClick(zone, Qt::Key_Return);
-    const ReviewSettings stored = SettingsStore(m_path).settings();
-    QCOMPARE(stored.dark, false);
-    QVERIFY(!stored.activity && !stored.lanes);
-    QCOMPARE(stored.zone, u"Asia/Tokyo"_s);
-}
 
-void TestReviewOptions::stateOfTheWindowSurvives()
-{
-    QSize size;
-    QList<int> widths;
+    void buttons()
+    {
+        for (const bool taken : {true, false}) {
+            init();
+            Client client(m_path);
+            client.speak(u"en"_s);
+            const ReviewSettings before = client.store.settings();
+            const int darkness = client.window.palette().window().color().lightness();
+
+            bool untouched = false;
+            QString message;
+            whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
+                fill(dialog);
+                for (const QLabel* label : dialog.findChildren<QLabel*>())
+                    message += label->text().contains(u"belongs to"_s) ? label->text() : QString();
+                untouched = client.store.settings() == before;
+                press(dialog, taken ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+            });
+            client.options.run();
+
+            QVERIFY(untouched);
+            QVERIFY2(
+                message.contains(u"Track End: Ctrl+O belongs to “Open folder…”."_s) &&
+                    message.contains(u"Frame Backward: Alt+Home is also set for “Track Begin”."_s),
+                qPrintable(message));
+            QVERIFY(client.store.settings() == (taken ? filled() : before));
+            QCOMPARE(ProxyUserSettings::m_Settings.host, taken ? u"proxy.example"_s : QString());
+            QCOMPARE(client.window.palette().window().color().lightness() > darkness, taken);
+            QCOMPARE(visibleTexts(client.window).filter(u"2026-03-02 "_s).isEmpty(), !taken);
+
+            ReviewSettings stored = taken ? filled() : before;
+            stored.proxy.password.clear();
+            QVERIFY(Client(m_path).store.settings() == stored);
+            QVERIFY(!content().contains("secret"));
+        }
+    }
+
+    void passwordIsStoredOnRequest()
     {
         Client client(m_path);
-        client.window.move(40, 50);
-        // No larger than the screen of these tests, on which the window would be made to fit.
-        client.window.resize(client.window.minimumSizeHint().width(), 600);
-        size = client.window.size();
-        client.window.findChild<QToolBar*>()->hide();
-        QCoreApplication::processEvents();
-        auto* tables = client.window.findChild<QSplitter*>();
-        tables->setSizes({250, 330, 420});
-        widths = tables->sizes();
+        ReviewSettings settings = client.store.settings();
+        settings.proxy.password = u"secret"_s;
+        settings.rememberPassword = true;
+        client.store.change(settings);
+        QCOMPARE(SettingsStore(m_path).settings().proxy.password, u"secret"_s);
+        settings.rememberPassword = false;
+        client.store.change(settings);
+        QVERIFY(!content().contains("secret"));
+    }
+
+    void windowItselfSets()
+    {
+        Client client(m_path);
+        client.speak(u"en"_s);
+        const QStringList set{u"Dark look"_s, u"Activity in the overview"_s,
+                              u"Cameras on the timeline"_s};
+        for (QAction* action : client.window.findChildren<QAction*>()) {
+            if (set.contains(action->text()))
+                action->trigger();
+        }
+        auto* zone = client.window.statusBar()->findChild<QComboBox*>();
+        zone->setCurrentText(u"Asia/Tokyo"_s);
+        QTest::keyClick(zone, Qt::Key_Return);
+        const ReviewSettings stored = SettingsStore(m_path).settings();
+        QCOMPARE(stored.dark, false);
+        QVERIFY(!stored.activity && !stored.lanes);
+        QCOMPARE(stored.zone, u"Asia/Tokyo"_s);
+    }
+
+    void stateOfTheWindowSurvives()
+    {
+        QSize size;
+        QList<int> widths;
+        {
+            Client client(m_path);
+            client.window.move(40, 50);
+            // No larger than the screen of these tests, on which the window would be made to fit.
+            client.window.resize(client.window.minimumSizeHint().width(), 600);
+            size = client.window.size();
+            client.window.findChild<QToolBar*>()->hide();
+            QCoreApplication::processEvents();
+            auto* tables = client.window.findChild<QSplitter*>();
+            tables->setSizes({250, 330, 420});
+            widths = tables->sizes();
+            client.window.close();
+        }
+        const Client client(m_path);
+        QCOMPARE(client.window.size(), size);
+        QVERIFY(client.window.findChild<QToolBar*>()->isHidden());
+        QCOMPARE(client.window.findChild<QSplitter*>()->sizes(), widths);
+    }
+
+    void damagedFiles()
+    {
+        const std::pair<QByteArray, bool> rows[] = {
+            {{}, false},
+            {QByteArray("\x7f\x45LF\x02 garbage\n[[\0]\n=\n", 22), false},
+            {"[Look]\nDark=false\n]garbage[\n[Other]\nName=kept\n", true},
+            {"[Look]\nDark=false\nLanguage=klingon\n[Time]\nZone=Mars/Base\nOrder=7\n"
+             "Milliseconds=perhaps\n[Proxy]\nMode=3\nPort=99999\nPassword=old\n"
+             "[Shortcuts]\nPlayButton=Hyper+Q+Q\n[Window]\nGeometry=1\nState=2\n"
+             "Tables=x\n[Other]\nName=kept\n",
+             true}};
+        for (const auto& [bytes, readable] : rows) {
+            init();
+            writeFile(m_path, bytes);
+            Client client(m_path);
+            QVERIFY(client.window.width() > 300 && client.window.height() > 200);
+            ReviewSettings expected;
+            expected.dark = !readable;
+            QVERIFY(client.store.settings() == expected);
+            const bool damaged =
+                QSettings(m_path, QSettings::IniFormat).status() != QSettings::NoError ||
+                bytes.contains("garbage");
+            client.window.close();
+            if (damaged)
+                QCOMPARE(content(), bytes);
+
+            ReviewSettings changed = expected;
+            changed.skipGaps = true;
+            client.store.change(changed);
+            QCOMPARE(content(u"settings.ini.damaged"_s), damaged ? bytes : QByteArray());
+            const SettingsStore again(m_path);
+            QVERIFY(again.settings() == changed);
+            if (readable)
+                QCOMPARE(QSettings(m_path, QSettings::IniFormat).value(u"Other/Name"_s), u"kept"_s);
+        }
+    }
+
+    void unwritableFileIsToldOnce()
+    {
+        writeFile(m_path, {});
+        // No folder, whoever runs the test.
+        Client client(m_path + u"/settings.ini"_s);
+        const QSignalSpy failures(&client.store, &SettingsStore::saveFailed);
+        int boxes = 0;
+        whenShown<QMessageBox>(this, [&](QMessageBox& box) {
+            ++boxes;
+            box.accept();
+        });
+        client.speak(u"de"_s);
+        client.speak(u"en"_s);
+        QTRY_COMPARE(boxes, 1);
+        QCOMPARE(failures.size(), 1);
+        QCOMPARE(client.store.settings().language, u"en"_s);
         client.window.close();
     }
-    const Client client(m_path);
-    QCOMPARE(client.window.size(), size);
-    QVERIFY(client.window.findChild<QToolBar*>()->isHidden());
-    QCOMPARE(client.window.findChild<QSplitter*>()->sizes(), widths);
-}
 
-void TestReviewOptions::damagedFiles_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("readable");
-    QTest::newRow("empty") << QByteArray() << false;
-    QTest::newRow("no settings") << QByteArray("\x7f\x45LF\x02 garbage\n[[\0]\n=\n", 22) << false;
-    QTest::newRow("bad line") << QByteArray("[Look]\nDark=false\n]garbage[\n[Other]\nName=kept\n")
-                              << true;
-    QTest::newRow("bad values")
-        << QByteArray("[Look]\nDark=false\nLanguage=klingon\n[Time]\nZone=Mars/Base\nOrder=7\n"
-                      "Milliseconds=perhaps\n[Proxy]\nMode=3\nPort=99999\nPassword=old\n"
-                      "[Shortcuts]\nPlayButton=Hyper+Q+Q\n[Window]\nGeometry=1\nState=2\n"
-                      "Tables=x\n[Other]\nName=kept\n")
-        << true;
-}
-
-void TestReviewOptions::damagedFiles()
-{
-    QFETCH(const QByteArray, bytes);
-    QFETCH(const bool, readable);
-    QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
-
-    Client client(m_path);
-    QVERIFY(client.window.width() > 300 && client.window.height() > 200);
-    ReviewSettings expected;
-    expected.dark = !readable;
-    QVERIFY(client.store.settings() == expected);
-    const bool damaged = QSettings(m_path, QSettings::IniFormat).status() != QSettings::NoError ||
-                         bytes.contains("garbage");
-    client.window.close();
-    if (damaged)
-        QCOMPARE(content(), bytes);
-
-    ReviewSettings changed = expected;
-    changed.skipGaps = true;
-    client.store.change(changed);
-    QCOMPARE(content(u"settings.ini.damaged"_s), damaged ? bytes : QByteArray());
-    const SettingsStore again(m_path);
-    QVERIFY(again.settings() == changed);
-    if (readable)
-        QCOMPARE(QSettings(m_path, QSettings::IniFormat).value(u"Other/Name"_s), u"kept"_s);
-}
-
-void TestReviewOptions::unwritableFileIsToldOnce()
-{
-    QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    // No folder, whoever runs the test.
-    Client client(m_path + u"/settings.ini"_s);
-    const QSignalSpy failures(&client.store, &SettingsStore::saveFailed);
-    int boxes = 0;
-    whenShown<QMessageBox>(this, [&](QMessageBox& box) {
-        ++boxes;
-        box.accept();
-    });
-    client.speak(u"de"_s);
-    client.speak(u"en"_s);
-    QTRY_COMPARE(boxes, 1);
-    QCOMPARE(failures.size(), 1);
-    QCOMPARE(client.store.settings().language, u"en"_s);
-    client.window.close();
-}
-
-void TestReviewOptions::languages()
-{
-    Client client(m_path);
-    client.speak(u"en"_s);
-    const SourceTexts sources(
-        {QStringLiteral(REVIEW_TRANSLATION), QStringLiteral(LIBRARY_TRANSLATION)});
-    QStringList english, german, again;
-    whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
-        // Searching builds all pages.
-        auto* search = dialog.findChild<QLineEdit*>();
-        search->setText(u"a"_s);
-        search->clear();
-        visit(u"playback"_s, u"keyboard"_s);
-        english = visibleTexts();
-        client.speak(u"de"_s);
-        german = visibleTexts();
+    void languages()
+    {
+        Client client(m_path);
         client.speak(u"en"_s);
-        again = visibleTexts();
-        press(dialog, QDialogButtonBox::Cancel);
-    });
-    client.options.run();
-    QStringList left = sources.foundIn(german);
-    left.removeDuplicates();
-    QCOMPARE(left.join(u'\n'), QString());
-    // Not blind: it sees what it looks for.
-    QVERIFY(sources.foundIn(english).size() > 150);
-    QCOMPARE(again.join(u'\n'), english.join(u'\n'));
-}
-
-void TestReviewOptions::searchFindsGermanLabels()
-{
-    Client client(m_path);
-    for (const QString& language : {u"en"_s, u"de"_s}) {
-        client.speak(language);
+        const SourceTexts sources(
+            {QStringLiteral(REVIEW_TRANSLATION), QStringLiteral(LIBRARY_TRANSLATION)});
+        QStringList english, german, again;
         int found = 0;
         whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
-            dialog.findChild<QLineEdit*>()->setText(language == "de"_L1 ? u"kennwort"_s
-                                                                        : u"password"_s);
+            // Searching builds all pages.
+            auto* search = dialog.findChild<QLineEdit*>();
+            search->setText(u"a"_s);
+            search->clear();
+            visit(u"playback"_s, u"keyboard"_s);
+            english = visibleTexts();
+            client.speak(u"de"_s);
+            german = visibleTexts();
+            client.speak(u"en"_s);
+            again = visibleTexts();
+            client.speak(u"de"_s);
+            search->setText(u"kennwort"_s);
             found = dialog.findChild<QListView*>()->model()->rowCount();
             press(dialog, QDialogButtonBox::Cancel);
         });
         client.options.run();
         QCOMPARE(found, 1);
+        QStringList left = sources.foundIn(german);
+        left.removeDuplicates();
+        QCOMPARE(left.join(u'\n'), QString());
+        // Not blind: it sees what it looks for.
+        QVERIFY(sources.foundIn(english).size() > 150);
+        QCOMPARE(again.join(u'\n'), english.join(u'\n'));
     }
-}
+
+private:
+    QByteArray content(const QString& name = u"settings.ini"_s) const
+    {
+        return readFile(m_dir->filePath(name));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    QString m_path;
+};
 
 QTEST_MAIN(TestReviewOptions)
 #include "tst_reviewoptions.moc"

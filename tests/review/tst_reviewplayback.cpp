@@ -80,249 +80,238 @@ class TestReviewPlayback : public WarningFreeTest
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
-    void viewStaysWhereTheUserLooks();
-    void handHoldsTheTime();
-    void endsPause();
-    void spaceBarIsShared();
-    void loadingIsCovered();
-    void picturesAreShown();
-    void fastPlayingIsKnown();
-    void speedsHaveKeys();
-};
 
-void TestReviewPlayback::viewStaysWhereTheUserLooks()
-{
-    Playing playing;
-    playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed64);
-    for (int i = 0; i < 5; ++i)
-        playing.timeline.stepLater();
-    const TimeSpan elsewhere = playing.timeline.view();
-    const QSignalSpy views(&playing.timeline, &TimelinePane::viewChanged);
-    for (int i = 0; i < 50; ++i) {
-        playing.tick(1'000);
-        QCOMPARE(playing.timeline.view(), elsewhere);
-        QCOMPARE(playing.selection.moment(), monday + (i + 1) * 64'000);
-    }
-    QVERIFY(views.isEmpty());
-    // It counts as followed again once it has come into view, and when the user starts to play.
-    playing.tick(elsewhere.end - playing.selection.moment());
-    QVERIFY(playing.timeline.view() == elsewhere);
-    playing.player.pause();
-    playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
-    QVERIFY(playing.timeline.view() != elsewhere);
-}
-
-void TestReviewPlayback::handHoldsTheTime()
-{
-    Playing playing;
-    playing.selection.goTo(monday + 10 * minute);
-    playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
-    playing.tick(1'000);
-    auto* ruler = playing.timeline.findChild<Ruler*>();
-    auto* indicator = ruler->findChild<CorvelGui::Indicator*>();
-    const QPoint grip(indicator->hotSpot(), 10);
-    QTest::mousePress(indicator, Qt::LeftButton, {}, grip);
-    playing.tick(60'000);
-    QCOMPARE(playing.selection.moment(), monday + 10 * minute + 1'000);
-
-    QTest::mouseMove(indicator, grip + QPoint(200, 0));
-    const qint64 dragged = playing.selection.moment();
-    QVERIFY(dragged > monday + 20 * minute);
-    playing.tick(60'000);
-    QCOMPARE(playing.selection.moment(), dragged);
-    QTest::mouseRelease(indicator, Qt::LeftButton, {}, QPoint(indicator->hotSpot(), 10));
-    playing.tick(2'000);
-    QCOMPARE(playing.selection.moment(), dragged + 2'000);
-
-    // Dragging the scale moves the view only; the release goes to a dialog.
-    const TimeSpan view = playing.timeline.view();
-    QTest::mousePress(ruler, Qt::LeftButton, {}, QPoint(700, 50));
-    playing.tick(60'000);
-    QCOMPARE(playing.selection.moment(), dragged + 2'000);
-    QCOMPARE(playing.timeline.view(), view);
-    QEvent deactivate(QEvent::WindowDeactivate);
-    QApplication::sendEvent(ruler, &deactivate);
-    QTRY_VERIFY(!playing.selection.isHeld());
-    playing.tick(3'000);
-    QCOMPARE(playing.selection.moment(), dragged + 5'000);
-}
-
-void TestReviewPlayback::endsPause()
-{
-    struct Case
+    void viewStaysWhereTheUserLooks()
     {
-        bool skip;
-        PPlaybar::PlaybackState state;
-        qint64 from;
-        qint64 to;
-    };
-    using enum PPlaybar::PlaybackState;
-    for (const Case& end :
-         {Case{false, FastForward, 71 * hour, 72 * hour}, Case{false, FastBackward, 1 * hour, 0},
-          Case{true, FastForward, 30 * hour + 1, 31 * hour},
-          Case{true, FastBackward, 3 * hour - 1, 1 * hour}}) {
         Playing playing;
-        playing.player.setSkippingGaps(end.skip);
-        playing.selection.goTo(monday + end.from);
-        const QSignalSpy states(&playing.bar, &PPlaybar::playbackStateChanged);
-        const QSignalSpy ranOut(&playing.player, &Player::ranOutOfRecordings);
-        playing.setSpeed(end.state, PPlaybar::Speed2);
-        playing.tick(2 * hour);
-        QCOMPARE(playing.selection.moment(), monday + end.to);
-        QCOMPARE(playing.bar.playbackState(), Pause);
-        QVERIFY(!playing.player.isPlaying());
-        QCOMPARE(states.size(), 1); // the user's own
-        QCOMPARE(ranOut.size(), end.skip ? 1 : 0);
+        playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed64);
+        for (int i = 0; i < 5; ++i)
+            playing.timeline.stepLater();
+        const TimeSpan elsewhere = playing.timeline.view();
+        playing.tick(50'000);
+        QCOMPARE(playing.timeline.view(), elsewhere);
+        QCOMPARE(playing.selection.moment(), monday + 50 * 64'000);
+        // It counts as followed again once it has come into view, and when the user starts to play.
+        playing.tick(elsewhere.end - playing.selection.moment());
+        QVERIFY(playing.timeline.view() == elsewhere);
+        playing.player.pause();
+        playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
+        QVERIFY(playing.timeline.view() != elsewhere);
     }
 
-    Playing playing;
-    playing.player.setSkippingGaps(true);
-    playing.setSpeed(SlowForward, PPlaybar::Speed1_8);
-    playing.tick(8);
-    QCOMPARE(playing.selection.moment(), monday + hour);
-    playing.tick(8'001);
-    Q_EMIT playing.bar.frameForwardClicked();
-    QCOMPARE(playing.selection.moment(), monday + hour + 1'040);
-    Q_EMIT playing.bar.trackEndClicked();
-    QCOMPARE(playing.selection.moment(), monday + 2 * day);
-}
+    void handHoldsTheTime()
+    {
+        Playing playing;
+        playing.selection.goTo(monday + 10 * minute);
+        playing.setSpeed(PPlaybar::Play, PPlaybar::Speed1);
+        playing.tick(1'000);
+        auto* ruler = playing.timeline.findChild<Ruler*>();
+        auto* indicator = ruler->findChild<CorvelGui::Indicator*>();
+        const QPoint grip(indicator->hotSpot(), 10);
+        QTest::mousePress(indicator, Qt::LeftButton, {}, grip);
+        playing.tick(60'000);
+        QCOMPARE(playing.selection.moment(), monday + 10 * minute + 1'000);
 
-void TestReviewPlayback::spaceBarIsShared()
-{
-    const SampleWindow sample(u"UTC"_s);
-    auto* bar = sample.window.findChild<PPlaybar*>();
-    auto* view = sample.window.findChild<CorvelGui::TarvoDateTimeView*>();
-    sample.ruler()->setFocus();
-    QTest::keyClick(sample.ruler(), Qt::Key_Space);
-    QTRY_COMPARE(bar->playbackState(), PPlaybar::Play);
-    QTRY_VERIFY(sample.ruler()->getIndicatorMSecs() >= monday);
-    QTest::keyClick(sample.ruler(), Qt::Key_Space);
-    QTRY_COMPARE(bar->playbackState(), PPlaybar::Pause);
-    QCOMPARE(view->shownText().left(6), u"02 Mar"_s);
+        QTest::mouseMove(indicator, grip + QPoint(200, 0));
+        const qint64 dragged = playing.selection.moment();
+        QVERIFY(dragged > monday + 20 * minute);
+        playing.tick(60'000);
+        QCOMPARE(playing.selection.moment(), dragged);
+        QTest::mouseRelease(indicator, Qt::LeftButton, {}, QPoint(indicator->hotSpot(), 10));
+        playing.tick(2'000);
+        QCOMPARE(playing.selection.moment(), dragged + 2'000);
 
-    // Rows leave it, but for their check boxes.
-    QTreeWidget* cameras = sample.devices();
-    QTreeWidgetItem* camera = cameras->topLevelItem(0)->child(1);
-    const auto pressIn = [&](QAbstractItemView* list) {
-        list->setFocus();
-        QTest::keyClick(list, Qt::Key_Space);
-    };
-    pressIn(sample.events());
-    QTRY_COMPARE(bar->playbackState(), PPlaybar::Play);
-    cameras->setCurrentItem(camera, DeviceItem::State);
-    pressIn(cameras);
-    QTRY_COMPARE(bar->playbackState(), PPlaybar::Pause);
-    cameras->setCurrentItem(camera, DeviceItem::Name);
-    pressIn(cameras);
-    QCOMPARE(camera->checkState(DeviceItem::Name), Qt::Unchecked);
-    QCOMPARE(bar->playbackState(), PPlaybar::Pause);
-}
+        // Dragging the scale moves the view only; the release goes to a dialog.
+        const TimeSpan view = playing.timeline.view();
+        QTest::mousePress(ruler, Qt::LeftButton, {}, QPoint(700, 50));
+        playing.tick(60'000);
+        QCOMPARE(playing.selection.moment(), dragged + 2'000);
+        QCOMPARE(playing.timeline.view(), view);
+        QEvent deactivate(QEvent::WindowDeactivate);
+        QApplication::sendEvent(ruler, &deactivate);
+        QTRY_VERIFY(!playing.selection.isHeld());
+        playing.tick(3'000);
+        QCOMPARE(playing.selection.moment(), dragged + 5'000);
+    }
 
-void TestReviewPlayback::loadingIsCovered()
-{
-    SampleWindow sample(u"UTC"_s);
-    auto* bar = sample.window.findChild<PPlaybar*>();
-    QTest::keyClick(sample.ruler(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_COMPARE(bar->playbackState(), PPlaybar::FastForward);
-    const QSignalSpy loaded(&sample.window, &ReviewWindow::loaded);
-    sample.window.load({});
-    const QPointer busy = sample.window.findChild<CorvelGui::BusyIndicator*>();
-    QVERIFY(busy && busy->isVisible());
-    QCOMPARE(busy->geometry(), sample.window.centralWidget()->rect());
-    QTRY_COMPARE(loaded.size(), 1);
-    QTRY_VERIFY(!busy);
-    QCOMPARE(bar->playbackState(), PPlaybar::Pause);
-    QVERIFY(sample.showsTime(u"02 Mar 00:33:08"_s));
-    QCOMPARE(sample.window.windowTitle(), u"Sample – Recording review"_s);
-}
+    void endsPause()
+    {
+        struct Case
+        {
+            bool skip;
+            PPlaybar::PlaybackState state;
+            qint64 from;
+            qint64 to;
+        };
+        using enum PPlaybar::PlaybackState;
+        for (const Case& end : {Case{false, FastForward, 71 * hour, 72 * hour},
+                                Case{false, FastBackward, 1 * hour, 0},
+                                Case{true, FastForward, 30 * hour + 1, 31 * hour},
+                                Case{true, FastBackward, 3 * hour - 1, 1 * hour}}) {
+            Playing playing;
+            playing.player.setSkippingGaps(end.skip);
+            playing.selection.goTo(monday + end.from);
+            const QSignalSpy states(&playing.bar, &PPlaybar::playbackStateChanged);
+            const QSignalSpy ranOut(&playing.player, &Player::ranOutOfRecordings);
+            playing.setSpeed(end.state, PPlaybar::Speed2);
+            playing.tick(2 * hour);
+            QCOMPARE(playing.selection.moment(), monday + end.to);
+            QCOMPARE(playing.bar.playbackState(), Pause);
+            QVERIFY(!playing.player.isPlaying());
+            QCOMPARE(states.size(), 1); // the user's own
+            QCOMPARE(ranOut.size(), end.skip ? 1 : 0);
+        }
 
-void TestReviewPlayback::picturesAreShown()
-{
-    const QTemporaryDir folder;
-    const QString clip = folder.filePath(u"clip.mp4"_s);
-    QCOMPARE(NumberedClip::write(clip, 200, {.keyFrameDistance = 50}), QString()); // 8 seconds
-    const auto track = [](const QString& name, qint64 end) {
-        return CorvelGui::TrackDescription{name, name, monday, monday + hour, {{monday, end}}};
-    };
-    const ReviewData review{
-        .tracks = {track(u"Gate"_s, monday + 20'000), track(u"Yard"_s, monday + minute)},
-        .events = {},
-        .files = {{u"Gate"_s,
-                   {{clip, monday, monday + 8'000, 0},
-                    {folder.filePath(u"gone.mp4"_s), monday + 8'000, monday + 10'000, 0}}}}};
-    const SampleWindow sample(u"UTC"_s, {}, review);
-    auto* pane = sample.window.findChild<PlaybackPane*>();
-    auto* view = pane->views().first();
-    const auto shownAt = [&](qint64 after) {
-        Q_EMIT sample.ruler()->indicatorPositionChanged(quint64(monday + after), 0);
-        if (!QTest::qWaitFor([&] { return !pane->isBusy(); }))
-            return u"busy"_s;
-        const CameraPicture& shown = view->picture();
-        const QString number =
-            shown.image.isNull() ? QString() : QString::number(NumberedClip::numberOf(shown.image));
-        return QStringList{number, shown.time.section(u' ', 2, 2), shown.message}.join(u'|');
-    };
-    // The time is that of the picture, not the moment.
-    QCOMPARE(shownAt(3'050), u"76|00:00:03.040|"_s);
-    QCOMPARE(shownAt(9'000), u"|00:00:09.000|No picture: The file is missing."_s);
-    QCOMPARE(shownAt(15'000), u"|00:00:15.000|No picture"_s);
-    QCOMPARE(shownAt(25'000), u"|00:00:25.000|No recording at this time"_s);
-    QCOMPARE(shownAt(-1'000), u"|23:59:59.000|Nothing is known of this time"_s);
-    pane->setOnlyKeyFrames(true);
-    QCOMPARE(shownAt(7'050), u"150|00:00:06.000|"_s);
-    pane->setOnlyKeyFrames(false);
-    QTRY_COMPARE(NumberedClip::numberOf(view->picture().image), 176);
+        Playing playing;
+        playing.player.setSkippingGaps(true);
+        playing.setSpeed(SlowForward, PPlaybar::Speed1_8);
+        playing.tick(8);
+        QCOMPARE(playing.selection.moment(), monday + hour);
+        playing.tick(8'001);
+        Q_EMIT playing.bar.frameForwardClicked();
+        QCOMPARE(playing.selection.moment(), monday + hour + 1'040);
+        Q_EMIT playing.bar.trackEndClicked();
+        QCOMPARE(playing.selection.moment(), monday + 2 * day);
+    }
 
-    // Side by side, and one of them enlarged.
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton);
-    QTRY_COMPARE(pane->shownCameras(), 4);
-    QTest::mouseClick(pane->views()[1]->viewport(), Qt::LeftButton);
-    QCOMPARE(pane->camera()->name, u"Yard"_s);
-    QTRY_COMPARE(pane->views()[1]->picture().message, u"No picture"_s);
-    QVERIFY(!pane->views()[2]->camera());
-    QTest::mouseDClick(pane->views()[1]->viewport(), Qt::LeftButton);
-    QTRY_COMPARE(pane->shownCameras(), 1);
-    QCOMPARE(pane->views()[0]->camera()->name, u"Yard"_s);
-}
+    void spaceBarIsShared()
+    {
+        const SampleWindow sample(u"UTC"_s);
+        auto* bar = sample.window.findChild<PPlaybar*>();
+        auto* view = sample.window.findChild<CorvelGui::TarvoDateTimeView*>();
+        sample.ruler()->setFocus();
+        QTest::keyClick(sample.ruler(), Qt::Key_Space);
+        QTRY_COMPARE(bar->playbackState(), PPlaybar::Play);
+        QTRY_VERIFY(sample.ruler()->getIndicatorMSecs() >= monday);
+        QTest::keyClick(sample.ruler(), Qt::Key_Space);
+        QTRY_COMPARE(bar->playbackState(), PPlaybar::Pause);
+        QCOMPARE(view->shownText().left(6), u"02 Mar"_s);
 
-void TestReviewPlayback::fastPlayingIsKnown()
-{
-    Playing playing;
-    const QSignalSpy fast(&playing.player, &Player::fastChanged);
-    playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed4);
-    QVERIFY(!playing.player.isFast());
-    playing.setSpeed(PPlaybar::FastBackward, PPlaybar::Speed8);
-    QVERIFY(playing.player.isFast());
-    playing.player.pause();
-    QVERIFY(!playing.player.isFast());
-    QCOMPARE(fast.size(), 2);
-}
+        // Rows leave it, but for their check boxes.
+        QTreeWidget* cameras = sample.devices();
+        QTreeWidgetItem* camera = cameras->topLevelItem(0)->child(1);
+        const auto pressIn = [&](QAbstractItemView* list) {
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_Space);
+        };
+        pressIn(sample.events());
+        QTRY_COMPARE(bar->playbackState(), PPlaybar::Play);
+        cameras->setCurrentItem(camera, DeviceItem::State);
+        pressIn(cameras);
+        QTRY_COMPARE(bar->playbackState(), PPlaybar::Pause);
+        cameras->setCurrentItem(camera, DeviceItem::Name);
+        pressIn(cameras);
+        QCOMPARE(camera->checkState(DeviceItem::Name), Qt::Unchecked);
+        QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+    }
 
-void TestReviewPlayback::speedsHaveKeys()
-{
-    Playing playing;
-    SpeedMenu menu(playing.player);
-    QAction* slower = menu.actions()[0];
-    QAction* faster = menu.actions()[1];
-    const auto speedsAfter = [&](QAction* action, int times) {
-        for (int i = 0; i < times; ++i)
-            action->trigger();
-        return playing.bar.playbackSpeed();
-    };
-    QCOMPARE(speedsAfter(slower, 1), PPlaybar::Speed1_2);
-    QCOMPARE(playing.bar.playbackState(), PPlaybar::SlowForward);
-    playing.tick(1'000);
-    QCOMPARE(playing.selection.moment(), monday + 500);
-    QCOMPARE(speedsAfter(slower, 3), PPlaybar::Speed1_8);
-    QCOMPARE(speedsAfter(faster, 20), PPlaybar::Speed1024);
-    playing.player.pause();
-    QCOMPARE(speedsAfter(faster, 1), PPlaybar::Speed2);
-    playing.setSpeed(PPlaybar::Reverse, PPlaybar::Speed1);
-    QCOMPARE(speedsAfter(slower, 1), PPlaybar::Speed1_2);
-    QCOMPARE(playing.bar.playbackState(), PPlaybar::SlowReverse);
-    speedsAfter(faster, 1);
-    QCOMPARE(playing.bar.playbackState(), PPlaybar::Reverse);
-}
+    void loadingIsCovered()
+    {
+        SampleWindow sample(u"UTC"_s);
+        auto* bar = sample.window.findChild<PPlaybar*>();
+        QTest::keyClick(sample.ruler(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_COMPARE(bar->playbackState(), PPlaybar::FastForward);
+        const QSignalSpy loaded(&sample.window, &ReviewWindow::loaded);
+        sample.window.load({});
+        const QPointer busy = sample.window.findChild<CorvelGui::BusyIndicator*>();
+        QVERIFY(busy && busy->isVisible());
+        QCOMPARE(busy->geometry(), sample.window.centralWidget()->rect());
+        QTRY_COMPARE(loaded.size(), 1);
+        QTRY_VERIFY(!busy);
+        QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+        QVERIFY(sample.showsTime(u"02 Mar 00:33:08"_s));
+        QCOMPARE(sample.window.windowTitle(), u"Sample – Recording review"_s);
+    }
+
+    void picturesAreShown()
+    {
+        const QTemporaryDir folder;
+        const QString clip = folder.filePath(u"clip.mp4"_s);
+        QCOMPARE(NumberedClip::write(clip, 200, {.keyFrameDistance = 50}), QString()); // 8 seconds
+        const auto track = [](const QString& name, qint64 end) {
+            return CorvelGui::TrackDescription{name, name, monday, monday + hour, {{monday, end}}};
+        };
+        const ReviewData review{
+            .tracks = {track(u"Gate"_s, monday + 20'000), track(u"Yard"_s, monday + minute)},
+            .events = {},
+            .files = {{u"Gate"_s,
+                       {{clip, monday, monday + 8'000, 0},
+                        {folder.filePath(u"gone.mp4"_s), monday + 8'000, monday + 10'000, 0}}}}};
+        const SampleWindow sample(u"UTC"_s, {}, review);
+        auto* pane = sample.window.findChild<PlaybackPane*>();
+        auto* view = pane->views().first();
+        const auto shownAt = [&](qint64 after) {
+            Q_EMIT sample.ruler()->indicatorPositionChanged(quint64(monday + after), 0);
+            if (!QTest::qWaitFor([&] { return !pane->isBusy(); }))
+                return u"busy"_s;
+            const CameraPicture& shown = view->picture();
+            const QString number = shown.image.isNull()
+                                       ? QString()
+                                       : QString::number(NumberedClip::numberOf(shown.image));
+            return QStringList{number, shown.time.section(u' ', 2, 2), shown.message}.join(u'|');
+        };
+        // The time is that of the picture, not the moment.
+        QCOMPARE(shownAt(3'050), u"76|00:00:03.040|"_s);
+        QCOMPARE(shownAt(9'000), u"|00:00:09.000|No picture: The file is missing."_s);
+        QCOMPARE(shownAt(15'000), u"|00:00:15.000|No picture"_s);
+        QCOMPARE(shownAt(25'000), u"|00:00:25.000|No recording at this time"_s);
+        QCOMPARE(shownAt(-1'000), u"|23:59:59.000|Nothing is known of this time"_s);
+        pane->setOnlyKeyFrames(true);
+        QCOMPARE(shownAt(7'050), u"150|00:00:06.000|"_s);
+        pane->setOnlyKeyFrames(false);
+        QTRY_COMPARE(NumberedClip::numberOf(view->picture().image), 176);
+
+        // Side by side, and one of them enlarged.
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton);
+        QTRY_COMPARE(pane->shownCameras(), 4);
+        QTest::mouseClick(pane->views()[1]->viewport(), Qt::LeftButton);
+        QCOMPARE(pane->camera()->name, u"Yard"_s);
+        QTRY_COMPARE(pane->views()[1]->picture().message, u"No picture"_s);
+        QVERIFY(!pane->views()[2]->camera());
+        QTest::mouseDClick(pane->views()[1]->viewport(), Qt::LeftButton);
+        QTRY_COMPARE(pane->shownCameras(), 1);
+        QCOMPARE(pane->views()[0]->camera()->name, u"Yard"_s);
+    }
+
+    void fastPlayingIsKnown()
+    {
+        Playing playing;
+        const QSignalSpy fast(&playing.player, &Player::fastChanged);
+        playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed4);
+        QVERIFY(!playing.player.isFast());
+        playing.setSpeed(PPlaybar::FastBackward, PPlaybar::Speed8);
+        QVERIFY(playing.player.isFast());
+        playing.player.pause();
+        QVERIFY(!playing.player.isFast());
+        QCOMPARE(fast.size(), 2);
+    }
+
+    void speedsHaveKeys()
+    {
+        Playing playing;
+        SpeedMenu menu(playing.player);
+        QAction* slower = menu.actions()[0];
+        QAction* faster = menu.actions()[1];
+        const auto speedsAfter = [&](QAction* action, int times) {
+            for (int i = 0; i < times; ++i)
+                action->trigger();
+            return playing.bar.playbackSpeed();
+        };
+        QCOMPARE(speedsAfter(slower, 1), PPlaybar::Speed1_2);
+        QCOMPARE(playing.bar.playbackState(), PPlaybar::SlowForward);
+        playing.tick(1'000);
+        QCOMPARE(playing.selection.moment(), monday + 500);
+        QCOMPARE(speedsAfter(slower, 3), PPlaybar::Speed1_8);
+        QCOMPARE(speedsAfter(faster, 20), PPlaybar::Speed1024);
+        playing.player.pause();
+        QCOMPARE(speedsAfter(faster, 1), PPlaybar::Speed2);
+        playing.setSpeed(PPlaybar::Reverse, PPlaybar::Speed1);
+        QCOMPARE(speedsAfter(slower, 1), PPlaybar::Speed1_2);
+        QCOMPARE(playing.bar.playbackState(), PPlaybar::SlowReverse);
+        speedsAfter(faster, 1);
+        QCOMPARE(playing.bar.playbackState(), PPlaybar::Reverse);
+    }
+};
 
 QTEST_MAIN(TestReviewPlayback)
 #include "tst_reviewplayback.moc"

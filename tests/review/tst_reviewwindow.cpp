@@ -36,144 +36,125 @@ class TestReviewWindow : public WarningFreeTest
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
-    void actionsMoveTheView();
-    void uncheckedTracksLeaveTheTimeline();
-    void problemsAreListed();
-    void lookIsSwitched();
-    void camerasAreChosen();
-    void largeFontsFit();
-};
 
-void TestReviewWindow::actionsMoveTheView()
-{
-    const SampleWindow sample(u"UTC"_s);
-    QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
-    QVERIFY(sample.says(u"Cameras: 4    Recordings: 2,721    Events: 1,631"_s));
-    QCOMPARE(enabledActions(sample), u"Zoom in"_s);
-
-    // The level of fourteen days would show the same as the whole period.
-    Ruler* ruler = sample.ruler();
-    QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(ruler->width() * 2 / 5, 5));
-    const qint64 time = qint64(ruler->getIndicatorMSecs());
-    sample.action(u"Zoom in"_s)->trigger();
-    QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Earlier, Later"_s);
-    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 7 * day);
-
-    const qint64 begin = qint64(ruler->beginTime());
-    sample.action(u"Later"_s)->trigger();
-    QCOMPARE(qint64(ruler->beginTime()), begin + 7 * day / 2);
-    QCOMPARE(enabledActions(sample),
-             u"Zoom in, Zoom out, Whole period, Earlier, Later, Current time"_s);
-    sample.action(u"Current time"_s)->trigger();
-    QVERIFY(time > qint64(ruler->beginTime()) && time < qint64(ruler->endTime()));
-    sample.action(u"Earlier"_s)->trigger();
-    sample.action(u"Earlier"_s)->trigger();
-    QCOMPARE(qint64(ruler->beginTime()), monday);
-    QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Later"_s);
-
-    for (int i = 0; i < 10; ++i)
-        sample.action(u"Zoom in"_s)->trigger();
-    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 20 * minute);
-    QCOMPARE(enabledActions(sample), u"Zoom out, Whole period, Earlier, Later"_s);
-    sample.action(u"Zoom out"_s)->trigger();
-    QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), hour);
-
-    sample.action(u"Whole period"_s)->trigger();
-    QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
-    QCOMPARE(enabledActions(sample), u"Zoom in"_s);
-
-    // The ruler can be moved beyond the period.
-    ruler->onTimelineOffsetChanged(0.75);
-    QCOMPARE(enabledActions(sample), u"Zoom in, Whole period, Earlier"_s);
-    sample.action(u"Whole period"_s)->trigger();
-    QCOMPARE(qint64(ruler->beginTime()), monday);
-}
-
-void TestReviewWindow::uncheckedTracksLeaveTheTimeline()
-{
-    const SampleWindow sample(u"UTC"_s);
-    sample.action(u"Events"_s)->trigger();
-    const QImage all = rulerPicture(sample);
-    QTreeWidgetItem* gate = sample.device(u"Main gate"_s);
-    gate->setCheckState(DeviceItem::Name, Qt::Unchecked);
-    QVERIFY(rulerPicture(sample) != all);
-    gate->setCheckState(DeviceItem::Name, Qt::Checked);
-    QCOMPARE(rulerPicture(sample), all);
-}
-
-void TestReviewWindow::problemsAreListed()
-{
-    QVERIFY(!SampleWindow(u"UTC"_s).window.findChild<QDockWidget*>()->isVisible());
-
-    ProblemList problems;
-    for (int line = 2; line < 252; ++line)
-        problems.add({u"dir/<b>.csv"_s, line, u"bad"_s});
-    const SampleWindow sample(u"UTC"_s, problems);
-    const QListWidget* list = sample.window.findChild<QListWidget*>();
-    QCOMPARE(list->count(), 101);
-    QCOMPARE(list->item(0)->text(), u"<b>.csv:2: bad"_s);
-    QCOMPARE(list->item(100)->text(), u"and 150 more"_s);
-
-    QAction* toggle = sample.action(u"Lines left out: 250"_s);
-    QVERIFY(list->isVisible());
-    toggle->trigger();
-    QVERIFY(!list->isVisible());
-}
-
-void TestReviewWindow::lookIsSwitched()
-{
-    SampleWindow sample(u"UTC"_s);
-    const auto tableLightness = [&sample] {
-        return sample.window.grab().toImage().pixelColor(100, 400).lightness();
-    };
-    QVERIFY(tableLightness() < 60);
-    sample.action(u"Dark look"_s)->trigger();
-    QVERIFY(tableLightness() > 200);
-    sample.action(u"Dark look"_s)->trigger();
-    QVERIFY(tableLightness() < 60);
-}
-
-void TestReviewWindow::camerasAreChosen()
-{
-    const SampleWindow sample(u"UTC"_s);
-    const auto* shown = sample.window.findChild<QComboBox*>();
-    QTreeWidgetItem* park = sample.device(u"Car park"_s);
-    QTreeWidget* tree = sample.devices();
-    const auto click = [&](QTreeWidgetItem* item) {
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
-                          tree->visualItemRect(item).topLeft() + QPoint(60, 8));
-    };
-    click(park);
-    QCOMPARE(shown->currentText(), u"Car park"_s);
-    QVERIFY(park->font(DeviceItem::Name).bold());
-
-    park->setCheckState(DeviceItem::Name, Qt::Unchecked);
-    click(park);
-    QCOMPARE(shown->currentText(), u"Main gate"_s);
-    const auto data = SampleData::make();
-    for (const CorvelGui::TimeSpan& recording : data.tracks[1].recorded.first(2)) {
-        QTest::keyClick(tree, Qt::Key_Return);
-        const QDateTime begin = QDateTime::fromMSecsSinceEpoch(recording.begin, Qt::UTC);
-        QVERIFY(sample.showsTime(begin.toString(u"dd MMM HH:mm:ss"_s)));
-        QCOMPARE(shown->currentText(), u"Car park"_s);
-    }
-}
-
-void TestReviewWindow::largeFontsFit()
-{
-    const auto sizes = [] {
+    void actionsMoveTheView()
+    {
         const SampleWindow sample(u"UTC"_s);
-        return QSize(sample.window.minimumSizeHint().width(), sample.ruler()->minimumHeight());
-    };
-    const QSize before = sizes();
-    QVERIFY(before.width() <= 480);
-    const QFont font = QApplication::font();
-    QApplication::setFont({font.family(), 20});
-    const QSize large = sizes();
-    QApplication::setFont(font);
-    QVERIFY(large.width() <= 800);
-    QVERIFY(large.height() > before.height() * 3 / 2);
-}
+        QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
+        QVERIFY(sample.says(u"Cameras: 4    Recordings: 2,721    Events: 1,631"_s));
+        QCOMPARE(enabledActions(sample), u"Zoom in"_s);
+
+        // The level of fourteen days would show the same as the whole period.
+        Ruler* ruler = sample.ruler();
+        QTest::mouseClick(ruler, Qt::LeftButton, {}, QPoint(ruler->width() * 2 / 5, 5));
+        const qint64 time = qint64(ruler->getIndicatorMSecs());
+        sample.action(u"Zoom in"_s)->trigger();
+        QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Earlier, Later"_s);
+        QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 7 * day);
+
+        const qint64 begin = qint64(ruler->beginTime());
+        sample.action(u"Later"_s)->trigger();
+        QCOMPARE(qint64(ruler->beginTime()), begin + 7 * day / 2);
+        QCOMPARE(enabledActions(sample),
+                 u"Zoom in, Zoom out, Whole period, Earlier, Later, Current time"_s);
+        sample.action(u"Current time"_s)->trigger();
+        QVERIFY(time > qint64(ruler->beginTime()) && time < qint64(ruler->endTime()));
+        sample.action(u"Earlier"_s)->trigger();
+        sample.action(u"Earlier"_s)->trigger();
+        QCOMPARE(qint64(ruler->beginTime()), monday);
+        QCOMPARE(enabledActions(sample), u"Zoom in, Zoom out, Whole period, Later"_s);
+
+        for (int i = 0; i < 10; ++i)
+            sample.action(u"Zoom in"_s)->trigger();
+        QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 20 * minute);
+        QCOMPARE(enabledActions(sample), u"Zoom out, Whole period, Earlier, Later"_s);
+        sample.action(u"Zoom out"_s)->trigger();
+        QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), hour);
+
+        sample.action(u"Whole period"_s)->trigger();
+        QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
+        QCOMPARE(enabledActions(sample), u"Zoom in"_s);
+
+        // The ruler can be moved beyond the period.
+        ruler->onTimelineOffsetChanged(0.75);
+        QCOMPARE(enabledActions(sample), u"Zoom in, Whole period, Earlier"_s);
+        sample.action(u"Whole period"_s)->trigger();
+        QCOMPARE(qint64(ruler->beginTime()), monday);
+    }
+
+    void uncheckedTracksLeaveTheTimeline()
+    {
+        const SampleWindow sample(u"UTC"_s);
+        sample.action(u"Events"_s)->trigger();
+        const QImage all = rulerPicture(sample);
+        QTreeWidgetItem* gate = sample.device(u"Main gate"_s);
+        gate->setCheckState(DeviceItem::Name, Qt::Unchecked);
+        QVERIFY(rulerPicture(sample) != all);
+        gate->setCheckState(DeviceItem::Name, Qt::Checked);
+        QCOMPARE(rulerPicture(sample), all);
+    }
+
+    void problemsAreListed()
+    {
+        QVERIFY(!SampleWindow(u"UTC"_s).window.findChild<QDockWidget*>()->isVisible());
+
+        ProblemList problems;
+        for (int line = 2; line < 252; ++line)
+            problems.add({u"dir/<b>.csv"_s, line, u"bad"_s});
+        const SampleWindow sample(u"UTC"_s, problems);
+        const QListWidget* list = sample.window.findChild<QListWidget*>();
+        QCOMPARE(list->count(), 101);
+        QCOMPARE(list->item(0)->text(), u"<b>.csv:2: bad"_s);
+        QCOMPARE(list->item(100)->text(), u"and 150 more"_s);
+
+        QAction* toggle = sample.action(u"Lines left out: 250"_s);
+        QVERIFY(list->isVisible());
+        toggle->trigger();
+        QVERIFY(!list->isVisible());
+    }
+
+    void camerasAreChosen()
+    {
+        const SampleWindow sample(u"UTC"_s);
+        const auto* shown = sample.window.findChild<QComboBox*>();
+        QTreeWidgetItem* park = sample.device(u"Car park"_s);
+        QTreeWidget* tree = sample.devices();
+        const auto click = [&](QTreeWidgetItem* item) {
+            QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
+                              tree->visualItemRect(item).topLeft() + QPoint(60, 8));
+        };
+        click(park);
+        QCOMPARE(shown->currentText(), u"Car park"_s);
+        QVERIFY(park->font(DeviceItem::Name).bold());
+
+        park->setCheckState(DeviceItem::Name, Qt::Unchecked);
+        click(park);
+        QCOMPARE(shown->currentText(), u"Main gate"_s);
+        const auto data = SampleData::make();
+        for (const CorvelGui::TimeSpan& recording : data.tracks[1].recorded.first(2)) {
+            QTest::keyClick(tree, Qt::Key_Return);
+            const QDateTime begin = QDateTime::fromMSecsSinceEpoch(recording.begin, Qt::UTC);
+            QVERIFY(sample.showsTime(begin.toString(u"dd MMM HH:mm:ss"_s)));
+            QCOMPARE(shown->currentText(), u"Car park"_s);
+        }
+    }
+
+    void largeFontsFit()
+    {
+        const auto sizes = [] {
+            const SampleWindow sample(u"UTC"_s);
+            return QSize(sample.window.minimumSizeHint().width(), sample.ruler()->minimumHeight());
+        };
+        const QSize before = sizes();
+        QVERIFY(before.width() <= 480);
+        const QFont font = QApplication::font();
+        QApplication::setFont({font.family(), 20});
+        const QSize large = sizes();
+        QApplication::setFont(font);
+        QVERIFY(large.width() <= 800);
+        QVERIFY(large.height() > before.height() * 3 / 2);
+    }
+};
 
 QTEST_MAIN(TestReviewWindow)
 #include "tst_reviewwindow.moc"

@@ -1,5 +1,6 @@
 #include "categorylistview.h"
 #include "colormetrics.h"
+#include "testfiles.h"
 #include "testsupport.h"
 #include "whenshown.h"
 
@@ -8,8 +9,8 @@
 #include <CorvelGui/OptionsDialog>
 #include <CorvelGui/SettingsManager>
 
+#include <QBitmap>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -17,7 +18,6 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTranslator>
 
 #include <functional>
 
@@ -54,7 +54,6 @@ public:
     void finish() override { calls << u"finish "_s + id(); }
 
     using ISettingsPage::setCategoryIcon;
-    using ISettingsPage::setDisplayName;
     std::function<void()> onApply;
 
 private:
@@ -116,26 +115,305 @@ class TestOptionsDialog : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void tellsThePages_data();
-    void tellsThePages();
-    void furtherCallersWait();
-    void parentGoesWhileItRuns();
-    void pagesThatDelete_data();
-    void pagesThatDelete();
-    void sortsIntoCategories();
-    void findsPagesById();
-    void searches_data();
-    void searches();
-    void remembers();
-    void readsDamagedSettings_data();
-    void readsDamagedSettings();
-    void chosenIconStandsOut();
-    void followsTheLanguage();
+    void init()
+    {
+        WarningFreeTest::init();
+        calls.clear();
+    }
+
+    void cleanup()
+    {
+        delete open();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (const QPointer<Page>& page : std::exchange(m_pages, {}))
+            delete page;
+        QVERIFY(SettingsManager::GetPages().isEmpty());
+        QVERIFY(SettingsManager::GetProvider().isEmpty());
+    }
+
+    void tellsThePages()
+    {
+        const QStringList finish{u"finish a1"_s, u"finish a2"_s, u"finish b1"_s};
+        const QStringList all = QStringList{u"apply a1"_s, u"apply a2"_s, u"apply p1"_s} + finish;
+        // OK, Cancel, Escape, the title bar, and Apply before Cancel.
+        for (const auto& [end, told] : {std::pair(u"O"_s, all),
+                                        {u"C"_s, finish},
+                                        {u"E"_s, {}},
+                                        {u"T"_s, {}},
+                                        {u"AC"_s, all}}) {
+            init();
+            add(u"b"_s, u"b1"_s);
+            add(u"a"_s, u"a2"_s);
+            add(u"a"_s, u"a1"_s);
+            const QPointer<Page> provided = new Page(u"p"_s, u"p1"_s);
+            provide(u"p"_s, provided.data(), new Page(u"p"_s, u"p2"_s));
+            provide(u"q"_s, new Page(u"q"_s, u"q1"_s));
+
+            const QPointer<OptionsDialog> dialog = open();
+            QVERIFY(calls.isEmpty());
+            whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
+                const Parts parts(shown);
+                QCOMPARE(parts.caption(), u"Category a"_s);
+                QCOMPARE(calls.join(u' '), u"create a1 create a2"_s);
+                parts.tabs()->setCurrentIndex(1);
+                parts.list->setCurrentIndex(parts.list->model()->index(2, 0));
+                QCOMPARE(calls.mid(2), QStringList({u"create p1"_s, u"create p2"_s}));
+                calls.clear();
+                if (end.startsWith(u'A'))
+                    QMetaObject::invokeMethod(&shown, "slotApply");
+                if (end == u'O')
+                    parts.ok();
+                else if (end.endsWith(u'C'))
+                    parts.buttons->button(QDialogButtonBox::Cancel)->click();
+                else if (end == u'E')
+                    QTest::keyClick(&shown, Qt::Key_Escape);
+                else
+                    shown.close();
+            });
+            QCOMPARE(dialog->execDialog(), end == u'O' || end == u"AC"_s);
+            QCOMPARE(calls, told);
+            QVERIFY(open() != dialog);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(!dialog);
+            QVERIFY(!provided);
+            cleanup();
+        }
+    }
+
+    void furtherCallersWait()
+    {
+        add(u"a"_s, u"a1"_s);
+        add(u"b"_s, u"b1"_s);
+        OptionsDialog* first = open(u"a"_s, u"a1"_s);
+        QStringList returned;
+        whenShown<OptionsDialog>(this, [&](OptionsDialog&) {
+            QCOMPARE(open(u"b"_s, u"b1"_s), first);
+            QCOMPARE(Parts(*first).caption(), u"Category b"_s);
+            QTimer::singleShot(0, first, [&] { Parts(*first).ok(); });
+            QVERIFY(first->execDialog());
+            returned << u"second"_s;
+            QVERIFY(first->execDialog()); // which does not wait for a dialog that is closing
+        });
+        QVERIFY(first->execDialog());
+        returned << u"first"_s;
+        QCOMPARE(returned, QStringList({u"second"_s, u"first"_s}));
+        QCOMPARE(calls.filter(u"apply"_s), QStringList({u"apply a1"_s, u"apply b1"_s}));
+    }
+
+    void parentGoesWhileItRuns()
+    {
+        add(u"a"_s, u"a1"_s);
+        auto* parent = new QWidget;
+        OptionsDialog* dialog = open(u"a"_s, u"a1"_s, parent);
+        whenShown<OptionsDialog>(this, [&](OptionsDialog&) {
+            QTimer::singleShot(0, this, [parent] { delete parent; });
+            QVERIFY(!dialog->execDialog());
+        });
+        QVERIFY(!dialog->execDialog());
+        QCOMPARE(calls, QStringList(u"create a1"_s));
+    }
+
+    void pagesThatDelete_data()
+    {
+        QTest::addColumn<QString>("deleted");
+        for (const char* deleted : {"page", "provided", "widget", "dialog"})
+            QTest::newRow(deleted) << QString::fromLatin1(deleted);
+    }
+
+    void pagesThatDelete()
+    {
+        QFETCH(const QString, deleted);
+        Page* page = add(u"a"_s, u"a1"_s);
+        add(u"a"_s, u"a2"_s);
+        auto* provided = new Page(u"a"_s, u"a3"_s);
+        provide(u"a"_s, provided);
+        auto* parent = new QWidget;
+        OptionsDialog* dialog = open(u"a"_s, u"a3"_s, parent);
+        QCOMPARE(Parts(*dialog).tab(), u"Page a3"_s);
+        page->onApply = [&] {
+            if (deleted == u"page"_s)
+                delete page;
+            else if (deleted == u"provided"_s)
+                delete provided;
+            else if (deleted == u"widget"_s)
+                delete Parts(*dialog).tabs()->widget(0);
+            else
+                delete parent;
+        };
+        whenShown<OptionsDialog>(this, [](OptionsDialog& shown) { Parts(shown).ok(); });
+        QVERIFY(dialog->execDialog());
+        QCOMPARE(calls.contains(u"apply a3"_s), deleted == u"page"_s || deleted == u"widget"_s);
+        QCOMPARE(calls.contains(u"finish a2"_s), deleted != u"dialog"_s);
+        if (deleted != u"dialog"_s)
+            delete parent;
+    }
+
+    void sortsIntoCategories()
+    {
+        provide(u"z"_s, new Page(u"z"_s, u"z1"_s));
+        provide(u"C"_s, new Page(u"C"_s, u"C1"_s));
+        Page* picture = add(u"b"_s, u"b2"_s);
+        add(u"b"_s, u"b1"_s)->setCategoryIcon(u":/missing.png"_s);
+        picture->setCategoryIcon(u":/CorvelGui/common/open.png"_s);
+        SettingsManager::m_listPages << nullptr << picture;
+        add(u"a"_s, u"a1"_s);
+
+        OptionsDialog* dialog = open(u"b"_s, u"b2"_s);
+        SettingsManager::m_listPages.removeAll(nullptr);
+        const Parts parts(*dialog);
+        QCOMPARE(parts.captions(),
+                 QStringList({u"Category a"_s, u"Category b"_s, u"Provided z"_s, u"Provided C"_s}));
+        QCOMPARE(parts.tabs()->count(), 2);
+        QCOMPARE(parts.tab(), u"Page b2"_s);
+        QCOMPARE(parts.list->sizeHintForRow(0), 32);
+        const auto isClear = [&](int row) {
+            const auto icon =
+                parts.list->model()->index(row, 0).data(Qt::DecorationRole).value<QIcon>();
+            const QImage mask = icon.pixmap(24).toImage().createAlphaMask();
+            return QRegion(QBitmap::fromImage(mask)).isEmpty();
+        };
+        QVERIFY(isClear(0));
+        QVERIFY(!isClear(1));
+    }
+
+    void findsPagesById()
+    {
+        add(u"a"_s, u"same"_s);
+        add(u"a"_s, u"same"_s);
+        add(u"a"_s, u"other"_s);
+        provide(u"p"_s, new Page(u"p"_s, u"p1"_s), new Page(u"p"_s, u"p2"_s));
+        const Parts parts(*open(u"A"_s, u"same"_s));
+        QVERIFY(!parts.tabs());
+        const std::tuple<QString, QString, int> requests[] = {{u"a"_s, {}, 0},
+                                                              {u"p"_s, u"p2"_s, 1},
+                                                              {u"a"_s, u"same"_s, 2},
+                                                              {u"a"_s, u"wrong"_s, 2},
+                                                              {u"wrong"_s, u"p1"_s, 2}};
+        for (const auto& [category, page, tab] : requests) {
+            open(category, page);
+            QCOMPARE(parts.tabs()->currentIndex(), tab);
+            QCOMPARE(parts.tabs()->count(), category == u"p"_s ? 2 : 3);
+        }
+    }
+
+    void searches()
+    {
+        add(u"a"_s, u"a1"_s, u"&C++ (x)"_s);
+        add(u"a"_s, u"a2"_s);
+        add(u"b"_s, u"b1"_s);
+        add(u"b"_s, u"b2"_s, u"Gate&way"_s);
+        provide(u"p"_s, new Page(u"p"_s, u"p1"_s, u"Secret"_s));
+        const Parts parts(*open(u"a"_s));
+        // A text, the categories that have it, and which tabs of the one shown do. Of texts on
+        // pages only the escaped form would be found. Where nothing is, the tabs stay.
+        const char* const rows[][3] = {{"gateway", "Category b", "-x"},
+                                       {"A2", "Category a", "-x"},
+                                       {"gory b", "Category b", "xx"},
+                                       {"secret", "Provided p", "x"},
+                                       {"C++ (x", "", "x-"},
+                                       {".*", "", "x-"},
+                                       {"", "Category a, Category b, Provided p", "xx"}};
+        for (const auto& [text, captions, enabled] : rows) {
+            open(u"a"_s, u"a1"_s);
+            parts.search->setText(u"x"_s);
+            parts.search->setText(QString::fromLatin1(text));
+            QCOMPARE(parts.captions().join(u", "_s), QString::fromLatin1(captions));
+            QString marks;
+            for (int tab = 0; tab < parts.tabs()->count(); ++tab)
+                marks += parts.tabs()->isTabEnabled(tab) ? u'x' : u'-';
+            QCOMPARE(marks, QString::fromLatin1(enabled));
+        }
+        for (const auto& page : {u"b2"_s, u"a2"_s}) { // what is asked for shows
+            open(page.first(1), page);
+            QCOMPARE(parts.tab(), u"Page "_s + page);
+            QVERIFY(parts.tabs()->isTabEnabled(1));
+        }
+        QCOMPARE(calls.size(), 5);
+    }
+
+    void remembers()
+    {
+        const QTemporaryDir folder;
+        QSettings settings(folder.filePath(u"s.ini"_s), QSettings::IniFormat);
+        settings.setValue(u"UserSettings/Mine"_s, 7);
+        add(u"a"_s, u"a1"_s);
+        QWidget parent;
+        parent.setGeometry(1000, 700, 400, 300);
+        for (const QString& category : {u"b"_s, QString(), u"a"_s}) {
+            provide(u"b"_s, new Page(u"b"_s, u"b1"_s), new Page(u"b"_s, u"b2"_s));
+            OptionsDialog* dialog =
+                open(category, category.isEmpty() ? category : u"b2"_s, &parent);
+            if (category == u"b"_s) {
+                dialog->resize(1234, 777);
+                dialog->writeUserSettings(settings);
+            } else {
+                dialog->readUserSettings(settings);
+                QCOMPARE(dialog->geometry(), QRect(1199 - 616, 849 - 388, 1234, 777));
+            }
+            // What is asked for goes before what is remembered.
+            QCOMPARE(Parts(*dialog).tab(), category == u"a"_s ? u"Page a1"_s : u"Page b2"_s);
+            delete dialog;
+        }
+        QCOMPARE(settings.value(u"UserSettings/Mine"_s).toInt(), 7);
+    }
+
+    void readsDamagedSettings()
+    {
+        for (const auto& [content, caption] :
+             {std::pair(QByteArray(), u"Category a"_s),
+              {QByteArray("\0\xff[[=\n@", 7), u"Category a"_s},
+              {"[UserSettings]\nLastSize=@Size(-7 x)\nLastCategory=b\n=\n", u"Category b"_s},
+              {"[UserSettings]\nLastCategory=x\nLastPage=y\n", u"Category a"_s}}) {
+            add(u"a"_s, u"a1"_s);
+            add(u"b"_s, u"b1"_s);
+            const QTemporaryDir folder;
+            const QString file = writeFile(folder.filePath(u"s.ini"_s), content);
+            QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+
+            QSettings settings(file, QSettings::IniFormat);
+            OptionsDialog* dialog = open();
+            dialog->readUserSettings(settings);
+            QCOMPARE(dialog->size(), QSize(1000, 600));
+            whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
+                QCOMPARE(Parts(shown).caption(), caption);
+                Parts(shown).ok();
+            });
+            QVERIFY(dialog->execDialog());
+            // A place where nothing can be written.
+            QSettings nowhere(file + u"/s.ini"_s, QSettings::IniFormat);
+            dialog->writeUserSettings(nowhere);
+            nowhere.sync();
+            QCOMPARE(readFile(file), content);
+            cleanup();
+        }
+    }
+
+    void chosenIconStandsOut()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(u"icon.png"_s);
+        const QColor blue = QApplication::palette().color(QPalette::Highlight);
+        QPixmap icon(24, 24);
+        icon.fill(blue);
+        QVERIFY(icon.save(file));
+        add(u"a"_s, u"a1"_s)->setCategoryIcon(file);
+        OptionsDialog* dialog = open(u"a"_s);
+        dialog->show();
+        const QListView* list = Parts(*dialog).list;
+        const QRect row = list->visualRect(list->currentIndex());
+        const QImage image = list->viewport()->grab(row).toImage();
+        QCOMPARE(image.pixelColor(15, row.height() / 2), blue);
+        QCOMPARE_GE(contrast(image.pixelColor(row.width() - 3, row.height() / 2), blue), 2);
+        delete dialog;
+    }
 
 private:
-    Page* add(const QString& category, const QString& id, const QString& text = {});
+    Page* add(const QString& category, const QString& id, const QString& text = {})
+    {
+        m_pages << new Page(category, id, text);
+        SettingsManager::m_listPages << m_pages.last();
+        return m_pages.last();
+    }
     static OptionsDialog* open(const QString& category = {}, const QString& page = {},
                                QWidget* parent = nullptr)
     {
@@ -144,344 +422,6 @@ private:
 
     QList<QPointer<Page>> m_pages;
 };
-
-void TestOptionsDialog::init()
-{
-    WarningFreeTest::init();
-    calls.clear();
-}
-
-void TestOptionsDialog::cleanup()
-{
-    delete open();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    for (const QPointer<Page>& page : std::exchange(m_pages, {}))
-        delete page;
-    QVERIFY(SettingsManager::GetPages().isEmpty());
-    QVERIFY(SettingsManager::GetProvider().isEmpty());
-}
-
-Page* TestOptionsDialog::add(const QString& category, const QString& id, const QString& text)
-{
-    m_pages << new Page(category, id, text);
-    SettingsManager::m_listPages << m_pages.last();
-    return m_pages.last();
-}
-
-void TestOptionsDialog::tellsThePages_data()
-{
-    QTest::addColumn<QString>("end");
-    QTest::addColumn<QStringList>("told");
-    const QStringList finish{u"finish a1"_s, u"finish a2"_s, u"finish b1"_s};
-    const QStringList apply{u"apply a1"_s, u"apply a2"_s, u"apply p1"_s};
-    QTest::newRow("OK") << u"O"_s << apply + finish;
-    QTest::newRow("Cancel") << u"C"_s << finish;
-    QTest::newRow("Escape") << u"E"_s << QStringList();
-    QTest::newRow("title bar") << u"T"_s << QStringList();
-    QTest::newRow("Apply, Cancel") << u"AC"_s << apply + finish;
-}
-
-void TestOptionsDialog::tellsThePages()
-{
-    QFETCH(QString, end);
-    QFETCH(QStringList, told);
-    add(u"b"_s, u"b1"_s);
-    add(u"a"_s, u"a2"_s);
-    add(u"a"_s, u"a1"_s);
-    const QPointer<Page> provided = new Page(u"p"_s, u"p1"_s);
-    provide(u"p"_s, provided.data(), new Page(u"p"_s, u"p2"_s));
-    provide(u"q"_s, new Page(u"q"_s, u"q1"_s));
-
-    const QPointer<OptionsDialog> dialog = open();
-    QVERIFY(calls.isEmpty());
-    whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
-        const Parts parts(shown);
-        QCOMPARE(parts.caption(), u"Category a"_s);
-        QCOMPARE(calls, QStringList({u"create a1"_s, u"create a2"_s}));
-        parts.tabs()->setCurrentIndex(1);
-        parts.list->setCurrentIndex(parts.list->model()->index(2, 0));
-        QCOMPARE(calls.mid(2), QStringList({u"create p1"_s, u"create p2"_s}));
-        calls.clear();
-        if (end.startsWith(u'A'))
-            QMetaObject::invokeMethod(&shown, "slotApply");
-        if (end == u'O')
-            parts.ok();
-        else if (end.endsWith(u'C'))
-            parts.buttons->button(QDialogButtonBox::Cancel)->click();
-        else if (end == u'E')
-            QTest::keyClick(&shown, Qt::Key_Escape);
-        else
-            shown.close();
-    });
-    QCOMPARE(dialog->execDialog(), end == u'O' || end == u"AC"_s);
-    QCOMPARE(calls, told);
-    QVERIFY(open() != dialog);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!dialog);
-    QVERIFY(!provided);
-}
-
-void TestOptionsDialog::furtherCallersWait()
-{
-    add(u"a"_s, u"a1"_s);
-    add(u"b"_s, u"b1"_s);
-    OptionsDialog* first = open(u"a"_s, u"a1"_s);
-    QStringList returned;
-    whenShown<OptionsDialog>(this, [&](OptionsDialog&) {
-        QCOMPARE(open(u"b"_s, u"b1"_s), first);
-        QCOMPARE(Parts(*first).caption(), u"Category b"_s);
-        QTimer::singleShot(0, first, [&] { Parts(*first).ok(); });
-        QVERIFY(first->execDialog());
-        returned << u"second"_s;
-        QVERIFY(first->execDialog()); // which does not wait for a dialog that is closing
-    });
-    QVERIFY(first->execDialog());
-    returned << u"first"_s;
-    QCOMPARE(returned, QStringList({u"second"_s, u"first"_s}));
-    QCOMPARE(calls.filter(u"apply"_s), QStringList({u"apply a1"_s, u"apply b1"_s}));
-}
-
-void TestOptionsDialog::parentGoesWhileItRuns()
-{
-    add(u"a"_s, u"a1"_s);
-    auto* parent = new QWidget;
-    OptionsDialog* dialog = open(u"a"_s, u"a1"_s, parent);
-    whenShown<OptionsDialog>(this, [&](OptionsDialog&) {
-        QTimer::singleShot(0, this, [parent] { delete parent; });
-        QVERIFY(!dialog->execDialog());
-    });
-    QVERIFY(!dialog->execDialog());
-    QCOMPARE(calls, QStringList(u"create a1"_s));
-}
-
-void TestOptionsDialog::pagesThatDelete_data()
-{
-    QTest::addColumn<QString>("deleted");
-    for (const char* deleted : {"page", "provided", "widget", "dialog"})
-        QTest::newRow(deleted) << QString::fromLatin1(deleted);
-}
-
-void TestOptionsDialog::pagesThatDelete()
-{
-    QFETCH(QString, deleted);
-    Page* page = add(u"a"_s, u"a1"_s);
-    add(u"a"_s, u"a2"_s);
-    auto* provided = new Page(u"a"_s, u"a3"_s);
-    provide(u"a"_s, provided);
-    auto* parent = new QWidget;
-    OptionsDialog* dialog = open(u"a"_s, u"a3"_s, parent);
-    QCOMPARE(Parts(*dialog).tab(), u"Page a3"_s);
-    page->onApply = [&] {
-        if (deleted == u"page"_s)
-            delete page;
-        else if (deleted == u"provided"_s)
-            delete provided;
-        else if (deleted == u"widget"_s)
-            delete Parts(*dialog).tabs()->widget(0);
-        else
-            delete parent;
-    };
-    whenShown<OptionsDialog>(this, [](OptionsDialog& shown) { Parts(shown).ok(); });
-    QVERIFY(dialog->execDialog());
-    QCOMPARE(calls.contains(u"apply a3"_s), deleted == u"page"_s || deleted == u"widget"_s);
-    QCOMPARE(calls.contains(u"finish a2"_s), deleted != u"dialog"_s);
-    if (deleted != u"dialog"_s)
-        delete parent;
-}
-
-void TestOptionsDialog::sortsIntoCategories()
-{
-    provide(u"z"_s, new Page(u"z"_s, u"z1"_s));
-    provide(u"C"_s, new Page(u"C"_s, u"C1"_s));
-    Page* picture = add(u"b"_s, u"b2"_s);
-    add(u"b"_s, u"b1"_s)->setCategoryIcon(u":/missing.png"_s);
-    picture->setCategoryIcon(u":/CorvelGui/common/open.png"_s);
-    SettingsManager::m_listPages << nullptr << picture;
-    add(u"a"_s, u"a1"_s);
-
-    OptionsDialog* dialog = open(u"b"_s, u"b2"_s);
-    SettingsManager::m_listPages.removeAll(nullptr);
-    const Parts parts(*dialog);
-    QCOMPARE(parts.captions(),
-             QStringList({u"Category a"_s, u"Category b"_s, u"Provided z"_s, u"Provided C"_s}));
-    QCOMPARE(parts.tabs()->count(), 2);
-    QCOMPARE(parts.tab(), u"Page b2"_s);
-    QCOMPARE(parts.list->sizeHintForRow(0), 32);
-    const auto isClear = [&](int row) {
-        const auto icon =
-            parts.list->model()->index(row, 0).data(Qt::DecorationRole).value<QIcon>();
-        const QImage image =
-            icon.pixmap(24).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-        QImage clear(image.size(), image.format());
-        clear.fill(Qt::transparent);
-        return image == clear;
-    };
-    QVERIFY(isClear(0));
-    QVERIFY(!isClear(1));
-}
-
-void TestOptionsDialog::findsPagesById()
-{
-    add(u"a"_s, u"same"_s);
-    add(u"a"_s, u"same"_s);
-    add(u"a"_s, u"other"_s);
-    provide(u"p"_s, new Page(u"p"_s, u"p1"_s), new Page(u"p"_s, u"p2"_s));
-    const Parts parts(*open(u"A"_s, u"same"_s));
-    QVERIFY(!parts.tabs());
-    const std::tuple<QString, QString, int> requests[] = {{u"a"_s, {}, 0},
-                                                          {u"p"_s, u"p2"_s, 1},
-                                                          {u"a"_s, u"same"_s, 2},
-                                                          {u"a"_s, u"wrong"_s, 2},
-                                                          {u"wrong"_s, u"p1"_s, 2}};
-    for (const auto& [category, page, tab] : requests) {
-        open(category, page);
-        QCOMPARE(parts.tabs()->currentIndex(), tab);
-        QCOMPARE(parts.tabs()->count(), category == u"p"_s ? 2 : 3);
-    }
-}
-
-void TestOptionsDialog::searches_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("captions");
-    QTest::addColumn<QList<bool>>("enabled"); // tabs of the category shown
-    using List = QStringList;
-    using Tabs = QList<bool>;
-    QTest::newRow("page") << u"gateway"_s << List{u"Category b"_s} << Tabs{false, true};
-    QTest::newRow("tab") << u"A2"_s << List{u"Category a"_s} << Tabs{false, true};
-    QTest::newRow("category") << u"gory b"_s << List{u"Category b"_s} << Tabs{true, true};
-    QTest::newRow("provided page") << u"secret"_s << List{u"Provided p"_s} << Tabs{true};
-    // Of texts on pages only the escaped form would be found. Nothing is, and the tabs stay.
-    QTest::newRow("metacharacters") << u"C++ (x"_s << List() << Tabs{true, false};
-    QTest::newRow("a pattern") << u".*"_s << List() << Tabs{true, false};
-    const List all{u"Category a"_s, u"Category b"_s, u"Provided p"_s};
-    QTest::newRow("nothing") << QString() << all << Tabs{true, true};
-}
-
-void TestOptionsDialog::searches()
-{
-    QFETCH(QString, text);
-    add(u"a"_s, u"a1"_s, u"&C++ (x)"_s);
-    add(u"a"_s, u"a2"_s);
-    add(u"b"_s, u"b1"_s);
-    add(u"b"_s, u"b2"_s, u"Gate&way"_s);
-    provide(u"p"_s, new Page(u"p"_s, u"p1"_s, u"Secret"_s));
-    const Parts parts(*open(u"a"_s));
-    parts.search->setText(u"x"_s);
-    QCOMPARE(calls.size(), 5); // all are built, and never again
-    parts.search->setText(text);
-    QTEST(parts.captions(), "captions");
-    QList<bool> enabled;
-    for (int tab = 0; tab < parts.tabs()->count(); ++tab)
-        enabled << parts.tabs()->isTabEnabled(tab);
-    QTEST(enabled, "enabled");
-
-    for (const auto& page : {u"b2"_s, u"a2"_s}) { // what is asked for shows
-        open(page.first(1), page);
-        QCOMPARE(parts.tab(), u"Page "_s + page);
-        QVERIFY(parts.tabs()->isTabEnabled(1));
-    }
-    QCOMPARE(calls.size(), 5);
-}
-
-void TestOptionsDialog::remembers()
-{
-    const QTemporaryDir folder;
-    QSettings settings(folder.filePath(u"s.ini"_s), QSettings::IniFormat);
-    settings.setValue(u"UserSettings/Mine"_s, 7);
-    add(u"a"_s, u"a1"_s);
-    QWidget parent;
-    parent.setGeometry(1000, 700, 400, 300);
-    for (const QString& category : {u"b"_s, QString(), u"a"_s}) {
-        provide(u"b"_s, new Page(u"b"_s, u"b1"_s), new Page(u"b"_s, u"b2"_s));
-        OptionsDialog* dialog = open(category, category.isEmpty() ? category : u"b2"_s, &parent);
-        if (category == u"b"_s) {
-            dialog->resize(1234, 777);
-            dialog->writeUserSettings(settings);
-        } else {
-            dialog->readUserSettings(settings);
-            QCOMPARE(dialog->geometry(), QRect(1199 - 616, 849 - 388, 1234, 777));
-        }
-        // What is asked for goes before what is remembered.
-        QCOMPARE(Parts(*dialog).tab(), category == u"a"_s ? u"Page a1"_s : u"Page b2"_s);
-        delete dialog;
-    }
-    QCOMPARE(settings.value(u"UserSettings/Mine"_s).toInt(), 7);
-}
-
-void TestOptionsDialog::readsDamagedSettings_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("caption");
-    QTest::newRow("empty") << QByteArray() << u"Category a"_s;
-    QTest::newRow("no settings") << QByteArray("\0\xff[[=\n@", 7) << u"Category a"_s;
-    QTest::newRow("partly") << QByteArray(
-                                   "[UserSettings]\nLastSize=@Size(-7 x)\nLastCategory=b\n=\n")
-                            << u"Category b"_s;
-    QTest::newRow("unknown page") << QByteArray("[UserSettings]\nLastCategory=x\nLastPage=y\n")
-                                  << u"Category a"_s;
-}
-
-void TestOptionsDialog::readsDamagedSettings()
-{
-    QFETCH(QByteArray, content);
-    add(u"a"_s, u"a1"_s);
-    add(u"b"_s, u"b1"_s);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(u"s.ini"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    file.close();
-    QVERIFY(file.setPermissions(QFile::ReadOwner));
-
-    QSettings settings(file.fileName(), QSettings::IniFormat);
-    OptionsDialog* dialog = open();
-    dialog->readUserSettings(settings);
-    QCOMPARE(dialog->size(), QSize(1000, 600));
-    whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
-        QTEST(Parts(shown).caption(), "caption");
-        Parts(shown).ok();
-    });
-    QVERIFY(dialog->execDialog());
-    // A place where nothing can be written.
-    QSettings nowhere(file.fileName() + u"/s.ini"_s, QSettings::IniFormat);
-    dialog->writeUserSettings(nowhere);
-    nowhere.sync();
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), content);
-}
-
-void TestOptionsDialog::chosenIconStandsOut()
-{
-    QTemporaryDir folder;
-    const QString file = folder.filePath(u"icon.png"_s);
-    const QColor blue = QApplication::palette().color(QPalette::Highlight);
-    QPixmap icon(24, 24);
-    icon.fill(blue);
-    QVERIFY(icon.save(file));
-    add(u"a"_s, u"a1"_s)->setCategoryIcon(file);
-    OptionsDialog* dialog = open(u"a"_s);
-    dialog->show();
-    const QListView* list = Parts(*dialog).list;
-    const QRect row = list->visualRect(list->currentIndex());
-    const QImage image = list->viewport()->grab(row).toImage();
-    QCOMPARE(image.pixelColor(15, row.height() / 2), blue);
-    QCOMPARE_GE(contrast(image.pixelColor(row.width() - 3, row.height() / 2), blue), 2);
-    delete dialog;
-}
-
-void TestOptionsDialog::followsTheLanguage()
-{
-    Page* page = add(u"a"_s, u"a1"_s);
-    OptionsDialog* dialog = open(u"a"_s);
-    QTranslator translator;
-    QVERIFY(translator.load(QCoreApplication::applicationDirPath() +
-                            u"/../share/CorvelGui/translations/corvelgui_de.qm"_s));
-    page->setDisplayName(u"Seite"_s);
-    dialog->show();
-    QCoreApplication::installTranslator(&translator);
-    QTRY_COMPARE(dialog->windowTitle(), u"Optionen"_s);
-    QCOMPARE(Parts(*dialog).tab(), u"Seite"_s);
-}
 
 QTEST_MAIN(TestOptionsDialog)
 #include "tst_optionsdialog.moc"

@@ -1,3 +1,4 @@
+#include "testfiles.h"
 #include "testsupport.h"
 
 #include <CorvelGui/ISettingsPage>
@@ -6,7 +7,6 @@
 #include <CorvelGui/SettingsManager>
 
 #include <QCheckBox>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -51,59 +51,53 @@ class TestSettingsPages : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void textsAreFound();
-    void iconsOfMissingPicturesAreNull();
-    void whatIsDeletedLeavesTheLists();
-};
+    void textsAreFound()
+    {
+        Page page;
+        QVERIFY(!page.matches(u"proxy"_s)); // there is no widget yet
+        std::unique_ptr<QWidget> widget(page.createWidget(nullptr));
+        for (const auto& text : {u"proxy"_s, u"AB"_s, u"rememb"_s, u"TEST"_s, u"server"_s, u""_s})
+            QVERIFY2(page.matches(text), qPrintable(text));
+        QVERIFY(!page.matches(u"direct"_s));
+        const QStringList all{u"&Server"_s,  u"&Proxy"_s, u"A&&B"_s,
+                              u"Remember"_s, u"Te&st"_s,  u"Dir&ect"_s};
+        QCOMPARE(static_cast<SettingsBaseWidget*>(widget.get())->searchKeywords(), all);
 
-void TestSettingsPages::textsAreFound()
-{
-    Page page;
-    QVERIFY(!page.matches(u"proxy"_s)); // there is no widget yet
-    std::unique_ptr<QWidget> widget(page.createWidget(nullptr));
-    for (const auto& text : {u"proxy"_s, u"AB"_s, u"rememb"_s, u"TEST"_s, u"server"_s, u""_s})
-        QVERIFY2(page.matches(text), qPrintable(text));
-    QVERIFY(!page.matches(u"direct"_s));
-    const QStringList all{u"&Server"_s,  u"&Proxy"_s, u"A&&B"_s,
-                          u"Remember"_s, u"Te&st"_s,  u"Dir&ect"_s};
-    QCOMPARE(static_cast<SettingsBaseWidget*>(widget.get())->searchKeywords(), all);
-
-    widget->findChild<QLabel*>()->setText(u"Gateway"_s);
-    QVERIFY(!page.matches(u"gateway"_s));
-    widget.reset();
-    QVERIFY(page.matches(u"proxy"_s));
-}
-
-void TestSettingsPages::iconsOfMissingPicturesAreNull()
-{
-    const QTemporaryDir folder;
-    QFile broken(folder.filePath(u"broken.png"_s));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no picture") > 0);
-    broken.close();
-    Page page;
-    for (const auto& path : {QString(), folder.filePath(u"missing.png"_s), broken.fileName()}) {
-        page.setCategoryIcon(path);
-        QVERIFY2(page.categoryIcon().isNull(), qPrintable(path));
+        widget->findChild<QLabel*>()->setText(u"Gateway"_s);
+        QVERIFY(!page.matches(u"gateway"_s));
+        widget.reset();
+        QVERIFY(page.matches(u"proxy"_s));
     }
-    page.setCategoryIcon(u":/CorvelGui/common/open.png"_s);
-    QVERIFY(!page.categoryIcon().isNull());
-}
 
-void TestSettingsPages::whatIsDeletedLeavesTheLists()
-{
-    auto* first = new Page;
-    const QPointer<Page> second = new Page;
-    SettingsManager::m_listPages << first << second;
-    auto* provider = new Provider({first, nullptr, second});
-    SettingsManager::m_listProvider << provider;
-    QCOMPARE(provider->pages().size(), 3);
-    delete first;
-    QCOMPARE(provider->pages(), QList<ISettingsPage*>({nullptr, second}));
-    QCOMPARE(SettingsManager::GetPages(), QList<ISettingsPage*>({second}));
-    delete provider;
-    QVERIFY(!second);
-    QVERIFY(SettingsManager::GetProvider().isEmpty());
-}
+    void iconsOfMissingPicturesAreNull()
+    {
+        const QTemporaryDir folder;
+        const QString broken = writeFile(folder.filePath(u"broken.png"_s), "no picture");
+        Page page;
+        for (const auto& path : {QString(), folder.filePath(u"missing.png"_s), broken}) {
+            page.setCategoryIcon(path);
+            QVERIFY2(page.categoryIcon().isNull(), qPrintable(path));
+        }
+        page.setCategoryIcon(u":/CorvelGui/common/open.png"_s);
+        QVERIFY(!page.categoryIcon().isNull());
+    }
+
+    void whatIsDeletedLeavesTheLists()
+    {
+        auto* first = new Page;
+        const QPointer<Page> second = new Page;
+        SettingsManager::m_listPages << first << second;
+        auto* provider = new Provider({first, nullptr, second});
+        SettingsManager::m_listProvider << provider;
+        QCOMPARE(provider->pages().size(), 3);
+        delete first;
+        QCOMPARE(provider->pages(), QList<ISettingsPage*>({nullptr, second}));
+        QCOMPARE(SettingsManager::GetPages(), QList<ISettingsPage*>({second}));
+        delete provider;
+        QVERIFY(!second);
+        QVERIFY(SettingsManager::GetProvider().isEmpty());
+    }
+};
 
 QTEST_MAIN(TestSettingsPages)
 #include "tst_settingspages.moc"

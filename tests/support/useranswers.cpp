@@ -1,6 +1,7 @@
 #include "useranswers.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -10,6 +11,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr const char* schemes[] = {"http", "https", "file"};
 
 QString kind(const QMessageBox& box)
 {
@@ -29,8 +32,25 @@ QString kind(const QMessageBox& box)
 
 UserAnswers::UserAnswers()
 {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    for (const char* scheme : schemes)
+        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "open");
     connect(&m_timer, &QTimer::timeout, this, &UserAnswers::answer);
     m_timer.start(0);
+}
+
+UserAnswers::~UserAnswers()
+{
+    for (const char* scheme : schemes)
+        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+}
+
+void UserAnswers::deleteAt(const QString& begin, QObject* object)
+{
+    before = [this, begin, object](const QDialog&) {
+        if (m_said.last().startsWith(begin))
+            delete object;
+    };
 }
 
 void UserAnswers::answer()

@@ -1,19 +1,12 @@
-#include "scriptedserver.h"
 #include "testsupport.h"
-#include "useranswers.h"
+#include "updatebench.h"
 
 #include <CorvelGui/PChangeLogDialog>
 #include <CorvelGui/PCheckVersionUpdate>
 #include <CorvelGui/PCheckVersionUpdateDialog>
 
-#include <QDesktopServices>
-#include <QDir>
-#include <QElapsedTimer>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
@@ -22,72 +15,51 @@ using LocalHttp::Misbehaviour;
 
 namespace {
 
-const QByteArray versionFile = "version=2.1.0.5\nupdatefile=setup.exe\nreadmefile=notes.html\n"
-                               "releasedate=1 May 2026\n";
+const QByteArray keys = "\nupdatefile=setup.exe\nreadmefile=notes.html\nreleasedate=1 May 2026\n";
+const QByteArray versionFile = "version=2.1.0.5" + keys;
 const QByteArray notes = "<h1>2.1</h1>";
-const QByteArray installer = QByteArray("installer ").repeated(5'000);
 
 const QString title = u"Test Client"_s;
-const QString offer = u"Offer: Test Client: Test Client%1\n\nCurrent version: 2.0.9\nA new version "
-                      "is available: 2.1.0\nRelease date: 1 May 2026\n\nWould you like to download "
-                      "this version?"_s;
-const QString inside = u" (Internal Release Channel)"_s;
 const QString upToDate = u"Information: Test Client: Your Test Client Version is up to date"_s;
 const QString unreadable =
     u"Critical: Update check failed: Internal error!\nCannot parse version information."_s;
 const QString unreachable = u"Critical: Update check failed: Cannot connect to Orvane Software "
                             "Update Server!\nPlease check internet connection."_s;
+const QString noLog = u"Warning: Error Download: Could not download change log information."_s;
 const QString save = u"Save: Save Software: setup.exe"_s;
-const QString failed = u"Critical: Download failed: Download failed!\n\nError: "_s;
+const QString failed = u"Critical: Download failed: "_s;
 
-/// Both channels on one local server, the check, and the user.
-struct Bench
+QString offer(const QString& version = u"2.1.0"_s,
+              const QString& channel = u" (Internal Release Channel)"_s)
+{
+    return u"Offer: Test Client: Test Client%1\n\nCurrent version: 2.0.9\nA new version is "
+           "available: %2\nRelease date: 1 May 2026\n\nWould you like to download this version?"_s
+               .arg(channel, version);
+}
+
+/// Both channels on one local server.
+struct Bench : UpdateBench<PCheckVersionUpdate>
 {
     Bench()
     {
-        user.savePath = folder.filePath(u"saved.exe"_s);
-        update = new PCheckVersionUpdate(&parent, u"2.0.9.1"_s, server.base() + u"/out/"_s,
-                                         server.base() + u"/in/"_s, false);
-        update->setLimits({.deadline = 400ms, .silence = 200ms, .size = 100'000},
-                          {.deadline = 400ms, .silence = 200ms, .size = 100'000});
+        updater = new PCheckVersionUpdate(parent, u"2.0.9.1"_s, server.base() + u"/out/"_s,
+                                          server.base() + u"/in/"_s, false);
+        updater->setLimits({.deadline = 400ms, .silence = 200ms, .size = 100'000},
+                           {.deadline = 400ms, .silence = 200ms, .size = 100'000});
     }
 
+    /// @p version may be the name of a misbehaviour; without one there is no such channel.
     void script(const QByteArray& channel, const QByteArray& version = versionFile)
     {
-        server.script(channel + "version.txt", version);
+        if (version.isEmpty())
+            return;
+        server.script(channel + "version.txt", version,
+                      LocalHttp::misbehaviourNamed(QString::fromLatin1(version))
+                          .value_or(Misbehaviour::None));
         server.script(channel + "notes.html", notes);
         server.script(channel + "setup.exe", installer);
     }
-
-    QByteArray saved() const
-    {
-        QFile file(folder.filePath(u"saved.exe"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void saveBefore(const QByteArray& content)
-    {
-        QFile file(folder.filePath(u"saved.exe"_s));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("Cannot write");
-    }
-    QStringList files() const { return QDir(folder.path()).entryList(QDir::Files); }
-
-    QTemporaryDir folder;
-    ScriptedServer server;
-    UserAnswers user;
-    QWidget parent;
-    QPointer<PCheckVersionUpdate> update;
 };
-
-// Runs until nothing is under way and every dialog is answered.
-void settle(Bench& bench, const QStringList& said)
-{
-    QTRY_COMPARE(bench.user.said(), said);
-    QTRY_VERIFY(!bench.update || !bench.update->isBusy());
-    QTRY_VERIFY(!QApplication::activeModalWidget());
-    QCoreApplication::processEvents();
-    QCOMPARE(bench.user.said(), said);
-}
 
 } // namespace
 
@@ -96,340 +68,227 @@ class TestPCheckVersionUpdate : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void channelsAreAskedInOrder_data();
-    void channelsAreAskedInOrder();
-    void faultyVersionFileMeansNextChannel_data() { faults(); }
-    void faultyVersionFileMeansNextChannel();
-    void versionsAreCompared_data();
-    void versionsAreCompared();
-    void installerIsSaved();
-    void faultyDownloadKeepsTheFile_data() { faults(); }
-    void faultyDownloadKeepsTheFile();
-    void unwritableTargetIsTold();
-    void checksStandAlone();
-    void goesAtAnyMoment_data();
-    void goesAtAnyMoment();
-    void changeLogIsShown();
-    void windowStaysResponsive();
+    void initTestCase() { QCoreApplication::setApplicationName(title); }
 
-public Q_SLOTS:
-    void open(const QUrl& url) { m_opened.append(url); }
+    void checks_data()
+    {
+        QTest::addColumn<QByteArray>("internal"); // its version file
+        QTest::addColumn<QByteArray>("external");
+        QTest::addColumn<bool>("showResult");
+        QTest::addColumn<QByteArray>("requests");
+        QTest::addColumn<QStringList>("said");
+        const QByteArray in = "/in/version.txt";
+        const QByteArray both = "/in/version.txt /out/version.txt";
+        const auto row = [](const char* name, const QByteArray& internal,
+                            const QByteArray& external, bool showResult, const QByteArray& requests,
+                            const QStringList& said) {
+            QTest::newRow(name) << internal << external << showResult << requests << said;
+        };
+        row("internal", versionFile, versionFile, false, in + " /in/notes.html", {offer()});
+        row("public", {}, versionFile, false, both + " /out/notes.html", {offer(u"2.1.0"_s, {})});
+        row("none, told", {}, {}, true, both, {unreachable});
+        row("none, silent", {}, {}, false, both, {});
+        row("late and cut", "never", "cut", true, both, {unreachable});
+        row("a portal", "portal", versionFile, true, in, {unreadable});
+        row("unreadable, silent", "hello", versionFile, false, in, {unreadable});
 
-private:
-    static void faults();
+        const auto version = [&](const QByteArray& number, bool showResult,
+                                 const QStringList& said) {
+            row((number + (showResult ? "" : ", silent")).constData(), "version=" + number + keys,
+                {}, showResult, in + " /in/notes.html", said);
+        };
+        version("2.0.9.1", true, {upToDate});
+        version("2.0.9.1", false, {});
+        version("2.0.8.9", true, {upToDate});
+        version("2.0.9.2", true, {offer(u"2.0.9"_s)});
+        version("2.0.10", true, {offer(u"2.0.10"_s)});
+        version("99999999999", true, {offer(u"2147483647.0.0"_s)});
+        row("no notes at their address", "version=3\nupdatefile=a\nreadmefile=gone.html", {}, true,
+            in + " /in/gone.html", {});
+    }
 
-    QList<QUrl> m_opened;
+    void checks()
+    {
+        QFETCH(const QByteArray, internal);
+        QFETCH(const QByteArray, external);
+        QFETCH(const bool, showResult);
+        QFETCH(const QByteArray, requests);
+        QFETCH(const QStringList, said);
+        Bench bench;
+        bench.user.wantsDownload = false;
+        bench.script("/in/", internal);
+        bench.script("/out/", external);
+        const QSignalSpy busy(bench.updater, &PCheckVersionUpdate::busyChanged);
+        bench.updater->checkVersion(showResult);
+        QVERIFY(bench.updater->isBusy());
+        QTRY_COMPARE(bench.server.targets().join(' '), requests);
+        bench.settle(said);
+        QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
+        QCOMPARE(bench.server.targets().join(' '), requests);
+        QCOMPARE(bench.updater->hasInternalReleaseChannelConnection(),
+                 requests.contains("/in/notes") || requests.contains("/in/gone"));
+        const QString missing = u"Error reading %1/in/gone.html"_s.arg(bench.server.base());
+        QCOMPARE(bench.updater->GetReadMeFile().toUtf8(), requests.contains("notes") ? notes
+                                                          : requests.contains("gone")
+                                                              ? missing.toUtf8()
+                                                              : QByteArray());
+    }
+
+    void installerIsSaved()
+    {
+        Bench bench;
+        bench.user.opensFolder = true;
+        bench.script("/in/");
+        writeFile(bench.user.savePath, "an earlier release");
+        QList<std::pair<qint64, qint64>> progress;
+        connect(bench.updater, &PCheckVersionUpdate::signalDownloadProgress, this,
+                [&](qint64 received, qint64 total) {
+                    progress.append({received, total});
+                });
+        bench.updater->checkVersion(false);
+        bench.settle({offer(), save,
+                      u"Question: Test Client: Downloading of new version was finished "
+                      "successfully!\n\nLocation: %1\n\nOpen download file location?"_s.arg(
+                          QDir::toNativeSeparators(bench.user.savePath))});
+        QCOMPARE(bench.saved(), installer);
+        QCOMPARE(bench.files(), QStringList{u"saved.exe"_s});
+        QCOMPARE(bench.user.opened(),
+                 QStringList{QUrl::fromLocalFile(bench.folder.path()).toString()});
+        QVERIFY(progress.size() >= 3); // also of an installer that arrives at once
+        QCOMPARE(progress.first(), std::pair(qint64(-1), qint64(-1)));
+        QCOMPARE(progress.last(), std::pair(qint64(installer.size()), qint64(installer.size())));
+        QVERIFY(std::is_sorted(progress.begin(), progress.end()));
+    }
+
+    void failuresAreTold_data()
+    {
+        QTest::addColumn<Misbehaviour>("how");
+        QTest::addColumn<QString>("saveAs");
+        QTest::addColumn<QString>("told");
+        const QString network = u"Download failed!\n\nError: "_s;
+        QTest::newRow("cut") << Misbehaviour::Cut << u"a"_s
+                             << network + u"The connection was closed too early."_s;
+        QTest::newRow("limits") << Misbehaviour::Slow << u"a"_s
+                                << network + u"The server does not answer."_s;
+        QTest::newRow("no folder")
+            << Misbehaviour::None << u"nowhere/a"_s << u"Error while saving file!"_s;
+    }
+
+    void failuresAreTold()
+    {
+        QFETCH(const Misbehaviour, how);
+        QFETCH(const QString, saveAs);
+        QFETCH(const QString, told);
+        Bench bench;
+        bench.script("/in/");
+        bench.server.script("/in/setup.exe", installer, how);
+        bench.user.savePath = bench.folder.filePath(saveAs);
+        if (how != Misbehaviour::None)
+            writeFile(bench.user.savePath, "an earlier release");
+        QSignalSpy progress(bench.updater, &PCheckVersionUpdate::signalDownloadProgress);
+        const QStringList files = bench.files();
+        bench.updater->checkVersion(false);
+        bench.settle({offer(), save, failed + told});
+        QCOMPARE(progress.last(), (QVariantList{0, 0}));
+        QCOMPARE(bench.saved(), files.isEmpty() ? "" : "an earlier release");
+        QCOMPARE(bench.files(), files);
+    }
+
+    void checksStandAlone()
+    {
+        Bench bench;
+        bench.user.wantsDownload = false;
+        bench.script("/in/");
+        bench.updater->checkVersion(false);
+        bench.settle({offer()});
+
+        // Nothing of the first check is left in a second one that finds less, and one that is
+        // replaced says nothing.
+        bench.script("/in/", "404");
+        bench.server.script("/out/version.txt", "version=3\nupdatefile=a.exe");
+        bench.server.script("/out/", "<p>All</p>");
+        bench.updater->checkVersion(true);
+        bench.updater->checkVersion(true);
+        QVERIFY(!bench.updater->hasInternalReleaseChannelConnection());
+        QCOMPARE(bench.updater->GetReadMeFile(), QString());
+        bench.settle({offer(), offer(u"3.0.0"_s, {}).remove(u"1 May 2026"_s)});
+        QCOMPARE(bench.updater->GetReadMeFile(), u"<p>All</p>"_s);
+    }
+
+    void goesAtAnyMoment_data()
+    {
+        QTest::addColumn<QString>("dialog"); // or in the signal with that much
+        QTest::addColumn<qint64>("received");
+        for (const char* dialog : {"Offer", "Save", "Question", "Critical"})
+            QTest::newRow(dialog) << QString::fromLatin1(dialog) << qint64(-2);
+        for (const qint64 received : {qint64(-1), qint64(0), qint64(1), qint64(installer.size())})
+            QTest::addRow("%lld bytes", received) << u"none"_s << received;
+    }
+
+    void goesAtAnyMoment()
+    {
+        QFETCH(const QString, dialog);
+        QFETCH(const qint64, received);
+        Bench bench;
+        bench.script("/in/");
+        const bool fails = dialog == u"Critical"_s || received == 0;
+        bench.server.script("/in/setup.exe", installer,
+                            fails           ? Misbehaviour::ServerError
+                            : received == 1 ? Misbehaviour::Slow
+                                            : Misbehaviour::None);
+        bench.updater->setLimits({}, {});
+        bench.user.deleteAt(dialog, bench.parent);
+        connect(bench.updater, &PCheckVersionUpdate::signalDownloadProgress, bench.parent,
+                [&](qint64 now) {
+                    if (now == received)
+                        delete bench.parent;
+                });
+        bench.updater->checkVersion(false);
+        QTRY_VERIFY(!bench.updater);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        const bool isComplete = dialog == u"Question"_s;
+        QCOMPARE(bench.saved(), isComplete ? installer : QByteArray());
+        QCOMPARE(bench.files().size(), isComplete ? 1 : 0);
+    }
+
+    void changeLogIsShown()
+    {
+        Bench bench;
+        bench.updater->checkChangeLog();
+        bench.settle({noLog});
+
+        QString log;
+        bench.user.wantsDownload = false;
+        bench.user.before = [&](const QDialog& dialog) {
+            bench.user.before = {};
+            dialog.findChild<QPushButton*>(u"pushButtonShowChangeLog"_s)->click();
+            auto* changeLog = dialog.findChild<PChangeLogDialog*>();
+            QVERIFY(changeLog->isModal());
+            log = changeLog->toPlainText();
+            delete changeLog;
+        };
+        bench.script("/in/");
+        bench.updater->checkVersion(false);
+        bench.settle({noLog, offer()});
+        QCOMPARE(log, u"2.1"_s);
+
+        for (const auto show :
+             {&PCheckVersionUpdate::checkChangeLog, &PCheckVersionUpdate::fetchChangeLog}) {
+            (bench.updater->*show)();
+            QTRY_VERIFY(bench.parent->findChild<PChangeLogDialog*>());
+            const std::unique_ptr<PChangeLogDialog> changeLog(
+                bench.parent->findChild<PChangeLogDialog*>());
+            QVERIFY(changeLog->isVisible() && changeLog->isModal());
+            QCOMPARE(changeLog->toPlainText(), u"2.1"_s);
+        }
+        QStringList said{noLog, offer()};
+        for (const QByteArray& version : {QByteArray("hello"), QByteArray("404")}) {
+            bench.script("/in/", version);
+            bench.updater->fetchChangeLog();
+            bench.settle(said << noLog);
+        }
+    }
 };
-
-void TestPCheckVersionUpdate::initTestCase()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QCoreApplication::setApplicationName(title);
-}
-
-void TestPCheckVersionUpdate::channelsAreAskedInOrder_data()
-{
-    QTest::addColumn<QByteArrayList>("channels");
-    QTest::addColumn<bool>("showResult");
-    QTest::addColumn<QByteArrayList>("requests");
-    QTest::addColumn<QStringList>("said");
-    const QByteArray in = "/in/version.txt";
-    const QByteArray out = "/out/version.txt";
-    QTest::newRow("internal") << QByteArrayList{"/in/", "/out/"} << false
-                              << QByteArrayList{in, "/in/notes.html"}
-                              << QStringList{offer.arg(inside)};
-    QTest::newRow("public") << QByteArrayList{"/out/"} << false
-                            << QByteArrayList{in, out, "/out/notes.html"}
-                            << QStringList{offer.arg(QString())};
-    QTest::newRow("none, told") << QByteArrayList{} << true << QByteArrayList{in, out}
-                                << QStringList{unreachable};
-    QTest::newRow("none, silent") << QByteArrayList{} << false << QByteArrayList{in, out}
-                                  << QStringList{};
-}
-
-void TestPCheckVersionUpdate::channelsAreAskedInOrder()
-{
-    QFETCH(QByteArrayList, channels);
-    QFETCH(bool, showResult);
-    QFETCH(QByteArrayList, requests);
-    QFETCH(QStringList, said);
-    Bench bench;
-    bench.user.wantsDownload = false;
-    for (const QByteArray& channel : channels)
-        bench.script(channel);
-    const QSignalSpy busy(bench.update, &PCheckVersionUpdate::busyChanged);
-    bench.update->checkVersion(showResult);
-    QVERIFY(bench.update->isBusy());
-    QTRY_COMPARE(bench.server.targets(), requests);
-    settle(bench, said);
-    QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
-    QCOMPARE(bench.server.targets(), requests);
-    QCOMPARE(bench.update->hasInternalReleaseChannelConnection(), channels.contains("/in/"));
-    QCOMPARE(bench.update->GetReadMeFile().toUtf8(), channels.isEmpty() ? QByteArray() : notes);
-}
-
-void TestPCheckVersionUpdate::faults()
-{
-    QTest::addColumn<Misbehaviour>("how");
-    for (const QString& name : LocalHttp::misbehaviourNames().mid(1)) // the first is none
-        QTest::newRow(qPrintable(name)) << *LocalHttp::misbehaviourNamed(name);
-}
-
-void TestPCheckVersionUpdate::faultyVersionFileMeansNextChannel()
-{
-    QFETCH(Misbehaviour, how);
-    Bench bench;
-    bench.script("/in/");
-    bench.script("/out/");
-    bench.server.script("/in/version.txt", versionFile, how);
-    bench.server.script("/out/version.txt", versionFile, how);
-    bench.update->checkVersion(true);
-    settle(bench, {how == Misbehaviour::Portal ? unreadable : unreachable});
-    QVERIFY(!bench.server.targets().contains("/out/notes.html"));
-    QCOMPARE(bench.server.targets().contains("/out/version.txt"), how != Misbehaviour::Portal);
-}
-
-void TestPCheckVersionUpdate::versionsAreCompared_data()
-{
-    QTest::addColumn<QByteArray>("version");
-    QTest::addColumn<bool>("showResult");
-    QTest::addColumn<QStringList>("said");
-    const QByteArray rest = "\nupdatefile=setup.exe\nreadmefile=notes.html\nreleasedate=1 May 2026";
-    QTest::newRow("equal") << "version=2.0.9.1" + rest << true << QStringList{upToDate};
-    QTest::newRow("equal, silent") << "version=2.0.9.1" + rest << false << QStringList{};
-    QTest::newRow("lower") << "version=2.0.8.9" + rest << true << QStringList{upToDate};
-    QTest::newRow("revision") << "version=2.0.9.2" + rest << true
-                              << QStringList{offer.arg(inside).replace(u"available: 2.1.0"_s,
-                                                                       u"available: 2.0.9"_s)};
-    QTest::newRow("1.10") << "version=2.0.10" + rest << true
-                          << QStringList{offer.arg(inside).replace(u"2.1.0"_s, u"2.0.10"_s)};
-    QTest::newRow("huge") << "version=99999999999" + rest << true
-                          << QStringList{
-                                 offer.arg(inside).replace(u"2.1.0"_s, u"2147483647.0.0"_s)};
-    QTest::newRow("unreadable, silent") << QByteArray("hello") << false << QStringList{unreadable};
-    QTest::newRow("no notes at their address")
-        << QByteArray("version=3\nupdatefile=setup.exe\nreadmefile=gone.html") << true
-        << QStringList{};
-}
-
-void TestPCheckVersionUpdate::versionsAreCompared()
-{
-    QFETCH(QByteArray, version);
-    QFETCH(bool, showResult);
-    QFETCH(QStringList, said);
-    Bench bench;
-    bench.user.wantsDownload = false;
-    bench.script("/in/", version);
-    bench.update->checkVersion(showResult);
-    settle(bench, said);
-    if (version.contains("gone.html"))
-        QCOMPARE(bench.update->GetReadMeFile(),
-                 u"Error reading %1/in/gone.html"_s.arg(bench.server.base()));
-}
-
-void TestPCheckVersionUpdate::installerIsSaved()
-{
-    QDesktopServices::setUrlHandler(u"file"_s, this, "open");
-    Bench bench;
-    bench.user.opensFolder = true;
-    bench.script("/in/");
-    bench.saveBefore("an earlier release");
-    QList<std::pair<qint64, qint64>> progress;
-    connect(bench.update, &PCheckVersionUpdate::signalDownloadProgress, this,
-            [&](qint64 received, qint64 total) {
-                progress.append({received, total});
-            });
-    bench.update->checkVersion(false);
-    settle(bench, {offer.arg(inside), save,
-                   u"Question: Test Client: Downloading of new version was finished "
-                   "successfully!\n\nLocation: %1\n\nOpen download file location?"_s.arg(
-                       QDir::toNativeSeparators(bench.user.savePath))});
-    QCOMPARE(bench.saved(), installer);
-    QCOMPARE(bench.files(), QStringList{u"saved.exe"_s});
-    QCOMPARE(m_opened, QList<QUrl>{QUrl::fromLocalFile(bench.folder.path())});
-    QVERIFY(progress.size() >= 3); // also of an installer that arrives at once
-    QCOMPARE(progress.first(), std::pair(qint64(-1), qint64(-1)));
-    QCOMPARE(progress.last(), std::pair(qint64(installer.size()), qint64(installer.size())));
-    QVERIFY(std::is_sorted(progress.begin(), progress.end()));
-    QDesktopServices::unsetUrlHandler(u"file"_s);
-}
-
-void TestPCheckVersionUpdate::faultyDownloadKeepsTheFile()
-{
-    QFETCH(Misbehaviour, how);
-    if (how == Misbehaviour::Portal)
-        return; // whose page is as good a file as any
-    Bench bench;
-    bench.script("/in/");
-    bench.server.script("/in/setup.exe", installer, how);
-    bench.saveBefore("an earlier release");
-    QSignalSpy progress(bench.update, &PCheckVersionUpdate::signalDownloadProgress);
-    bench.update->checkVersion(false);
-    QTRY_COMPARE(bench.user.said().size(), 3);
-    const QString last = bench.user.said().last();
-    QVERIFY2(last.startsWith(failed) && last.size() > failed.size(), qPrintable(last));
-    settle(bench, {offer.arg(inside), save, last});
-    QCOMPARE(progress.last(), (QVariantList{0, 0}));
-    QCOMPARE(bench.saved(), QByteArray("an earlier release"));
-    QCOMPARE(bench.files(), QStringList{u"saved.exe"_s});
-}
-
-void TestPCheckVersionUpdate::unwritableTargetIsTold()
-{
-    Bench bench;
-    bench.script("/in/");
-    // What could be written when the user chose it can be a folder a moment later.
-    connect(bench.update, &PCheckVersionUpdate::signalDownloadProgress, this, [&](qint64 received) {
-        if (received == -1)
-            QVERIFY(QDir().mkdir(bench.user.savePath));
-    });
-    bench.update->checkVersion(false);
-    settle(bench,
-           {offer.arg(inside), save, u"Critical: Download failed: Error while saving file!"_s});
-    QVERIFY(bench.files().isEmpty());
-}
-
-void TestPCheckVersionUpdate::checksStandAlone()
-{
-    Bench bench;
-    bench.user.wantsDownload = false;
-    bench.script("/in/");
-    bench.update->checkVersion(false);
-    settle(bench, {offer.arg(inside)});
-
-    // Nothing of the first check is left in a second one that finds less, and one that is
-    // replaced says nothing.
-    bench.server.script("/in/version.txt", versionFile, Misbehaviour::NotFound);
-    bench.server.script("/out/version.txt", "version=3\nupdatefile=a.exe");
-    bench.server.script("/out/", "<p>All</p>");
-    bench.update->checkVersion(true);
-    bench.update->checkVersion(true);
-    QVERIFY(!bench.update->hasInternalReleaseChannelConnection());
-    QCOMPARE(bench.update->GetReadMeFile(), QString());
-    settle(bench, {offer.arg(inside),
-                   offer.arg(QString()).replace(u"2.1.0"_s, u"3.0.0"_s).remove(u"1 May 2026"_s)});
-    QCOMPARE(bench.update->GetReadMeFile(), u"<p>All</p>"_s);
-}
-
-void TestPCheckVersionUpdate::goesAtAnyMoment_data()
-{
-    QTest::addColumn<QString>("moment");
-    for (const char* moment : {"request", "offer", "file", "begin", "progress", "end", "failure",
-                               "question", "failure box"})
-        QTest::newRow(moment) << QString::fromLatin1(moment);
-}
-
-void TestPCheckVersionUpdate::goesAtAnyMoment()
-{
-    QFETCH(QString, moment);
-    Bench bench;
-    auto* parent = new QWidget;
-    bench.update->setParent(parent);
-    bench.script("/in/");
-    const bool fails = moment.startsWith(u"failure"_s);
-    bench.server.script("/in/setup.exe", installer,
-                        fails                     ? Misbehaviour::ServerError
-                        : moment == u"progress"_s ? Misbehaviour::Slow
-                                                  : Misbehaviour::None);
-    bench.update->setLimits({}, {});
-    const QMap<QString, QString> dialogs{{u"Offer"_s, u"offer"_s},
-                                         {u"Save"_s, u"file"_s},
-                                         {u"Question"_s, u"question"_s},
-                                         {u"Critical"_s, u"failure box"_s}};
-    bench.user.before = [&](const QDialog&) {
-        const QString kind = bench.user.said().last().section(u':', 0, 0);
-        if (dialogs.value(kind) == moment)
-            delete parent;
-    };
-    connect(bench.update, &PCheckVersionUpdate::signalDownloadProgress, parent,
-            [&](qint64 received, qint64 total) {
-                const QString now = received < 0        ? u"begin"_s
-                                    : total == 0        ? u"failure"_s
-                                    : received == total ? u"end"_s
-                                                        : u"progress"_s;
-                if (now == moment)
-                    delete parent;
-            });
-    if (moment == u"request"_s)
-        bench.server.script("/in/version.txt", versionFile, Misbehaviour::Never);
-    bench.update->checkVersion(false);
-    if (moment == u"request") {
-        QTRY_VERIFY(!bench.server.targets().isEmpty());
-        delete parent;
-    }
-    QTRY_VERIFY(!bench.update);
-    QTRY_VERIFY(!QApplication::activeModalWidget());
-    const bool isComplete = moment == u"question";
-    QCOMPARE(bench.saved(), isComplete ? installer : QByteArray());
-    QCOMPARE(bench.files().size(), isComplete ? 1 : 0);
-}
-
-void TestPCheckVersionUpdate::changeLogIsShown()
-{
-    Bench bench;
-    bench.update->checkChangeLog();
-    settle(bench, {u"Warning: Error Download: Could not download change log information."_s});
-
-    QString log;
-    bench.user.wantsDownload = false;
-    bench.user.before = [&](const QDialog& dialog) {
-        bench.user.before = {};
-        dialog.findChild<QPushButton*>(u"pushButtonShowChangeLog"_s)->click();
-        auto* changeLog = dialog.findChild<PChangeLogDialog*>();
-        QVERIFY(changeLog->isModal());
-        log = changeLog->toPlainText();
-        delete changeLog;
-    };
-    bench.script("/in/");
-    bench.update->checkVersion(false);
-    QTRY_COMPARE(bench.user.said().size(), 2);
-    QCOMPARE(log, u"2.1"_s);
-    QTRY_VERIFY(!QApplication::activeModalWidget());
-
-    for (const bool fetched : {false, true}) {
-        if (fetched)
-            bench.update->fetchChangeLog();
-        else
-            bench.update->checkChangeLog();
-        QTRY_VERIFY(bench.parent.findChild<PChangeLogDialog*>());
-        const std::unique_ptr<PChangeLogDialog> changeLog(
-            bench.parent.findChild<PChangeLogDialog*>());
-        QVERIFY(changeLog->isVisible() && changeLog->isModal());
-        QCOMPARE(changeLog->toPlainText(), u"2.1"_s);
-    }
-    QCOMPARE(bench.user.said().size(), 2);
-    for (const QByteArray& answer : {QByteArray("hello"), QByteArray()}) {
-        bench.server.script("/in/version.txt", answer,
-                            answer.isEmpty() ? Misbehaviour::NotFound : Misbehaviour::None);
-        bench.update->fetchChangeLog();
-        QTRY_VERIFY(!bench.update->isBusy());
-        QTRY_COMPARE(bench.user.said().last(),
-                     u"Warning: Error Download: Could not download change log information."_s);
-    }
-    QTRY_COMPARE(bench.user.said().size(), 4);
-}
-
-void TestPCheckVersionUpdate::windowStaysResponsive()
-{
-    Bench bench;
-    bench.update->setLimits({.deadline = 10s, .silence = 10s, .size = 1'000'000},
-                            {.deadline = 60s, .silence = 10s, .size = 100'000'000});
-    bench.script("/in/");
-    bench.server.script("/in/setup.exe", QByteArray(30'000'000, 'x'));
-    qint64 longest = 0;
-    QElapsedTimer sinceLast;
-    QTimer beat;
-    connect(&beat, &QTimer::timeout, this,
-            [&] { longest = std::max(longest, sinceLast.restart()); });
-    sinceLast.start();
-    beat.start(0);
-    bench.update->checkVersion(false);
-    QTRY_COMPARE_WITH_TIMEOUT(bench.user.said().size(), 3, 30'000);
-    QCOMPARE(bench.saved().size(), 30'000'000);
-    qInfo("Longest wait of an event: %lld ms", longest);
-    QVERIFY(longest < 2'000);
-}
 
 QTEST_MAIN(TestPCheckVersionUpdate)
 #include "tst_pcheckversionupdate.moc"
