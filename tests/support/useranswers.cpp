@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMetaEnum>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -13,20 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr const char* schemes[] = {"http", "https", "file"};
-
-QString kind(const QMessageBox& box)
-{
-    switch (box.icon()) {
-    case QMessageBox::Information:
-        return u"Information"_s;
-    case QMessageBox::Warning:
-        return u"Warning"_s;
-    case QMessageBox::Critical:
-        return u"Critical"_s;
-    default:
-        return u"Question"_s;
-    }
-}
 
 } // namespace
 
@@ -74,7 +61,8 @@ void UserAnswers::answer()
         return;
     }
     if (box)
-        note(kind(*box), box->text());
+        note(QString::fromLatin1(QMetaEnum::fromType<QMessageBox::Icon>().valueToKey(box->icon())),
+             box->text());
     else if (files)
         note(u"Save"_s, files->findChild<QLineEdit*>(u"fileNameEdit"_s)->text());
     else
