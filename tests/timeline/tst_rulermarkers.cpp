@@ -234,6 +234,10 @@ void TestRulerMarkers::toolTips()
     };
     ruler.onAddMarkers(markersAtPixels({300, 301, 302}));
     QCOMPARE(firstToolTip(), u"300\n301\n302"_s);
+    // Under the mouse it follows what comes and goes.
+    ruler.onAddMarkers(markersAtPixels({303}));
+    QCOMPARE(visibleButtons(ruler).front()->toolTip(), u"300\n301\n302\n303"_s);
+    ruler.onRemoveMarkers(markersAtPixels({303}));
     // What comes and goes far away changes no group.
     ruler.onAddMarkers({marker(-3 * hour, u"early"_s)});
     QCOMPARE(firstToolTip(), u"300\n301\n302"_s);
