@@ -71,6 +71,12 @@ void RulerArrows::setEnabled(bool enabled)
     }
 }
 
+void RulerArrows::hold(int direction)
+{
+    if (QAbstractButton* button = direction < 0 ? m_left : m_right)
+        button->setDown(true);
+}
+
 void RulerArrows::letGo()
 {
     for (QAbstractButton* button : {m_left.data(), m_right.data()}) {
@@ -121,7 +127,6 @@ bool RulerArrows::mouseEvent(QAbstractButton* button, const QMouseEvent* event)
             Q_EMIT released();
         }
     } else if (!isMove && event->button() == Qt::LeftButton) {
-        button->setDown(true);
         Q_EMIT pressed(button == m_left ? -1 : +1);
     }
     return true;

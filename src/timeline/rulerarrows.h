@@ -15,6 +15,8 @@ public:
     explicit RulerArrows(QWidget* ruler);
 
     void setEnabled(bool enabled);
+    /// Shows the button held down until its release, which is then told.
+    void hold(int direction);
     /// Lets go of a button whose release may never come.
     void letGo();
     QWidget* lowestButton() const { return m_left; }

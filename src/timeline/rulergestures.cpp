@@ -309,7 +309,10 @@ void RulerGestures::placeIndicator(int x)
 
 void RulerGestures::holdArrow(int direction)
 {
-    if (!begin(Gesture::ArrowHold) || !canMoveViewPort(direction))
+    if (!begin(Gesture::ArrowHold))
+        return;
+    d.arrows->hold(direction);
+    if (!canMoveViewPort(direction))
         return;
     m_direction = direction;
     m_moveTimer.start();

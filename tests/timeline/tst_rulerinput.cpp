@@ -81,6 +81,9 @@ void TestRulerInput::hands()
          u"indicator 1800 | no preview | at 2160"_s},
         {u"hour 5"_s, u"press-again arrow 1017; release arrow 1017; release arrow 1017"_s,
          u"center 0.02326 | view 02 05:04 - 02 06:05 moving | view 02 05:04 - 02 06:05"_s},
+        // A release got lost: the next press and its release count
+        {u"hour 5; press arrow 1017"_s, u"press arrow 1017; release arrow 1017"_s,
+         u"view 02 05:04 - 02 06:05 | center 0.02361 | view 02 05:09 - 02 06:10 moving | view 02 05:09 - 02 06:10"_s},
         {u"hour 5"_s, u"press-right arrow 1017; release-right arrow 1017"_s, {}},
         {u"block"_s, u"press arrow 1017; release arrow 1017"_s, {}},
         {u"deactivate"_s, u"press arrow 1017; release arrow 1017"_s, {}},
