@@ -10,11 +10,15 @@ namespace {
 
 class FirstPaint : public QObject
 {
+public:
+    using QObject::QObject;
+
+private:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         const auto* widget = qobject_cast<QWidget*>(watched);
         if (event->type() == QEvent::Paint && widget && widget->isWindow()) {
-            qApp->removeEventFilter(this);
+            QCoreApplication::instance()->removeEventFilter(this);
             QTimer::singleShot(0, widget, [widget] { leave(const_cast<QWidget*>(widget)); });
         }
         return false;
@@ -30,7 +34,8 @@ class FirstPaint : public QObject
 
 void watch()
 {
-    qApp->installEventFilter(new FirstPaint);
+    QCoreApplication* application = QCoreApplication::instance();
+    application->installEventFilter(new FirstPaint(application));
 }
 
 } // namespace
