@@ -60,47 +60,36 @@ private Q_SLOTS:
         }
     }
 
-    void faults_data()
-    {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<QString>("text");
-
-        const auto row = [](Misbehaviour how, const QString& text) {
-            QTest::addRow("%s", qPrintable(LocalHttp::misbehaviourNames().at(int(how))))
-                << misbehave(how, {.target = "/file"}, Answer::ok(content)) << text;
-        };
-        row(Misbehaviour::Never, u"The server does not answer."_s);
-        row(Misbehaviour::Slow, u"The server did not finish in time."_s);
-        row(Misbehaviour::Endless, u"The server sends more than 4.00 MiB."_s);
-        row(Misbehaviour::Cut, u"The connection was closed too early."_s);
-        row(Misbehaviour::Length, u"The connection was closed too early."_s);
-        row(Misbehaviour::NotFound, u"The server answered with status 404."_s);
-        row(Misbehaviour::ServerError, u"The server answered with status 500."_s);
-        row(Misbehaviour::RedirectLoop, u"The server leads in circles."_s);
-        row(Misbehaviour::RedirectFile, u"The server leads to an address that is not safe."_s);
-
-        Answer answer = Answer::ok("short");
-        answer.announcedLength = 1LL << 40;
-        QTest::newRow("announced too large") << answer << u"The server sends more than 4.00 MiB."_s;
-        answer = Answer::error(204, "No Content");
-        QTest::newRow("no content") << answer << u"The server answered with status 204."_s;
-        answer = Answer::ok("2DC6C1\r\n" + content);
-        answer.announcedLength = -1;
-        answer.headers.append(LocalHttp::Header{"Transfer-Encoding", "chunked"});
-        QTest::newRow("cut within a chunk") << answer << u"The connection was closed too early."_s;
-    }
-
     void faults()
     {
-        QFETCH(Answer, answer);
-        m_server->script("/file", answer);
-
-        FileDownloader downloader;
-        const bool slow = answer.pace == Answer::Pace::Slow;
-        downloader.setLimits({.deadline = slow ? 300ms : 30s,
-                              .silence = answer.pace == Answer::Pace::Never ? 100ms : 30s,
-                              .size = 4 * 1024 * 1024});
-        QTEST(failure(downloader), "text");
+        const QString tooLarge = u"The server sends more than 4.00 MiB."_s;
+        const QString tooEarly = u"The connection was closed too early."_s;
+        QList<std::pair<Answer, QString>> faults{
+            {Answer::ok("short"), tooLarge},
+            {Answer::error(204, "No Content"), u"The server answered with status 204."_s},
+            {Answer::ok("2DC6C1\r\n" + content), tooEarly}}; // cut within a chunk
+        faults[0].first.announcedLength = 1LL << 40;
+        faults[2].first.announcedLength = -1;
+        faults[2].first.headers.append(LocalHttp::Header{"Transfer-Encoding", "chunked"});
+        for (const auto& [how, text] :
+             {std::pair(Misbehaviour::Never, u"The server does not answer."_s),
+              {Misbehaviour::Slow, u"The server did not finish in time."_s},
+              {Misbehaviour::Endless, tooLarge},
+              {Misbehaviour::Cut, tooEarly},
+              {Misbehaviour::Length, tooEarly},
+              {Misbehaviour::NotFound, u"The server answered with status 404."_s},
+              {Misbehaviour::ServerError, u"The server answered with status 500."_s},
+              {Misbehaviour::RedirectLoop, u"The server leads in circles."_s},
+              {Misbehaviour::RedirectFile, u"The server leads to an address that is not safe."_s}})
+            faults.append({misbehave(how, {.target = "/file"}, Answer::ok(content)), text});
+        for (const auto& [answer, text] : std::as_const(faults)) {
+            m_server->script("/file", answer);
+            FileDownloader downloader;
+            downloader.setLimits({.deadline = answer.pace == Answer::Pace::Slow ? 300ms : 30s,
+                                  .silence = answer.pace == Answer::Pace::Never ? 100ms : 30s,
+                                  .size = 4 * 1024 * 1024});
+            QCOMPARE(failure(downloader), text);
+        }
     }
 
     void refusals()

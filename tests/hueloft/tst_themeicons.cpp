@@ -63,66 +63,57 @@ class TestThemeIcons : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void drawsOnItsGround_data()
-    {
-        QTest::addColumn<QIcon>("icon");
-        QTest::addColumn<int>("nominalSize");
-        QTest::addColumn<Ground>("ground");
-        const auto row = [](const char* name, const QIcon& icon, int nominalSize, Ground ground) {
-            QTest::newRow(name) << icon << nominalSize << ground;
-        };
-        using Icons = PIconHelper;
-        row("marker", Icons::GetMarkerOutlined_48x48(true), 48, Ground::Dark);
-        row("marker, neutral", Icons::GetMarkerOutlined_48x48(false), 48, Ground::Any);
-        row("merged", Icons::GetMergerd_48x48(true), 48, Ground::Dark);
-        row("plus", Icons::GetPlusIcon_32x32(true), 32, Ground::Look);
-        row("minus", Icons::GetMinusIcon_32x32(true), 32, Ground::Look);
-        row("copy", Icons::GetCopyIcon_32x32(true), 32, Ground::Look);
-        row("copy rows", Icons::GetCopyRowsIcon_32x32(true), 32, Ground::Look);
-        row("open", Icons::GetOpenIcon_32x32(true), 32, Ground::Look);
-        row("refresh", Icons::GetRefreshIcon_256x256(true), 256, Ground::Look);
-        row("settings", Icons::GetSettingsIconOriginal_32x32(true), 32, Ground::Look);
-        row("settings, neutral", Icons::GetSettingsIconOriginal_32x32(false), 32, Ground::Any);
-        row("close tab", PIconHelper16x16::GetTabCloseIcon(), 16, Ground::Look);
-        row("visible", PIconHelper16x16::GetVisibleIcon(), 16, Ground::Look);
-        row("invisible", PIconHelper16x16::GetInVisibleIcon(), 16, Ground::Look);
-        row("date and time", PPlayerIconHelper::GetDateTimeIcon_32x32(false), 32, Ground::Any);
-        for (const auto& make : playerIcons)
-            QTest::addRow("player %d", int(&make - playerIcons)) << make() << 32 << Ground::Dark;
-    }
-
     void drawsOnItsGround()
     {
-        QFETCH(const QIcon, icon);
-        QFETCH(const int, nominalSize);
-        QFETCH(const Ground, ground);
+        using Icons = PIconHelper;
+        QList<std::tuple<const char*, QIcon, int, Ground>> icons{
+            {"marker", Icons::GetMarkerOutlined_48x48(true), 48, Ground::Dark},
+            {"marker, neutral", Icons::GetMarkerOutlined_48x48(false), 48, Ground::Any},
+            {"merged", Icons::GetMergerd_48x48(true), 48, Ground::Dark},
+            {"plus", Icons::GetPlusIcon_32x32(true), 32, Ground::Look},
+            {"minus", Icons::GetMinusIcon_32x32(true), 32, Ground::Look},
+            {"copy", Icons::GetCopyIcon_32x32(true), 32, Ground::Look},
+            {"copy rows", Icons::GetCopyRowsIcon_32x32(true), 32, Ground::Look},
+            {"open", Icons::GetOpenIcon_32x32(true), 32, Ground::Look},
+            {"refresh", Icons::GetRefreshIcon_256x256(true), 256, Ground::Look},
+            {"settings", Icons::GetSettingsIconOriginal_32x32(true), 32, Ground::Look},
+            {"settings, neutral", Icons::GetSettingsIconOriginal_32x32(false), 32, Ground::Any},
+            {"close tab", PIconHelper16x16::GetTabCloseIcon(), 16, Ground::Look},
+            {"visible", PIconHelper16x16::GetVisibleIcon(), 16, Ground::Look},
+            {"invisible", PIconHelper16x16::GetInVisibleIcon(), 16, Ground::Look},
+            {"date and time", PPlayerIconHelper::GetDateTimeIcon_32x32(false), 32, Ground::Any}};
+        for (const auto& make : playerIcons)
+            icons.append({"player", make(), 32, Ground::Dark});
+        for (const auto& [name, icon, nominalSize, ground] : std::as_const(icons)) {
+            QCOMPARE(icon.availableSizes().constFirst(), QSize(nominalSize, nominalSize));
+            QCOMPARE(icon.pixmap(QSize(40, 20), 1.0).size(), QSize(20, 20));
+            for (const int side : {16, 33, 1000}) {
+                const QImage image = picture(icon, side);
+                QCOMPARE(image.size(), QSize(side, side));
+                const QRect drawn =
+                    QRegion(QBitmap::fromImage(image.createAlphaMask())).boundingRect();
+                QVERIFY2(drawn.height() >= side / 8 && drawn.width() >= side / 3, name);
+                const bool isCut = !image.rect().adjusted(1, 1, -1, -1).contains(drawn);
+                QVERIFY2(side < 1000 || !isCut, name);
+            }
 
-        QCOMPARE(icon.availableSizes().constFirst(), QSize(nominalSize, nominalSize));
-        QCOMPARE(icon.pixmap(QSize(40, 20), 1.0).size(), QSize(20, 20));
-        for (const int side : {16, 33, 1000}) {
-            const QImage image = picture(icon, side);
-            QCOMPARE(image.size(), QSize(side, side));
-            const QRect drawn = QRegion(QBitmap::fromImage(image.createAlphaMask())).boundingRect();
-            QVERIFY2(drawn.height() >= side / 8 && drawn.width() >= side / 3, "too small");
-            QVERIFY2(side < 1000 || image.rect().adjusted(1, 1, -1, -1).contains(drawn), "cut off");
+            // Painted again after the look has changed.
+            QHash<bool, QColor> inks;
+            for (const bool dark : {true, false}) {
+                POrvGuiTheme::bPantherTheme = dark;
+                const QColor surface = dark || ground == Ground::Dark ? POrvGuiTheme::colorShark
+                                                                      : QColor(239, 239, 239);
+                QSet<QRgb> modeInks;
+                for (const QIcon::Mode mode :
+                     {QIcon::Normal, QIcon::Disabled, QIcon::Active, QIcon::Selected})
+                    modeInks << inkOf(picture(icon, 64, mode)).rgba();
+                QVERIFY2(modeInks.size() >= 3, name);
+                inks[dark] = inkOf(picture(icon, 64));
+                QVERIFY2(contrast(inks[dark], surface) >= 3, name);
+                QVERIFY2(contrast(inkOf(picture(icon, 64, QIcon::Active)), surface) >= 3, name);
+            }
+            QVERIFY2((inks[true] != inks[false]) == (ground == Ground::Look), name);
         }
-
-        // One icon, painted again after the look has changed.
-        QHash<bool, QColor> inks;
-        for (const bool dark : {true, false}) {
-            POrvGuiTheme::bPantherTheme = dark;
-            const QColor surface =
-                dark || ground == Ground::Dark ? POrvGuiTheme::colorShark : QColor(239, 239, 239);
-            QSet<QRgb> modeInks;
-            for (const QIcon::Mode mode :
-                 {QIcon::Normal, QIcon::Disabled, QIcon::Active, QIcon::Selected})
-                modeInks << inkOf(picture(icon, 64, mode)).rgba();
-            QVERIFY(modeInks.size() >= 3);
-            inks[dark] = inkOf(picture(icon, 64));
-            QVERIFY(contrast(inks[dark], surface) >= 3);
-            QVERIFY(contrast(inkOf(picture(icon, 64, QIcon::Active)), surface) >= 3);
-        }
-        QCOMPARE(inks[true] != inks[false], ground == Ground::Look);
     }
 
     void playerIconsDiffer()

@@ -92,43 +92,35 @@ class TestPlaybar : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void form();
-    void journeys_data();
-    void journeys();
-    void allowedSpeeds();
-    void enabledButtons();
-    void hover();
-    void deletionInAnySlot();
-};
-
-void TestPlaybar::form()
-{
-    LoggedBar bar;
-    QCOMPARE(bar.objectName(), u"CorvelGui__PPlaybar"_s);
-    QVERIFY(bar.findChild<QFrame*>(u"framePlaybackControls"_s)->property("tarvo").toBool());
-    QCOMPARE(bar.story(), u"x 0, Pause"_s);
-    QStringList row;
-    for (const auto* button : bar.findChildren<TarvoToolButton*>()) {
-        row << button->objectName().mid(6) + u'|' + button->toolTip();
-        QCOMPARE(button->accessibleName(), button->toolTip());
-        QVERIFY(!button->icon().isNull() && button->property("TarvoPlayback").toBool());
+    void form()
+    {
+        LoggedBar bar;
+        QCOMPARE(bar.objectName(), u"CorvelGui__PPlaybar"_s);
+        QVERIFY(bar.findChild<QFrame*>(u"framePlaybackControls"_s)->property("tarvo").toBool());
+        QCOMPARE(bar.story(), u"x 0, Pause"_s);
+        QStringList row;
+        for (const auto* button : bar.findChildren<TarvoToolButton*>()) {
+            row << button->objectName().mid(6) + u'|' + button->toolTip();
+            QCOMPARE(button->accessibleName(), button->toolTip());
+            QVERIFY(!button->icon().isNull() && button->property("TarvoPlayback").toBool());
+        }
+        QCOMPARE(row.join(u' '),
+                 u"TrackStart|Track Begin FastReverse|Fast Backward Reverse|Backward "
+                 "FrameBack|Frame Backward Pause|Pause FrameForward|Frame Forward "
+                 "Play|Forward FastForward|Fast Forward TrackEnd|Track End"_s);
+        bar.setIconSize(QSize(32, 32));
+        QCOMPARE(bar.minimumSize(), QSize(288, 32));
+        bar.setShortcut(Bar::SlowReverseButton, Qt::Key_R);
+        QCOMPARE(bar.shortcut(Bar::ReverseButton), QKeySequence(Qt::Key_R));
+        QVERIFY(QTest::qWaitForWindowActive(&bar));
+        QTest::keyClick(&bar, Qt::Key_R);
+        QTRY_COMPARE(bar.playbackState(), Bar::Reverse);
     }
-    QCOMPARE(row.join(u' '), u"TrackStart|Track Begin FastReverse|Fast Backward Reverse|Backward "
-                             "FrameBack|Frame Backward Pause|Pause FrameForward|Frame Forward "
-                             "Play|Forward FastForward|Fast Forward TrackEnd|Track End"_s);
-    bar.setIconSize(QSize(32, 32));
-    QCOMPARE(bar.minimumSize(), QSize(288, 32));
-    bar.setShortcut(Bar::SlowReverseButton, Qt::Key_R);
-    QCOMPARE(bar.shortcut(Bar::ReverseButton), QKeySequence(Qt::Key_R));
-    QVERIFY(QTest::qWaitForWindowActive(&bar));
-    QTest::keyClick(&bar, Qt::Key_R);
-    QTRY_COMPARE(bar.playbackState(), Bar::Reverse);
-}
 
-void TestPlaybar::journeys_data()
-{
-    // Actions, each with the signals that follow, the label and the checked button.
-    const auto journeys = uR"(
+    void journeys()
+    {
+        // Actions, each with the signals that follow, the label and the checked button.
+        const auto journeys = uR"(
 buttons > click TrackStart: begin, x 0, Pause > click FrameBack: frame back, x 0, Pause
   > click Pause: x 0, Pause > click Play: state 5, x 1, Play > click Play: x 1, Play
   > click FrameForward: state 3, frame on, x 0, Pause > click Reverse: state 1, x -1, Reverse
@@ -165,121 +157,115 @@ live > live 11: x 1, Play > click Pause: live, x 1, Play > right Play: x 1, Play
 keys > keys -1: x 0, Pause > state 5: x 1, Play > keys -1: speed 3, x 1/2, Play
   > keys 1: speed 4, x 1, Play > keys 1: state 6, x 2, FastForward > live 11: x 1, Play > keys -1: x 1, Play
 disabled > state 5: x 1, Play > enable 0: x 1, Play > up Play: x 1, Play > right Play: x 1, Play)"_s;
-    QTest::addColumn<QStringList>("steps");
-    for (const QString& journey :
-         QString(journeys).replace(u"\n  "_s, u" "_s).trimmed().split(u'\n')) {
-        QStringList steps = journey.split(u" > "_s);
-        QTest::newRow(qPrintable(steps.takeFirst())) << steps;
-    }
-}
-
-void TestPlaybar::journeys()
-{
-    QFETCH(const QStringList, steps);
-    LoggedBar bar;
-    for (const QString& step : steps) {
-        const QString action = step.section(u": "_s, 0, 0);
-        bar.act(action);
-        QCOMPARE(action + u": "_s + bar.story(), step);
-    }
-}
-
-void TestPlaybar::allowedSpeeds()
-{
-    LoggedBar bar;
-    const QStringList allowed{u"-----xxxxxxxxxx"_s, u"----x----------"_s, u"-xxx-----------"_s,
-                              u"x--------------"_s};
-    for (int state = Bar::FastBackward; state <= Bar::FastForward; ++state) {
-        QString taken;
-        for (int speed = Bar::SpeedZero; speed <= Bar::Speed1024; ++speed) {
-            bar.setPlaybackState(Bar::PlaybackState(state));
-            bar.setPlaybackSpeed(Bar::PlaybackSpeed(speed));
-            taken += bar.playbackSpeed() == speed ? u'x' : u'-';
-        }
-        QCOMPARE(taken, allowed.at(state <= Bar::Pause ? state : 6 - state));
-    }
-    for (int speed = Bar::Speed1_8; speed <= Bar::Speed1024; ++speed) {
-        const float factor = 0.125F * float(1 << (speed - 1));
-        QCOMPARE(Bar::playbackSpeedToFloat(Bar::PlaybackSpeed(speed)), factor);
-        QCOMPARE(Bar::playbackSpeedFromFloat(factor), Bar::PlaybackSpeed(speed));
-    }
-    QCOMPARE(Bar::playbackSpeedToFloat(Bar::PlaybackSpeed(15)), 0.0F);
-    for (const float none : {3.0F, -1.0F, std::nanf("")})
-        QCOMPARE(Bar::playbackSpeedFromFloat(none), Bar::SpeedZero);
-}
-
-void TestPlaybar::enabledButtons()
-{
-    LoggedBar bar;
-    TarvoToolButton* pause = bar.button(u"Pause"_s);
-    pause->setFocus();
-    QTest::mousePress(pause, Qt::LeftButton);
-    for (const auto& [mode, marks] : {std::pair(u"live 11"_s, u"----x----"_s),
-                                      {u"live 0"_s, u"x---xxxxx"_s},
-                                      {u"live 1"_s, u"xxxxxxxxx"_s}}) {
-        bar.act(mode);
-        QCOMPARE(bar.enabledButtons(), marks);
-        QVERIFY(pause->isDown() && bar.focusWidget() == pause);
-    }
-    bar.setButtonEnabled(Bar::SlowForwardButton, false);
-    bar.setButtonEnabled(Bar::PlaybackButton(11), false);
-    bar.setShortcut(Bar::PlaybackButton(-1), Qt::Key_A);
-    QVERIFY(bar.shortcut(Bar::PlaybackButton(11)).isEmpty());
-    QCOMPARE(bar.enabledButtons(), u"xxxxxx-xx"_s);
-}
-
-void TestPlaybar::hover()
-{
-    LoggedBar bar;
-    TarvoToolButton* button = bar.button(u"Play"_s);
-    const auto looks = [](const QIcon& icon, QIcon::Mode mode = QIcon::Normal) {
-        return icon.pixmap(QSize(1000, 1000), 1.0, mode).toImage();
-    };
-    const QIcon normal = button->icon();
-    QVERIFY(looks(normal, QIcon::Active) != looks(normal));
-    const QPointF inside(5, 5);
-    QEnterEvent enter(inside, inside, button->mapToGlobal(inside));
-    QCoreApplication::sendEvent(button, &enter);
-    QCOMPARE(looks(button->icon()), looks(normal, QIcon::Active));
-    QCursor::setPos(button->mapToGlobal(inside.toPoint()));
-    bar.setPlaybackState(Bar::Play);
-    QCOMPARE(looks(button->icon()), looks(normal, QIcon::Selected));
-    button->setIcon(bar.button(u"Pause"_s)->icon());
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(button, &leave);
-    QCOMPARE(looks(button->icon()), looks(normal));
-}
-
-void TestPlaybar::deletionInAnySlot()
-{
-    for (const auto& action : {u"click TrackStart"_s, u"click TrackEnd"_s, u"click FrameForward"_s,
-                               u"click FrameBack"_s, u"click FastForward"_s, u"click Pause"_s,
-                               u"right Play"_s, u"up Play"_s, u"down Play"_s}) {
-        for (int way = 0; way < 4; ++way) {
-            QPointer<LoggedBar> bar = new LoggedBar;
-            bar->setPlaybackState(Bar::Play);
-            // Qt touches the button after its signal.
-            const QPointer<QWidget> button = bar->button(action.section(u' ', 1));
-            bool outlives = true;
-            int left = 1 + way / 2; // in the first emission or the second
-            const auto receive = [&] {
-                if (--left != 0)
-                    return;
-                deleteWithin(bar, way % 2);
-                outlives = button;
-            };
-            connect(bar.data(), &Bar::playbackStateChanged, this, receive);
-            connect(bar.data(), &Bar::playbackSpeedChanged, this, receive);
-            for (const auto signal : {&Bar::trackStartClicked, &Bar::trackEndClicked,
-                                      &Bar::frameForwardClicked, &Bar::frameBackwardClicked})
-                connect(bar.data(), signal, this, receive);
-            bar->act(action);
-            QVERIFY(outlives);
-            QCOMPARE(bar.isNull(), left <= 0);
-            delete bar.data();
+        for (const QString& journey :
+             QString(journeys).replace(u"\n  "_s, u" "_s).trimmed().split(u'\n')) {
+            LoggedBar bar;
+            for (const QString& step : journey.split(u" > "_s).sliced(1)) {
+                const QString action = step.section(u": "_s, 0, 0);
+                bar.act(action);
+                QCOMPARE(action + u": "_s + bar.story(), step);
+            }
         }
     }
-}
+
+    void allowedSpeeds()
+    {
+        LoggedBar bar;
+        const QStringList allowed{u"-----xxxxxxxxxx"_s, u"----x----------"_s, u"-xxx-----------"_s,
+                                  u"x--------------"_s};
+        for (int state = Bar::FastBackward; state <= Bar::FastForward; ++state) {
+            QString taken;
+            for (int speed = Bar::SpeedZero; speed <= Bar::Speed1024; ++speed) {
+                bar.setPlaybackState(Bar::PlaybackState(state));
+                bar.setPlaybackSpeed(Bar::PlaybackSpeed(speed));
+                taken += bar.playbackSpeed() == speed ? u'x' : u'-';
+            }
+            QCOMPARE(taken, allowed.at(state <= Bar::Pause ? state : 6 - state));
+        }
+        for (int speed = Bar::Speed1_8; speed <= Bar::Speed1024; ++speed) {
+            const float factor = 0.125F * float(1 << (speed - 1));
+            QCOMPARE(Bar::playbackSpeedToFloat(Bar::PlaybackSpeed(speed)), factor);
+            QCOMPARE(Bar::playbackSpeedFromFloat(factor), Bar::PlaybackSpeed(speed));
+        }
+        QCOMPARE(Bar::playbackSpeedToFloat(Bar::PlaybackSpeed(15)), 0.0F);
+        for (const float none : {3.0F, -1.0F, std::nanf("")})
+            QCOMPARE(Bar::playbackSpeedFromFloat(none), Bar::SpeedZero);
+    }
+
+    void enabledButtons()
+    {
+        LoggedBar bar;
+        TarvoToolButton* pause = bar.button(u"Pause"_s);
+        pause->setFocus();
+        QTest::mousePress(pause, Qt::LeftButton);
+        for (const auto& [mode, marks] : {std::pair(u"live 11"_s, u"----x----"_s),
+                                          {u"live 0"_s, u"x---xxxxx"_s},
+                                          {u"live 1"_s, u"xxxxxxxxx"_s}}) {
+            bar.act(mode);
+            QCOMPARE(bar.enabledButtons(), marks);
+            QVERIFY(pause->isDown() && bar.focusWidget() == pause);
+        }
+        bar.setButtonEnabled(Bar::SlowForwardButton, false);
+        bar.setButtonEnabled(Bar::PlaybackButton(11), false);
+        bar.setShortcut(Bar::PlaybackButton(-1), Qt::Key_A);
+        QVERIFY(bar.shortcut(Bar::PlaybackButton(11)).isEmpty());
+        QCOMPARE(bar.enabledButtons(), u"xxxxxx-xx"_s);
+    }
+
+    void hover()
+    {
+        LoggedBar bar;
+        TarvoToolButton* button = bar.button(u"Play"_s);
+        const auto looks = [](const QIcon& icon, QIcon::Mode mode = QIcon::Normal) {
+            return icon.pixmap(QSize(1000, 1000), 1.0, mode).toImage();
+        };
+        const QIcon normal = button->icon();
+        QVERIFY(looks(normal, QIcon::Active) != looks(normal));
+        const QPointF inside(5, 5);
+        QEnterEvent enter(inside, inside, button->mapToGlobal(inside));
+        QCoreApplication::sendEvent(button, &enter);
+        QCOMPARE(looks(button->icon()), looks(normal, QIcon::Active));
+        QCursor::setPos(button->mapToGlobal(inside.toPoint()));
+        bar.setPlaybackState(Bar::Play);
+        QCOMPARE(looks(button->icon()), looks(normal, QIcon::Selected));
+        button->setIcon(bar.button(u"Pause"_s)->icon());
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(button, &leave);
+        QCOMPARE(looks(button->icon()), looks(normal));
+    }
+
+    void deletionInAnySlot()
+    {
+        for (const auto& action :
+             {u"click TrackStart"_s, u"click TrackEnd"_s, u"click FrameForward"_s,
+              u"click FrameBack"_s, u"click FastForward"_s, u"click Pause"_s, u"right Play"_s,
+              u"up Play"_s, u"down Play"_s}) {
+            for (int way = 0; way < 4; ++way) {
+                QPointer<LoggedBar> bar = new LoggedBar;
+                bar->setPlaybackState(Bar::Play);
+                // Qt touches the button after its signal.
+                const QPointer<QWidget> button = bar->button(action.section(u' ', 1));
+                bool outlives = true;
+                int left = 1 + way / 2; // in the first emission or the second
+                const auto receive = [&] {
+                    if (--left != 0)
+                        return;
+                    deleteWithin(bar, way % 2);
+                    outlives = button;
+                };
+                connect(bar.data(), &Bar::playbackStateChanged, this, receive);
+                connect(bar.data(), &Bar::playbackSpeedChanged, this, receive);
+                for (const auto signal : {&Bar::trackStartClicked, &Bar::trackEndClicked,
+                                          &Bar::frameForwardClicked, &Bar::frameBackwardClicked})
+                    connect(bar.data(), signal, this, receive);
+                bar->act(action);
+                QVERIFY(outlives);
+                QCOMPARE(bar.isNull(), left <= 0);
+                delete bar.data();
+            }
+        }
+    }
+};
 
 QTEST_MAIN(TestPlaybar)
 #include "tst_playbar.moc"

@@ -213,39 +213,35 @@ private Q_SLOTS:
         QCOMPARE(calls, QStringList(u"create a1"_s));
     }
 
-    void pagesThatDelete_data()
-    {
-        QTest::addColumn<QString>("deleted");
-        for (const char* deleted : {"page", "provided", "widget", "dialog"})
-            QTest::newRow(deleted) << QString::fromLatin1(deleted);
-    }
-
     void pagesThatDelete()
     {
-        QFETCH(const QString, deleted);
-        Page* page = add(u"a"_s, u"a1"_s);
-        add(u"a"_s, u"a2"_s);
-        auto* provided = new Page(u"a"_s, u"a3"_s);
-        provide(u"a"_s, provided);
-        auto* parent = new QWidget;
-        OptionsDialog* dialog = open(u"a"_s, u"a3"_s, parent);
-        QCOMPARE(Parts(*dialog).tab(), u"Page a3"_s);
-        page->onApply = [&] {
-            if (deleted == u"page"_s)
-                delete page;
-            else if (deleted == u"provided"_s)
-                delete provided;
-            else if (deleted == u"widget"_s)
-                delete Parts(*dialog).tabs()->widget(0);
-            else
+        for (const auto& deleted : {u"page"_s, u"provided"_s, u"widget"_s, u"dialog"_s}) {
+            init();
+            Page* page = add(u"a"_s, u"a1"_s);
+            add(u"a"_s, u"a2"_s);
+            auto* provided = new Page(u"a"_s, u"a3"_s);
+            provide(u"a"_s, provided);
+            auto* parent = new QWidget;
+            OptionsDialog* dialog = open(u"a"_s, u"a3"_s, parent);
+            QCOMPARE(Parts(*dialog).tab(), u"Page a3"_s);
+            page->onApply = [&] {
+                if (deleted == u"page"_s)
+                    delete page;
+                else if (deleted == u"provided"_s)
+                    delete provided;
+                else if (deleted == u"widget"_s)
+                    delete Parts(*dialog).tabs()->widget(0);
+                else
+                    delete parent;
+            };
+            whenShown<OptionsDialog>(this, [](OptionsDialog& shown) { Parts(shown).ok(); });
+            QVERIFY(dialog->execDialog());
+            QCOMPARE(calls.contains(u"apply a3"_s), deleted == u"page"_s || deleted == u"widget"_s);
+            QCOMPARE(calls.contains(u"finish a2"_s), deleted != u"dialog"_s);
+            if (deleted != u"dialog"_s)
                 delete parent;
-        };
-        whenShown<OptionsDialog>(this, [](OptionsDialog& shown) { Parts(shown).ok(); });
-        QVERIFY(dialog->execDialog());
-        QCOMPARE(calls.contains(u"apply a3"_s), deleted == u"page"_s || deleted == u"widget"_s);
-        QCOMPARE(calls.contains(u"finish a2"_s), deleted != u"dialog"_s);
-        if (deleted != u"dialog"_s)
-            delete parent;
+            cleanup();
+        }
     }
 
     void sortsIntoCategories()

@@ -70,58 +70,48 @@ class TestAppUpdater : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void endsWithOneMessage_data()
+    void endsWithOneMessage()
     {
-        QTest::addColumn<QJsonObject>("answer");
-        QTest::addColumn<bool>("showResult");
-        QTest::addColumn<QByteArray>("cut"); // the path of an answer that is not complete
-        QTest::addColumn<QString>("saveAs");
-        QTest::addColumn<QStringList>("said");
-        const auto row = [](const char* name, const QJsonObject& answer, bool showResult,
-                            const QByteArray& cut, const QString& saveAs, const QStringList& said) {
-            QTest::newRow(name) << answer << showResult << cut << saveAs << said;
-        };
         const QString none =
             u"Information: No Updates Available: Your version of Client is already "
             "up-to-date."_s;
         const QString closed = u"The connection was closed too early."_s;
+        const QString noStart = u"Warning: Error: Unable to start download of Software Update."_s;
+        const auto withoutDate = with(release, u"releaseDate"_s, QJsonValue::Undefined);
         const QString undated = u"The server's answer has no valid “releaseDate”."_s;
-        row("none, told", nothing, true, {}, u"a"_s, {none});
-        row("none, silent", nothing, false, {}, u"a"_s, {});
-        row("no file chosen", release, true, {}, {}, {offer(), save});
-        row("downloaded", release, false, {}, u"a"_s, {offer(), save, question});
-        row("cannot start", release, true, {}, u"nowhere/a"_s,
-            {offer(), save, u"Warning: Error: Unable to start download of Software Update."_s});
-        row("no date", with(release, u"releaseDate"_s, QJsonValue::Undefined), false, {}, u"a"_s,
-            {checkError + undated});
-        row("answer is cut", release, false, "/update", u"a"_s, {checkError + closed});
-        row("installer is cut", release, false, "/software", u"a"_s,
-            {offer(), save, downloadError + closed});
-    }
-
-    void endsWithOneMessage()
-    {
-        QFETCH(const QJsonObject, answer);
-        QFETCH(const bool, showResult);
-        QFETCH(const QByteArray, cut);
-        QFETCH(const QString, saveAs);
-        QFETCH(const QStringList, said);
-        Bench bench(answer);
-        bench.user.savePath = saveAs.isEmpty() ? saveAs : bench.folder.filePath(saveAs);
-        bench.user.opensFolder = true;
-        if (!cut.isEmpty())
-            bench.server.script(cut, installer, Misbehaviour::Cut);
-        bench.check(showResult);
-        bench.settle(said);
-        const bool downloads = said.contains(question);
-        QCOMPARE(bench.server.targets().first(), "/update?key=a%20key&version=2.0.9");
-        QCOMPARE(bench.server.targets().contains("/software?id=4711"),
-                 downloads || cut == "/software");
-        QCOMPARE(bench.saved(), downloads ? installer : QByteArray());
-        QCOMPARE(bench.files().size(), downloads ? 1 : 0);
-        QCOMPARE(bench.user.opened().join(u' '),
-                 downloads ? QUrl::fromLocalFile(bench.folder.path()).toString() : QString());
-        QTRY_VERIFY(!bench.parent->findChild<QProgressDialog*>());
+        const struct
+        {
+            QJsonObject answer;
+            bool showResult;
+            QByteArray cut; // the path of an answer that is not complete
+            QString saveAs;
+            QStringList said;
+        } rows[] = {{nothing, true, {}, u"a"_s, {none}},
+                    {nothing, false, {}, u"a"_s, {}},
+                    {release, true, {}, {}, {offer(), save}},
+                    {release, false, {}, u"a"_s, {offer(), save, question}},
+                    {release, true, {}, u"nowhere/a"_s, {offer(), save, noStart}},
+                    {withoutDate, false, {}, u"a"_s, {checkError + undated}},
+                    {release, false, "/update", u"a"_s, {checkError + closed}},
+                    {release, false, "/software", u"a"_s, {offer(), save, downloadError + closed}}};
+        for (const auto& [answer, showResult, cut, saveAs, said] : rows) {
+            Bench bench(answer);
+            bench.user.savePath = saveAs.isEmpty() ? saveAs : bench.folder.filePath(saveAs);
+            bench.user.opensFolder = true;
+            if (!cut.isEmpty())
+                bench.server.script(cut, installer, Misbehaviour::Cut);
+            bench.check(showResult);
+            bench.settle(said);
+            const bool downloads = said.contains(question);
+            QCOMPARE(bench.server.targets().first(), "/update?key=a%20key&version=2.0.9");
+            QCOMPARE(bench.server.targets().contains("/software?id=4711"),
+                     downloads || cut == "/software");
+            QCOMPARE(bench.saved(), downloads ? installer : QByteArray());
+            QCOMPARE(bench.files().size(), downloads ? 1 : 0);
+            const QString folder = QUrl::fromLocalFile(bench.folder.path()).toString();
+            QCOMPARE(bench.user.opened().join(u' '), downloads ? folder : QString());
+            QTRY_VERIFY(!bench.parent->findChild<QProgressDialog*>());
+        }
     }
 
     void progressIsShownUntilCancelled()

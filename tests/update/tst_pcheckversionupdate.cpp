@@ -70,68 +70,56 @@ class TestPCheckVersionUpdate : public WarningFreeTest
 private Q_SLOTS:
     void initTestCase() { QCoreApplication::setApplicationName(title); }
 
-    void checks_data()
-    {
-        QTest::addColumn<QByteArray>("internal"); // its version file
-        QTest::addColumn<QByteArray>("external");
-        QTest::addColumn<bool>("showResult");
-        QTest::addColumn<QByteArray>("requests");
-        QTest::addColumn<QStringList>("said");
-        const QByteArray in = "/in/version.txt";
-        const QByteArray both = "/in/version.txt /out/version.txt";
-        const auto row = [](const char* name, const QByteArray& internal,
-                            const QByteArray& external, bool showResult, const QByteArray& requests,
-                            const QStringList& said) {
-            QTest::newRow(name) << internal << external << showResult << requests << said;
-        };
-        row("internal", versionFile, versionFile, false, in + " /in/notes.html", {offer()});
-        row("public", {}, versionFile, false, both + " /out/notes.html", {offer(u"2.1.0"_s, {})});
-        row("none, told", {}, {}, true, both, {unreachable});
-        row("none, silent", {}, {}, false, both, {});
-        row("late and cut", "never", "cut", true, both, {unreachable});
-        row("a portal", "portal", versionFile, true, in, {unreadable});
-        row("unreadable, silent", "hello", versionFile, false, in, {unreadable});
-
-        const auto version = [&](const QByteArray& number, bool showResult,
-                                 const QStringList& said) {
-            row((number + (showResult ? "" : ", silent")).constData(), "version=" + number + keys,
-                {}, showResult, in + " /in/notes.html", said);
-        };
-        version("2.0.9.1", true, {upToDate});
-        version("2.0.9.1", false, {});
-        version("2.0.8.9", true, {upToDate});
-        version("2.0.9.2", true, {offer(u"2.0.9"_s)});
-        version("2.0.10", true, {offer(u"2.0.10"_s)});
-        version("99999999999", true, {offer(u"2147483647.0.0"_s)});
-        row("no notes at their address", "version=3\nupdatefile=a\nreadmefile=gone.html", {}, true,
-            in + " /in/gone.html", {});
-    }
-
     void checks()
     {
-        QFETCH(const QByteArray, internal);
-        QFETCH(const QByteArray, external);
-        QFETCH(const bool, showResult);
-        QFETCH(const QByteArray, requests);
-        QFETCH(const QStringList, said);
-        Bench bench;
-        bench.user.wantsDownload = false;
-        bench.script("/in/", internal);
-        bench.script("/out/", external);
-        const QSignalSpy busy(bench.updater, &PCheckVersionUpdate::busyChanged);
-        bench.updater->checkVersion(showResult);
-        QVERIFY(bench.updater->isBusy());
-        QTRY_COMPARE(bench.server.targets().join(' '), requests);
-        bench.settle(said);
-        QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
-        QCOMPARE(bench.server.targets().join(' '), requests);
-        QCOMPARE(bench.updater->hasInternalReleaseChannelConnection(),
-                 requests.contains("/in/notes") || requests.contains("/in/gone"));
-        const QString missing = u"Error reading %1/in/gone.html"_s.arg(bench.server.base());
-        QCOMPARE(bench.updater->GetReadMeFile().toUtf8(), requests.contains("notes") ? notes
-                                                          : requests.contains("gone")
-                                                              ? missing.toUtf8()
-                                                              : QByteArray());
+        const QByteArray in = "/in/version.txt";
+        const QByteArray inAndNotes = in + " /in/notes.html";
+        const QByteArray both = in + " /out/version.txt";
+        const auto version = [](const QByteArray& number) {
+            return "version=" + number + keys;
+        };
+        const struct
+        {
+            QByteArray internal; // the version file of that channel
+            QByteArray external;
+            bool showResult;
+            QByteArray requests;
+            QStringList said;
+        } rows[] = {
+            {versionFile, versionFile, false, inAndNotes, {offer()}},
+            {{}, versionFile, false, both + " /out/notes.html", {offer(u"2.1.0"_s, {})}},
+            {{}, {}, true, both, {unreachable}},
+            {{}, {}, false, both, {}},
+            {"never", "cut", true, both, {unreachable}},
+            {"portal", versionFile, true, in, {unreadable}},
+            {"hello", versionFile, false, in, {unreadable}},
+            {version("2.0.9.1"), {}, true, inAndNotes, {upToDate}},
+            {version("2.0.9.1"), {}, false, inAndNotes, {}},
+            {version("2.0.8.9"), {}, true, inAndNotes, {upToDate}},
+            {version("2.0.9.2"), {}, true, inAndNotes, {offer(u"2.0.9"_s)}},
+            {version("2.0.10"), {}, true, inAndNotes, {offer(u"2.0.10"_s)}},
+            {version("99999999999"), {}, true, inAndNotes, {offer(u"2147483647.0.0"_s)}},
+            {"version=3\nupdatefile=a\nreadmefile=gone.html", {}, true, in + " /in/gone.html", {}}};
+        for (const auto& [internal, external, showResult, requests, said] : rows) {
+            Bench bench;
+            bench.user.wantsDownload = false;
+            bench.script("/in/", internal);
+            bench.script("/out/", external);
+            const QSignalSpy busy(bench.updater, &PCheckVersionUpdate::busyChanged);
+            bench.updater->checkVersion(showResult);
+            QVERIFY(bench.updater->isBusy());
+            QTRY_COMPARE(bench.server.targets().join(' '), requests);
+            bench.settle(said);
+            QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
+            QCOMPARE(bench.server.targets().join(' '), requests);
+            QCOMPARE(bench.updater->hasInternalReleaseChannelConnection(),
+                     requests.startsWith(in + " /in/"));
+            const QString missing = u"Error reading %1/in/gone.html"_s.arg(bench.server.base());
+            QCOMPARE(bench.updater->GetReadMeFile().toUtf8(), requests.contains("notes") ? notes
+                                                              : requests.contains("gone")
+                                                                  ? missing.toUtf8()
+                                                                  : QByteArray());
+        }
     }
 
     void installerIsSaved()
@@ -160,38 +148,28 @@ private Q_SLOTS:
         QVERIFY(std::is_sorted(progress.begin(), progress.end()));
     }
 
-    void failuresAreTold_data()
-    {
-        QTest::addColumn<Misbehaviour>("how");
-        QTest::addColumn<QString>("saveAs");
-        QTest::addColumn<QString>("told");
-        const QString network = u"Download failed!\n\nError: "_s;
-        QTest::newRow("cut") << Misbehaviour::Cut << u"a"_s
-                             << network + u"The connection was closed too early."_s;
-        QTest::newRow("limits") << Misbehaviour::Slow << u"a"_s
-                                << network + u"The server does not answer."_s;
-        QTest::newRow("no folder")
-            << Misbehaviour::None << u"nowhere/a"_s << u"Error while saving file!"_s;
-    }
-
     void failuresAreTold()
     {
-        QFETCH(const Misbehaviour, how);
-        QFETCH(const QString, saveAs);
-        QFETCH(const QString, told);
-        Bench bench;
-        bench.script("/in/");
-        bench.server.script("/in/setup.exe", installer, how);
-        bench.user.savePath = bench.folder.filePath(saveAs);
-        if (how != Misbehaviour::None)
-            writeFile(bench.user.savePath, "an earlier release");
-        QSignalSpy progress(bench.updater, &PCheckVersionUpdate::signalDownloadProgress);
-        const QStringList files = bench.files();
-        bench.updater->checkVersion(false);
-        bench.settle({offer(), save, failed + told});
-        QCOMPARE(progress.last(), (QVariantList{0, 0}));
-        QCOMPARE(bench.saved(), files.isEmpty() ? "" : "an earlier release");
-        QCOMPARE(bench.files(), files);
+        const QString network = u"Download failed!\n\nError: "_s;
+        for (const auto& [how, saveAs, told] :
+             {std::tuple(Misbehaviour::Cut, u"a"_s,
+                         network + u"The connection was closed too early."_s),
+              {Misbehaviour::Slow, u"a"_s, network + u"The server does not answer."_s},
+              {Misbehaviour::None, u"nowhere/a"_s, u"Error while saving file!"_s}}) {
+            Bench bench;
+            bench.script("/in/");
+            bench.server.script("/in/setup.exe", installer, how);
+            bench.user.savePath = bench.folder.filePath(saveAs);
+            if (how != Misbehaviour::None)
+                writeFile(bench.user.savePath, "an earlier release");
+            QSignalSpy progress(bench.updater, &PCheckVersionUpdate::signalDownloadProgress);
+            const QStringList files = bench.files();
+            bench.updater->checkVersion(false);
+            bench.settle({offer(), save, failed + told});
+            QCOMPARE(progress.last(), (QVariantList{0, 0}));
+            QCOMPARE(bench.saved(), files.isEmpty() ? "" : "an earlier release");
+            QCOMPARE(bench.files(), files);
+        }
     }
 
     void checksStandAlone()
@@ -215,40 +193,38 @@ private Q_SLOTS:
         QCOMPARE(bench.updater->GetReadMeFile(), u"<p>All</p>"_s);
     }
 
-    void goesAtAnyMoment_data()
-    {
-        QTest::addColumn<QString>("dialog"); // or in the signal with that much
-        QTest::addColumn<qint64>("received");
-        for (const char* dialog : {"Offer", "Save", "Question", "Critical"})
-            QTest::newRow(dialog) << QString::fromLatin1(dialog) << qint64(-2);
-        for (const qint64 received : {qint64(-1), qint64(0), qint64(1), qint64(installer.size())})
-            QTest::addRow("%lld bytes", received) << u"none"_s << received;
-    }
-
     void goesAtAnyMoment()
     {
-        QFETCH(const QString, dialog);
-        QFETCH(const qint64, received);
-        Bench bench;
-        bench.script("/in/");
-        const bool fails = dialog == u"Critical"_s || received == 0;
-        bench.server.script("/in/setup.exe", installer,
-                            fails           ? Misbehaviour::ServerError
-                            : received == 1 ? Misbehaviour::Slow
-                                            : Misbehaviour::None);
-        bench.updater->setLimits({}, {});
-        bench.user.deleteAt(dialog, bench.parent);
-        connect(bench.updater, &PCheckVersionUpdate::signalDownloadProgress, bench.parent,
-                [&](qint64 now) {
-                    if (now == received)
-                        delete bench.parent;
-                });
-        bench.updater->checkVersion(false);
-        QTRY_VERIFY(!bench.updater);
-        QTRY_VERIFY(!QApplication::activeModalWidget());
-        const bool isComplete = dialog == u"Question"_s;
-        QCOMPARE(bench.saved(), isComplete ? installer : QByteArray());
-        QCOMPARE(bench.files().size(), isComplete ? 1 : 0);
+        // Behind a dialog, or in the signal with so many bytes.
+        for (const auto& [dialog, received] : {std::pair(u"Offer"_s, -2),
+                                               {u"Save"_s, -2},
+                                               {u"Question"_s, -2},
+                                               {u"Critical"_s, -2},
+                                               {u"none"_s, -1},
+                                               {u"none"_s, 0},
+                                               {u"none"_s, 1},
+                                               {u"none"_s, int(installer.size())}}) {
+            Bench bench;
+            bench.script("/in/");
+            const bool fails = dialog == u"Critical"_s || received == 0;
+            bench.server.script("/in/setup.exe", installer,
+                                fails           ? Misbehaviour::ServerError
+                                : received == 1 ? Misbehaviour::Slow
+                                                : Misbehaviour::None);
+            bench.updater->setLimits({}, {});
+            bench.user.deleteAt(dialog, bench.parent);
+            connect(bench.updater, &PCheckVersionUpdate::signalDownloadProgress, bench.parent,
+                    [&, moment = received](qint64 now) {
+                        if (now == moment)
+                            delete bench.parent;
+                    });
+            bench.updater->checkVersion(false);
+            QTRY_VERIFY2(!bench.updater, qPrintable(dialog + QString::number(received)));
+            QTRY_VERIFY(!QApplication::activeModalWidget());
+            const bool isComplete = dialog == u"Question"_s;
+            QCOMPARE(bench.saved(), isComplete ? installer : QByteArray());
+            QCOMPARE(bench.files().size(), isComplete ? 1 : 0);
+        }
     }
 
     void changeLogIsShown()
