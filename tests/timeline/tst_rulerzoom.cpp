@@ -218,6 +218,13 @@ void TestRulerZoom::turnsCountAsOne()
     QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 500}, {Zoom::Turn, 500}}), 1);
     QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 700}}), 2);
     QCOMPARE(stepsBack({{Zoom::Gesture, 0}, {Zoom::Gesture, 9000}, {Zoom::Turn, 1}}), 2);
+
+    // A step back ends a turn.
+    ViewHistory history;
+    for (int i = 0; i < 2; ++i) {
+        history.zoomed({}, Zoom::Turn, {});
+        QVERIFY(history.back({}));
+    }
 }
 
 void TestRulerZoom::smoothFollowing()
