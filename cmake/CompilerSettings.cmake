@@ -25,6 +25,9 @@ if(MSVC)
     target_compile_definitions(corvelgui_settings INTERFACE NOMINMAX _USE_MATH_DEFINES)
 else()
     set(options -Wall -Wextra -Wshadow -Woverloaded-virtual -Wpedantic $<$<BOOL:${CORVELGUI_WERROR}>:-Werror>)
+    if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        list(APPEND options -Wno-subobject-linkage) # a source that others are compiled with counts as a header
+    endif()
 endif()
 # The compiler of Windows resources takes none of them.
 target_compile_options(corvelgui_settings INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:${options}>")

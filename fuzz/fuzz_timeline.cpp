@@ -31,7 +31,7 @@ public:
 
 private:
     using Operation = void (Play::*)();
-    static const std::array<Operation, 34> operations;
+    static const std::array<Operation, 36> operations;
 
     bool flag() { return m_values.flag(); }
     int number(int least, int most) { return m_values.number(least, most); }
@@ -81,13 +81,15 @@ private:
     void pressKey();
     void loseFocus();
     void passTime();
+    void setAdditions();
+    void changeView();
 
     TimelineValues m_values;
     TimelineStage m_stage;
     QList<RulerMarker> m_added;
 };
 
-const std::array<Play::Operation, 34> Play::operations{
+const std::array<Play::Operation, 36> Play::operations{
     &Play::setLimits,      &Play::setLimitsAndIndicator,
     &Play::reset,          &Play::setZone,
     &Play::setTracks,      &Play::changeLevel,
@@ -104,7 +106,8 @@ const std::array<Play::Operation, 34> Play::operations{
     &Play::move,           &Play::press,
     &Play::release,        &Play::drag,
     &Play::turnWheel,      &Play::pressKey,
-    &Play::loseFocus,      &Play::passTime};
+    &Play::loseFocus,      &Play::passTime,
+    &Play::setAdditions,   &Play::changeView};
 
 /// Anywhere in or around the window, or on one of the visible parts.
 QPoint Play::place()
@@ -442,6 +445,47 @@ void Play::passTime()
         QApplication::processEvents();
     if (flag() && m_stage.window()->isVisible())
         m_stage.window()->grab();
+}
+
+/// What is off by default.
+void Play::setAdditions()
+{
+    // The client may delete the ruler in any of the signals.
+    constexpr void (Ruler::*switches[])(bool) = {&Ruler::setContinuousZoom,
+                                                 &Ruler::setCalendarTicks, &Ruler::setZoomHistory,
+                                                 &Ruler::setFineWheel, &Ruler::setTouchGestures};
+    for (const auto& set : switches) {
+        if (ruler())
+            (ruler()->*set)(flag());
+    }
+    if (ruler())
+        ruler()->setFollowMode(Ruler::FollowMode(number(0, int(Ruler::FollowMode::Smooth))));
+    if (timeline())
+        timeline()->setActivityVisible(flag());
+    if (timeline())
+        timeline()->setLanesVisible(flag());
+}
+
+void Play::changeView()
+{
+    switch (number(0, 5)) {
+    case 0:
+        return ruler()->zoomIn();
+    case 1:
+        return ruler()->zoomOut();
+    case 2:
+        return flag() ? ruler()->zoomBack() : ruler()->zoomForward();
+    case 3:
+        return ruler()->centerOn(qint64(instant()));
+    case 4:
+        return ruler()->resumeFollowing();
+    default: {
+        const qint64 from = qint64(instant());
+        const qint64 length = number(-10, 100'000);
+        ruler()->setView(from, flag() && from < TimelineValues::base * 2 ? from + length
+                                                                         : qint64(instant()));
+    }
+    }
 }
 
 void Play::perform()
