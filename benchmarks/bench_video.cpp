@@ -126,7 +126,7 @@ BENCHMARK(picture)
     ->Arg(Back)
     ->Arg(Random)
     ->Unit(benchmark::kMillisecond)
-    ->Iterations(3 * count);
+    ->Iterations(count);
 BENCHMARK(cameras)
     ->Arg(1)
     ->Arg(4)

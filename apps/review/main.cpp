@@ -6,6 +6,7 @@
 #include "window/commandline.h"
 #include "window/reviewwindow.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDir>
 #include <QImage>
@@ -86,6 +87,12 @@ int main(int argc, char* argv[])
     const auto finish = [&] {
         QApplication::exit(takePicture(window, arguments.picture));
     };
+    // Layouts and markers come to rest in several steps.
+    const auto finishWhenIdle = [&] {
+        QObject::connect(QAbstractEventDispatcher::instance(),
+                         &QAbstractEventDispatcher::aboutToBlock, &window, finish,
+                         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    };
     QObject::connect(
         &window, &ReviewWindow::loaded, &window,
         [&](const QString& error) {
@@ -95,11 +102,11 @@ int main(int argc, char* argv[])
                 // The sample looks best from close by; of a user's own files everything is shown.
                 if (arguments.files.isEmpty())
                     window.showMiddleDay();
-                QApplication::processEvents();
-                if (!window.awaitsPictures())
-                    return finish();
-                QObject::connect(&window, &ReviewWindow::settled, &window, finish,
-                                 Qt::QueuedConnection);
+                if (window.awaitsPictures())
+                    QObject::connect(&window, &ReviewWindow::settled, &window, finishWhenIdle,
+                                     Qt::SingleShotConnection);
+                else
+                    finishWhenIdle();
             } else if (arguments.files.isEmpty()) {
                 window.play();
             }

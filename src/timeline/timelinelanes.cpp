@@ -32,23 +32,23 @@ constexpr int narrowestNames = 60;
 constexpr int largestFont = 200;
 constexpr int wheelNotch = 120;
 
-/// What of the ruler is seen in the lanes.
-struct ShownView
-{
-    FineTime start;
-    double pixels;
-    qint64 begin;
-    qint64 end;
-    int indicator; ///< its column; -1 without one
-    QRgb indicatorColor;
-
-    bool operator==(const ShownView&) const = default;
-};
-
 } // namespace
 
 struct TimelineLanes::Private
 {
+    /// What of the ruler is seen in the lanes.
+    struct ShownView
+    {
+        FineTime start;
+        double pixels;
+        qint64 begin;
+        qint64 end;
+        int indicator; ///< its column; -1 without one
+        QRgb indicatorColor;
+
+        bool operator==(const ShownView&) const = default;
+    };
+
     Private(TimelineLanes* lanes, Ruler* r, const TimeScale& s, const TrackLanes& t,
             const Indicator& i)
         : q(lanes)
