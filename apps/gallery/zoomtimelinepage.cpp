@@ -148,6 +148,15 @@ QList<RulerMarker> busyMarkers()
     return all;
 }
 
+QList<RulerMarker> lastingMarkers()
+{
+    QList<RulerMarker> all = busyMarkers();
+    for (qsizetype i = 0; i < all.size(); ++i)
+        all[i].duration = i % 5 == 0 ? (i * 13 % 37) * minute : 0;
+    all.removeIf([](const RulerMarker& marker) { return marker.time.time().minute() % 20 > 9; });
+    return all;
+}
+
 } // namespace
 
 ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
@@ -162,6 +171,11 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
 
     add(tr("Sparse markers"))->ruler()->onAddMarkers(markers(50 * minute));
     add(tr("Crowded markers"))->ruler()->onAddMarkers(markers(7 * minute));
+
+    ZoomTimeline* details = add(tr("Durations, severities and numbers of markers"));
+    details->ruler()->setMarkerDetails(true);
+    details->ruler()->setMergedClick(Ruler::MergedClick::List);
+    details->ruler()->onAddMarkers(lastingMarkers());
 
     ZoomTimeline* busy = add(tr("Activity in the overview"));
     busy->setActivityVisible(true);

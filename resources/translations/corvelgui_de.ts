@@ -732,6 +732,27 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::MarkerList</name>
+    <message>
+        <source>Markers of this symbol</source>
+        <translation>Marker dieses Symbols</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::RulerMarkerButton</name>
+    <message>
+        <source>Markers: %1</source>
+        <translation>Marker: %1</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::TimelineScroll</name>
     <message>
         <source>Timeline overview</source>

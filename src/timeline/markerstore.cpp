@@ -34,6 +34,9 @@ void MarkerStore::Block::append(qint64 time, Record record)
     times.push_back(time);
     icons.insert(record.icon);
     unseen += record.seen ? 0 : 1;
+    worst = std::max<quint32>(worst, record.severity);
+    if (record.duration > 0)
+        ends[record.severity] = std::max(ends[record.severity], time + record.duration);
     records.push_back(std::move(record));
 }
 
@@ -154,6 +157,24 @@ std::pair<qint64, quint32> MarkerStore::timeAndIcon(std::size_t index) const
 {
     const auto [block, offset] = positionOf(index);
     return {m_blocks[block].times[offset], m_blocks[block].records[offset].icon};
+}
+
+RulerMarker::Severity MarkerStore::worstSeverity(std::size_t first, std::size_t last) const
+{
+    quint32 worst = 0;
+    while (first < last) {
+        const auto [number, offset] = positionOf(first);
+        const Block& block = m_blocks[number];
+        const std::size_t count = std::min(block.times.size() - offset, last - first);
+        if (count == block.times.size()) {
+            worst = std::max(worst, block.worst);
+        } else if (block.worst > worst) {
+            for (std::size_t i = offset; i < offset + count; ++i)
+                worst = std::max<quint32>(worst, block.records[i].severity);
+        }
+        first += count;
+    }
+    return RulerMarker::Severity(worst);
 }
 
 std::size_t MarkerStore::firstFrom(qint64 msecs) const

@@ -2,10 +2,12 @@
 
 #include "base/internalexport.h"
 #include "rulermarker.h"
+#include "trackdescription.h"
 
 #include <QtGlobal>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -59,6 +61,23 @@ public:
         }
     }
 
+    /// Calls @p visit with span and severity of the markers that last and reach into @p view, in
+    /// the order of their begins. Where all markers of a block begin within @p resolution
+    /// milliseconds, those of a severity come as one.
+    template <typename Visit>
+    void forEachLasting(const TimeSpan& view, qint64 resolution, const Visit& visit) const
+    {
+        for (const Block& block : m_blocks) {
+            if (block.times.front() >= view.end)
+                break;
+            if (block.lastEnd() > view.begin)
+                block.forEachLasting(view, resolution, visit);
+        }
+    }
+
+    /// The worst of the markers from @p first up to but not including @p last.
+    RulerMarker::Severity worstSeverity(std::size_t first, std::size_t last) const;
+
     /// Index of the first marker at or after @p msecs; size() if there is none.
     std::size_t firstFrom(qint64 msecs) const;
     /// Index of the first marker after @p msecs; size() if there is none.
@@ -95,6 +114,13 @@ private:
         std::vector<Record> records;
         Icons icons;
         quint32 unseen = 0;
+        quint32 worst = 0; ///< severity
+        /// Of those markers of each severity that last; 0 without one.
+        std::array<qint64, RulerMarker::severityCount> ends = {};
+
+        qint64 lastEnd() const { return *std::max_element(ends.begin(), ends.end()); }
+        template <typename Visit>
+        void forEachLasting(const TimeSpan& view, qint64 resolution, const Visit& visit) const;
 
         void reserve(std::size_t count);
         void append(qint64 time, Record record);
@@ -143,5 +169,23 @@ private:
     std::vector<quint32> m_unseen;
     std::vector<QDateTime> m_zones; ///< for each zone any time in it
 };
+
+template <typename Visit>
+void MarkerStore::Block::forEachLasting(const TimeSpan& view, qint64 resolution,
+                                        const Visit& visit) const
+{
+    if (times.back() - times.front() <= resolution) {
+        for (std::size_t severity = 0; severity < ends.size(); ++severity) {
+            if (ends[severity] > view.begin)
+                visit(TimeSpan{times.front(), ends[severity]}, RulerMarker::Severity(severity));
+        }
+        return;
+    }
+    for (std::size_t i = 0; i < times.size() && times[i] < view.end; ++i) {
+        const qint64 end = times[i] + records[i].duration;
+        if (records[i].duration > 0 && end > view.begin)
+            visit(TimeSpan{times[i], end}, RulerMarker::Severity(records[i].severity));
+    }
+}
 
 } // namespace CorvelGui

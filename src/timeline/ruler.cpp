@@ -45,6 +45,7 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     // followed the first.
     d->markers = new RulerMarkers(this, d->arrows->lowestButton());
     connect(d->markers, &RulerMarkers::pressed, this, &Ruler::jumpToTime);
+    connect(d->markers, &RulerMarkers::mergedActivated, this, &Ruler::openMerged);
     connect(d->markers, &RulerMarkers::doubleClicked, this, &Ruler::jumpToTrackTime);
     d->hover = std::make_unique<RulerHover>(this, d->scale, *d->markers);
     connect(d->hover.get(), &RulerHover::previewPositionChanged, this,

@@ -13,6 +13,7 @@
 
 namespace CorvelGui {
 
+struct MarkerSymbol;
 struct FineTime;
 
 /// The time ruler: a horizontal, zoomable scale over a recording period, with a play indicator and
@@ -35,6 +36,10 @@ class CORVELGUI_EXPORT Ruler : public QWidget
         bool zoomHistory READ keepsZoomHistory WRITE setZoomHistory NOTIFY zoomHistoryChanged)
     Q_PROPERTY(bool canZoomBack READ canZoomBack NOTIFY zoomHistoryMoved)
     Q_PROPERTY(bool canZoomForward READ canZoomForward NOTIFY zoomHistoryMoved)
+    Q_PROPERTY(bool markerDetails READ showsMarkerDetails WRITE setMarkerDetails NOTIFY
+                   markerDetailsChanged)
+    Q_PROPERTY(
+        MergedClick mergedClick READ mergedClick WRITE setMergedClick NOTIFY mergedClickChanged)
     Q_PROPERTY(bool fineWheel READ isFineWheel WRITE setFineWheel NOTIFY fineWheelChanged)
     Q_PROPERTY(
         bool touchGestures READ hasTouchGestures WRITE setTouchGestures NOTIFY touchGesturesChanged)
@@ -48,6 +53,14 @@ public:
         Smooth ///< at every step, while the indicator is in the first or last quarter of the view
     };
     Q_ENUM(FollowMode)
+
+    /// What a click on the symbol of merged markers does.
+    enum class MergedClick {
+        Jump, ///< to the marker that stands for the others
+        List, ///< shows a list of them
+        Zoom  ///< shows a view in which they fall apart, or the list where there is none
+    };
+    Q_ENUM(MergedClick)
 
     explicit Ruler(QWidget* parent = nullptr);
     ~Ruler() override;
@@ -221,6 +234,16 @@ public:
     /// Gives the markers icons of about half the size plus 6 pixels in each direction.
     void setIconSize(const QSize& size);
 
+    /// Whether markers show more than their times: a bar at the foot of the ruler for each that
+    /// lasts, in the colour of its severity, a sign of the severity under its symbol, and under one
+    /// of merged markers their number in the colour of the worst. Off by default.
+    bool showsMarkerDetails() const;
+    void setMarkerDetails(bool on);
+    /// What a click on the symbol of merged markers does; Jump by default. Otherwise Return does
+    /// the same with the symbol that is nearest to the indicator, a symbol's width away at most.
+    MergedClick mergedClick() const;
+    void setMergedClick(MergedClick action);
+
     // Appearance and state
 
     /// True puts the theme's colours in, which a new ruler does not wear yet. False leaves the
@@ -317,7 +340,12 @@ Q_SIGNALS:
     /// Emitted when the view moved, except by onTimelineOffsetChanged() and, without a follow mode,
     /// by setIndicatorPosition().
     void centerPositionChanged(double position);
-    /// Emitted when a marker was pressed, or reached by a key.
+    void markerDetailsChanged(bool on);
+    void mergedClickChanged(CorvelGui::Ruler::MergedClick action);
+    /// Emitted when a merged symbol is to be listed or to fall apart, before that: the times of its
+    /// first and its last marker, and how many there are.
+    void mergedMarkersActivated(const QDateTime& first, const QDateTime& last, qsizetype count);
+    /// Emitted when a marker was pressed, reached by a key, or chosen from the list of a symbol.
     void jumpToTime(const QDateTime& time, const QUuid& identifier);
     /// Emitted when a marker was double-clicked.
     void jumpToTrackTime(const QDateTime& time, const QUuid& identifier);
@@ -356,6 +384,8 @@ private:
     void tellTracksChanged();
     void followView();
     void markersChanged();
+    bool openByKey(const QKeyEvent* event);
+    void openMerged(const MarkerSymbol& symbol);
     void setUpAccessibility();
     void setIndicatorTime(const QDateTime& time);
     void updateIndicator();

@@ -58,6 +58,8 @@ struct Ruler::Private
     bool resultMode = false;
     bool active = false;
     bool blocked = false;
+    bool markerDetails = false;
+    MergedClick mergedClick = MergedClick::Jump;
     bool viewChangeBlocked = false;
     bool viewChangePending = false;
 

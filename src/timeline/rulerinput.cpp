@@ -136,7 +136,7 @@ void Ruler::wheelEvent(QWheelEvent* event)
 
 void Ruler::keyPressEvent(QKeyEvent* event)
 {
-    if (!d->gestures->pressKey(event))
+    if (!openByKey(event) && !d->gestures->pressKey(event))
         QWidget::keyPressEvent(event);
 }
 

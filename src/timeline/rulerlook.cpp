@@ -136,6 +136,9 @@ void Ruler::paintEvent(QPaintEvent*)
         scene.resultMarks.push_back(d->resultRange->end);
     scene.focus = d->focus;
     d->painter.paint(painter, scene);
+    if (d->markerDetails)
+        drawMarkerBars(painter, d->markers->bars(d->scale), d->scale,
+                       markerArea(rect(), d->headerHeight, d->segments.hasTracks()));
 }
 
 void Ruler::setTrackDescriptions(const QList<TrackDescription>& tracks)

@@ -1,5 +1,6 @@
 #include "rulermarkerbutton.h"
 
+#include "markerbadge.h"
 #include "rulericonset.h"
 
 #include <Hueloft/POrvGuiTheme>
@@ -19,7 +20,7 @@ constexpr QSize initialButtonSize(16, 18);
 } // namespace
 
 RulerMarkerButton::RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* ruler)
-    : QPushButton(ruler), m_mergedIcons(mergedIcons)
+    : QPushButton(ruler), m_mergedIcons(mergedIcons), m_badge(std::make_unique<MarkerBadge>())
 {
     setFlat(true);
     setFocusPolicy(Qt::NoFocus);
@@ -28,6 +29,8 @@ RulerMarkerButton::RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* r
     setIconSize(initialIconSize);
     setFixedSize(initialButtonSize);
 }
+
+RulerMarkerButton::~RulerMarkerButton() = default;
 
 QString RulerMarkerButton::plainToolTip(const QString& text)
 {
@@ -52,6 +55,20 @@ void RulerMarkerButton::setMerge(Merge merge)
     m_merge = merge;
     resetToolTip();
     update();
+}
+
+void RulerMarkerButton::setBadge(const MarkerBadge& badge)
+{
+    if (*m_badge == badge)
+        return;
+    *m_badge = badge;
+    setAccessibleDescription(badge.count > 1 ? tr("Markers: %1").arg(badge.count) : QString());
+    update();
+}
+
+QSize RulerMarkerButton::badgeSize() const
+{
+    return m_badge->size(font());
 }
 
 void RulerMarkerButton::setHovered(bool hovered)
@@ -105,7 +122,9 @@ void RulerMarkerButton::paintEvent(QPaintEvent*)
     if (picture.isNull())
         return;
     const QSize free = size() - picture.deviceIndependentSize().toSize();
-    painter.drawPixmap(free.width() / 2, free.height() / 2, picture);
+    const int top = m_badge->isNull() ? free.height() / 2 : 0;
+    painter.drawPixmap(free.width() / 2, top, picture);
+    m_badge->draw(painter, rect());
 }
 
 QPixmap RulerMarkerButton::shownPicture() const

@@ -5,9 +5,12 @@
 
 #include <QPushButton>
 
+#include <memory>
+
 namespace CorvelGui {
 
 class RulerIconSet;
+struct MarkerBadge;
 
 /// A flat button for one marker of a ruler, centred on the marker's time. The ruler makes, places
 /// and deletes these buttons, and may give a button another marker when the view moves.
@@ -25,6 +28,7 @@ public:
 
     /// The icons of merged markers are not owned and must outlive the button.
     RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* ruler);
+    ~RulerMarkerButton() override;
 
     /// A tooltip that shows @p text as it is, also where it looks like markup.
     static QString plainToolTip(const QString& text);
@@ -36,6 +40,10 @@ public:
 
     void setMerge(Merge merge);
     Merge merge() const { return m_merge; }
+
+    /// Says how many markers the button stands for, and the worst of their severities.
+    void setBadge(const MarkerBadge& badge);
+    QSize badgeSize() const;
 
     /// Whether the mouse is on the button; a hovered button shows its hover icon.
     void setHovered(bool hovered);
@@ -58,6 +66,7 @@ private:
     RulerMarker m_marker;
     const RulerIconSet* m_icons = nullptr;
     const RulerIconSet* m_mergedIcons;
+    const std::unique_ptr<MarkerBadge> m_badge;
     int m_centerX = 0;
     Merge m_merge = Merge::Alone;
     bool m_hovered = false;

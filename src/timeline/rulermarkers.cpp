@@ -194,6 +194,7 @@ void RulerMarkers::hoverAt(QPoint position)
     setMarker(m_spare, m_spareMarker);
     applySize(m_spare);
     m_spare->setMerge(RulerMarkerButton::Merge::MergedAway);
+    m_spare->setBadge({});
     m_spare->moveTo(markers.xOf(m_spareMarker), m_view.area);
     m_spare->stackUnder(symbol->button);
     m_spare->show();
@@ -274,6 +275,8 @@ bool RulerMarkers::buttonEvent(RulerMarkerButton* button, const QMouseEvent* eve
 {
     if (event->button() != Qt::LeftButton)
         return false;
+    if (mergedEvent(button, event))
+        return true;
     button->setAlternativeHover(event->type() == QEvent::MouseButtonPress);
     const QDateTime time = button->marker().time;
     const QUuid identifier = button->marker().identifier;
@@ -362,6 +365,7 @@ void RulerMarkers::showSymbols(std::vector<Symbol> symbols)
         symbol.button->setMerge(symbol.first == symbol.last
                                     ? RulerMarkerButton::Merge::Alone
                                     : RulerMarkerButton::Merge::Representative);
+        symbol.button->setBadge(badgeOf(symbol));
         applySize(symbol.button);
         if (symbol.button == m_hovered && symbol.first != symbol.last)
             symbol.button->setToolTip(mergedToolTip(symbol.button));
@@ -413,7 +417,11 @@ RulerMarkerButton* RulerMarkers::createButton()
     button->installEventFilter(this);
     connect(button, &QAbstractButton::clicked, this, [this, button] {
         const RulerMarker marker = button->marker();
-        if (!m_blocked)
+        if (m_blocked)
+            return;
+        if (const auto symbol = m_opensMerged ? mergedOn(button) : std::nullopt)
+            Q_EMIT mergedActivated(*symbol);
+        else
             Q_EMIT pressed(marker.time, marker.identifier);
     });
     applySize(button);
@@ -428,8 +436,10 @@ void RulerMarkers::setMarker(RulerMarkerButton* button, std::size_t marker) cons
 void RulerMarkers::applySize(RulerMarkerButton* button) const
 {
     button->setIconSize(m_iconSize);
-    button->setFixedSize(m_iconSize.width(),
-                         std::min(m_iconSize.height() + 2, m_view.area.height()));
+    const QSize badge = button->badgeSize();
+    button->setFixedSize(
+        std::max(m_iconSize.width(), badge.width()),
+        std::min(m_iconSize.height() + 2 + badge.height() / 2, m_view.area.height()));
 }
 
 bool RulerMarkers::isSpareNeeded() const

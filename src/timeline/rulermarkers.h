@@ -1,5 +1,7 @@
 #pragma once
 
+#include "markerbadge.h"
+#include "markerbars.h"
 #include "markerstore.h"
 #include "markerview.h"
 #include "rulericonset.h"
@@ -21,6 +23,16 @@ class QWidget;
 namespace CorvelGui {
 
 class TimeScale;
+
+/// What a symbol on the ruler stands for: the markers from first to last.
+struct MarkerSymbol
+{
+    std::size_t first;
+    std::size_t last;
+    QPoint top; ///< the middle of its upper edge, on the ruler
+
+    qsizetype count() const { return qsizetype(last - first) + 1; }
+};
 
 /// The markers of a ruler and their buttons.
 ///
@@ -46,6 +58,18 @@ public:
     void setOrvaneGuiTheme(bool on);
 
     const MarkerStore& store() const { return m_store; }
+
+    /// Whether symbols have badges, and bars() has what lasts. Takes effect with update().
+    void setDetailed(bool on);
+    MarkerBars bars(const TimeScale& scale) const;
+    /// Whether a click on a merged symbol is mergedActivated() instead of pressed().
+    void setOpensMerged(bool on) { m_opensMerged = on; }
+    /// The merged symbol nearest to a column, no further away than a symbol is wide.
+    std::optional<MarkerSymbol> mergedNear(int x) const;
+    /// The first of them, @p most at most.
+    QList<RulerMarker> markersOf(const MarkerSymbol& symbol, qsizetype most) const;
+    /// From the time of the first to that of the last.
+    TimeSpan spanOf(const MarkerSymbol& symbol) const;
 
     /// Brings the buttons in line with the view. Costs nothing while neither the view nor what it
     /// shows has changed. Returns the times of markers that are in view for the first time.
@@ -74,6 +98,8 @@ Q_SIGNALS:
     /// A marker was pressed with the left mouse button, or activated by assistive technology.
     void pressed(const QDateTime& time, const QUuid& identifier);
     void doubleClicked(const QDateTime& time, const QUuid& identifier);
+    /// A merged symbol was clicked, or activated by assistive technology.
+    void mergedActivated(const CorvelGui::MarkerSymbol& symbol);
     /// The mouse came to or moved on a button, at @p position of the ruler.
     void hovered(QPoint position);
 
@@ -112,6 +138,10 @@ private:
     RulerMarkerButton* createButton();
     void setMarker(RulerMarkerButton* button, std::size_t marker) const;
     void applySize(RulerMarkerButton* button) const;
+    MarkerBadge badgeOf(const Symbol& symbol) const;
+    std::optional<MarkerSymbol> mergedOn(const RulerMarkerButton* button) const;
+    MarkerSymbol symbolWithPlace(const Symbol& symbol) const;
+    bool mergedEvent(RulerMarkerButton* button, const QMouseEvent* event);
     bool isSpareNeeded() const;
     void hideSpare();
     bool checkRulerMarkerEvent(RulerMarkerButton* button, QEvent* event);
@@ -131,6 +161,8 @@ private:
     bool m_theme = true;
     bool m_hoverable = true;
     bool m_blocked = false;
+    bool m_detailed = false;
+    bool m_opensMerged = false;
 
     View m_view;
     bool m_changed = false;

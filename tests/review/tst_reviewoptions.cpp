@@ -189,7 +189,7 @@ private Q_SLOTS:
         Client client(m_path);
         client.speak(u"en"_s);
         const QStringList set{u"Dark look"_s, u"Activity in the overview"_s,
-                              u"Cameras on the timeline"_s};
+                              u"Cameras on the timeline"_s, u"Number and severity of events"_s};
         for (QAction* action : client.window.findChildren<QAction*>()) {
             if (set.contains(action->text()))
                 action->trigger();
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QTest::keyClick(zone, Qt::Key_Return);
         const ReviewSettings stored = SettingsStore(m_path).settings();
         QCOMPARE(stored.dark, false);
-        QVERIFY(!stored.activity && !stored.lanes);
+        QVERIFY(!stored.activity && !stored.lanes && !stored.eventDetails);
         QCOMPARE(stored.zone, u"Asia/Tokyo"_s);
     }
 

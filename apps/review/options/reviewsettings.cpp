@@ -113,6 +113,7 @@ void forEachValue(Settings& settings, const Use& use)
     use(u"Playback/SkipGaps"_s, settings.skipGaps);
     use(u"Timeline/Activity"_s, settings.activity);
     use(u"Timeline/Lanes"_s, settings.lanes);
+    use(u"Timeline/EventDetails"_s, settings.eventDetails);
     use(u"Updates/InternalChannel"_s, settings.servers.internalChannel);
     use(u"Updates/PublicServer"_s, settings.servers.publicServer);
     use(u"Updates/QueryServer"_s, settings.servers.queryServer);

@@ -26,6 +26,8 @@ struct ReviewSettings
     bool activity = true;
     /// Whether the timeline has a lane for each camera.
     bool lanes = true;
+    /// Whether it counts the events of a symbol and shows how bad they are.
+    bool eventDetails = true;
     Shortcuts shortcuts = defaultShortcuts();
 
     UpdateServers servers = {};

@@ -119,6 +119,12 @@ void TimelinePane::setActivityShown(bool shown)
     m_timeline->setActivityVisible(shown);
 }
 
+void TimelinePane::setEventDetailsShown(bool shown)
+{
+    m_ruler->setMarkerDetails(shown);
+    m_ruler->setMergedClick(shown ? Ruler::MergedClick::List : Ruler::MergedClick::Jump);
+}
+
 void TimelinePane::setLanesShown(bool shown)
 {
     m_timeline->setLanesVisible(shown);

@@ -67,6 +67,8 @@ public Q_SLOTS:
     void showMoment();
     void setMarkersShown(bool shown);
     void setActivityShown(bool shown);
+    /// Counts and severities of events; a click on several at once lists them.
+    void setEventDetailsShown(bool shown);
     /// One lane for each camera; choosing one selects the camera.
     void setLanesShown(bool shown);
 

@@ -35,6 +35,8 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_showActivity->setCheckable(true);
     m_showLanes = new QAction(this);
     m_showLanes->setCheckable(true);
+    m_showEventDetails = new QAction(this);
+    m_showEventDetails->setCheckable(true);
 
     m_zoomIn->setShortcut(QKeySequence::ZoomIn);
     m_zoomOut->setShortcut(QKeySequence::ZoomOut);
@@ -52,6 +54,7 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     connect(m_showMarkers, &QAction::toggled, timeline, &TimelinePane::setMarkersShown);
     connect(m_showActivity, &QAction::toggled, timeline, &TimelinePane::setActivityShown);
     connect(m_showLanes, &QAction::toggled, timeline, &TimelinePane::setLanesShown);
+    connect(m_showEventDetails, &QAction::toggled, timeline, &TimelinePane::setEventDetailsShown);
     connect(timeline, &TimelinePane::viewChanged, this, &TimelineToolBar::showState);
     connect(timeline, &TimelinePane::followingChanged, this, &TimelineToolBar::showState);
     retranslate();
@@ -60,8 +63,9 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
 
 QList<QAction*> TimelineToolBar::viewActions() const
 {
-    return {m_zoomIn, m_zoomOut, m_wholePeriod, nullptr,      m_earlier,      m_later,
-            m_moment, nullptr,   m_showMarkers, m_showRanges, m_showActivity, m_showLanes};
+    return {m_zoomIn,       m_zoomOut,   m_wholePeriod,     nullptr,       m_earlier,
+            m_later,        m_moment,    nullptr,           m_showMarkers, m_showRanges,
+            m_showActivity, m_showLanes, m_showEventDetails};
 }
 
 void TimelineToolBar::retranslate()
@@ -80,6 +84,7 @@ void TimelineToolBar::retranslate()
     m_showRanges->setToolTip(tr("Sets a search range and a result range"));
     m_showActivity->setText(tr("Activity in the overview"));
     m_showLanes->setText(tr("Cameras on the timeline"));
+    m_showEventDetails->setText(tr("Number and severity of events"));
 }
 
 void TimelineToolBar::showState()

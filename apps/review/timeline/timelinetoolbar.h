@@ -23,6 +23,8 @@ public:
     QAction* showRanges() const { return m_showRanges; }
     /// Checkable: whether the overview shows what is recorded and how much happens.
     QAction* showActivity() const { return m_showActivity; }
+    /// Checkable: whether the timeline counts the events of a symbol and shows how bad they are.
+    QAction* showEventDetails() const { return m_showEventDetails; }
     /// Checkable: whether the timeline has a lane for each camera.
     QAction* showLanes() const { return m_showLanes; }
 
@@ -43,6 +45,7 @@ private:
     QAction* m_showRanges;
     QAction* m_showActivity;
     QAction* m_showLanes;
+    QAction* m_showEventDetails;
 };
 
 } // namespace Review

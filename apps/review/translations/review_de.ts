@@ -1139,6 +1139,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Kameras auf der Zeitleiste</translation>
     </message>
     <message>
+        <source>Number and severity of events</source>
+        <translation>Anzahl und Schwere der Ereignisse</translation>
+    </message>
+    <message>
         <source>Activity in the overview</source>
         <translation>Geschehen in der Übersicht</translation>
     </message>

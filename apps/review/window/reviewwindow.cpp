@@ -187,6 +187,8 @@ void ReviewWindow::connectParts()
     connect(m_darkLook, &QAction::triggered, this, &ReviewWindow::settingsTouched);
     connect(m_toolBar->showActivity(), &QAction::triggered, this, &ReviewWindow::settingsTouched);
     connect(m_toolBar->showLanes(), &QAction::triggered, this, &ReviewWindow::settingsTouched);
+    connect(m_toolBar->showEventDetails(), &QAction::triggered, this,
+            &ReviewWindow::settingsTouched);
     connect(m_panes->transport()->skipGaps(), &QCheckBox::clicked, this,
             &ReviewWindow::settingsTouched);
 }
@@ -235,6 +237,7 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     m_panes->transport()->skipGaps()->setChecked(settings.skipGaps);
     m_toolBar->showActivity()->setChecked(settings.activity);
     m_toolBar->showLanes()->setChecked(settings.lanes);
+    m_toolBar->showEventDetails()->setChecked(settings.eventDetails);
     m_panes->player()->setShortcuts(settings.shortcuts);
     m_updates->setServers(settings.servers);
 }
@@ -246,6 +249,7 @@ void ReviewWindow::takeSettings(ReviewSettings& settings) const
     settings.skipGaps = m_panes->transport()->skipGaps()->isChecked();
     settings.activity = m_toolBar->showActivity()->isChecked();
     settings.lanes = m_toolBar->showLanes()->isChecked();
+    settings.eventDetails = m_toolBar->showEventDetails()->isChecked();
 }
 
 void ReviewWindow::writeUserSettings(QSettings& settings) const

@@ -1,0 +1,73 @@
+#include "markerbadge.h"
+
+#include "severitycolors.h"
+
+#include <Hueloft/POrvGuiTheme>
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+
+using Hueloft::POrvGuiTheme;
+using namespace Qt::StringLiterals;
+
+namespace CorvelGui {
+
+namespace {
+
+constexpr int badgeHeight = 11;
+constexpr int textHeight = 9;
+constexpr int padding = 3;
+constexpr int dotSize = 6;
+
+QFont badgeFont(QFont font)
+{
+    font.setPixelSize(textHeight);
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+QString MarkerBadge::text() const
+{
+    if (count <= 1)
+        return {};
+    constexpr qsizetype thousand = 1'000;
+    constexpr qsizetype million = thousand * thousand;
+    if (count >= million)
+        return QString::number(count / million) + u'M';
+    return count >= thousand ? QString::number(count / thousand) + u'k' : QString::number(count);
+}
+
+QSize MarkerBadge::size(const QFont& font) const
+{
+    if (isNull())
+        return {0, 0};
+    if (count == 1)
+        return {dotSize, dotSize};
+    const int width = QFontMetrics(badgeFont(font)).horizontalAdvance(text());
+    return {std::max(width + 2 * padding, badgeHeight), badgeHeight};
+}
+
+void MarkerBadge::draw(QPainter& painter, const QRect& area) const
+{
+    if (isNull())
+        return;
+    QRectF badge(QPointF(), size(painter.font()));
+    badge.moveBottom(area.bottom() + 1);
+    badge.moveLeft(area.left() + (area.width() - badge.width()) / 2);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(POrvGuiTheme::colorPanther, 1));
+    painter.setBrush(severityColor(severity));
+    const double radius = badge.height() / 2;
+    painter.drawRoundedRect(badge.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(POrvGuiTheme::colorBlack);
+    painter.setFont(badgeFont(painter.font()));
+    painter.drawText(badge, Qt::AlignCenter, text());
+    painter.restore();
+}
+
+} // namespace CorvelGui
