@@ -23,7 +23,7 @@ constexpr double barWidth = 3.0;
 
 using Counts = std::array<quint64, RulerMarker::severityCount>;
 
-quint64 sum(const Counts& counts)
+quint64 totalOf(const Counts& counts)
 {
     return std::accumulate(counts.begin(), counts.end(), quint64(0));
 }
@@ -68,9 +68,9 @@ void drawBars(QPainter& painter, const std::vector<Counts>& bars, double width, 
 {
     quint64 most = 0;
     for (const Counts& bar : bars)
-        most = std::max(most, sum(bar));
+        most = std::max(most, totalOf(bar));
     for (std::size_t i = 0; i < bars.size(); ++i) {
-        const quint64 total = sum(bars[i]);
+        const quint64 total = totalOf(bars[i]);
         if (total == 0)
             continue;
         const double whole = std::max(height * std::sqrt(double(total) / double(most)), 2 * pixel);

@@ -17,13 +17,13 @@ namespace CorvelGui {
 namespace {
 
 constexpr int badgeHeight = 11;
-constexpr int textHeight = 9;
-constexpr int padding = 3;
+constexpr int badgeTextHeight = 9;
+constexpr int badgePadding = 3;
 constexpr int dotSize = 6;
 
 QFont badgeFont(QFont font)
 {
-    font.setPixelSize(textHeight);
+    font.setPixelSize(badgeTextHeight);
     font.setBold(true);
     return font;
 }
@@ -48,7 +48,7 @@ QSize MarkerBadge::size(const QFont& font) const
     if (count == 1)
         return {dotSize, dotSize};
     const int width = QFontMetrics(badgeFont(font)).horizontalAdvance(text());
-    return {std::max(width + 2 * padding, badgeHeight), badgeHeight};
+    return {std::max(width + 2 * badgePadding, badgeHeight), badgeHeight};
 }
 
 void MarkerBadge::draw(QPainter& painter, const QRect& area) const

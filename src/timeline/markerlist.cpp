@@ -17,8 +17,8 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr int mostLines = 12;
-constexpr int widest = 480;
+constexpr int mostListLines = 12;
+constexpr int widestList = 480;
 constexpr int signSize = 10;
 
 QIcon severitySign(RulerMarker::Severity severity)
@@ -70,11 +70,11 @@ MarkerList::MarkerList(const QList<RulerMarker>& markers, qsizetype total,
 void MarkerList::popUp(const QPoint& symbol)
 {
     ensurePolished();
-    const int lines = std::min(m_list->count(), mostLines);
+    const int lines = std::min(m_list->count(), mostListLines);
     const int bar =
-        m_list->count() > mostLines ? m_list->verticalScrollBar()->sizeHint().width() : 0;
-    constexpr int padding = 12;
-    QRect place(0, 0, std::min(m_list->sizeHintForColumn(0) + bar + padding, widest),
+        m_list->count() > mostListLines ? m_list->verticalScrollBar()->sizeHint().width() : 0;
+    constexpr int listPadding = 12;
+    QRect place(0, 0, std::min(m_list->sizeHintForColumn(0) + bar + listPadding, widestList),
                 lines * m_list->sizeHintForRow(0) + 2 * frameWidth() + 2);
     place.moveBottom(symbol.y());
     place.moveLeft(symbol.x() - place.width() / 2);
