@@ -73,7 +73,7 @@ void LanePainter::drawName(QPainter& painter, const QRectF& lane, const QString&
     QFont font = painter.font();
     font.setBold(current);
     painter.setFont(font);
-    const QRectF text = plate.adjusted(textPadding, 0, -namePadding / 2, 0);
+    const QRectF text = plate.adjusted(textPadding, 0, -textPadding / 2, 0);
     painter.setPen(current ? QColor(Qt::white) : QColor(200, 200, 200));
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      QFontMetricsF(font).elidedText(name, Qt::ElideRight, text.width()));
