@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -123,6 +124,7 @@ void TestRowFilterModel::showsWhatASimpleModelDoes()
             play.filtered.finish();
             QVERIFY(!play.filtered.isBusy());
             QCOMPARE(texts(play.filtered), play.expected());
+            QCOMPARE(play.filtered.hasChildren(), !play.expected().isEmpty());
         }
     }
 }
@@ -177,6 +179,15 @@ void TestRowFilterModel::indexesFollowTheirRows()
     QCOMPARE(changes[0][0].toModelIndex(), filtered.index(0, 0));
     filtered.setFilterText(u"d"_s);
     QVERIFY(!filtered.mapFromSource(source.index(0, 0)).isValid());
+
+    // A source that goes leaves a model without rows.
+    auto gone = std::make_unique<QStandardItemModel>(1, 1);
+    filtered.setFilterText({});
+    filtered.setSourceModel(gone.get());
+    QSignalSpy resets(&filtered, &QAbstractItemModel::modelReset);
+    gone.reset();
+    QCOMPARE(resets.size(), 1);
+    QCOMPARE(filtered.rowCount(), 0);
 }
 
 QTEST_MAIN(TestRowFilterModel)

@@ -106,6 +106,7 @@ void TestTableWidget::deletesWidgets()
     connect(button, &QPushButton::clicked, &table, [&table] { table.DeleteWidgets(1); });
     button->click();
     QCOMPARE(table.cellWidget(1, 1), nullptr);
+    QVERIFY(button->isHidden());
     QTRY_VERIFY(!button && kept);
 }
 
