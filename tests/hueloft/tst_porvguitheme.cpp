@@ -136,28 +136,32 @@ private Q_SLOTS:
         edit.setStyleSheet(u"QLineEdit{background-color:#ff4d4d;}"_s);
         QCOMPARE_GE(contrast(edit.palette().color(QPalette::Text), QColor(0xff, 0x4d, 0x4d)),
                     readable);
+    }
 
-        // Rules that name both the text's colour and its ground.
-        const QString sheet = dark ? POrvGuiTheme::darkTheme() : POrvGuiTheme::whiteTheme();
-        QVERIFY(!sheet.contains(u'$'));
-        static const QRegularExpression rule(
-            u"([^{}]+)\\{(?=[^}]*(?<![-\\w])(?:selection-)?color: *(#\\w{6}))"
-            "[^}]*background-color: *(#\\w{6})"_s);
-        int checked = 0;
-        for (const QRegularExpressionMatch& match : rule.globalMatch(sheet)) {
-            const bool disabled = match.captured(1).contains(u":disabled"_s);
-            QVERIFY2(contrast(QColor(match.captured(2)), QColor(match.captured(3))) >=
-                         (disabled ? perceptible : readable),
-                     qPrintable(match.captured()));
-            ++checked;
+    void sheets()
+    {
+        for (const QString& sheet : {POrvGuiTheme::darkTheme(), POrvGuiTheme::whiteTheme()}) {
+            // Rules that name both the text's colour and its ground.
+            QVERIFY(!sheet.contains(u'$'));
+            static const QRegularExpression rule(
+                u"([^{}]+)\\{(?=[^}]*(?<![-\\w])(?:selection-)?color: *(#\\w{6}))"
+                "[^}]*background-color: *(#\\w{6})"_s);
+            int checked = 0;
+            for (const QRegularExpressionMatch& match : rule.globalMatch(sheet)) {
+                const bool disabled = match.captured(1).contains(u":disabled"_s);
+                QVERIFY2(contrast(QColor(match.captured(2)), QColor(match.captured(3))) >=
+                             (disabled ? perceptible : readable),
+                         qPrintable(match.captured()));
+                ++checked;
+            }
+            QVERIFY(checked >= 8);
+            // The text of a progress bar stands on its filled part too.
+            static const QRegularExpression bar(
+                u"QProgressBar \\{\\s*color: (#\\w{6})[^}]*\\}\\s*"
+                "QProgressBar::chunk \\{ background-color: (#\\w{6})"_s);
+            const QRegularExpressionMatch match = bar.match(sheet);
+            QCOMPARE_GE(contrast(QColor(match.captured(1)), QColor(match.captured(2))), readable);
         }
-        QVERIFY(checked >= 8);
-        // The text of a progress bar stands on its filled part too.
-        static const QRegularExpression bar(
-            u"QProgressBar \\{\\s*color: (#\\w{6})[^}]*\\}\\s*"
-            "QProgressBar::chunk \\{ background-color: (#\\w{6})"_s);
-        const QRegularExpressionMatch match = bar.match(sheet);
-        QCOMPARE_GE(contrast(QColor(match.captured(1)), QColor(match.captured(2))), readable);
     }
 };
 

@@ -25,7 +25,7 @@ public:
     QString savePath = {};
     /// Done to a dialog before it is answered, if it is still there then.
     std::function<void(const QDialog&)> before = {};
-    /// Deleted instead of answering a dialog whose line begins so.
+    /// Deletes @p object instead of answering a dialog whose line begins so.
     void deleteAt(const QString& begin, QObject* object);
 
     /// A line for each dialog: its kind, title and text.
