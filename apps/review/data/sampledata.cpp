@@ -58,7 +58,7 @@ private:
     quint64 m_state;
 };
 
-struct Camera
+struct SampleCamera
 {
     QLatin1StringView identifier;
     const char* name;
@@ -81,7 +81,7 @@ struct Camera
 
 constexpr TimeSpan always{sampleBegin, sampleEnd};
 
-constexpr Camera cameras[] = {
+constexpr SampleCamera cameras[] = {
     {.identifier = "cam-1"_L1,
      .name = QT_TRANSLATE_NOOP("Review::SampleData", "Main gate"),
      .recordingsPerHour = {1,  0, 0, 0, 1,  2,  6,  12, 14, 9, 8, 8,
@@ -180,7 +180,7 @@ private:
     QList<VideoFile>& m_files;
 };
 
-std::vector<TimeSpan> recordingsOf(const Camera& camera, Dice& dice)
+std::vector<TimeSpan> recordingsOf(const SampleCamera& camera, Dice& dice)
 {
     constexpr qint64 shortestPause = 15'000;
     std::vector<TimeSpan> recordings;
@@ -216,7 +216,7 @@ ReviewData SampleData::make()
     ReviewData data;
     Dice dice(2026);
     const QDir clips(QCoreApplication::applicationDirPath() + u"/../share/CorvelGui/sample"_s);
-    for (const Camera& camera : cameras) {
+    for (const SampleCamera& camera : cameras) {
         TrackDescription track{.identifier = camera.identifier,
                                .name = tr(camera.name),
                                .begin = camera.described.begin,
