@@ -5,6 +5,7 @@
 #include <CorvelGui/SubNetMaskComboBox>
 
 #include <QSignalSpy>
+#include <QStyleOptionComboBox>
 #include <QTest>
 
 using namespace CorvelGui;
@@ -15,6 +16,7 @@ namespace {
 class InterfaceBox : public NetworkInterfaceComboBox
 {
 public:
+    using NetworkInterfaceComboBox::initStyleOption;
     using NetworkInterfaceComboBox::showInterfaces;
 };
 
@@ -53,6 +55,9 @@ private Q_SLOTS:
         QCOMPARE(box.currentText(), u"No Network Connection"_s);
         QVERIFY(box.getCurrentHostAddress().isNull());
         QCOMPARE(box.styleSheet(), u"QComboBox{color: red;font: bold;}"_s);
+        QStyleOptionComboBox drawn;
+        box.initStyleOption(&drawn);
+        QCOMPARE(drawn.palette.color(QPalette::Button), drawn.palette.color(QPalette::Base));
 
         QVERIFY(box.showInterfaces(two, u"172.16.0.1"_s));
         QCOMPARE(box.styleSheet(), QString());
