@@ -245,6 +245,20 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::MarkerList</name>
+    <message>
+        <source>Markers of this symbol</source>
+        <translation>Marker dieses Symbols</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::NetworkInterfaceComboBox</name>
     <message>
         <source>No Network Connection</source>
@@ -670,6 +684,13 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::RulerMarkerButton</name>
+    <message>
+        <source>Markers: %1</source>
+        <translation>Marker: %1</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::RulerMarkers</name>
     <message numerus="yes">
         <source>and %n more</source>
@@ -729,27 +750,6 @@ Speicherort öffnen?</translation>
     <message>
         <source>Tracks</source>
         <translation>Spuren</translation>
-    </message>
-</context>
-<context>
-    <name>CorvelGui::MarkerList</name>
-    <message>
-        <source>Markers of this symbol</source>
-        <translation>Marker dieses Symbols</translation>
-    </message>
-    <message numerus="yes">
-        <source>and %n more</source>
-        <translation>
-            <numerusform>und %n weiterer</numerusform>
-            <numerusform>und %n weitere</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>CorvelGui::RulerMarkerButton</name>
-    <message>
-        <source>Markers: %1</source>
-        <translation>Marker: %1</translation>
     </message>
 </context>
 <context>
