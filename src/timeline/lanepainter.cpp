@@ -47,7 +47,7 @@ void LanePainter::drawLane(QPainter& painter, const QRectF& lane,
                     grid.aligned(stretch.adjusted(0, stretch.height() - footHeight, 0, 0)), foot);
         }
     };
-    fill(spans.gaps, POrvGuiTheme::colorBlack, {});
+    fill(spans.described, POrvGuiTheme::colorBlack, {});
     fill(spans.recorded, POrvGuiTheme::colorTuna, POrvGuiTheme::colorYellow.darker(200));
 
     if (!scale.hasView())

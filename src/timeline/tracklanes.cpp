@@ -28,7 +28,7 @@ void TrackLanes::addRecorded(const QString& track, const QList<TimeSpan>& spans)
             recorded.append(span);
         if (std::optional<Spans>& known = m_spans[std::size_t(index)]) {
             unite(known->recorded, span);
-            subtract(known->gaps, span);
+            unite(known->described, span);
         }
     }
 }
@@ -39,8 +39,9 @@ const TrackLanes::Spans& TrackLanes::spans(int index) const
     if (!known) {
         const TrackDescription& track = m_tracks[index];
         TimeSpans recorded = joined({track.recorded.begin(), track.recorded.end()});
-        TimeSpans gaps = difference(joined({{track.begin, track.end}}), recorded);
-        known = {std::move(recorded), std::move(gaps)};
+        TimeSpans described = recorded;
+        described.push_back({track.begin, track.end});
+        known = {std::move(recorded), joined(std::move(described))};
     }
     return *known;
 }

@@ -20,7 +20,7 @@ public:
     struct Spans
     {
         TimeSpans recorded;
-        TimeSpans gaps;
+        TimeSpans described; ///< recorded or not
     };
 
     void setTracks(const QList<TrackDescription>& tracks);

@@ -98,14 +98,14 @@ void TestLanes::spansOfOneTrack()
     TrackLanes lanes;
     lanes.setTracks({{u"a"_s, {}, 0, 100, {{40, 60}, {20, 50}}}, {u"b"_s, {}, 0, 10, {}}});
     QCOMPARE(lanes.spans(0).recorded, (TimeSpans{{20, 60}}));
-    QCOMPARE(lanes.spans(0).gaps, (TimeSpans{{0, 20}, {60, 100}}));
+    QCOMPARE(lanes.spans(0).described, (TimeSpans{{0, 100}}));
     for (const TimeSpan& span : {TimeSpan{60, 70}, {70, 75}, {90, 110}})
         lanes.addRecorded(u"a"_s, {span});
     lanes.addRecorded(u"b"_s, {{0, 4}, {4, 5}}); // not looked at so far
     QCOMPARE(lanes.spans(0).recorded, (TimeSpans{{20, 75}, {90, 110}}));
-    QCOMPARE(lanes.spans(0).gaps, (TimeSpans{{0, 20}, {75, 90}}));
+    QCOMPARE(lanes.spans(0).described, (TimeSpans{{0, 110}}));
     QCOMPARE(lanes.tracks()[1].recorded, (QList<TimeSpan>{{0, 5}}));
-    QCOMPARE(lanes.spans(1).gaps, (TimeSpans{{5, 10}}));
+    QCOMPARE(lanes.spans(1).described, (TimeSpans{{0, 10}}));
 }
 
 void TestLanes::statesStandInTheColumnsOfTheRuler()
