@@ -206,6 +206,18 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     preview->onChangedPreviewIndicatorTime(quint64(middle - 3 * hour));
     preview->ruler()->onPreviewVisible(true, false);
 
+    // The night in which the clocks go back.
+    constexpr qint64 change = 1'792'890'000'000; // 2026-10-25T01:00Z
+    ZoomTimeline* free = add(tr("Zoomed freely, with steps that people count in"));
+    free->setTimeZone(u"Europe/Brussels"_s);
+    free->setTimeLimits(quint64(change - 10 * day), quint64(change + 10 * day));
+    free->ruler()->setContinuousZoom(true);
+    free->ruler()->setZoomHistory(true);
+    free->ruler()->setFineWheel(true);
+    free->ruler()->setTouchGestures(true);
+    free->ruler()->setView(change - 5 * hour, change + 5 * hour);
+    free->setIndicatorPosition(quint64(change - 30 * minute));
+
     add(tr("Blocked"))->setActive(true, true);
     add(tr("Inactive"))->setActive(false, false);
 

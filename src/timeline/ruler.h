@@ -391,6 +391,7 @@ private:
     void updateIndicator();
     void showIndicatorTime(quint64 msecs);
     void setLevelFromTimeRange(const QDateTime& from, const QDateTime& to);
+    void showRange(qint64 from, qint64 to, bool isOneOfSeveral);
     void zoomAbout(double factor, double x);
     void zoomTo(double span, const FineTime& time, double x, bool moving);
     double zoomColumn() const;
@@ -409,6 +410,7 @@ private:
 
     friend class RulerGestures; // carry out what the user does
     friend class RulerTouch;
+    friend class ZoomTimeline; // its strip resizes the view in many steps
     friend class RulerZoomInput;
     friend class TimelineLanes; // shows the same view
     struct Private;

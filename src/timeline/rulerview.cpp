@@ -25,11 +25,17 @@ double Ruler::xAt(qint64 msecs) const
 
 void Ruler::setView(qint64 from, qint64 to)
 {
+    showRange(from, to, false);
+}
+
+void Ruler::showRange(qint64 from, qint64 to, bool isOneOfSeveral)
+{
     TimeScale& scale = d->scale;
     const TimeScale::View before = scale.shownView();
     const bool shown = d->continuousZoom ? scale.showSpan(from, to) : scale.setView(from, to);
     if (shown && scale.shownView() != before)
-        viewZoomed({.before = before});
+        viewZoomed({.before = before,
+                    .how = isOneOfSeveral ? ViewHistory::Zoom::Turn : ViewHistory::Zoom::Whole});
 }
 
 void Ruler::centerOn(qint64 msecs)

@@ -344,7 +344,7 @@ void ZoomTimeline::onViewAreaResized(double begin, double end)
                          duration = double(m_ruler->getTotalDuration())](double position) {
         return qint64(from) + std::llround(position * duration);
     };
-    m_ruler->setView(timeAt(begin), timeAt(end));
+    m_ruler->showRange(timeAt(begin), timeAt(end), true);
 }
 
 void ZoomTimeline::turnWheelOnStrip(const QWheelEvent* event)

@@ -80,6 +80,15 @@ private Q_SLOTS:
         QCOMPARE(enabledActions(sample), u"Zoom in, Whole period, Earlier"_s);
         sample.action(u"Whole period"_s)->trigger();
         QCOMPARE(qint64(ruler->beginTime()), monday);
+
+        sample.action(u"Zoom freely"_s)->trigger();
+        sample.action(u"Zoom in"_s)->trigger();
+        sample.action(u"Zoom in"_s)->trigger();
+        QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 14 * day / 4);
+        sample.action(u"Whole period"_s)->trigger();
+        sample.action(u"Previous view"_s)->trigger();
+        QCOMPARE(qint64(ruler->endTime() - ruler->beginTime()), 14 * day / 4);
+        QVERIFY(sample.action(u"Next view"_s)->isEnabled());
     }
 
     void uncheckedTracksLeaveTheTimeline()

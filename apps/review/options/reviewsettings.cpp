@@ -13,6 +13,7 @@
 
 using Corvel::ProxyUserSettings;
 using CorvelGui::PPlaybar;
+using CorvelGui::Ruler;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -32,6 +33,13 @@ constexpr std::pair<TimeFormat::Order, QLatin1StringView> orderNames[] = {
     {TimeFormat::Order::DayFirst, "day-first"_L1},
     {TimeFormat::Order::YearFirst, "year-first"_L1},
     {TimeFormat::Order::MonthFirst, "month-first"_L1},
+};
+
+constexpr std::pair<Ruler::FollowMode, QLatin1StringView> followNames[] = {
+    {Ruler::FollowMode::Off, "off"_L1},
+    {Ruler::FollowMode::Pages, "pages"_L1},
+    {Ruler::FollowMode::Centered, "centered"_L1},
+    {Ruler::FollowMode::Smooth, "smooth"_L1},
 };
 
 QString textOf(const QString& value)
@@ -63,6 +71,11 @@ QString textOf(ProxyUserSettings::Mode value)
 QString textOf(TimeFormat::Order value)
 {
     return nameOf(orderNames, value);
+}
+
+QString textOf(Ruler::FollowMode value)
+{
+    return nameOf(followNames, value);
 }
 
 // The opposite of textOf(). A text that makes no sense leaves the value alone.
@@ -101,6 +114,11 @@ void take(TimeFormat::Order& value, const QString& text)
     takeName(orderNames, value, text);
 }
 
+void take(Ruler::FollowMode& value, const QString& text)
+{
+    takeName(followNames, value, text);
+}
+
 /// Calls @p use with the key and the place of each value but the shortcuts.
 template <typename Settings, typename Use>
 void forEachValue(Settings& settings, const Use& use)
@@ -114,6 +132,8 @@ void forEachValue(Settings& settings, const Use& use)
     use(u"Timeline/Activity"_s, settings.activity);
     use(u"Timeline/Lanes"_s, settings.lanes);
     use(u"Timeline/EventDetails"_s, settings.eventDetails);
+    use(u"Timeline/FreeZoom"_s, settings.freeZoom);
+    use(u"Timeline/Follow"_s, settings.followMode);
     use(u"Updates/InternalChannel"_s, settings.servers.internalChannel);
     use(u"Updates/PublicServer"_s, settings.servers.publicServer);
     use(u"Updates/QueryServer"_s, settings.servers.queryServer);

@@ -5,6 +5,7 @@
 #include "updateservers.h"
 
 #include <Corvel/ProxyUserSettings>
+#include <CorvelGui/Ruler>
 
 #include <QString>
 
@@ -28,6 +29,10 @@ struct ReviewSettings
     bool lanes = true;
     /// Whether it counts the events of a symbol and shows how bad they are.
     bool eventDetails = true;
+    /// Whether the timeline shows views of any length, and not only those of the zoom levels.
+    bool freeZoom = true;
+    /// How the timeline goes after the moment.
+    CorvelGui::Ruler::FollowMode followMode = CorvelGui::Ruler::FollowMode::Pages;
     Shortcuts shortcuts = defaultShortcuts();
 
     UpdateServers servers = {};

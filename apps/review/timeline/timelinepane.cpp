@@ -23,7 +23,6 @@ namespace Review {
 
 namespace {
 
-constexpr double viewCentre = 0.5;
 constexpr int smallestWidth = 300;
 constexpr int mostLanes = 6;
 constexpr qint64 spanAroundMarker = qint64(20) * 60 * 1'000;
@@ -48,6 +47,9 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
     m_ruler->setIndicatorDragEnabled(true);
     m_timeline->lanes()->setMaximumLanes(mostLanes);
     m_ruler->setFollowMode(Ruler::FollowMode::Pages);
+    m_ruler->setCalendarTicks(true);
+    m_ruler->setFineWheel(true);
+    m_ruler->setTouchGestures(true);
     followFont();
     retranslate();
 
@@ -69,6 +71,7 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
             [this](qint64 msecs, int x, const TimeSpan& symbol) {
                 Q_EMIT previewChanged(msecs, m_ruler->mapTo(this, QPoint(x, 0)), symbol);
             });
+    connect(m_ruler, &Ruler::zoomHistoryMoved, this, &TimelinePane::viewChanged);
     connect(m_ruler, &Ruler::followingChanged, this, &TimelinePane::followingChanged);
     connect(&clock, &Clock::changed, this, [&] { m_timeline->setTimeZone(clock.zoneName()); });
     connect(&selection, &Selection::momentChanged, this, &TimelinePane::followMoment);
@@ -85,12 +88,14 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
 void TimelinePane::setPeriod(const TimeSpan& period)
 {
     m_period = period;
+    m_ruler->setZoomHistory(false);
     m_timeline->setTimeLimits(quint64(period.begin), quint64(period.end));
     clearRanges();
     if (period.isEmpty())
         Q_EMIT viewChanged();
     else
         showWholePeriod();
+    m_ruler->setZoomHistory(true);
 }
 
 void TimelinePane::setTracks(const QList<TrackDescription>& tracks)
@@ -207,7 +212,7 @@ bool TimelinePane::isFollowing() const
 
 bool TimelinePane::canZoomIn() const
 {
-    return !m_period.isEmpty() && m_ruler->level() > 0;
+    return m_ruler->canZoomIn();
 }
 
 bool TimelinePane::canZoomOut() const
@@ -227,9 +232,43 @@ bool TimelinePane::canStepLater() const
     return pixelsBetween(view().end, m_period.end) >= 1;
 }
 
+bool TimelinePane::hasPreviousView() const
+{
+    return m_ruler->canZoomBack();
+}
+
+bool TimelinePane::hasNextView() const
+{
+    return m_ruler->canZoomForward();
+}
+
 void TimelinePane::showMoment()
 {
-    m_ruler->resumeFollowing();
+    if (m_ruler->followMode() == Ruler::FollowMode::Off)
+        bringIntoView(m_selection.moment());
+    else
+        m_ruler->resumeFollowing();
+}
+
+void TimelinePane::showPreviousView()
+{
+    m_ruler->zoomBack();
+}
+
+void TimelinePane::showNextView()
+{
+    m_ruler->zoomForward();
+}
+
+void TimelinePane::setFreeZoom(bool on)
+{
+    m_ruler->setContinuousZoom(on);
+    Q_EMIT viewChanged();
+}
+
+void TimelinePane::setFollowMode(Ruler::FollowMode mode)
+{
+    m_ruler->setFollowMode(mode);
 }
 
 void TimelinePane::zoomIn()
@@ -237,12 +276,12 @@ void TimelinePane::zoomIn()
     // Levels that are longer than the period all show the whole of it.
     const TimeSpan before = view();
     while (canZoomIn() && view() == before)
-        m_ruler->onZoomerIn(m_ruler->level() - 1, viewCentre);
+        m_ruler->zoomIn();
 }
 
 void TimelinePane::zoomOut()
 {
-    m_ruler->onZoomerOut(m_ruler->level() + 1, viewCentre);
+    m_ruler->zoomOut();
 }
 
 void TimelinePane::showWholePeriod()

@@ -3,13 +3,13 @@
 #include "look/translated.h"
 #include "resultlook.h"
 
+#include <CorvelGui/Ruler>
 #include <CorvelGui/RulerMarker>
 #include <CorvelGui/TrackDescription>
 
 #include <QWidget>
 
 namespace CorvelGui {
-class Ruler;
 class ZoomTimeline;
 } // namespace CorvelGui
 
@@ -21,7 +21,7 @@ class Selection;
 /// The timeline of the client, with the indicator at the selected moment. All that the client asks
 /// of the timeline goes through this class.
 ///
-/// The view turns pages after the moment, unless the user looks elsewhere.
+/// The view goes after the moment, by pages at first, unless the user looks elsewhere.
 class TimelinePane : public Translated<QWidget>
 {
     Q_OBJECT
@@ -49,10 +49,13 @@ public:
     /// What is in view; empty without a period.
     CorvelGui::TimeSpan view() const;
     bool showsWholePeriod() const;
-    /// Whether the view turns pages after the moment.
+    /// Whether the view goes after the moment.
     bool isFollowing() const;
     bool canZoomIn() const;
     bool canZoomOut() const;
+    /// Whether there are views that zooming left, before and after the one that is shown.
+    bool hasPreviousView() const;
+    bool hasNextView() const;
     bool canStepEarlier() const;
     bool canStepLater() const;
 
@@ -60,10 +63,15 @@ public Q_SLOTS:
     void zoomIn();
     void zoomOut();
     void showWholePeriod();
+    void showPreviousView();
+    void showNextView();
+    /// Whether the view may be of any length, and not only as long as a zoom level says.
+    void setFreeZoom(bool on);
+    void setFollowMode(CorvelGui::Ruler::FollowMode mode);
     /// Half a view towards the begin or the end of the period.
     void stepEarlier();
     void stepLater();
-    /// Brings the moment back into view, and follows it from there.
+    /// Brings the moment back into view, and follows it from there if there is a mode.
     void showMoment();
     void setMarkersShown(bool shown);
     void setActivityShown(bool shown);

@@ -1,5 +1,6 @@
 #include "timelinetoolbar.h"
 
+#include "followmenu.h"
 #include "timelinepane.h"
 
 #include <Hueloft/PIconHelper>
@@ -25,22 +26,30 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_earlier = addAction(QString());
     m_later = addAction(QString());
     m_moment = addAction(QString());
+    m_follow = new FollowMenu(this);
     addSeparator();
     m_showMarkers = addAction(QString());
     m_showMarkers->setCheckable(true);
     m_showMarkers->setChecked(true);
     m_showRanges = addAction(QString());
     m_showRanges->setCheckable(true);
-    m_showActivity = new QAction(this); // in menus only
+    // In menus only.
+    m_showActivity = new QAction(this);
     m_showActivity->setCheckable(true);
     m_showLanes = new QAction(this);
     m_showLanes->setCheckable(true);
     m_showEventDetails = new QAction(this);
     m_showEventDetails->setCheckable(true);
+    m_previous = new QAction(this);
+    m_next = new QAction(this);
+    m_freeZoom = new QAction(this);
+    m_freeZoom->setCheckable(true);
 
     m_zoomIn->setShortcut(QKeySequence::ZoomIn);
     m_zoomOut->setShortcut(QKeySequence::ZoomOut);
     m_wholePeriod->setShortcut(Qt::CTRL | Qt::Key_0);
+    m_previous->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_Left);
+    m_next->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_Right);
     m_earlier->setShortcut(Qt::ALT | Qt::Key_Left);
     m_later->setShortcut(Qt::ALT | Qt::Key_Right);
     m_moment->setShortcut(Qt::CTRL | Qt::Key_T);
@@ -48,6 +57,10 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     connect(m_zoomIn, &QAction::triggered, timeline, &TimelinePane::zoomIn);
     connect(m_zoomOut, &QAction::triggered, timeline, &TimelinePane::zoomOut);
     connect(m_wholePeriod, &QAction::triggered, timeline, &TimelinePane::showWholePeriod);
+    connect(m_previous, &QAction::triggered, timeline, &TimelinePane::showPreviousView);
+    connect(m_next, &QAction::triggered, timeline, &TimelinePane::showNextView);
+    connect(m_freeZoom, &QAction::toggled, timeline, &TimelinePane::setFreeZoom);
+    connect(m_follow, &FollowMenu::modeChanged, timeline, &TimelinePane::setFollowMode);
     connect(m_earlier, &QAction::triggered, timeline, &TimelinePane::stepEarlier);
     connect(m_later, &QAction::triggered, timeline, &TimelinePane::stepLater);
     connect(m_moment, &QAction::triggered, timeline, &TimelinePane::showMoment);
@@ -63,9 +76,21 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
 
 QList<QAction*> TimelineToolBar::viewActions() const
 {
-    return {m_zoomIn,       m_zoomOut,   m_wholePeriod,     nullptr,       m_earlier,
-            m_later,        m_moment,    nullptr,           m_showMarkers, m_showRanges,
-            m_showActivity, m_showLanes, m_showEventDetails};
+    return {m_zoomIn,
+            m_zoomOut,
+            m_wholePeriod,
+            m_previous,
+            m_next,
+            m_freeZoom,
+            nullptr,
+            m_earlier,
+            m_later,
+            m_moment,
+            m_follow->menuAction(),
+            nullptr,
+            m_showMarkers,
+            m_showRanges,
+            m_showActivity};
 }
 
 void TimelineToolBar::retranslate()
@@ -74,6 +99,9 @@ void TimelineToolBar::retranslate()
     m_zoomIn->setText(tr("Zoom in"));
     m_zoomOut->setText(tr("Zoom out"));
     m_wholePeriod->setText(tr("Whole period"));
+    m_previous->setText(tr("Previous view"));
+    m_next->setText(tr("Next view"));
+    m_freeZoom->setText(tr("Zoom freely"));
     m_earlier->setText(tr("Earlier"));
     m_later->setText(tr("Later"));
     m_moment->setText(tr("Current time"));
@@ -92,6 +120,8 @@ void TimelineToolBar::showState()
     m_zoomIn->setEnabled(m_timeline->canZoomIn());
     m_zoomOut->setEnabled(m_timeline->canZoomOut());
     m_wholePeriod->setEnabled(!m_timeline->showsWholePeriod());
+    m_previous->setEnabled(m_timeline->hasPreviousView());
+    m_next->setEnabled(m_timeline->hasNextView());
     m_earlier->setEnabled(m_timeline->canStepEarlier());
     m_later->setEnabled(m_timeline->canStepLater());
     m_moment->setEnabled(!m_timeline->isFollowing());

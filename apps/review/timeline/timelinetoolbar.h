@@ -6,6 +6,7 @@
 
 namespace Review {
 
+class FollowMenu;
 class TimelinePane;
 
 /// What can be done to the view of a timeline: buttons and shortcuts, enabled while they can do
@@ -27,6 +28,9 @@ public:
     QAction* showEventDetails() const { return m_showEventDetails; }
     /// Checkable: whether the timeline has a lane for each camera.
     QAction* showLanes() const { return m_showLanes; }
+    /// Checkable: whether the view may be of any length.
+    QAction* freeZoom() const { return m_freeZoom; }
+    FollowMenu* followMenu() const { return m_follow; }
 
 protected:
     void retranslate() final;
@@ -38,9 +42,13 @@ private:
     QAction* m_zoomIn;
     QAction* m_zoomOut;
     QAction* m_wholePeriod;
+    QAction* m_previous;
+    QAction* m_next;
+    QAction* m_freeZoom;
     QAction* m_earlier;
     QAction* m_later;
     QAction* m_moment;
+    FollowMenu* m_follow;
     QAction* m_showMarkers;
     QAction* m_showRanges;
     QAction* m_showActivity;

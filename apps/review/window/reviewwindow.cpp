@@ -15,6 +15,7 @@
 #include "reviewopener.h"
 #include "reviewpanes.h"
 #include "reviewstatusbar.h"
+#include "timeline/followmenu.h"
 #include "timeline/rangepanel.h"
 #include "timeline/timelinepane.h"
 #include "timeline/timelinetoolbar.h"
@@ -185,10 +186,10 @@ void ReviewWindow::connectParts()
 
     connect(m_status, &ReviewStatusBar::zoneChosen, this, &ReviewWindow::settingsTouched);
     connect(m_darkLook, &QAction::triggered, this, &ReviewWindow::settingsTouched);
-    connect(m_toolBar->showActivity(), &QAction::triggered, this, &ReviewWindow::settingsTouched);
-    connect(m_toolBar->showLanes(), &QAction::triggered, this, &ReviewWindow::settingsTouched);
-    connect(m_toolBar->showEventDetails(), &QAction::triggered, this,
-            &ReviewWindow::settingsTouched);
+    for (const QAction* action : {m_toolBar->showActivity(), m_toolBar->showLanes(),
+                                  m_toolBar->showEventDetails(), m_toolBar->freeZoom()})
+        connect(action, &QAction::triggered, this, &ReviewWindow::settingsTouched);
+    connect(m_toolBar->followMenu(), &FollowMenu::chosen, this, &ReviewWindow::settingsTouched);
     connect(m_panes->transport()->skipGaps(), &QCheckBox::clicked, this,
             &ReviewWindow::settingsTouched);
 }
@@ -238,6 +239,8 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     m_toolBar->showActivity()->setChecked(settings.activity);
     m_toolBar->showLanes()->setChecked(settings.lanes);
     m_toolBar->showEventDetails()->setChecked(settings.eventDetails);
+    m_toolBar->freeZoom()->setChecked(settings.freeZoom);
+    m_toolBar->followMenu()->setMode(settings.followMode);
     m_panes->player()->setShortcuts(settings.shortcuts);
     m_updates->setServers(settings.servers);
 }
@@ -250,6 +253,8 @@ void ReviewWindow::takeSettings(ReviewSettings& settings) const
     settings.activity = m_toolBar->showActivity()->isChecked();
     settings.lanes = m_toolBar->showLanes()->isChecked();
     settings.eventDetails = m_toolBar->showEventDetails()->isChecked();
+    settings.freeZoom = m_toolBar->freeZoom()->isChecked();
+    settings.followMode = m_toolBar->followMenu()->mode();
 }
 
 void ReviewWindow::writeUserSettings(QSettings& settings) const
