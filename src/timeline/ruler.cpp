@@ -388,28 +388,29 @@ void Ruler::setUpAccessibility()
         return double(d->scale.beginLimitMs());
     };
     d->accessible = std::make_unique<AccessibleRange>(
-        this,
-        AccessibleRange::Description{
-            .role = QAccessible::Slider,
-            .name = [] { return tr("Timeline"); },
-            .minimum = begin,
-            .maximum = [this] { return double(d->scale.endLimitMs()); },
-            .value =
-                [this, begin] {
-                    return d->indicatorTime.isValid() ? double(d->exactIndicator) : begin();
-                },
-            .step = [this] { return double(d->scale.millisecondsPerMinorDivision()); },
-            .text =
-                [this] {
-                    return d->indicatorTime.isValid()
-                               ? QLocale().toString(d->scale.inZone(qint64(d->exactIndicator)))
-                               : tr("No position");
-                },
-            .move =
-                [this](double msecs) {
-                    if (d->takesInput() && d->scale.hasView())
-                        d->gestures->moveIndicatorTo(qint64(msecs));
-                }});
+        this, AccessibleRange::Description{
+                  .role = QAccessible::Slider,
+                  .name = [] { return tr("Timeline"); },
+                  .minimum = begin,
+                  .maximum = [this] { return double(d->scale.endLimitMs()); },
+                  .value =
+                      [this, begin] {
+                          return d->indicatorTime.isValid() ? double(d->exactIndicator) : begin();
+                      },
+                  .step = [this] { return double(d->scale.millisecondsPerMinorDivision()); },
+                  .text =
+                      [this] {
+                          if (!d->indicatorTime.isValid())
+                              return tr("No position");
+                          const qint64 time = qint64(d->exactIndicator);
+                          const QString text = QLocale().toString(d->scale.inZone(time));
+                          return showsCalendar() ? text + d->clock.whichOfTwo(time) : text;
+                      },
+                  .move =
+                      [this](double msecs) {
+                          if (d->takesInput() && d->scale.hasView())
+                              d->gestures->moveIndicatorTo(qint64(msecs));
+                      }});
 }
 
 void Ruler::setIndicatorTime(const QDateTime& time)

@@ -188,9 +188,12 @@ private Q_SLOTS:
     {
         Client client(m_path);
         client.speak(u"en"_s);
-        const QStringList set{u"Dark look"_s, u"Activity in the overview"_s,
-                              u"Cameras on the timeline"_s, u"Number and severity of events"_s,
-                              u"Zoom freely"_s, u"&Smoothly"_s};
+        const QStringList set{u"Dark look"_s,
+                              u"Activity in the overview"_s,
+                              u"Cameras on the timeline"_s,
+                              u"Number and severity of events"_s,
+                              u"Zoom freely"_s,
+                              u"&Smoothly"_s};
         for (QAction* action : client.window.findChildren<QAction*>()) {
             if (set.contains(action->text()))
                 action->trigger();

@@ -388,6 +388,10 @@ void TestRulerZoom::repeatedHour()
           std::pair(30 * minute, u"02:30:00 +01"_s), std::pair(5 * hour, u"07:00:00"_s)}) {
         ruler.setIndicatorPosition(quint64(change + offset));
         QCOMPARE(indicator->text(), text);
+        // Assistive technology hears which it is, too.
+        const auto* said = QAccessible::queryAccessibleInterface(&ruler);
+        QCOMPARE(said->text(QAccessible::Value).section(u' ', -1).startsWith(u'+'),
+                 text.contains(u'+'));
     }
     // From left to right: before, the first time, the second, after.
     const QImage image = ruler.grab().toImage();

@@ -90,7 +90,9 @@ QList<QAction*> TimelineToolBar::viewActions() const
             nullptr,
             m_showMarkers,
             m_showRanges,
-            m_showActivity};
+            m_showActivity,
+            m_showLanes,
+            m_showEventDetails};
 }
 
 void TimelineToolBar::retranslate()
