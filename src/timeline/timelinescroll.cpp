@@ -4,6 +4,7 @@
 
 #include <Hueloft/POrvGuiTheme>
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLinearGradient>
 #include <QMouseEvent>
@@ -196,6 +197,7 @@ void TimelineScroll::mousePressEvent(QMouseEvent* event)
 {
     if (!d->active || event->button() != Qt::LeftButton)
         return;
+    QCoreApplication::instance()->installEventFilter(this);
     d->pressX = event->position().toPoint().x();
     if (const int side = d->sideOf(d->pressX); side != 0) {
         d->hold = Private::Hold::BesideBox;
@@ -315,6 +317,17 @@ void TimelineScroll::changeEvent(QEvent* event)
     QLabel::changeEvent(event);
 }
 
+// While another button is held elsewhere, the release of the left one goes there too.
+bool TimelineScroll::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease && watched != this && watched->isWidgetType() &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        endHold();
+        QTimer::singleShot(0, this, &TimelineScroll::tellHeld);
+    }
+    return QLabel::eventFilter(watched, event);
+}
+
 void TimelineScroll::updateStyleSheet()
 {
     setStyleSheet(u"QLabel {background-color: transparent;border: 1px solid %1;}"_s.arg(
@@ -365,6 +378,7 @@ void TimelineScroll::storeCenterPosition(double position)
 
 void TimelineScroll::endHold()
 {
+    QCoreApplication::instance()->removeEventFilter(this);
     d->repeatTimer.stop();
     d->hold = Private::Hold::None;
     d->wanted.reset();

@@ -176,8 +176,11 @@ void TestTimelineScroll::holdEndsWithTheStrip()
         [](LoggedStrip& strip, bool on) { strip.setVisible(on); },
         [](LoggedStrip& strip, bool on) { strip.setEnabled(on); },
         [](LoggedStrip& strip, bool on) { strip.setActive(on); },
-        [](LoggedStrip& strip, bool) {
-            moveMouse(strip, QPoint(35, middle));
+        [](LoggedStrip& strip, bool) { moveMouse(strip, QPoint(35, middle)); },
+        [](LoggedStrip&, bool on) {
+            QWidget other;
+            if (!on)
+                QTest::mouseRelease(&other, Qt::LeftButton);
         }};
     for (const auto& setOn : switches) {
         for (const int pressX : {30, 60}) {
