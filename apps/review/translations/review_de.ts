@@ -2,29 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
-    <name>Review::FollowMenu</name>
-    <message>
-        <source>&amp;Follow</source>
-        <translation>&amp;Mitlaufen</translation>
-    </message>
-    <message>
-        <source>&amp;Off</source>
-        <translation>&amp;Aus</translation>
-    </message>
-    <message>
-        <source>By &amp;pages</source>
-        <translation>&amp;Seitenweise</translation>
-    </message>
-    <message>
-        <source>&amp;Centred</source>
-        <translation>&amp;Mittig</translation>
-    </message>
-    <message>
-        <source>&amp;Smoothly</source>
-        <translation>&amp;Fließend</translation>
-    </message>
-</context>
-<context>
     <name>Review</name>
     <message>
         <source>Cannot write %1: %2</source>
@@ -548,6 +525,29 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Close this message</source>
         <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Review::FollowMenu</name>
+    <message>
+        <source>&amp;Follow</source>
+        <translation>&amp;Mitlaufen</translation>
+    </message>
+    <message>
+        <source>&amp;Off</source>
+        <translation>&amp;Aus</translation>
+    </message>
+    <message>
+        <source>By &amp;pages</source>
+        <translation>&amp;Seitenweise</translation>
+    </message>
+    <message>
+        <source>&amp;Centred</source>
+        <translation>&amp;Mittig</translation>
+    </message>
+    <message>
+        <source>&amp;Smoothly</source>
+        <translation>&amp;Fließend</translation>
     </message>
 </context>
 <context>
