@@ -78,7 +78,11 @@ private:
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+#ifdef Q_OS_WIN
+        Q_UNUSED(platform); // there is a display, and no other platform beside the program
+#else
         environment.insert(u"QT_QPA_PLATFORM"_s, platform);
+#endif
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_dir.path());
         process.start(QStringLiteral(REVIEW_PROGRAM), arguments.split(u' '));

@@ -133,18 +133,22 @@ void TestCalendarTicks::clockChange()
         double msecsPerPixel;
         QString texts;
         qint64 change; // milliseconds that the clocks are put forward
-    } cases[] = {{"Europe/Brussels", "2026-10-24T23:30:00Z", hour / 80.0,
-                  u"01:30, 02:00 +02, 02:00 +01, 03:00"_s, -hour},
-                 {"Europe/Brussels", "2026-03-29T00:00:00Z", hour / 50.0,
-                  u"01:00, 03:00, 04:00, 05:00"_s, hour},
-                 // Half an hour, half hours from UTC
-                 {"Australia/Lord_Howe", "2026-04-04T14:30:00Z", 30 * minute / 90.0,
-                  u"01:30 +11, 01:30 +10:30, 02:00, 02:15"_s, -30 * minute},
-                 // Midnight is skipped, and a day
-                 {"America/Sao_Paulo", "2018-11-03T03:00:00Z", day / 70.0,
-                  u"03.11.18, 04.11.18, 05.11.18"_s, hour},
-                 {"Pacific/Apia", "2011-12-29T10:00:00Z", day / 70.0,
-                  u"29.12.11, 31.12.11, 01.01.12"_s, day}};
+    } cases[] = {
+        {"Europe/Brussels", "2026-10-24T23:30:00Z", hour / 80.0,
+         u"01:30, 02:00 +02, 02:00 +01, 03:00"_s, -hour},
+        {"Europe/Brussels", "2026-03-29T00:00:00Z", hour / 50.0, u"01:00, 03:00, 04:00, 05:00"_s,
+         hour},
+        // Half an hour, half hours from UTC
+        {"Australia/Lord_Howe", "2026-04-04T14:30:00Z", 30 * minute / 90.0,
+         u"01:30 +11, 01:30 +10:30, 02:00, 02:15"_s, -30 * minute},
+        // Midnight is skipped, and a day
+        {"America/Sao_Paulo", "2018-11-03T03:00:00Z", day / 70.0, u"03.11.18, 04.11.18, 05.11.18"_s,
+         hour},
+#ifndef Q_OS_WIN // which does not know of it
+        {"Pacific/Apia", "2011-12-29T10:00:00Z", day / 70.0, u"29.12.11, 31.12.11, 01.01.12"_s,
+         day},
+#endif
+    };
     for (const auto& [zone, from, msecsPerPixel, expected, change] : cases) {
         const CalendarScale scale = layOut(QTimeZone(zone), {msecs(from), msecsPerPixel, 0, 500});
         const QString upper = texts(scale, 0).join(u", "_s);
@@ -159,7 +163,7 @@ void TestCalendarTicks::labelsOfRandomViews()
 {
     QRandomGenerator random(20261121);
     for (const char* id :
-         {"UTC", "Europe/Brussels", "America/New_York", "Asia/Almaty", "Asia/Kathmandu",
+         {"UTC", "Europe/Brussels", "America/New_York", "Asia/Almaty", "Asia/Katmandu",
           "Australia/Lord_Howe", "Africa/Cairo", "Pacific/Apia", "America/Sao_Paulo"}) {
         const QTimeZone zone(id);
         const ClockChanges clock = clockOf(zone);
