@@ -46,7 +46,7 @@ void closestLevel(benchmark::State& state)
     const TimeSpans recorded = spans(state.range(0));
     TimeScale scale = scaleOver(std::max<qint64>(state.range(0) * 1000, 1'200'000));
     scale.changeLevel(0, 0.5);
-    scale.centerOn(0.5);
+    scale.centerOnPosition(0.5);
     for (auto _ : state)
         benchmark::DoNotOptimize(visibleSegments(recorded, scale));
 }

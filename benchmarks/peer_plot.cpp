@@ -2,6 +2,10 @@
 
 #include "measure.h"
 
+// The widget's header is written with them.
+#undef QT_NO_KEYWORDS
+#undef QT_NO_FOREACH
+
 #include <QApplication>
 #include <QMouseEvent>
 
