@@ -402,10 +402,10 @@ void Play::turnWheel()
 
 void Play::pressKey()
 {
-    static constexpr std::array keys{Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Home, Qt::Key_End,
-                                     Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Plus, Qt::Key_Minus,
-                                     Qt::Key_0,      Qt::Key_N,        Qt::Key_P,    Qt::Key_Tab,
-                                     Qt::Key_Space,  Qt::Key_Escape};
+    static constexpr std::array keys{
+        Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown,
+        Qt::Key_Plus,  Qt::Key_Minus,  Qt::Key_0,    Qt::Key_N,   Qt::Key_P,      Qt::Key_Tab,
+        Qt::Key_Space, Qt::Key_Escape, Qt::Key_I,    Qt::Key_O,   Qt::Key_Delete};
     QWidget* const focused = QApplication::focusWidget();
     QWidget* const target = focused && flag() ? focused : ruler();
     const Qt::KeyboardModifiers modifiers = m_values.pick(std::array<Qt::KeyboardModifiers, 3>{
@@ -451,15 +451,19 @@ void Play::passTime()
 void Play::setAdditions()
 {
     // The client may delete the ruler in any of the signals.
-    constexpr void (Ruler::*switches[])(bool) = {&Ruler::setContinuousZoom,
-                                                 &Ruler::setCalendarTicks, &Ruler::setZoomHistory,
-                                                 &Ruler::setFineWheel, &Ruler::setTouchGestures};
+    constexpr void (Ruler::*switches[])(bool) = {
+        &Ruler::setContinuousZoom, &Ruler::setCalendarTicks, &Ruler::setZoomHistory,
+        &Ruler::setFineWheel,      &Ruler::setTouchGestures, &Ruler::setEdgeScrolling};
     for (const auto& set : switches) {
         if (ruler())
             (ruler()->*set)(flag());
     }
     if (ruler())
         ruler()->setFollowMode(Ruler::FollowMode(number(0, int(Ruler::FollowMode::Smooth))));
+    if (ruler())
+        ruler()->setRangeSelection(Ruler::RangeSelection(number(0, 2)));
+    if (ruler() && flag())
+        ruler()->setSelectedRange({qint64(instant()), qint64(instant())});
     if (timeline())
         timeline()->setActivityVisible(flag());
     if (timeline())

@@ -13,6 +13,7 @@
 #include <utility>
 
 using CorvelGui::Ruler;
+using CorvelGui::TimeSpan;
 using CorvelGui::ZoomTimeline;
 using Fuzzing::require;
 
@@ -115,6 +116,21 @@ void TimelineStage::watch()
     };
     QObject::connect(ruler, &Ruler::jumpToTime, context, jumped);
     QObject::connect(ruler, &Ruler::jumpToTrackTime, context, jumped);
+    QObject::connect(ruler, &Ruler::selectedRangeChanged, context, [this](const TimeSpan& range) {
+        const auto [begin, end] = m_ruler->getTimeLimits();
+        require(range == TimeSpan() || (qint64(begin) <= range.begin && range.begin < range.end &&
+                                        range.end <= qint64(end)),
+                "the selected range is one within the limits");
+        signalled();
+    });
+    const auto selecting = [this](bool begins) {
+        require(std::exchange(m_selecting, begins) != begins, "a selection begins before it ends");
+        signalled();
+    };
+    QObject::connect(ruler, &Ruler::rangeSelectionStarted, context,
+                     [selecting] { selecting(true); });
+    QObject::connect(ruler, &Ruler::rangeSelectionEnded, context,
+                     [selecting] { selecting(false); });
     QObject::connect(ruler, &Ruler::previewIndicatorPositionChanged, context,
                      [this] { signalled(); });
 }
@@ -193,6 +209,6 @@ void TimelineStage::checkIdle()
             "no gesture moves the view when no button is held");
     require(m_ruler->getIndicatorMSecs() == indicator,
             "no gesture moves the indicator when no button is held");
-    require(!m_viewMoving, "a gesture that ended said so");
+    require(!m_viewMoving && !m_selecting, "a gesture that ended said so");
     checkState();
 }

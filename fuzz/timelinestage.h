@@ -62,5 +62,6 @@ private:
     bool m_blocked = false;
     bool m_viewMoving = false;    ///< as the ruler said last
     bool m_previewWanted = false; ///< likewise
+    bool m_selecting = false;     ///< likewise
     int m_timestamp = 0;
 };

@@ -192,6 +192,12 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     ZoomTimeline* search = add(tr("Search range"));
     search->setSearchTimeRange(at(middle - 2 * hour), at(middle + 3 * hour), false);
 
+    ZoomTimeline* selected = add(tr("A selected range; a drag selects another one"));
+    selected->ruler()->onAddMarkers(markers(50 * minute));
+    selected->ruler()->setRangeSelection(Ruler::RangeSelection::Drag);
+    selected->ruler()->setEdgeScrolling(true);
+    selected->ruler()->setSelectedRange({middle - 100 * minute, middle + 150 * minute});
+
     ZoomTimeline* result = add(tr("Result range with marks, and only the markers inside"));
     result->ruler()->onAddMarkers(markers(25 * minute));
     result->onZoomTimeLineOperation({.code = ZoomTimelineOperation::setMarkedResultRange,

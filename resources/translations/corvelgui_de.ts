@@ -152,6 +152,25 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::DurationText</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <translation>%1 Tg.</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 Std.</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::FileNameValidatingLineEdit</name>
     <message>
         <source>Name is empty.</source>
@@ -698,6 +717,21 @@ Speicherort öffnen?</translation>
             <numerusform>und %n weiterer</numerusform>
             <numerusform>und %n weitere</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::RulerRange</name>
+    <message>
+        <source>Begin of the selected range</source>
+        <translation>Anfang des gewählten Bereichs</translation>
+    </message>
+    <message>
+        <source>End of the selected range</source>
+        <translation>Ende des gewählten Bereichs</translation>
+    </message>
+    <message>
+        <source>%1, selected: %2</source>
+        <translation>%1, gewählt: %2</translation>
     </message>
 </context>
 <context>

@@ -40,10 +40,11 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     d->scale.setWidth(width());
     d->indicator = new Indicator(this);
     d->indicator->hide();
+    d->range = std::make_unique<RulerRange>(this, *d);
     d->arrows = new RulerArrows(this);
     // Above the indicator, so that a double click on a marker does not end on an indicator that
     // followed the first.
-    d->markers = new RulerMarkers(this, d->arrows->lowestButton());
+    d->markers = new RulerMarkers(this, d->range->lowestWidget());
     connect(d->markers, &RulerMarkers::pressed, this, &Ruler::jumpToTime);
     connect(d->markers, &RulerMarkers::mergedActivated, this, &Ruler::openMerged);
     connect(d->markers, &RulerMarkers::doubleClicked, this, &Ruler::jumpToTrackTime);
@@ -89,7 +90,8 @@ void Ruler::setTimeLimits(quint64 begin, quint64 end)
         else if (d->scale.endLimitMs() < indicator)
             setIndicatorPosition(quint64(d->scale.endLimitMs()));
     };
-    if (!whileAlive(this, announceFirstView, keepIndicatorWithinLimits))
+    if (!whileAlive(this, announceFirstView, keepIndicatorWithinLimits,
+                    [this] { d->range->followLimits(); }))
         return;
 
     const bool viewChanged = d->scale.hasView() && d->scale.viewStart() != oldViewStart;

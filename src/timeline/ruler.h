@@ -43,6 +43,12 @@ class CORVELGUI_EXPORT Ruler : public QWidget
     Q_PROPERTY(bool fineWheel READ isFineWheel WRITE setFineWheel NOTIFY fineWheelChanged)
     Q_PROPERTY(
         bool touchGestures READ hasTouchGestures WRITE setTouchGestures NOTIFY touchGesturesChanged)
+    Q_PROPERTY(RangeSelection rangeSelection READ rangeSelection WRITE setRangeSelection NOTIFY
+                   rangeSelectionChanged)
+    Q_PROPERTY(CorvelGui::TimeSpan selectedRange READ selectedRange WRITE setSelectedRange NOTIFY
+                   selectedRangeChanged)
+    Q_PROPERTY(
+        bool edgeScrolling READ isEdgeScrolling WRITE setEdgeScrolling NOTIFY edgeScrollingChanged)
 
 public:
     /// How the view goes after the indicator.
@@ -61,6 +67,14 @@ public:
         Zoom  ///< shows a view in which they fall apart, or the list where there is none
     };
     Q_ENUM(MergedClick)
+
+    /// How the user selects a range.
+    enum class RangeSelection {
+        Off,       ///< not at all
+        ShiftDrag, ///< by a drag with Shift
+        Drag       ///< by a drag; one with Shift moves the view
+    };
+    Q_ENUM(RangeSelection)
 
     explicit Ruler(QWidget* parent = nullptr);
     ~Ruler() override;
@@ -195,14 +209,19 @@ public:
     /// Whether the user's drag of the indicator emits indicatorPositionChanged() at every move, or
     /// only at its end.
     void setIndicatorDragEnabled(bool on);
+    /// Whether the view moves while the indicator is dragged to an end of the ruler or beyond. Off
+    /// by default.
+    bool isEdgeScrolling() const;
+    void setEdgeScrolling(bool on);
     /// Whether a resting mouse asks for previews.
     void setPreviewEnabled(bool on);
 
     /// Whether the user holds the timeline: from the press of the left mouse button on the ruler,
-    /// its indicator or one of its arrows, whether it becomes a drag or not, until the release. It
-    /// also ends where the release may go elsewhere: with a move without the button, a second
-    /// finger, an opened popup or modal window, and when the ruler is hidden, disabled, blocked or
-    /// made inactive, or its window loses the activation. A press on a marker does not count.
+    /// its indicator, a handle or one of its arrows, whether it becomes a drag or not, until the
+    /// release. It also ends where the release may go elsewhere: with a move without the button, a
+    /// second finger, an opened popup or modal window, and when the ruler is hidden, disabled,
+    /// blocked or made inactive, or its window loses the activation. A press on a marker does not
+    /// count.
     bool isHeld() const;
 
     // Search range and result range
@@ -217,6 +236,20 @@ public:
     /// Invalid times clear the range.
     void setResultTimeRange(const QDateTime& from, const QDateTime& to, bool markBegin,
                             bool markEnd, bool onlyInside, bool adjustZoom);
+
+    /// How the user selects a range, which is another one than those above. Off by default.
+    ///
+    /// The ends of the range have handles, to be dragged, or reached by Tab and moved by Left,
+    /// Right, Home and End. A dragged end snaps to edges of recordings and to markers a few pixels
+    /// away, unless Ctrl is held, moves the view at the ends of the ruler, and shows the length of
+    /// the range; Escape brings the range back. The keys I and O put begin and end to the
+    /// indicator, or, where there is none, to the mouse, and Delete takes the range away.
+    RangeSelection rangeSelection() const;
+    void setRangeSelection(RangeSelection how);
+    /// The selected range, which is shown whatever rangeSelection() says: always within the limits,
+    /// and empty without one. New limits cut it, and take it away where it is outside.
+    TimeSpan selectedRange() const;
+    void setSelectedRange(const TimeSpan& range);
 
     /// What is recorded in the period, and how many markers begin when, in @p columns parts of
     /// equal duration: one pass over all of them. Empty without a period.
@@ -328,6 +361,17 @@ Q_SIGNALS:
     /// Emitted when the user placed the indicator: by a click, at the end of a drag, by a key, and
     /// at every move of a drag if setIndicatorDragEnabled() says so.
     void indicatorPositionChanged(quint64 msecs, double position);
+    void edgeScrollingChanged(bool on);
+    void rangeSelectionChanged(CorvelGui::Ruler::RangeSelection how);
+    /// Emitted when the user begins to change the selected range, before that: by a drag, by a key
+    /// or with assistive technology.
+    void rangeSelectionStarted();
+    /// Emitted when selectedRange() changed, at every move of a drag.
+    void selectedRangeChanged(const CorvelGui::TimeSpan& range);
+    /// Emitted when the user has done what rangeSelectionStarted() said. @p cancelled tells that he
+    /// took it back by Escape. Where a drag ends without a release, that is on the next turn of the
+    /// event loop, except for setActive().
+    void rangeSelectionEnded(bool cancelled);
     /// Emitted when isHeld() changed: before what a press does, and after the last report of what
     /// was done meanwhile. Where a hold ends without a release, that is on the next turn of the
     /// event loop, except for setActive().
@@ -408,7 +452,9 @@ private:
     void noticeView();
     void reportFollowing();
 
-    friend class RulerGestures; // carry out what the user does
+    friend class EdgeScroll; // carry out what the user does
+    friend class RulerGestures;
+    friend class RulerRange;
     friend class RulerTouch;
     friend class ZoomTimeline; // its strip resizes the view in many steps
     friend class RulerZoomInput;

@@ -11,6 +11,7 @@
 #include "rulerhover.h"
 #include "rulermarkers.h"
 #include "rulerpainter.h"
+#include "rulerrange.h"
 #include "rulertouch.h"
 #include "rulerzoominput.h"
 #include "timescale.h"
@@ -50,6 +51,9 @@ struct Ruler::Private
     std::optional<TimeSpan> resultRange;
     bool resultBeginMarked = false;
     bool resultEndMarked = false;
+
+    std::unique_ptr<RulerRange> range;
+    bool edgeScrolling = false;
 
     int headerHeight = 0;
     unsigned int fontSize = 8;

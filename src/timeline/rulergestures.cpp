@@ -3,7 +3,6 @@
 #include "ruler_p.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTouchEvent>
 
@@ -16,7 +15,6 @@ namespace CorvelGui {
 namespace {
 
 constexpr int repeatInterval = 200; // milliseconds
-constexpr double centerAnchor = 0.5;
 
 } // namespace
 
@@ -53,6 +51,7 @@ RulerGestures::RulerGestures(Ruler* ruler, Ruler::Private& rulerState)
     , m_ruler(ruler)
     , d(rulerState)
     , m_moveTimer(this)
+    , m_edge(ruler, rulerState)
     , m_secondFinger(std::make_unique<SecondFinger>(this))
 {
     m_ruler->installEventFilter(this);
@@ -65,6 +64,7 @@ RulerGestures::RulerGestures(Ruler* ruler, Ruler::Private& rulerState)
     connect(d.arrows, &RulerArrows::activated, this, &RulerGestures::activateArrow);
     m_moveTimer.setInterval(repeatInterval);
     connect(&m_moveTimer, &QTimer::timeout, this, &RulerGestures::onMoveTimerTimeout);
+    connect(&m_edge, &EdgeScroll::moved, this, &RulerGestures::dragAgain);
 }
 
 RulerGestures::~RulerGestures() = default;
@@ -81,11 +81,13 @@ bool RulerGestures::begin(Gesture gesture)
 void RulerGestures::end(Report report)
 {
     if (m_gesture != Gesture::None) {
+        const bool scrolled = m_edge.stop();
         m_untoldView = m_gesture == Gesture::ViewDrag || m_gesture == Gesture::ArrowHold ||
-                       m_gesture == Gesture::Pinch;
+                       m_gesture == Gesture::Pinch || scrolled;
         m_moveTimer.stop();
         d.arrows->letGo();
         setGesture(Gesture::None);
+        d.range->letGo();
     }
     if (report == Report::Now)
         tellEnd();
@@ -96,6 +98,11 @@ void RulerGestures::end(Report report)
 bool RulerGestures::beginPinch()
 {
     return begin(Gesture::Pinch);
+}
+
+bool RulerGestures::beginRange()
+{
+    return begin(Gesture::RangeDrag);
 }
 
 void RulerGestures::setGesture(Gesture gesture)
@@ -111,7 +118,7 @@ void RulerGestures::setGesture(Gesture gesture)
 void RulerGestures::tellEnd()
 {
     whileAlive(
-        this, [this] { tellIndicator(); },
+        this, [this] { tellIndicator(); }, [this] { d.range->tellEnd(); },
         [this] {
             if (std::exchange(m_untoldView, false))
                 m_ruler->changedTimeLineView(false);
@@ -176,6 +183,7 @@ void RulerGestures::press(const QMouseEvent* event)
         return;
     m_pressPosition = event->position().toPoint();
     m_pressTime = d.scale.fineTimeAt(m_pressPosition.x());
+    m_selects = d.range->isSelecting(event->modifiers());
     begin(Gesture::Press);
 }
 
@@ -192,11 +200,18 @@ void RulerGestures::move(const QMouseEvent* event)
     const bool isFar =
         std::abs(position.x() - m_pressPosition.x()) >= QApplication::startDragDistance();
     if (m_gesture == Gesture::Press && isFar && d.scale.hasView()) {
-        setGesture(Gesture::ViewDrag);
-        if (!whileAlive(this, [this] { d.hover->stop(); }))
+        setGesture(m_selects ? Gesture::RangeDrag : Gesture::ViewDrag);
+        const auto takeRange = [&] {
+            if (m_gesture == Gesture::RangeDrag)
+                d.range->takeNew(m_pressTime.msecs, m_pressPosition.x(), event->modifiers());
+        };
+        if (!whileAlive(
+                this, [this] { d.hover->stop(); }, takeRange))
             return;
     }
-    if (m_gesture != Gesture::ViewDrag)
+    if (m_gesture == Gesture::RangeDrag)
+        dragRange(position, event->modifiers(), isHeld);
+    else if (m_gesture != Gesture::ViewDrag)
         d.hover->hover(position);
     else if (isFar)
         dragView(position.x());
@@ -217,7 +232,7 @@ void RulerGestures::release(const QMouseEvent* event)
 {
     if (d.blocked)
         return;
-    const bool wasViewDrag = m_gesture == Gesture::ViewDrag;
+    const bool wasDrag = m_gesture == Gesture::ViewDrag || m_gesture == Gesture::RangeDrag;
     if (m_gesture == Gesture::Press && event->button() == Qt::LeftButton && !d.resultMode) {
         const int x = int(event->position().x());
         if (d.scale.isOnScale(x))
@@ -225,11 +240,47 @@ void RulerGestures::release(const QMouseEvent* event)
     }
     const QPoint position = event->position().toPoint();
     whileAlive(
-        this, [this] { end(); },
+        this, [&] { dropRange(position.x(), event->modifiers()); }, [this] { end(); },
         [&] {
-            if (wasViewDrag)
+            if (wasDrag)
                 d.hover->resume(position);
         });
+}
+
+// The range
+
+void RulerGestures::dragRange(QPoint position, Qt::KeyboardModifiers held, bool isHeld)
+{
+    d.hover->movedOnIndicator(position);
+    if (!isHeld)
+        return end();
+    if (m_gesture != Gesture::RangeDrag)
+        return;
+    m_edge.dragTo(position.x());
+    d.range->drag(position.x(), held);
+}
+
+void RulerGestures::dropRange(int x, Qt::KeyboardModifiers held)
+{
+    if (m_gesture != Gesture::RangeDrag)
+        return;
+    whileAlive(
+        this, [&] { d.range->drag(x, held); }, [this] { end(); });
+}
+
+// The view has moved under what is dragged.
+void RulerGestures::dragAgain()
+{
+    if (m_gesture == Gesture::RangeDrag)
+        return d.range->dragAgain();
+    placeIndicator(onScale(m_edge.column()));
+    whileAlive(
+        this,
+        [this] {
+            if (d.indicatorDragEnabled)
+                tellIndicator();
+        },
+        [this] { m_ruler->noticeView(); });
 }
 
 // The indicator
@@ -274,6 +325,8 @@ void RulerGestures::dragIndicator(QPoint position, bool isHeld)
         return end();
     if (!isDraggingIndicator())
         return;
+    if (d.edgeScrolling)
+        m_edge.dragTo(position.x());
     if (d.scale.isOnScale(position.x()))
         placeIndicator(position.x());
     whileAlive(
@@ -287,11 +340,16 @@ void RulerGestures::dragIndicator(QPoint position, bool isHeld)
 
 void RulerGestures::dropIndicator(int x)
 {
+    m_untoldIndicator.reset();
+    placeIndicator(onScale(x));
+    end();
+}
+
+int RulerGestures::onScale(int x) const
+{
     const int leftmost = int(TimeScale::margin());
     const int rightmost = std::max(int(m_ruler->width() - TimeScale::margin()), leftmost);
-    m_untoldIndicator.reset();
-    placeIndicator(std::clamp(x, leftmost, rightmost));
-    end();
+    return std::clamp(x, leftmost, rightmost);
 }
 
 void RulerGestures::placeIndicator(int x)
@@ -350,82 +408,6 @@ void RulerGestures::moveViewPort(int direction)
     m_ruler->viewMovedByUser(true);
 }
 
-// Keys
-
-bool RulerGestures::pressKey(const QKeyEvent* event)
-{
-    if (!d.takesInput() || !d.scale.hasView())
-        return false;
-    const TimeScale& scale = d.scale;
-    const qint64 step = event->modifiers() & Qt::ShiftModifier
-                            ? scale.millisecondsPerInterval()
-                            : scale.millisecondsPerMinorDivision();
-    const qint64 indicator = qint64(d.exactIndicator);
-    const qint64 span = qint64(scale.millisecondsPerLevel());
-    if (d.zoomHistory && pressHistoryKey(event))
-        return true;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        return moveIndicatorTo(indicator - step), true;
-    case Qt::Key_Right:
-        return moveIndicatorTo(indicator + step), true;
-    case Qt::Key_Home:
-        return moveIndicatorTo(scale.beginLimitMs()), true;
-    case Qt::Key_End:
-        return moveIndicatorTo(scale.endLimitMs()), true;
-    case Qt::Key_PageUp:
-        return moveViewTo(scale.viewStartMs() - span, false), true;
-    case Qt::Key_PageDown:
-        return moveViewTo(scale.viewStartMs() + span, false), true;
-    case Qt::Key_Plus:
-        return m_ruler->zoomIn(), true;
-    case Qt::Key_Minus:
-        return m_ruler->zoomOut(), true;
-    case Qt::Key_0:
-        if (!(event->modifiers() & Qt::ControlModifier))
-            return false;
-        return m_ruler->onZoomerOut(TimeScale::wholeRangeLevel, centerAnchor), true;
-    case Qt::Key_N:
-        return jumpToNeighbour(+1), true;
-    case Qt::Key_P:
-        return jumpToNeighbour(-1), true;
-    default:
-        return false;
-    }
-}
-
-bool RulerGestures::pressHistoryKey(const QKeyEvent* event)
-{
-    const bool isAlt = event->modifiers() & Qt::AltModifier;
-    const bool isBackspace = event->key() == Qt::Key_Backspace;
-    const bool isShift = event->modifiers() & Qt::ShiftModifier;
-    if ((isAlt && event->key() == Qt::Key_Left) || (isBackspace && !isShift))
-        return m_ruler->zoomBack(), true;
-    if ((isAlt && event->key() == Qt::Key_Right) || (isBackspace && isShift))
-        return m_ruler->zoomForward(), true;
-    return false;
-}
-
-void RulerGestures::moveIndicatorTo(qint64 msecs)
-{
-    const qint64 target = std::clamp(msecs, d.scale.beginLimitMs(), d.scale.endLimitMs());
-    if (d.resultMode || target == qint64(d.exactIndicator))
-        return;
-    m_ruler->setIndicatorTime(d.scale.inZone(target));
-    whileAlive(
-        this,
-        [this] {
-            if (m_ruler->bringIndicatorIntoView())
-                m_ruler->viewMovedByUser(false);
-            else
-                m_ruler->updateChildren(false);
-        },
-        [this] {
-            Q_EMIT m_ruler->indicatorPositionChanged(m_ruler->getIndicatorMSecs(),
-                                                     m_ruler->getIndicatorPosition());
-        });
-}
-
 void RulerGestures::moveViewTo(qint64 msecs, bool moving)
 {
     const qint64 start = d.scale.startWithinLimits(msecs);
@@ -443,16 +425,10 @@ void RulerGestures::moveViewSoThat(const FineTime& time, double x)
         m_ruler->viewMovedByUser(true);
 }
 
-void RulerGestures::jumpToNeighbour(int direction)
+void RulerGestures::bringIntoView(qint64 msecs)
 {
-    const std::optional<RulerMarker> marker =
-        d.markers->takeNeighbour(qint64(d.exactIndicator), direction,
-                                 {.begin = d.scale.beginLimitMs(), .end = d.scale.endLimitMs()});
-    if (!marker)
-        return;
-    whileAlive(
-        this, [&] { moveIndicatorTo(marker->time.toMSecsSinceEpoch()); },
-        [&] { Q_EMIT m_ruler->jumpToTime(marker->time, marker->identifier); });
+    if (d.scale.pageTo(d.scale.inZone(msecs)))
+        m_ruler->viewMovedByUser(false);
 }
 
 } // namespace CorvelGui

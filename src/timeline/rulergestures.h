@@ -1,5 +1,6 @@
 #pragma once
 
+#include "edgescroll.h"
 #include "ruler.h"
 #include "timescale.h"
 
@@ -39,6 +40,12 @@ public:
     bool beginPinch();
     /// Moves the view so that a time is at column @p x, as far as the limits allow.
     void moveViewSoThat(const FineTime& time, double x);
+    /// The range is taken by one of its handles. Returns whether it still is.
+    bool beginRange();
+    void dragRange(QPoint position, Qt::KeyboardModifiers held, bool isHeld);
+    void dropRange(int x, Qt::KeyboardModifiers held);
+    /// Moves the view just as far as it takes to show an instant.
+    void bringIntoView(qint64 msecs);
     /// Returns false for a key that means nothing to a ruler.
     bool pressKey(const QKeyEvent* event);
     /// Puts the indicator to an instant, as a key does.
@@ -55,9 +62,10 @@ protected:
 private:
     enum class Gesture {
         None,
-        Press, ///< of the ruler, which is a click unless it becomes a drag of the view
+        Press, ///< of the ruler, which is a click unless it becomes a drag of the view or a range
         ViewDrag,
         IndicatorDrag,
+        RangeDrag,
         ArrowHold,
         Pinch
     };
@@ -72,11 +80,13 @@ private:
     bool mayLoseRelease(const QEvent* event) const;
 
     void dragView(int x);
+    void dragAgain();
     bool pressHistoryKey(const QKeyEvent* event);
     bool indicatorEvent(QEvent* event);
     void dragIndicator(QPoint position, bool isHeld);
     void dropIndicator(int x);
     void placeIndicator(int x);
+    int onScale(int x) const;
 
     void holdArrow(int direction);
     void activateArrow(int direction);
@@ -92,7 +102,9 @@ private:
     Gesture m_gesture = Gesture::None;
     QPoint m_pressPosition;
     FineTime m_pressTime;
+    bool m_selects = false; ///< if the press becomes a drag
     QTimer m_moveTimer;
+    EdgeScroll m_edge;
     int m_direction = 0;
     const std::unique_ptr<SecondFinger> m_secondFinger;
 

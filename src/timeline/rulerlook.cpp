@@ -134,6 +134,8 @@ void Ruler::paintEvent(QPaintEvent*)
         scene.resultMarks.push_back(d->resultRange->begin);
     if (d->resultRange && d->resultEndMarked)
         scene.resultMarks.push_back(d->resultRange->end);
+    if (!d->range->range().isEmpty())
+        scene.selectedRange = d->range->range();
     scene.focus = d->focus;
     d->painter.paint(painter, scene);
     if (d->markerDetails)
@@ -188,6 +190,7 @@ void Ruler::layOutChildren()
 {
     d->arrows->layOut(d->headerHeight / 4);
     d->indicator->resize(d->indicator->width(), 4 * d->headerHeight);
+    d->range->layOut();
 }
 
 void Ruler::createGradients()
@@ -197,6 +200,7 @@ void Ruler::createGradients()
 
 void Ruler::updateChildren(bool /*merge*/)
 {
+    d->range->layOut();
     if (!d->active) {
         d->markers->hideReleased();
         return;

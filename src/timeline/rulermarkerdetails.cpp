@@ -43,6 +43,22 @@ TimeSpan RulerMarkers::spanOf(const MarkerSymbol& symbol) const
     return {m_store.time(symbol.first), m_store.time(symbol.last)};
 }
 
+std::optional<qint64> RulerMarkers::nearestTime(qint64 msecs) const
+{
+    if (!m_shown)
+        return {};
+    const std::size_t first = m_range ? m_store.firstFrom(m_range->begin) : 0;
+    const std::size_t end = m_range ? m_store.firstAfter(m_range->end) : m_store.size();
+    const std::size_t next = std::clamp(m_store.firstFrom(msecs), first, end);
+    std::optional<qint64> nearest;
+    if (next > first)
+        nearest = m_store.time(next - 1);
+    if (next < end &&
+        (!nearest || distanceOf(m_store.time(next), msecs) < distanceOf(*nearest, msecs)))
+        nearest = m_store.time(next);
+    return nearest;
+}
+
 std::optional<MarkerSymbol> RulerMarkers::mergedNear(int x) const
 {
     const Symbol* nearest = nullptr;

@@ -71,6 +71,9 @@ public:
     /// From the time of the first to that of the last.
     TimeSpan spanOf(const MarkerSymbol& symbol) const;
 
+    /// The time of a marker that is shown which is the nearest to an instant.
+    std::optional<qint64> nearestTime(qint64 msecs) const;
+
     /// Brings the buttons in line with the view. Costs nothing while neither the view nor what it
     /// shows has changed. Returns the times of markers that are in view for the first time.
     QList<QDateTime> update(const TimeScale& scale, const QRect& area);

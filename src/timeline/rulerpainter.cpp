@@ -87,6 +87,7 @@ void RulerPainter::paint(QPainter& painter, const RulerScene& scene) const
     if (scene.scale.totalDuration() == 0)
         return;
     shadeOutsideLimits(painter, scene, rect);
+    fillSelectedRange(painter, scene);
     drawPreviewLine(painter, scene, rect);
     drawScaleRuler(painter, scene, rect, toMidnight);
     drawResultMarks(painter, scene);
@@ -159,6 +160,28 @@ void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
     const QRectF line(inView, rect.top(), penWidth, rect.height());
     painter.fillRect(DeviceGrid(painter).aligned(line),
                      inView == x ? colors.preview : colors.previewClamped);
+}
+
+void RulerPainter::fillSelectedRange(QPainter& painter, const RulerScene& scene) const
+{
+    if (!scene.selectedRange)
+        return;
+    const DeviceGrid grid(painter);
+    const double height = scene.rect.height();
+    const double begin = std::trunc(scene.scale.xAt(scene.selectedRange->begin));
+    const double end = std::trunc(scene.scale.xAt(scene.selectedRange->end));
+    const double x1 = std::max(begin, TimeScale::halfMargin());
+    const double x2 = std::min(end, scene.scale.sightEnd());
+    QColor tint = colors.selection;
+    tint.setAlpha(55);
+    if (x1 < x2)
+        painter.fillRect(grid.aligned({QPointF(x1, 0.0), QPointF(x2, height)}), tint);
+    constexpr double endWidth = 2.0;
+    for (const double x : {begin, end}) {
+        if (scene.scale.isInSight(x))
+            painter.fillRect(grid.aligned({x - endWidth / 2, 0.0, endWidth, height}),
+                             colors.selection);
+    }
 }
 
 void RulerPainter::drawResultMarks(QPainter& painter, const RulerScene& scene) const

@@ -35,6 +35,7 @@ struct CORVELGUI_INTERNAL_EXPORT RulerColors
     QColor previewClamped{207, 0, 249};
     QColor resultMark{255, 140, 0};
     QColor clockChange{190, 130, 255};
+    QColor selection{214, 232, 250};
 
     static RulerColors ofTheme();
 };
@@ -49,6 +50,7 @@ struct RulerScene
     QString dateFormat;
     std::optional<TimeSpan> searchRange = {}; ///< only while it is displayed
     std::optional<qint64> previewTime = {};   ///< only while it is visible
+    std::optional<TimeSpan> selectedRange = {};
     std::vector<qint64> resultMarks = {};
     const KeyboardFocus* focus = nullptr;
     const ClockChanges* clock = nullptr; ///< only for ticks in steps that people count in
@@ -72,6 +74,7 @@ private:
     void fillSearchRange(QPainter& painter, const RulerScene& scene) const;
     void fillTracks(QPainter& painter, const RulerScene& scene) const;
     void shadeOutsideLimits(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
+    void fillSelectedRange(QPainter& painter, const RulerScene& scene) const;
     void drawResultMarks(QPainter& painter, const RulerScene& scene) const;
     void drawPreviewLine(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
     void markClockChange(QPainter& painter, const QRectF& rect, const ClockMark& mark,

@@ -82,4 +82,22 @@ void subtract(TimeSpans& spans, const TimeSpan& span)
     replace(spans, first, last, difference({first, last}, {span}));
 }
 
+std::optional<qint64> nearestEdge(const TimeSpans& spans, qint64 msecs)
+{
+    const auto next = std::partition_point(spans.begin(), spans.end(),
+                                           [&](const TimeSpan& s) { return s.end < msecs; });
+    std::optional<qint64> nearest;
+    const auto consider = [&](qint64 edge) {
+        if (!nearest || distanceOf(edge, msecs) < distanceOf(*nearest, msecs))
+            nearest = edge;
+    };
+    if (next != spans.begin())
+        consider(std::prev(next)->end);
+    if (next != spans.end()) {
+        consider(next->begin);
+        consider(next->end);
+    }
+    return nearest;
+}
+
 } // namespace CorvelGui

@@ -3,6 +3,7 @@
 #include "base/internalexport.h"
 #include "trackdescription.h"
 
+#include <optional>
 #include <vector>
 
 namespace CorvelGui {
@@ -21,5 +22,14 @@ CORVELGUI_INTERNAL_EXPORT void unite(TimeSpans& spans, const TimeSpan& span);
 
 /// Takes away what @p span covers, at the same cost.
 CORVELGUI_INTERNAL_EXPORT void subtract(TimeSpans& spans, const TimeSpan& span);
+
+/// How far two instants lie apart.
+constexpr quint64 distanceOf(qint64 a, qint64 b)
+{
+    return a < b ? quint64(b) - quint64(a) : quint64(a) - quint64(b);
+}
+
+/// The begin or end of one of @p spans that is the nearest to an instant.
+CORVELGUI_INTERNAL_EXPORT std::optional<qint64> nearestEdge(const TimeSpans& spans, qint64 msecs);
 
 } // namespace CorvelGui

@@ -193,6 +193,7 @@ private Q_SLOTS:
                               u"Cameras on the timeline"_s,
                               u"Number and severity of events"_s,
                               u"Zoom freely"_s,
+                              u"Drag to select a range"_s,
                               u"&Smoothly"_s};
         for (QAction* action : client.window.findChildren<QAction*>()) {
             if (set.contains(action->text()))
@@ -204,7 +205,7 @@ private Q_SLOTS:
         const ReviewSettings stored = SettingsStore(m_path).settings();
         QCOMPARE(stored.dark, false);
         QVERIFY(!stored.activity && !stored.lanes && !stored.eventDetails);
-        QVERIFY(!stored.freeZoom);
+        QVERIFY(!stored.freeZoom && stored.dragSelects);
         QCOMPARE(stored.followMode, CorvelGui::Ruler::FollowMode::Smooth);
         QCOMPARE(stored.zone, u"Asia/Tokyo"_s);
     }

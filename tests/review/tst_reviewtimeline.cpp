@@ -298,6 +298,11 @@ private Q_SLOTS:
         type(edits[0], u"11:00:00"_s);
         type(edits[1], u"2.3.2026 14:00"_s);
 
+        QVERIFY(ruler->selectedRange() ==
+                CorvelGui::TimeSpan({monday + 11 * hour, monday + 14 * hour}));
+        ruler->setSelectedRange({monday + 9 * hour, monday + 10 * hour});
+        QCOMPARE(edits[0]->instant(), monday + 9 * hour);
+        ruler->setSelectedRange({monday + 11 * hour, monday + 14 * hour});
         press(sample, u"Search range"_s);
         QCOMPARE(viewSpan(ruler), 3 * hour);
         QCOMPARE(viewCentre(ruler), monday + 12 * hour + 30 * minute);
@@ -310,6 +315,7 @@ private Q_SLOTS:
         QCOMPARE(shownMarkers(ruler).size(), 1);
         const QImage marked = ruler->grab().toImage();
         press(sample, u"Clear"_s);
+        QVERIFY(ruler->selectedRange().isEmpty());
         QCOMPARE(shownMarkers(ruler).size(), 3);
         QVERIFY(ruler->grab().toImage() != marked);
 

@@ -82,6 +82,14 @@ public:
         logs(&Ruler::previewIndicatorPositionChanged, [](const QPoint& position) {
             return u"line %1,%2"_s.arg(position.x()).arg(position.y());
         });
+        logs(&Ruler::rangeSelectionStarted, [] { return u"started"_s; });
+        logs(&Ruler::selectedRangeChanged, [=](const CorvelGui::TimeSpan& range) {
+            return range.isEmpty() ? u"no range"_s
+                                   : u"range %1 - %2"_s.arg(seconds(quint64(range.begin)))
+                                         .arg(seconds(quint64(range.end)));
+        });
+        logs(&Ruler::rangeSelectionEnded,
+             [](bool cancelled) { return cancelled ? u"cancelled"_s : u"ended"_s; });
         // A new window gets an enter event for wherever the mouse is.
         if (QTest::qWaitForWindowExposed(this))
             QCoreApplication::processEvents();

@@ -2,6 +2,7 @@
 
 #include "indicator.h"
 #include "loggedruler.h"
+#include "rangehandle.h"
 
 #include <QPointer>
 #include <QRegularExpression>
@@ -25,7 +26,11 @@ inline bool playMouse(LoggedRuler& ruler, const QString& kind, const QString& pl
             {u"release"_s, {QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton}},
             {u"release-right"_s, {QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton}},
         };
-    const auto known = kinds.find(kind);
+    const qsizetype dash = kind.indexOf(u'-');
+    const Qt::KeyboardModifiers held = kind.startsWith(u"shift-")  ? Qt::ShiftModifier
+                                       : kind.startsWith(u"ctrl-") ? Qt::ControlModifier
+                                                                   : Qt::NoModifier;
+    const auto known = kinds.find(held ? kind.sliced(dash + 1) : kind);
     if (known == kinds.end())
         return false;
     const QStringList words = place.split(u' ');
@@ -36,6 +41,8 @@ inline bool playMouse(LoggedRuler& ruler, const QString& kind, const QString& pl
     QWidget* target = &ruler;
     if (words.front() == u"indicator")
         target = ruler.findChild<CorvelGui::Indicator*>();
+    else if (words.front() == u"begin" || words.front() == u"end")
+        target = ruler.findChildren<CorvelGui::RangeHandle*>()[words.front() == u"end"];
     else if (words.front() == u"arrow")
         target = ruler.childAt(position);
     const auto& [type, button, buttons] = known->second;
@@ -44,7 +51,7 @@ inline bool playMouse(LoggedRuler& ruler, const QString& kind, const QString& pl
         return true;
     }
     QMouseEvent event(type, target->mapFrom(&ruler, position), ruler.mapToGlobal(position), button,
-                      buttons, Qt::NoModifier);
+                      buttons, held);
     QApplication::sendEvent(target, &event);
     return true;
 }
@@ -123,6 +130,20 @@ inline QString play(LoggedRuler* ruler, const QString& script)
         verb(u"track"_s,
              [](R& r, W w) {
                  r.setTrackDescriptions({{{}, {}, qint64(w.time(1)), qint64(w.time(2)), {}}});
+             }),
+        verb(u"record"_s,
+             [](R& r, W w) {
+                 r.setTrackDescriptions({{.recorded = {{qint64(w.time(1)), qint64(w.time(2))}}}});
+             }),
+        verb(u"select"_s,
+             [](R& r, W w) {
+                 r.setRangeSelection(w[1] == u"off"     ? R::RangeSelection::Off
+                                     : w[1] == u"shift" ? R::RangeSelection::ShiftDrag
+                                                        : R::RangeSelection::Drag);
+             }),
+        verb(u"range"_s,
+             [](R& r, W w) {
+                 r.setSelectedRange({qint64(w.time(1)), qint64(w.time(2))});
              }),
         verb(u"place"_s, [](R& r, W w) { r.setIndicatorPosition(w.time(1)); }),
         verb(u"line"_s, [](R& r, W w) { r.setPreviewIndicatorPosition(w.time(1)); }),

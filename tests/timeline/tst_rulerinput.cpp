@@ -126,7 +126,54 @@ void TestRulerInput::hands()
         {{}, u"hover 510,5; leave; leave; turn"_s, u"no preview"_s},
         {u"block; previews"_s, u"hover 510,5; block"_s, {}},
         {u"previews; hover 510,5"_s, u"enter arrow 1017; turn"_s, u"no preview"_s},
-        {{}, u"line 1800; turn; line 432000; turn"_s, u"line 510,-1 | line 1015,-1"_s}};
+        {{}, u"line 1800; turn; line 432000; turn"_s, u"line 510,-1 | line 1015,-1"_s},
+        // Ranges: by a drag of either direction, not by a click
+        {u"select shift"_s, u"shift-press 510; drag 610; release 610"_s,
+         u"no preview | started | range 1800 - 2160 | ended"_s},
+        {u"select shift"_s, u"press 510; drag 610; release 610"_s,
+         u"no preview | view 02 00:00 - 02 01:00"_s},
+        {u"select drag"_s, u"press 610; drag 510; drag 610; release 510"_s,
+         u"no preview | started | range 1800 - 2160 | no range | range 1800 - 2160 | ended"_s},
+        {u"select drag"_s, u"press 510; release 510"_s, u"indicator 1800"_s},
+        {u"select drag; offset 0.5"_s, u"shift-press 600; drag 500; release 500"_s,
+         u"no preview | center 0.5004 | view 06 23:35 - 07 00:36 moving | view 06 23:35 - 07 00:36"_s},
+        {u"select drag; block"_s, u"press 510; drag 610; release 610; key I"_s, {}},
+        {{},
+         u"shift-press 510; drag 610; release 610; key I; key Esc"_s,
+         u"no preview | view 02 00:00 - 02 01:00"_s},
+        {u"select drag; range 600 1200"_s,
+         u"press 510; drag 610; key Esc; drag 700; release 700; key Esc"_s,
+         u"no preview | started | range 1800 - 2160 | range 600 - 1200 | cancelled"_s},
+        // They snap to markers and to edges of recordings
+        {u"select drag; record 1780 2150"_s, u"press 510; drag 610; ctrl-drag 609; release 610"_s,
+         u"no preview | started | range 1780 - 2150 | range 1780 - 2156 | range 1780 - 2150 | ended"_s},
+        {u"select drag; marker 1821"_s, u"press 510; drag 610; release 610"_s,
+         u"no preview | started | range 1821 - 2160 | ended"_s},
+        {u"select drag; marker 1823; marker 1777"_s, u"press 510; drag 610; release 610"_s,
+         u"no preview | started | range 1800 - 2160 | ended"_s},
+        // Handles, which change places and are taken beside their line
+        {u"select shift; range 1800 2160"_s, u"press begin 505,20; release begin 505,20"_s,
+         u"started | ended"_s},
+        {u"select shift; range 1800 2160"_s,
+         u"press begin 505,20; drag begin 555,20; drag begin 705,20; release begin 705,20"_s,
+         u"started | range 1980 - 2160 | range 2160 - 2520 | ended"_s},
+        {u"select shift; range 1800 2160"_s,
+         u"press end 615,20; drag end 515,20; key Esc; drag end 555,20"_s,
+         u"started | no range | range 1800 - 2160 | cancelled"_s},
+        {u"select shift; range 1800 2160; block"_s, u"press end 615,20; drag end 515,20"_s, {}},
+        // Keys, at the indicator
+        {u"select shift; place 1800"_s, u"key I; place 2400; key O; key I; key Del; key Del"_s,
+         u"started | range 1800 - 864000 | ended | started | range 1800 - 2400 | ended | "
+         "started | range 2400 - 864000 | ended | started | no range | ended"_s},
+        {u"select shift; place 1800"_s, u"key O; key Ctrl+I"_s,
+         u"started | range 0 - 1800 | ended"_s},
+        {u"select shift; key End; range 1800 2400"_s, u"key I"_s, {}},
+        // The limits cut a range; no other range is touched
+        {u"range 600 1800"_s, u"range 600 1800; limits 1200 86400; limits 1900 86400"_s,
+         u"range 1200 - 1800 | no range"_s},
+        {u"range 600 1800"_s, u"empty; range 600 1800"_s, u"no range"_s},
+        {u"search 0 1; result 0 1"_s, u"range -5 1800; range 1800 600"_s,
+         u"range 0 - 1800 | no range"_s}};
     for (const RulerCase& expected : cases)
         comparePlay(expected);
 }
@@ -142,7 +189,9 @@ void TestRulerInput::lostReleases()
         {u"press indicator 510,5; drag indicator 610,5"_s, u"drag indicator 710,5"_s,
          u"indicator 432360 | "_s},
         {u"reports; press indicator 510,5; drag indicator 610,5"_s, u"drag indicator 710,5"_s, {}},
-        {u"press arrow 1017"_s, {}, u"view 06 23:34 - 07 00:35 | "_s}};
+        {u"press arrow 1017"_s, {}, u"view 06 23:34 - 07 00:35 | "_s},
+        {u"select drag; press 600; drag 500"_s, u"drag 400"_s, u"ended | "_s},
+        {u"select drag; press end 790,20"_s, u"drag end 700,20"_s, u"ended | "_s}};
     // Some of them end the hover preview as well.
     const std::pair<QString, bool> losses[] = {
         {u"hover 300,5"_s, false},      {u"hover indicator 300,5"_s, false},
@@ -155,7 +204,7 @@ void TestRulerInput::lostReleases()
             if (loss == u"hover arrow 1017"_s && begin != u"press arrow 1017"_s)
                 continue;
             LoggedRuler ruler;
-            play(&ruler, u"offset 0.5; place 432000; previews; hover 510,5"_s);
+            play(&ruler, u"offset 0.5; place 432000; range 432000 433000; previews; hover 510,5"_s);
             connect(&ruler, &Ruler::heldChanged, &ruler, [&ruler](bool held) {
                 ruler.log << (held ? u"held"_s : u"free"_s);
                 QCOMPARE(ruler.isHeld(), held);
@@ -172,8 +221,10 @@ void TestRulerInput::lostReleases()
             // The hand that goes on moves nothing.
             const quint64 start = ruler.beginTime();
             const quint64 indicator = ruler.getIndicatorMSecs();
+            const TimeSpan range = ruler.selectedRange();
             play(&ruler, goOn);
             QCOMPARE(ruler.beginTime(), start);
+            QVERIFY(ruler.selectedRange() == range);
             QCOMPARE(ruler.getIndicatorMSecs(), indicator);
             QVERIFY(ruler.setIndicatorPosition(at(5 * day + 10 * minute)));
         }
@@ -312,6 +363,9 @@ void TestRulerInput::deletionInSignals()
         u"place 1800; reports; press indicator 510,5; drag indicator 610,5; release indicator 610,5"_s,
         u"press arrow 1017; hide; turn"_s,
         u"place 1800; press indicator 510,5; drag indicator 610,5; block"_s,
+        u"select drag; press 510; drag 610; drag 700; release 510"_s,
+        u"select drag; press 510; drag 610; key Esc; key O; key Del"_s,
+        u"select drag; range 600 1800; press begin 175,20; drag begin 1300,20; limits 1200 1300"_s,
         u"leave; turn"_s};
     for (const QString& act : acts) {
         // Whatever signal comes first, second and so on deletes the ruler.

@@ -133,6 +133,7 @@ void forEachValue(Settings& settings, const Use& use)
     use(u"Timeline/Lanes"_s, settings.lanes);
     use(u"Timeline/EventDetails"_s, settings.eventDetails);
     use(u"Timeline/FreeZoom"_s, settings.freeZoom);
+    use(u"Timeline/DragSelects"_s, settings.dragSelects);
     use(u"Timeline/Follow"_s, settings.followMode);
     use(u"Updates/InternalChannel"_s, settings.servers.internalChannel);
     use(u"Updates/PublicServer"_s, settings.servers.publicServer);

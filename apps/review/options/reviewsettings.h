@@ -31,6 +31,8 @@ struct ReviewSettings
     bool eventDetails = true;
     /// Whether the timeline shows views of any length, and not only those of the zoom levels.
     bool freeZoom = true;
+    /// Whether a drag on the timeline selects a range, and only one with Shift moves the view.
+    bool dragSelects = false;
     /// How the timeline goes after the moment.
     CorvelGui::Ruler::FollowMode followMode = CorvelGui::Ruler::FollowMode::Pages;
     Shortcuts shortcuts = defaultShortcuts();

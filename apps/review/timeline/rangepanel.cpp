@@ -50,8 +50,11 @@ RangePanel::RangePanel(const Clock& clock, QWidget* parent)
     createLayout();
 
     for (InstantEdit* edit : {m_from, m_to}) {
-        connect(edit, &InstantEdit::edited, m_message, &QLabel::clear);
-        connect(edit, &QLineEdit::editingFinished, this, [this, edit] { tell(faultOf(*edit)); });
+        connect(edit, &InstantEdit::edited, this, [this] {
+            m_message->clear();
+            m_isTyped = true;
+        });
+        connect(edit, &QLineEdit::editingFinished, this, [this, edit] { takeTyped(*edit); });
     }
     connect(m_fromView, &QPushButton::clicked, this, &RangePanel::viewWanted);
     connect(m_search, &QPushButton::clicked, this, [this] {
@@ -155,6 +158,17 @@ void RangePanel::tell(const QString& fault)
         return;
     QAccessibleEvent alert(m_message, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void RangePanel::takeTyped(const InstantEdit& edit)
+{
+    const QString fault = faultOf(edit);
+    tell(fault);
+    const bool isComplete =
+        fault.isEmpty() && faultOf(*m_from).isEmpty() && faultOf(*m_to).isEmpty();
+    if (m_isTyped && isComplete && !range().isEmpty())
+        Q_EMIT rangeTyped(range());
+    m_isTyped = false;
 }
 
 bool RangePanel::checkRange()

@@ -16,7 +16,8 @@ namespace Review {
 class Clock;
 class InstantEdit;
 
-/// Asks for the range to search, and for the range that a search found.
+/// Asks for the range to search, and for the range that a search found. A range that is selected on
+/// the timeline comes here, and one that is typed here goes there.
 class RangePanel : public Translated<QWidget>
 {
     Q_OBJECT
@@ -32,6 +33,8 @@ public:
     void setRange(const CorvelGui::TimeSpan& range);
 
 Q_SIGNALS:
+    /// The user has typed a range.
+    void rangeTyped(const CorvelGui::TimeSpan& range);
     /// The user wants the range of the view in the edits.
     void viewWanted();
     void searchWanted(const CorvelGui::TimeSpan& range);
@@ -46,9 +49,11 @@ private:
     QString faultOf(const InstantEdit& edit) const;
     void tell(const QString& fault);
     bool checkRange();
+    void takeTyped(const InstantEdit& edit);
 
     const Clock& m_clock;
     CorvelGui::TimeSpan m_period;
+    bool m_isTyped = false; ///< since the last time that an edit was left
     QLabel* m_fromLabel;
     InstantEdit* m_from;
     QLabel* m_toLabel;

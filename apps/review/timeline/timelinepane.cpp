@@ -50,6 +50,8 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
     m_ruler->setCalendarTicks(true);
     m_ruler->setFineWheel(true);
     m_ruler->setTouchGestures(true);
+    m_ruler->setEdgeScrolling(true);
+    setDragSelects(false);
     followFont();
     retranslate();
 
@@ -72,6 +74,7 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
                 Q_EMIT previewChanged(msecs, m_ruler->mapTo(this, QPoint(x, 0)), symbol);
             });
     connect(m_ruler, &Ruler::zoomHistoryMoved, this, &TimelinePane::viewChanged);
+    connect(m_ruler, &Ruler::selectedRangeChanged, this, &TimelinePane::selectedRangeChanged);
     connect(m_ruler, &Ruler::followingChanged, this, &TimelinePane::followingChanged);
     connect(&clock, &Clock::changed, this, [&] { m_timeline->setTimeZone(clock.zoneName()); });
     connect(&selection, &Selection::momentChanged, this, &TimelinePane::followMoment);
@@ -191,8 +194,19 @@ void TimelinePane::setResultRange(const TimeSpan& range, const ResultLook& look)
 void TimelinePane::clearRanges()
 {
     m_searchRange = {};
+    setSelectedRange({});
     m_timeline->onZoomTimeLineOperation({.code = ZoomTimelineOperation::clearSearchRange});
     m_ruler->setResultTimeRange({}, {}, false, false, false, false);
+}
+
+TimeSpan TimelinePane::selectedRange() const
+{
+    return m_ruler->selectedRange();
+}
+
+void TimelinePane::setSelectedRange(const TimeSpan& range)
+{
+    m_ruler->setSelectedRange(range);
 }
 
 TimeSpan TimelinePane::view() const
@@ -264,6 +278,11 @@ void TimelinePane::setFreeZoom(bool on)
 {
     m_ruler->setContinuousZoom(on);
     Q_EMIT viewChanged();
+}
+
+void TimelinePane::setDragSelects(bool on)
+{
+    m_ruler->setRangeSelection(on ? Ruler::RangeSelection::Drag : Ruler::RangeSelection::ShiftDrag);
 }
 
 void TimelinePane::setFollowMode(Ruler::FollowMode mode)

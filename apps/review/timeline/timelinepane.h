@@ -45,6 +45,9 @@ public:
     void clearRanges();
     /// What setSearchRange() set last; empty after clearRanges().
     CorvelGui::TimeSpan searchRange() const { return m_searchRange; }
+    /// What the user selected, on the timeline or elsewhere; empty without one.
+    CorvelGui::TimeSpan selectedRange() const;
+    void setSelectedRange(const CorvelGui::TimeSpan& range);
 
     /// What is in view; empty without a period.
     CorvelGui::TimeSpan view() const;
@@ -67,6 +70,8 @@ public Q_SLOTS:
     void showNextView();
     /// Whether the view may be of any length, and not only as long as a zoom level says.
     void setFreeZoom(bool on);
+    /// Whether a drag selects a range, and one with Shift moves the view, or the other way round.
+    void setDragSelects(bool on);
     void setFollowMode(CorvelGui::Ruler::FollowMode mode);
     /// Half a view towards the begin or the end of the period.
     void stepEarlier();
@@ -85,6 +90,8 @@ Q_SIGNALS:
     void viewChanged();
     /// Emitted when a marker was pressed or opened; its moment is the selected one already.
     void markerChosen(const QUuid& identifier);
+    /// Emitted when selectedRange() changed, also while the user drags it.
+    void selectedRangeChanged(const CorvelGui::TimeSpan& range);
     /// Emitted when isFollowing() changed.
     void followingChanged();
     /// As TimelinePreview::changed(). @p position is on the upper edge of the timeline.

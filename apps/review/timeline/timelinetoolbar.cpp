@@ -34,6 +34,8 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_showRanges = addAction(QString());
     m_showRanges->setCheckable(true);
     // In menus only.
+    m_dragSelects = new QAction(this);
+    m_dragSelects->setCheckable(true);
     m_showActivity = new QAction(this);
     m_showActivity->setCheckable(true);
     m_showLanes = new QAction(this);
@@ -60,6 +62,7 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     connect(m_previous, &QAction::triggered, timeline, &TimelinePane::showPreviousView);
     connect(m_next, &QAction::triggered, timeline, &TimelinePane::showNextView);
     connect(m_freeZoom, &QAction::toggled, timeline, &TimelinePane::setFreeZoom);
+    connect(m_dragSelects, &QAction::toggled, timeline, &TimelinePane::setDragSelects);
     connect(m_follow, &FollowMenu::modeChanged, timeline, &TimelinePane::setFollowMode);
     connect(m_earlier, &QAction::triggered, timeline, &TimelinePane::stepEarlier);
     connect(m_later, &QAction::triggered, timeline, &TimelinePane::stepLater);
@@ -90,6 +93,7 @@ QList<QAction*> TimelineToolBar::viewActions() const
             nullptr,
             m_showMarkers,
             m_showRanges,
+            m_dragSelects,
             m_showActivity,
             m_showLanes,
             m_showEventDetails};
@@ -112,6 +116,7 @@ void TimelineToolBar::retranslate()
     m_showMarkers->setToolTip(tr("Shows the events on the timeline"));
     m_showRanges->setText(tr("Ranges"));
     m_showRanges->setToolTip(tr("Sets a search range and a result range"));
+    m_dragSelects->setText(tr("Drag to select a range"));
     m_showActivity->setText(tr("Activity in the overview"));
     m_showLanes->setText(tr("Cameras on the timeline"));
     m_showEventDetails->setText(tr("Number and severity of events"));

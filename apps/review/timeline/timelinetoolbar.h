@@ -28,6 +28,8 @@ public:
     QAction* showEventDetails() const { return m_showEventDetails; }
     /// Checkable: whether the timeline has a lane for each camera.
     QAction* showLanes() const { return m_showLanes; }
+    /// Checkable: whether a drag on the timeline selects a range.
+    QAction* dragSelects() const { return m_dragSelects; }
     /// Checkable: whether the view may be of any length.
     QAction* freeZoom() const { return m_freeZoom; }
     FollowMenu* followMenu() const { return m_follow; }
@@ -51,6 +53,7 @@ private:
     FollowMenu* m_follow;
     QAction* m_showMarkers;
     QAction* m_showRanges;
+    QAction* m_dragSelects;
     QAction* m_showActivity;
     QAction* m_showLanes;
     QAction* m_showEventDetails;

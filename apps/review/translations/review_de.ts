@@ -1189,6 +1189,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Brings the time that is shown back into the view of the timeline</source>
         <translation>Holt die gezeigte Zeit in den Ausschnitt der Zeitleiste zurück</translation>
     </message>
+    <message>
+        <source>Drag to select a range</source>
+        <translation>Durch Ziehen einen Bereich wählen</translation>
+    </message>
 </context>
 <context>
     <name>Review::TransportBar</name>

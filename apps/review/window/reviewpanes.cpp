@@ -85,8 +85,15 @@ void ReviewPanes::connectTimeline()
     connect(&m_clock, &Clock::changed, m_preview, &QWidget::hide);
     connect(m_hover, &HoverPicture::ready, m_preview, &PreviewCard::setPicture);
 
-    connect(m_ranges, &RangePanel::viewWanted, this,
-            [this] { m_ranges->setRange(m_timeline->view()); });
+    connect(m_ranges, &RangePanel::viewWanted, this, [this] {
+        m_ranges->setRange(m_timeline->view());
+        m_timeline->setSelectedRange(m_timeline->view());
+    });
+    connect(m_timeline, &TimelinePane::selectedRangeChanged, this, [this](const TimeSpan& range) {
+        if (!range.isEmpty() && range != m_ranges->range())
+            m_ranges->setRange(range);
+    });
+    connect(m_ranges, &RangePanel::rangeTyped, m_timeline, &TimelinePane::setSelectedRange);
     connect(m_ranges, &RangePanel::searchWanted, m_timeline, &TimelinePane::setSearchRange);
     connect(m_ranges, &RangePanel::resultWanted, m_timeline, &TimelinePane::setResultRange);
     connect(m_ranges, &RangePanel::clearWanted, m_timeline, &TimelinePane::clearRanges);

@@ -186,8 +186,9 @@ void ReviewWindow::connectParts()
 
     connect(m_status, &ReviewStatusBar::zoneChosen, this, &ReviewWindow::settingsTouched);
     connect(m_darkLook, &QAction::triggered, this, &ReviewWindow::settingsTouched);
-    for (const QAction* action : {m_toolBar->showActivity(), m_toolBar->showLanes(),
-                                  m_toolBar->showEventDetails(), m_toolBar->freeZoom()})
+    for (const QAction* action :
+         {m_toolBar->showActivity(), m_toolBar->showLanes(), m_toolBar->showEventDetails(),
+          m_toolBar->freeZoom(), m_toolBar->dragSelects()})
         connect(action, &QAction::triggered, this, &ReviewWindow::settingsTouched);
     connect(m_toolBar->followMenu(), &FollowMenu::chosen, this, &ReviewWindow::settingsTouched);
     connect(m_panes->transport()->skipGaps(), &QCheckBox::clicked, this,
@@ -240,6 +241,7 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     m_toolBar->showLanes()->setChecked(settings.lanes);
     m_toolBar->showEventDetails()->setChecked(settings.eventDetails);
     m_toolBar->freeZoom()->setChecked(settings.freeZoom);
+    m_toolBar->dragSelects()->setChecked(settings.dragSelects);
     m_toolBar->followMenu()->setMode(settings.followMode);
     m_panes->player()->setShortcuts(settings.shortcuts);
     m_updates->setServers(settings.servers);
@@ -254,6 +256,7 @@ void ReviewWindow::takeSettings(ReviewSettings& settings) const
     settings.lanes = m_toolBar->showLanes()->isChecked();
     settings.eventDetails = m_toolBar->showEventDetails()->isChecked();
     settings.freeZoom = m_toolBar->freeZoom()->isChecked();
+    settings.dragSelects = m_toolBar->dragSelects()->isChecked();
     settings.followMode = m_toolBar->followMenu()->mode();
 }
 

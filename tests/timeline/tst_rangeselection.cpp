@@ -1,0 +1,150 @@
+#include "durationtext.h"
+#include "lengthlabel.h"
+#include "rangehandle.h"
+#include "rulerscript.h"
+#include "testsupport.h"
+
+#include <QTimer>
+
+using namespace CorvelGui;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPixmap picture(LoggedRuler& ruler, const QString& script)
+{
+    play(&ruler, script);
+    return ruler.grab();
+}
+
+bool isScrolling(const LoggedRuler& ruler)
+{
+    const auto timers = ruler.findChildren<QTimer*>();
+    return std::any_of(timers.begin(), timers.end(),
+                       [](const QTimer* timer) { return timer->isActive(); });
+}
+
+} // namespace
+
+class TestRangeSelection : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void durations();
+    void edgesScroll();
+    void handlesForAssistiveTechnology();
+    void handlesAndLengthStayInSight();
+};
+
+void TestRangeSelection::durations()
+{
+    const struct
+    {
+        qint64 length;
+        QString english, german;
+    } cases[] = {{-5, u"0 s"_s, u"0 s"_s},
+                 {1'250, u"1.250 s"_s, u"1,250 s"_s},
+                 {59'000, u"59 s"_s, u"59 s"_s},
+                 {hour - 1, u"1 h"_s, u"1 h"_s},
+                 {1'500 * day + 61 * minute + 2 * second, u"1,500 d 1 h 1 min 2 s"_s,
+                  u"1.500 d 1 h 1 min 2 s"_s}};
+    for (const auto& [length, english, german] : cases) {
+        QLocale::setDefault(QLocale(u"en_US"_s));
+        QCOMPARE(DurationText::of(length), english);
+        QLocale::setDefault(QLocale(u"de_DE"_s));
+        QCOMPARE(DurationText::of(length), german);
+    }
+}
+
+void TestRangeSelection::edgesScroll()
+{
+    // What is dragged to an end stays there while the view moves, and at the end there is a report.
+    const QString drags[] = {u"select drag; hour 2; press 510; drag 1015"_s,
+                             u"hour 2; place 9000; press indicator 510,5; drag indicator 1015,5"_s};
+    for (const QString& drag : drags) {
+        for (const bool on : {false, true}) {
+            LoggedRuler ruler;
+            ruler.setEdgeScrolling(on);
+            play(&ruler, drag);
+            const bool isRange = drag.startsWith(u"select");
+            const quint64 before = ruler.beginTime();
+            QCOMPARE(isScrolling(ruler), on || isRange);
+            if (!isScrolling(ruler))
+                continue;
+            QTRY_VERIFY(ruler.beginTime() > before + quint64(minute));
+            const qint64 held =
+                isRange ? ruler.selectedRange().end : qint64(ruler.getIndicatorMSecs());
+            QVERIFY(std::abs(ruler.xAt(held) - 1010) < 2);
+            ruler.takeLog();
+            play(&ruler, isRange ? u"key Esc"_s : u"release indicator 600,5"_s);
+            QVERIFY(!isScrolling(ruler));
+        }
+    }
+}
+
+void TestRangeSelection::handlesForAssistiveTechnology()
+{
+    LoggedRuler ruler;
+    play(&ruler, u"select shift; range 600 1800"_s);
+    const auto handles = ruler.findChildren<RangeHandle*>();
+    const auto value = [](QWidget* widget) {
+        return QAccessible::queryAccessibleInterface(widget)->valueInterface();
+    };
+    QAccessibleInterface* end = QAccessible::queryAccessibleInterface(handles[1]);
+    QCOMPARE(end->text(QAccessible::Name), u"End of the selected range"_s);
+    QVERIFY(end->text(QAccessible::Value).contains(u"20 min"_s));
+    QCOMPARE(value(handles[0])->currentValue().toDouble(), double(at(10 * minute)));
+    value(handles[0])->setCurrentValue(double(at(20 * minute)));
+    QCOMPARE(ruler.takeLog().join(u' '), u"started range 1200 - 1800 ended"_s);
+
+    // No further than the other end, and into view.
+    const struct
+    {
+        int handle;
+        QString key, log;
+    } keys[] = {
+        {0, u"Right"_s, u"started range 1260 - 1800 ended"_s},
+        {0, u"Shift+Left"_s, u"started range 960 - 1800 ended"_s},
+        {0, u"End"_s, u"started range 1799 - 1800 ended"_s},
+        {0, u"Home"_s, u"started range 0 - 1800 ended"_s},
+        {1, u"End"_s, u"started range 0 - 864000 ended center 0.9979 view 11 22:59 - 12 00:00"_s}};
+    for (const auto& [handle, key, log] : keys) {
+        const QKeyCombination pressed = QKeySequence(key)[0];
+        QTest::keyClick(handles[handle], pressed.key(), pressed.keyboardModifiers());
+        QCOMPARE(ruler.takeLog().join(u' '), log);
+    }
+    // Focus does not go away with a handle.
+    handles[1]->setFocus();
+    play(&ruler, u"key Del"_s);
+    QVERIFY(ruler.hasFocus() && !handles[1]->isVisible());
+}
+
+void TestRangeSelection::handlesAndLengthStayInSight()
+{
+    LoggedRuler ruler;
+    const QPixmap plain = picture(ruler, u"select drag"_s);
+    const auto* length = ruler.findChild<LengthLabel*>();
+    const auto isInside = [&] {
+        return length->isVisible() && ruler.rect().contains(length->geometry());
+    };
+    play(&ruler, u"press 30; drag 11"_s);
+    QVERIFY(isInside());
+    QCOMPARE(length->text(), u"1 min 8 s"_s);
+    play(&ruler, u"release 11; press 1000; drag 960"_s);
+    QVERIFY(isInside());
+    play(&ruler, u"release 960"_s);
+    QVERIFY(!length->isVisible());
+
+    // What the range looks like is not what the ruler looks like without one.
+    const QPixmap selected = picture(ruler, u"range 600 1800; select off"_s);
+    QVERIFY(selected.toImage() != plain.toImage());
+    QVERIFY(picture(ruler, u"select shift"_s).toImage() != selected.toImage());
+    QCOMPARE(picture(ruler, u"range 0 0"_s).toImage(), plain.toImage());
+    const auto handles = ruler.findChildren<RangeHandle*>();
+    play(&ruler, u"range 600 1800; hour 2"_s);
+    QVERIFY(!handles[0]->isVisible() && !handles[1]->isVisible());
+}
+
+QTEST_MAIN(TestRangeSelection)
+#include "tst_rangeselection.moc"
