@@ -1,8 +1,14 @@
 #include "data/reviewloader.h"
+#include "export/clipdialog.h"
 #include "export/exportdialog.h"
+#include "export/folderchoice.h"
+#include "export/pictureexport.h"
+#include "footage/exiftime.h"
+#include "playback/playbackpane.h"
 #include "samplewindow.h"
 #include "testfiles.h"
 #include "testsupport.h"
+#include "timeline/timelinepane.h"
 #include "times.h"
 #include "useranswers.h"
 #include "video/camerapicture.h"
@@ -11,8 +17,9 @@
 #include <CorvelGui/FilterLineEdit>
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDialogButtonBox>
-#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
@@ -119,6 +126,64 @@ private Q_SLOTS:
         QVERIFY(sample.action(u"Export &pictures…"_s)->isEnabled());
     }
 
+    void picturesAreSaved()
+    {
+        const QTemporaryDir folder;
+        const SampleWindow sample(u"America/St_Johns"_s);
+        UserAnswers user;
+        const auto* pane = sample.window.findChild<PlaybackPane*>();
+        QTRY_VERIFY(!pane->picture()->image.isNull());
+        const CameraPicture picture = *pane->picture();
+        for (const QString& name : {u"a.jpg"_s, u"b.png"_s}) {
+            user.savePath = folder.filePath(name);
+            sample.action(u"&Save picture…"_s)->trigger();
+            const QImage saved(user.savePath);
+            QCOMPARE(saved.width(), picture.image.width());
+            QCOMPARE(saved.height() > picture.image.height(), name == u"b.png"_s);
+        }
+        const QByteArray jpeg = readFile(folder.filePath(u"a.jpg"_s));
+        QVERIFY(jpeg.contains(picture.camera.toUtf8()));
+        const auto taken = exifTime(jpeg);
+        QVERIFY(taken);
+        QCOMPARE(taken->offset, std::optional(-12'600));
+        QCOMPARE(taken->clock.toMSecsSinceEpoch() + 12'600 * second, picture.instant);
+
+        sample.action(u"&Copy picture"_s)->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->image(), picture.withCaption());
+    }
+
+    void clipsAreAsked()
+    {
+        const QTemporaryDir folder;
+        const SampleWindow sample(u"UTC"_s);
+        const auto* pane = sample.window.findChild<PlaybackPane*>();
+        const TimeSpan recorded = pane->camera()->history.recorded().first();
+        sample.window.findChild<TimelinePane*>()->setSearchRange(recorded);
+        whenShown<ClipDialog>(this, [&](ClipDialog& dialog) {
+            auto* cameras = dialog.findChild<QListWidget*>();
+            auto* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            dialog.findChild<FolderChoice*>()->setFolder(folder.path());
+            QVERIFY(ok->isEnabled());
+            cameras->currentItem()->setCheckState(Qt::Unchecked);
+            QVERIFY(!ok->isEnabled());
+            cameras->currentItem()->setCheckState(Qt::Checked);
+            QTest::mouseClick(ok, Qt::LeftButton);
+        });
+        sample.action(u"Export &recordings…"_s)->trigger();
+        QTRY_VERIFY(sample.says(u"Recordings exported, in files: 2"_s));
+        ReviewLoader loader;
+        const QString made = QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot)[0];
+        QCOMPARE(loader.load(ReviewFiles::inFolder(folder.filePath(made))), QString());
+        Events expected;
+        const Events all = SampleData::make().events;
+        for (qsizetype i = 0; i < all.size(); ++i)
+            if (all[i].track == pane->camera()->identifier && all[i].time >= recorded.begin &&
+                all[i].time < recorded.end)
+                expected.append(all[i]);
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(loader.data().events, expected);
+    }
+
     void quittingIsAsked()
     {
         SampleWindow sample(u"UTC"_s);
@@ -183,8 +248,7 @@ private:
         whenShown<ExportDialog>(this, [&](ExportDialog& dialog) {
             auto* seconds = dialog.findChild<QSpinBox*>();
             QPushButton* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-            dialog.findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)
-                ->setText(m_folder.path());
+            dialog.findChild<FolderChoice*>()->setFolder(m_folder.path());
             seconds->setValue(1); // tens of thousands of pictures
             QVERIFY(!ok->isEnabled());
             seconds->setValue(interval);

@@ -114,7 +114,7 @@ LineFault faultOf(const CsvReader& reader, qsizetype fieldCount)
 
 QString CsvTable::read(const QString& path, const QStringList& neededColumns,
                        const QStringList& optionalColumns, const LineHandler& handler,
-                       ProblemList& problems, LoadProgress& progress)
+                       ProblemList& problems, JobProgress& progress)
 {
     QString error;
     CsvReader reader(contents(path, error));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "loadprogress.h"
+#include "jobprogress.h"
 #include "problemlist.h"
 
 #include <QByteArrayView>
@@ -31,7 +31,7 @@ public:
     /// or an empty string. A cancelled @p progress ends it at the next line.
     static QString read(const QString& path, const QStringList& neededColumns,
                         const QStringList& optionalColumns, const LineHandler& handler,
-                        ProblemList& problems, LoadProgress& progress);
+                        ProblemList& problems, JobProgress& progress);
 };
 
 } // namespace Review

@@ -1,9 +1,7 @@
 #pragma once
 
+#include "csvwriter.h"
 #include "reviewdata.h"
-
-#include <QByteArray>
-#include <QTimeZone>
 
 namespace Review {
 
@@ -17,16 +15,13 @@ public:
     explicit EventWriter(const QTimeZone& zone, char separator = ',');
 
     void add(const Event& event);
-    const QByteArray& text() const { return m_text; }
+    const QByteArray& text() const { return m_csv.text(); }
     /// How many events it holds.
     qsizetype count() const { return m_count; }
 
 private:
-    void addRecord(const QList<QByteArray>& fields);
-
     const QTimeZone m_zone;
-    const char m_separator;
-    QByteArray m_text;
+    CsvWriter m_csv;
     qsizetype m_count = 0;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "csvtable.h"
-#include "loadprogress.h"
+#include "jobprogress.h"
 #include "problemlist.h"
 #include "reviewdata.h"
 
@@ -50,8 +50,8 @@ public:
     /// Adds a recording that is known already.
     void add(const QString& camera, const VideoFile& file);
     /// Any thread may look at it, or end the load by it.
-    LoadProgress& progress() { return m_progress; }
-    const LoadProgress& progress() const { return m_progress; }
+    JobProgress& progress() { return m_progress; }
+    const JobProgress& progress() const { return m_progress; }
 
     const ReviewData& data() const { return m_data; }
     const ProblemList& problems() const { return m_problems; }
@@ -65,7 +65,7 @@ private:
     ReviewData m_data;
     ProblemList m_problems;
     QHash<QString, qsizetype> m_trackIndexes;
-    LoadProgress m_progress;
+    JobProgress m_progress;
 };
 
 } // namespace Review

@@ -1,19 +1,14 @@
 #include "exportdialog.h"
 
-#include <CorvelGui/CheckDirLineEdit>
+#include "folderchoice.h"
+#include "rangechoice.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
-#include <QPointer>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -42,46 +37,31 @@ int proposedInterval(const TimeSpan& range, const TrackHistory& camera)
     return found != intervals.end() ? *found : longestInterval;
 }
 
-QString rangeText(const TimeTexts& times, const TimeSpan& range)
-{
-    return times.dateTime(range.begin) + u" – "_s + times.dateTime(range.end);
-}
-
 } // namespace
 
 ExportDialog::ExportDialog(const Camera& camera, const TimeSpan& view, const TimeSpan& searchRange,
                            const QString& folder, QWidget* parent)
     : PBaseDialog(parent)
     , m_history(camera.history)
-    , m_viewRange(view)
-    , m_searchRange(searchRange)
-    , m_view(new QRadioButton(this))
-    , m_search(new QRadioButton(this))
+    , m_range(new RangeChoice(camera.times, view, searchRange, this))
     , m_interval(new QSpinBox(this))
     , m_recordedOnly(new QCheckBox(tr("&Only where something is recorded"), this))
-    , m_folder(new CorvelGui::CheckDirLineEdit(this))
+    , m_folder(new FolderChoice(tr("Export pictures"), folder, this))
     , m_message(new QLabel(this))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
     setWindowTitle(tr("Export pictures"));
-    const bool hasSearch = !searchRange.isEmpty();
-    m_view->setText(tr("Current view: %1").arg(rangeText(camera.times, view)));
-    m_search->setText(hasSearch ? tr("Search range: %1").arg(rangeText(camera.times, searchRange))
-                                : tr("Search range: none is set"));
-    m_search->setEnabled(hasSearch);
-    (hasSearch ? m_search : m_view)->setChecked(true);
     m_interval->setRange(1, longestInterval);
     m_interval->setSuffix(tr(" s"));
-    m_interval->setValue(proposedInterval(hasSearch ? searchRange : view, m_history));
+    m_interval->setValue(proposedInterval(m_range->range(), m_history));
     m_recordedOnly->setChecked(true);
-    m_folder->setText(QDir::toNativeSeparators(folder));
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Export"));
     createLayout(camera.name);
 
-    connect(m_view, &QRadioButton::toggled, this, &ExportDialog::checkPlan);
+    connect(m_range, &RangeChoice::changed, this, &ExportDialog::checkPlan);
     connect(m_interval, &QSpinBox::valueChanged, this, &ExportDialog::checkPlan);
     connect(m_recordedOnly, &QCheckBox::toggled, this, &ExportDialog::checkPlan);
-    connect(m_folder, &QLineEdit::textChanged, this, &ExportDialog::checkPlan);
+    connect(m_folder, &FolderChoice::changed, this, &ExportDialog::checkPlan);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     checkPlan();
@@ -89,53 +69,30 @@ ExportDialog::ExportDialog(const Camera& camera, const TimeSpan& view, const Tim
 
 ExportPlan ExportDialog::plan() const
 {
-    return {.range = m_search->isChecked() ? m_searchRange : m_viewRange,
+    return {.range = m_range->range(),
             .interval = m_interval->value(),
             .recordedOnly = m_recordedOnly->isChecked(),
-            .folder = QDir::fromNativeSeparators(m_folder->text())};
+            .folder = m_folder->folder()};
 }
 
 void ExportDialog::createLayout(const QString& camera)
 {
     auto* name = new QLabel(camera.simplified(), this);
     name->setTextFormat(Qt::PlainText);
-    auto* choose = new QPushButton(tr("Choose…"), this);
-    choose->setAutoDefault(false);
-    connect(choose, &QPushButton::clicked, this, &ExportDialog::chooseFolder);
-    constexpr int widthOfPaths = 320;
-    m_folder->setMinimumWidth(widthOfPaths);
-    auto* folder = new QHBoxLayout;
-    folder->addWidget(m_folder, 1);
-    folder->addWidget(choose);
-    auto* ranges = new QVBoxLayout;
-    ranges->setSpacing(6);
-    ranges->addWidget(m_view);
-    ranges->addWidget(m_search);
-
     auto* form = new QFormLayout;
     form->setVerticalSpacing(10);
     form->addRow(tr("Camera"), name);
-    form->addRow(tr("Range"), ranges);
+    form->addRow(tr("Range"), m_range);
     form->addRow(tr("A picture every"), m_interval);
     form->addRow(QString(), m_recordedOnly);
-    form->addRow(tr("Folder"), folder);
+    form->addRow(tr("Folder"), m_folder);
     form->addRow(QString(), m_message);
     m_interval->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    m_folder->setAccessibleName(tr("Folder"));
 
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(14);
     layout->addLayout(form);
     layout->addWidget(m_buttons);
-}
-
-void ExportDialog::chooseFolder()
-{
-    const QPointer<ExportDialog> alive(this);
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Export pictures"), QDir::fromNativeSeparators(m_folder->text()));
-    if (alive && !folder.isEmpty())
-        m_folder->setText(QDir::toNativeSeparators(folder));
 }
 
 void ExportDialog::checkPlan()
@@ -152,7 +109,7 @@ void ExportDialog::checkPlan()
     else
         m_message->setText(tr("Pictures: %1").arg(number));
     m_buttons->button(QDialogButtonBox::Ok)
-        ->setEnabled(count > 0 && !tooMany && QFileInfo(wanted.folder).isDir());
+        ->setEnabled(count > 0 && !tooMany && m_folder->exists());
 }
 
 } // namespace Review

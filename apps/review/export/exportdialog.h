@@ -7,11 +7,12 @@
 class QCheckBox;
 class QDialogButtonBox;
 class QLabel;
-class QLineEdit;
-class QRadioButton;
 class QSpinBox;
 
 namespace Review {
+
+class FolderChoice;
+class RangeChoice;
 
 /// Asks which pictures of a camera to export, and where to.
 class ExportDialog : public CorvelGui::PBaseDialog
@@ -31,17 +32,13 @@ public:
 
 private:
     void createLayout(const QString& camera);
-    void chooseFolder();
     void checkPlan();
 
     const TrackHistory m_history;
-    CorvelGui::TimeSpan m_viewRange;
-    CorvelGui::TimeSpan m_searchRange;
-    QRadioButton* m_view;
-    QRadioButton* m_search;
+    RangeChoice* m_range;
     QSpinBox* m_interval;
     QCheckBox* m_recordedOnly;
-    QLineEdit* m_folder;
+    FolderChoice* m_folder;
     QLabel* m_message;
     QDialogButtonBox* m_buttons;
 };

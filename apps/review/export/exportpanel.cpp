@@ -1,8 +1,12 @@
 #include "exportpanel.h"
 
+#include "clipdialog.h"
 #include "data/eventwriter.h"
 #include "data/filewriter.h"
 #include "exportdialog.h"
+#include "filenames.h"
+#include "pictureexport.h"
+#include "video/camerapicture.h"
 
 #include <CorvelGui/PFractionalProgressBar>
 #include <CorvelGui/TaskbarProgress>
@@ -20,6 +24,8 @@
 #include <QToolButton>
 #include <QUrl>
 #include <QWindow>
+
+#include <algorithm>
 
 using CorvelGui::PFractionalProgressBar;
 using CorvelGui::TaskbarProgress;
@@ -56,6 +62,7 @@ ExportPanel::ExportPanel(QWidget* parent)
     , m_close(new QToolButton)
     , m_report(createRow({m_outcome, m_open, m_close}))
     , m_pictureFolder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
+    , m_clipFolder(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation))
     , m_eventFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
 {
     constexpr int progressWidth = 180;
@@ -96,6 +103,63 @@ void ExportPanel::askForPictures(const Camera& chosen, const TimeSpan& view,
         start(std::move(job));
 }
 
+void ExportPanel::askForClips(const QList<Camera>& cameras, const QString& chosen,
+                              const Events& events, const TimeSpan& view,
+                              const TimeSpan& searchRange)
+{
+    const QPointer<ExportPanel> alive(this);
+    const QPointer dialog =
+        new ClipDialog(cameras, chosen, view, searchRange, m_clipFolder, window());
+    const Events all = events;
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!alive || !dialog)
+        return;
+    const ClipPlan plan = dialog->plan(all);
+    dialog->deleteLater();
+    if (!accepted || m_export)
+        return;
+    m_clipFolder = plan.folder;
+    start(std::make_unique<ClipExport>(plan));
+}
+
+void ExportPanel::askForPicture(const CameraPicture& shown)
+{
+    const CameraPicture picture = shown;
+    const QStringList forms{tr("JPEG, camera and time in its EXIF data (*.jpg *.jpeg)"),
+                            tr("JPEG, camera and time below the picture (*.jpg *.jpeg)"),
+                            tr("PNG, camera and time below the picture (*.png)")};
+    QString form = forms[int(m_pictureForm)];
+    const bool wasPng = m_pictureForm == PictureForm::PngWithCaption;
+    const QString name = FileNames::cameraPart(picture.camera) + u'_' +
+                         FileNames::timePart(picture.instant, QTimeZone(picture.offset)) +
+                         (wasPng ? u".png"_s : u".jpg"_s);
+    const QPointer<ExportPanel> alive(this);
+    QString path = QFileDialog::getSaveFileName(window(), tr("Save picture"),
+                                                QDir(m_pictureFolder).filePath(name),
+                                                forms.join(u";;"_s), &form);
+    if (!alive || path.isEmpty())
+        return;
+    m_pictureForm = PictureForm(std::max<qsizetype>(0, forms.indexOf(form)));
+    // What was typed counts more than what was chosen.
+    const QString ending = QFileInfo(path).suffix().toLower();
+    if (ending == u"png"_s)
+        m_pictureForm = PictureForm::PngWithCaption;
+    else if (isPictureFile(path) && m_pictureForm == PictureForm::PngWithCaption)
+        m_pictureForm = PictureForm::JpegWithCaption;
+    m_pictureFolder = QFileInfo(path).absolutePath();
+    if (const QString error = writePicture(picture, m_pictureForm, path); !error.isEmpty()) {
+        tellUnwritten(tr("Save picture"), path, error);
+        return;
+    }
+    report(m_pictureFolder, [] { return tr("Picture saved"); });
+}
+
+void ExportPanel::tellUnwritten(const QString& title, const QString& path, const QString& error)
+{
+    PMessageBox::Warning(window(), title,
+                         tr("%1 cannot be written: %2").arg(QDir::toNativeSeparators(path), error));
+}
+
 void ExportPanel::askForEvents(const EventWriter& events)
 {
     const QByteArray text = events.text();
@@ -108,9 +172,7 @@ void ExportPanel::askForEvents(const EventWriter& events)
         return;
     m_eventFolder = QFileInfo(path).absolutePath();
     if (const QString error = writeFile(text, path); !error.isEmpty()) {
-        PMessageBox::Warning(
-            window(), tr("Export events"),
-            tr("%1 cannot be written: %2").arg(QDir::toNativeSeparators(path), error));
+        tellUnwritten(tr("Export events"), path, error);
         return;
     }
     report(m_eventFolder,
@@ -121,12 +183,9 @@ bool ExportPanel::mayQuit()
 {
     if (!m_export)
         return true;
-    const QLocale locale;
-    return PMessageBox::Question(
-               window(), tr("Export pictures"),
-               tr("Pictures are still being exported: %1 of %2 are written. Quit all the same?")
-                   .arg(locale.toString(m_export->written()), locale.toString(m_export->count())),
-               QMessageBox::No) == QMessageBox::Yes;
+    return PMessageBox::Question(window(), m_export->title(),
+                                 m_export->remainder() + u' ' + tr("Quit all the same?"),
+                                 QMessageBox::No) == QMessageBox::Yes;
 }
 
 bool ExportPanel::mayStart(PictureExport& job)
@@ -142,15 +201,15 @@ bool ExportPanel::mayStart(PictureExport& job)
                                  QMessageBox::No) == QMessageBox::Yes;
 }
 
-void ExportPanel::start(std::unique_ptr<PictureExport> job)
+void ExportPanel::start(std::unique_ptr<ExportJob> job)
 {
     m_export = std::move(job);
-    connect(m_export.get(), &PictureExport::progressed, m_progress, &QProgressBar::setValue);
+    connect(m_export.get(), &ExportJob::progressed, m_progress, &QProgressBar::setValue);
     // Not before the export has come to rest.
-    connect(m_export.get(), &PictureExport::ended, this, &ExportPanel::finish,
-            Qt::QueuedConnection);
+    connect(m_export.get(), &ExportJob::ended, this, &ExportPanel::finish, Qt::QueuedConnection);
     m_progress->setRange(0, m_export->count());
     m_progress->setValue(0);
+    showActivity();
     m_report->hide();
     m_running->show();
 
@@ -158,37 +217,39 @@ void ExportPanel::start(std::unique_ptr<PictureExport> job)
     m_taskbar->setWindow(window()->windowHandle());
     m_taskbar->setRange(0, m_export->count());
     m_taskbar->show();
-    connect(m_export.get(), &PictureExport::progressed, m_taskbar.get(),
-            &TaskbarProgress::setValue);
+    connect(m_export.get(), &ExportJob::progressed, m_taskbar.get(), &TaskbarProgress::setValue);
     m_export->start();
     Q_EMIT exportingChanged(true);
 }
 
-void ExportPanel::finish(PictureExport::Outcome outcome)
+void ExportPanel::finish(ExportJob::Outcome outcome)
 {
-    const int written = m_export->written();
-    const int count = m_export->count();
-    const QString folder = m_export->folder();
-    if (outcome == PictureExport::Outcome::Failed) {
-        const QPointer<ExportPanel> alive(this);
-        m_taskbar->stop();
-        PMessageBox::Warning(window(), tr("Export pictures"), tr("The export has stopped."),
-                             QMessageBox::Ok, QMessageBox::NoButton, m_export->error());
-        if (!alive)
-            return;
-    }
+    if (!tellFaults(outcome))
+        return;
     m_taskbar->hide();
     m_taskbar.reset();
-    m_export.reset();
+    const std::unique_ptr<ExportJob> job = std::move(m_export);
     m_running->hide();
-    report(folder, [outcome, written, count] {
-        const QLocale locale;
-        return outcome == PictureExport::Outcome::Complete
-                   ? tr("Pictures exported: %1").arg(locale.toString(count))
-                   : tr("Export ended early. Pictures written: %1 of %2.")
-                         .arg(locale.toString(written), locale.toString(count));
-    });
+    report(job->folder(), job->report(outcome));
     Q_EMIT exportingChanged(false);
+}
+
+/// Returns whether the panel is still there after it.
+bool ExportPanel::tellFaults(ExportJob::Outcome outcome)
+{
+    const QString details =
+        outcome == ExportJob::Outcome::Failed ? m_export->error() : m_export->leftOut();
+    if (outcome == ExportJob::Outcome::Cancelled || details.isEmpty())
+        return true;
+    const QPointer<ExportPanel> alive(this);
+    if (outcome == ExportJob::Outcome::Failed)
+        m_taskbar->stop();
+    PMessageBox::Warning(window(), m_export->title(),
+                         outcome == ExportJob::Outcome::Failed
+                             ? tr("The export has stopped.")
+                             : tr("Some recordings could not be exported."),
+                         QMessageBox::Ok, QMessageBox::NoButton, details);
+    return alive;
 }
 
 void ExportPanel::report(const QString& folder, const std::function<QString()>& text)
@@ -197,6 +258,7 @@ void ExportPanel::report(const QString& folder, const std::function<QString()>& 
     m_reportText = text;
     m_outcome->setText(text());
     m_open->setToolTip(QDir::toNativeSeparators(folder).toHtmlEscaped());
+    m_open->setVisible(!folder.isEmpty());
     m_report->show();
 }
 
@@ -208,10 +270,17 @@ void ExportPanel::openFolder()
             tr("No program shows %1.").arg(QDir::toNativeSeparators(m_reportFolder)));
 }
 
+void ExportPanel::showActivity()
+{
+    if (!m_export)
+        return;
+    m_label->setText(m_export->activity());
+    m_progress->setAccessibleName(m_export->activity());
+}
+
 void ExportPanel::retranslate()
 {
-    m_label->setText(tr("Exporting pictures"));
-    m_progress->setAccessibleName(tr("Exporting pictures"));
+    showActivity();
     m_cancel->setText(tr("Cancel"));
     m_open->setText(tr("Open folder"));
     m_close->setText(tr("Close"));

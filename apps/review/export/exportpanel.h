@@ -1,7 +1,8 @@
 #pragma once
 
+#include "clipexport.h"
 #include "look/translated.h"
-#include "pictureexport.h"
+#include "video/picturefile.h"
 
 #include <QWidget>
 
@@ -18,10 +19,14 @@ class TaskbarProgress;
 
 namespace Review {
 
+struct CameraPicture;
+class Events;
 class EventWriter;
+class PictureExport;
 
-/// Exports pictures and events. Shows how far that is, in a status bar and on the taskbar, and
-/// afterwards what came of it, until the user has seen enough. Hidden when there is nothing to say.
+/// Exports pictures, clips and events. Shows how far that is, in a status bar and on the taskbar,
+/// and afterwards what came of it, until the user has seen enough. Hidden when there is nothing to
+/// say.
 class ExportPanel : public Translated<QWidget>
 {
     Q_OBJECT
@@ -30,15 +35,21 @@ public:
     explicit ExportPanel(QWidget* parent = nullptr);
     ~ExportPanel() override;
 
-    /// Asks what to export of a camera and exports it. Not while pictures are exported.
+    /// Asks which pictures of a camera to export. Not while something is exported.
     void askForPictures(const Camera& camera, const CorvelGui::TimeSpan& view,
                         const CorvelGui::TimeSpan& searchRange);
+    /// Asks which cameras to export, of which range, with @p events in it. Not while something is
+    /// exported.
+    void askForClips(const QList<Camera>& cameras, const QString& chosen, const Events& events,
+                     const CorvelGui::TimeSpan& view, const CorvelGui::TimeSpan& searchRange);
+    /// Asks where to put a picture, and in which form.
+    void askForPicture(const CameraPicture& picture);
     /// Asks where to put the events.
     void askForEvents(const EventWriter& events);
 
-    /// Whether pictures are exported.
+    /// Whether pictures or clips are exported.
     bool isExporting() const { return m_export != nullptr; }
-    /// Whether the program may quit: asks the user while pictures are exported.
+    /// Whether the program may quit: asks the user while something is exported.
     bool mayQuit();
 
 Q_SIGNALS:
@@ -50,9 +61,12 @@ protected:
 
 private:
     bool mayStart(PictureExport& job);
-    void start(std::unique_ptr<PictureExport> job);
-    void finish(PictureExport::Outcome outcome);
+    void start(std::unique_ptr<ExportJob> job);
+    void finish(ExportJob::Outcome outcome);
+    bool tellFaults(ExportJob::Outcome outcome);
+    void showActivity();
     void report(const QString& folder, const std::function<QString()>& text);
+    void tellUnwritten(const QString& title, const QString& path, const QString& error);
     void openFolder();
 
     QLabel* m_label;
@@ -65,12 +79,14 @@ private:
     QWidget* m_report;
 
     QString m_pictureFolder; // of the export before
+    PictureForm m_pictureForm = PictureForm::Jpeg;
+    QString m_clipFolder;
     QString m_eventFolder;
     QString m_reportFolder;
     /// In the language of the moment.
     std::function<QString()> m_reportText;
     std::unique_ptr<CorvelGui::TaskbarProgress> m_taskbar;
-    std::unique_ptr<PictureExport> m_export;
+    std::unique_ptr<ExportJob> m_export;
 };
 
 } // namespace Review

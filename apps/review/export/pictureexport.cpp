@@ -1,10 +1,12 @@
 #include "pictureexport.h"
 
+#include "filenames.h"
 #include "video/camerapicture.h"
 #include "video/picturefile.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -16,25 +18,6 @@ namespace {
 // Pictures come in their order: enough for the way from a key frame.
 constexpr qint64 exportBytes = qint64(32) << 20;
 
-/// Names of cameras are any text.
-QString fileNamePart(const QString& camera)
-{
-    constexpr qsizetype longest = 40;
-    QString part = camera.simplified().left(longest);
-    for (QChar& character : part) {
-        if (!character.isLetterOrNumber() && character != u'-')
-            character = u'_';
-    }
-    return part.isEmpty() ? u"camera"_s : part;
-}
-
-/// With the offset, since a clock that is set back shows times twice.
-QString timePart(qint64 msecs, const QTimeZone& zone)
-{
-    const QDateTime time = QDateTime::fromMSecsSinceEpoch(msecs, zone);
-    return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate).remove(u':');
-}
-
 } // namespace
 
 PictureTimes ExportPlan::times(const TrackHistory& camera) const
@@ -45,7 +28,7 @@ PictureTimes ExportPlan::times(const TrackHistory& camera) const
 }
 
 PictureExport::PictureExport(const Camera& camera, const ExportPlan& plan, QObject* parent)
-    : QObject(parent)
+    : ExportJob(parent)
     , m_camera(camera)
     , m_plan(plan)
     , m_times(plan.times(camera.history).all())
@@ -110,9 +93,37 @@ void PictureExport::end(Outcome outcome)
 
 QString PictureExport::path(int index) const
 {
-    const QString name =
-        fileNamePart(m_camera.name) + u'_' + timePart(m_times[index], m_camera.times.zone());
+    const QString name = FileNames::cameraPart(m_camera.name) + u'_' +
+                         FileNames::timePart(m_times[index], m_camera.times.zone());
     return QDir(m_plan.folder).filePath(name + u".png"_s);
+}
+
+QString PictureExport::title() const
+{
+    return tr("Export pictures");
+}
+
+QString PictureExport::activity() const
+{
+    return tr("Exporting pictures");
+}
+
+QString PictureExport::remainder() const
+{
+    const QLocale locale;
+    return tr("Pictures are still being exported: %1 of %2 are written.")
+        .arg(locale.toString(m_written), locale.toString(count()));
+}
+
+std::function<QString()> PictureExport::report(Outcome outcome) const
+{
+    return [outcome, written = m_written, count = count()] {
+        const QLocale locale;
+        return outcome == Outcome::Complete
+                   ? tr("Pictures exported: %1").arg(locale.toString(count))
+                   : tr("Export ended early. Pictures written: %1 of %2.")
+                         .arg(locale.toString(written), locale.toString(count));
+    };
 }
 
 } // namespace Review

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "exportjob.h"
 #include "picturetimes.h"
 #include "video/camera.h"
 #include "video/cameradecoder.h"
-
-#include <QObject>
 
 namespace Review {
 
@@ -23,35 +22,27 @@ struct ExportPlan
 
 /// Writes pictures of a camera, with their texts, as PNG files. They are decoded on a thread, one
 /// after the other. Each file is written whole or not at all.
-class PictureExport : public QObject
+class PictureExport : public ExportJob
 {
     Q_OBJECT
 
 public:
-    enum class Outcome { Complete, Cancelled, Failed };
-
     PictureExport(const Camera& camera, const ExportPlan& plan, QObject* parent = nullptr);
 
-    int count() const { return int(m_times.size()); }
-    /// How many pictures are written so far.
-    int written() const { return m_written; }
+    int count() const override { return int(m_times.size()); }
     /// How many of the files exist already.
     int existingFiles() const;
     /// Replaces files that exist. Without it, such a file ends the export.
     void setReplacing(bool replace) { m_replacing = replace; }
 
-    void start();
-    /// Leaves what is written. Does nothing when the export has ended.
-    void cancel();
-    /// What went wrong, after Outcome::Failed.
-    const QString& error() const { return m_error; }
-    const QString& folder() const { return m_plan.folder; }
-
-Q_SIGNALS:
-    /// Emitted after each picture.
-    void progressed(int written);
-    /// Emitted once. The export may be deleted then.
-    void ended(Review::PictureExport::Outcome outcome);
+    void start() override;
+    /// Leaves what is written.
+    void cancel() override;
+    QString folder() const override { return m_plan.folder; }
+    QString title() const override;
+    QString activity() const override;
+    QString remainder() const override;
+    std::function<QString()> report(Outcome outcome) const override;
 
 private:
     void askForNext();
@@ -64,7 +55,6 @@ private:
     QList<qint64> m_times;
     CameraDecoder m_decoder;
     bool m_running = false;
-    QString m_error;
     int m_written = 0;
     bool m_replacing = false;
 };

@@ -88,6 +88,20 @@ std::optional<int> offsetOf(QByteArrayView text)
     return text.isEmpty() || !time.isValid() ? std::nullopt : std::optional(time.offsetFromUtc());
 }
 
+/// The digits behind the decimal point of the seconds; 0 for anything else.
+int msecsOf(QByteArrayView digits)
+{
+    int msecs = 0;
+    int weight = 100;
+    for (const char digit : digits.trimmed()) {
+        if (digit < '0' || digit > '9')
+            return 0;
+        msecs += (digit - '0') * weight;
+        weight /= 10;
+    }
+    return msecs;
+}
+
 } // namespace
 
 std::optional<WallTime> exifTime(const QByteArray& jpeg)
@@ -95,18 +109,20 @@ std::optional<WallTime> exifTime(const QByteArray& jpeg)
     constexpr quint16 pictureDirectory = 0x8769;
     constexpr quint16 taken = 0x9003;
     constexpr quint16 takenOffset = 0x9011;
+    constexpr quint16 takenFraction = 0x9291;
     constexpr quint16 written = 0x0132;
     const Tiff tiff(exifOf(jpeg));
     const quint32 first = tiff.firstDirectory();
     const quint32 picture = tiff.value(first, pictureDirectory);
     QByteArrayView text = tiff.text(picture, taken);
+    const int fraction = text.isEmpty() ? 0 : msecsOf(tiff.text(picture, takenFraction));
     if (text.isEmpty())
         text = tiff.text(first, written);
     QDateTime clock =
         QDateTime::fromString(QString::fromLatin1(text), QStringLiteral("yyyy:MM:dd HH:mm:ss"));
     if (!clock.isValid())
         return {};
-    return WallTime{QDateTime(clock.date(), clock.time(), Qt::UTC),
+    return WallTime{QDateTime(clock.date(), clock.time().addMSecs(fraction), Qt::UTC),
                     offsetOf(tiff.text(picture, takenOffset))};
 }
 

@@ -35,7 +35,7 @@ qint64 guessedDuration(const FileFacts& facts, qint64 begin, qint64 changed)
 } // namespace
 
 FootageScan::FootageScan(PathPattern pattern, QTimeZone zone, FootageIndex& index,
-                         LoadProgress& progress)
+                         JobProgress& progress)
     : m_pattern(std::move(pattern)), m_zone(std::move(zone)), m_index(index), m_progress(progress)
 {}
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/loadprogress.h"
+#include "data/jobprogress.h"
 #include "data/videofile.h"
 #include "footageindex.h"
 #include "pathpattern.h"
@@ -28,7 +28,7 @@ public:
     };
 
     /// Times without an offset are those of @p zone.
-    FootageScan(PathPattern pattern, QTimeZone zone, FootageIndex& index, LoadProgress& progress);
+    FootageScan(PathPattern pattern, QTimeZone zone, FootageIndex& index, JobProgress& progress);
 
     /// Looks through folders, with all below them, and single files. Each folder in one that is
     /// named here is a camera; files beside them, and folders that are called like a date, belong
@@ -54,7 +54,7 @@ private:
     const PathPattern m_pattern;
     const QTimeZone m_zone;
     FootageIndex& m_index;
-    LoadProgress& m_progress;
+    JobProgress& m_progress;
     QList<Recording> m_recordings;
     std::array<qsizetype, SourceCount> m_sources{};
 };

@@ -10,7 +10,6 @@
 
 #include <QAction>
 #include <QHeaderView>
-#include <QLocale>
 #include <QVBoxLayout>
 
 using CorvelGui::FilterLineEdit;
@@ -60,9 +59,7 @@ void EventPane::showRows()
 
 void EventPane::exportEvents()
 {
-    // As spreadsheets of the user's country expect it.
-    const char separator = QLocale().decimalPoint() == u',' ? ';' : ',';
-    EventWriter writer(m_clock.times().zone(), separator);
+    EventWriter writer(m_clock.times().zone(), CsvWriter::userSeparator());
     for (const qsizetype event : m_table->chosenEvents())
         writer.add(m_list.events()[event]);
     Q_EMIT exportWanted(writer);

@@ -158,10 +158,8 @@ void PlaybackPane::showCameras()
     m_camera.reset();
     for (qsizetype i = 0; i < count; ++i) {
         std::optional<Camera> camera;
-        if (first + i < m_tracks.size()) {
-            const TrackDescription& track = m_tracks[first + i];
-            camera.emplace(track, m_files.value(track.identifier), m_clock.times());
-        }
+        if (first + i < m_tracks.size())
+            camera = cameraOf(m_tracks[first + i]);
         m_views[i]->setCamera(camera, shownBytes / count);
         m_views[i]->setMarked(count > 1 && first + i == index);
         if (first + i == index)
@@ -169,6 +167,24 @@ void PlaybackPane::showCameras()
     }
     showMoment();
     Q_EMIT cameraChanged();
+}
+
+Camera PlaybackPane::cameraOf(const TrackDescription& track) const
+{
+    return {track, m_files.value(track.identifier), m_clock.times()};
+}
+
+QList<Camera> PlaybackPane::cameras() const
+{
+    QList<Camera> cameras;
+    for (const TrackDescription& track : m_tracks)
+        cameras.append(cameraOf(track));
+    return cameras;
+}
+
+const CameraPicture* PlaybackPane::picture() const
+{
+    return m_camera ? &m_views[m_cameras->currentIndex() % m_views.size()]->picture() : nullptr;
 }
 
 void PlaybackPane::showMoment()

@@ -13,6 +13,7 @@ class QGridLayout;
 
 namespace Review {
 
+struct CameraPicture;
 class CameraView;
 class Clock;
 class Selection;
@@ -33,6 +34,11 @@ public:
 
     /// The selected one; null without a camera.
     const Camera* camera() const { return m_camera ? &*m_camera : nullptr; }
+
+    /// What is shown of it; null without a camera.
+    const CameraPicture* picture() const;
+    /// All of them.
+    QList<Camera> cameras() const;
 
     /// How many cameras are shown at once: 1, 4, 9 or 16. The selected one is among them.
     void setShownCameras(int count);
@@ -62,6 +68,7 @@ private:
     void chooseCamera();
     void showCameras();
     void showMoment();
+    Camera cameraOf(const CorvelGui::TrackDescription& track) const;
 
     const Clock& m_clock;
     Selection& m_selection;

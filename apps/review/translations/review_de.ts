@@ -66,6 +66,102 @@
     </message>
 </context>
 <context>
+    <name>Review::ClipCopy</name>
+    <message>
+        <source>An MP4 file cannot hold pictures of this kind.</source>
+        <translation>Eine MP4-Datei kann Bilder dieser Art nicht aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The file ends before this time.</source>
+        <translation>Die Datei endet vor dieser Zeit.</translation>
+    </message>
+    <message>
+        <source>Times in the file jump back; what is said twice was left out.</source>
+        <translation>Zeiten in der Datei springen zurück; was doppelt belegt ist, wurde ausgelassen.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ClipDialog</name>
+    <message>
+        <source>Export recordings</source>
+        <translation>Aufnahmen exportieren</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Clips begin at the key frame before the range. They are copied as they were recorded, without sound.</source>
+        <translation>Clips beginnen beim Schlüsselbild vor dem Bereich. Sie werden so kopiert, wie sie aufgenommen wurden, ohne Ton.</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>No camera is chosen.</source>
+        <translation>Keine Kamera ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>No files show this range.</source>
+        <translation>Keine Dateien zeigen diesen Bereich.</translation>
+    </message>
+    <message>
+        <source>Recorded time: %1</source>
+        <translation>Aufgenommene Zeit: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ClipExport</name>
+    <message>
+        <source>Nothing of this range can be exported.</source>
+        <translation>Aus diesem Bereich kann nichts exportiert werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Export recordings</source>
+        <translation>Aufnahmen exportieren</translation>
+    </message>
+    <message>
+        <source>Exporting recordings</source>
+        <translation>Aufnahmen werden exportiert</translation>
+    </message>
+    <message>
+        <source>Recordings are still being exported: %1 % are written.</source>
+        <translation>Aufnahmen werden noch exportiert: %1 % sind geschrieben.</translation>
+    </message>
+    <message>
+        <source>Recordings exported, in files: %1</source>
+        <translation>Aufnahmen exportiert, in Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Export ended early. Nothing is left of it.</source>
+        <translation>Export vorzeitig beendet. Nichts davon ist übrig.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ClipFolder</name>
+    <message>
+        <source>No folder can be made in %1.</source>
+        <translation>In %1 kann kein Ordner angelegt werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made.</source>
+        <translation>%1 kann nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
     <name>Review::CommandLine</name>
     <message>
         <source>Shows recordings on a timeline. Without files it shows a sample.
@@ -404,28 +500,12 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Bilder exportieren</translation>
     </message>
     <message>
-        <source>Current view: %1</source>
-        <translation>Aktuelle Ansicht: %1</translation>
-    </message>
-    <message>
-        <source>Search range: %1</source>
-        <translation>Suchbereich: %1</translation>
-    </message>
-    <message>
-        <source>Search range: none is set</source>
-        <translation>Suchbereich: keiner festgelegt</translation>
-    </message>
-    <message>
         <source> s</source>
         <translation> s</translation>
     </message>
     <message>
         <source>Export</source>
         <translation>Exportieren</translation>
-    </message>
-    <message>
-        <source>Choose…</source>
-        <translation>Auswählen …</translation>
     </message>
     <message>
         <source>Camera</source>
@@ -471,14 +551,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Dateien, die es schon gibt: %1 von %2. Sollen sie ersetzt werden?</translation>
     </message>
     <message>
-        <source>Pictures exported: %1</source>
-        <translation>Exportierte Bilder: %1</translation>
-    </message>
-    <message>
-        <source>Exporting pictures</source>
-        <translation>Bilder werden exportiert</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -499,16 +571,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Ereignisse exportiert: %1</translation>
     </message>
     <message>
-        <source>Pictures are still being exported: %1 of %2 are written. Quit all the same?</source>
-        <translation>Es werden noch Bilder exportiert: %1 von %2 sind geschrieben. Trotzdem beenden?</translation>
-    </message>
-    <message>
         <source>The export has stopped.</source>
         <translation>Der Export wurde abgebrochen.</translation>
-    </message>
-    <message>
-        <source>Export ended early. Pictures written: %1 of %2.</source>
-        <translation>Export vorzeitig beendet. Bilder geschrieben: %1 von %2.</translation>
     </message>
     <message>
         <source>Open folder</source>
@@ -525,6 +589,45 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Close this message</source>
         <translation>Diese Meldung schließen</translation>
+    </message>
+    <message>
+        <source>JPEG, camera and time in its EXIF data (*.jpg *.jpeg)</source>
+        <translation>JPEG, Kamera und Zeit in seinen EXIF-Daten (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>JPEG, camera and time below the picture (*.jpg *.jpeg)</source>
+        <translation>JPEG, Kamera und Zeit unter dem Bild (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>PNG, camera and time below the picture (*.png)</source>
+        <translation>PNG, Kamera und Zeit unter dem Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>Save picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Picture saved</source>
+        <translation>Bild gespeichert</translation>
+    </message>
+    <message>
+        <source>Quit all the same?</source>
+        <translation>Trotzdem beenden?</translation>
+    </message>
+    <message>
+        <source>Some recordings could not be exported.</source>
+        <translation>Einige Aufnahmen konnten nicht exportiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::FolderChoice</name>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Auswählen …</translation>
     </message>
 </context>
 <context>
@@ -701,6 +804,26 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>%1 cannot be written: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>Export pictures</source>
+        <translation>Bilder exportieren</translation>
+    </message>
+    <message>
+        <source>Exporting pictures</source>
+        <translation>Bilder werden exportiert</translation>
+    </message>
+    <message>
+        <source>Pictures are still being exported: %1 of %2 are written.</source>
+        <translation>Bilder werden noch exportiert: %1 von %2 sind geschrieben.</translation>
+    </message>
+    <message>
+        <source>Pictures exported: %1</source>
+        <translation>Exportierte Bilder: %1</translation>
+    </message>
+    <message>
+        <source>Export ended early. Pictures written: %1 of %2.</source>
+        <translation>Export vorzeitig beendet. Bilder geschrieben: %1 von %2.</translation>
+    </message>
 </context>
 <context>
     <name>Review::PlaybackPage</name>
@@ -840,6 +963,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::RangeChoice</name>
+    <message>
+        <source>Current view: %1</source>
+        <translation>Aktuelle Ansicht: %1</translation>
+    </message>
+    <message>
+        <source>Search range: %1</source>
+        <translation>Suchbereich: %1</translation>
+    </message>
+    <message>
+        <source>Search range: none is set</source>
+        <translation>Suchbereich: keiner festgelegt</translation>
+    </message>
+</context>
+<context>
     <name>Review::RangePanel</name>
     <message>
         <source>From</source>
@@ -931,6 +1069,18 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Open &amp;files…</source>
         <translation>&amp;Dateien öffnen …</translation>
     </message>
+    <message>
+        <source>&amp;Save picture…</source>
+        <translation>Bild &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>Bild &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Export &amp;recordings…</source>
+        <translation>Auf&amp;nahmen exportieren …</translation>
+    </message>
 </context>
 <context>
     <name>Review::ReviewOpener</name>
@@ -1010,6 +1160,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Where the times of recordings come from: %1; zone: %2</source>
         <translation>Woher die Zeiten der Aufzeichnungen stammen: %1; Zeitzone: %2</translation>
+    </message>
+    <message>
+        <source>There is no picture of this camera at this time.</source>
+        <translation>Zu dieser Zeit gibt es kein Bild dieser Kamera.</translation>
+    </message>
+    <message>
+        <source>The picture is on the clipboard.</source>
+        <translation>Das Bild liegt in der Zwischenablage.</translation>
     </message>
 </context>
 <context>

@@ -12,9 +12,14 @@ struct Camera
 {
     Camera(const CorvelGui::TrackDescription& track, const QList<VideoFile>& shownBy,
            const TimeTexts& written)
-        : name(track.name), history(track), files(shownBy), times(written)
+        : identifier(track.identifier)
+        , name(track.name)
+        , history(track)
+        , files(shownBy)
+        , times(written)
     {}
 
+    QString identifier;
     QString name;
     TrackHistory history;
     QList<VideoFile> files;

@@ -1,15 +1,10 @@
 #include "cameradecoder.h"
 
+#include "data/leavethread.h"
+
 #include <utility>
 
 namespace Review {
-
-namespace {
-
-// Within so many milliseconds decoding ends, unless a share does not answer.
-constexpr unsigned long patience = 20;
-
-} // namespace
 
 CameraDecoder::CameraDecoder(QList<VideoFile> files, qint64 cacheBytes, QObject* parent)
     : QObject(parent)
@@ -28,13 +23,7 @@ CameraDecoder::~CameraDecoder()
 {
     m_source->abort();
     m_thread->quit();
-    if (m_thread->wait(patience)) {
-        delete m_thread;
-        return;
-    }
-    connect(m_thread, &QThread::finished, m_thread, &QObject::deleteLater);
-    if (m_thread->isFinished())
-        m_thread->deleteLater();
+    leaveThread(m_thread);
 }
 
 void CameraDecoder::request(qint64 instant, Clip::Accuracy accuracy)

@@ -1,6 +1,7 @@
 #include "camerapicture.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFontMetrics>
 #include <QPainter>
 
@@ -31,6 +32,15 @@ QString explanation(const VideoFrame& frame, TrackState state)
     return translated(QT_TRANSLATE_NOOP("Review::CameraPicture", "Nothing is known of this time"));
 }
 
+/// Of a size that fits a picture of that height.
+QFont textFont(QFont font, int height)
+{
+    constexpr int smallest = 11;
+    constexpr int largest = 30;
+    font.setPixelSize(std::clamp(height / 26, smallest, largest));
+    return font;
+}
+
 } // namespace
 
 CameraPicture::CameraPicture(const Camera& of, const VideoFrame& frame)
@@ -38,18 +48,18 @@ CameraPicture::CameraPicture(const Camera& of, const VideoFrame& frame)
 {
     const bool hasPicture = frame.state == VideoFrame::State::Picture;
     time = of.times.exactDateTime(hasPicture ? frame.time : frame.asked);
-    if (!hasPicture)
-        message = explanation(frame, of.history.stateAt(frame.asked));
+    if (hasPicture) {
+        instant = frame.time;
+        offset = of.times.zone().offsetFromUtc(QDateTime::fromMSecsSinceEpoch(instant, Qt::UTC));
+        return;
+    }
+    message = explanation(frame, of.history.stateAt(frame.asked));
 }
 
-void CameraPicture::paintTexts(QPainter& painter, const QRect& area) const
+/// In the uppermost lines of @p area. Returns how high a line is.
+int CameraPicture::paintNameAndTime(QPainter& painter, const QRect& area) const
 {
-    constexpr int smallest = 11;
-    constexpr int largest = 30;
-    QFont font = painter.font();
-    font.setPixelSize(std::clamp(area.height() / 26, smallest, largest));
-    painter.setFont(font);
-    const QFontMetrics metrics(font);
+    const QFontMetrics metrics(painter.font());
     const int margin = metrics.height() / 2;
     const QRect line(area.left() + margin, area.top() + margin, area.width() - 2 * margin,
                      metrics.height());
@@ -71,10 +81,18 @@ void CameraPicture::paintTexts(QPainter& painter, const QRect& area) const
     write(isNarrow ? line.translated(0, line.height()) : line,
           (isNarrow ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter | Qt::TextSingleLine,
           time);
+    return line.height();
+}
+
+void CameraPicture::paintTexts(QPainter& painter, const QRect& area) const
+{
+    painter.setFont(textFont(painter.font(), area.height()));
+    const int line = paintNameAndTime(painter, area);
     if (message.isEmpty())
         return;
+    const int margin = line / 2;
     painter.setPen(QColor(190, 194, 198));
-    painter.drawText(area.adjusted(margin, 3 * line.height(), -margin, -margin),
+    painter.drawText(area.adjusted(margin, 3 * line, -margin, -margin),
                      Qt::AlignHCenter | (image.isNull() ? Qt::AlignVCenter : Qt::AlignTop) |
                          Qt::TextWordWrap,
                      message);
@@ -90,6 +108,23 @@ QImage CameraPicture::withTexts() const
     QPainter painter(&picture);
     paintTexts(painter, picture.rect());
     return picture;
+}
+
+QImage CameraPicture::withCaption() const
+{
+    const QFont font = textFont({}, image.height());
+    const QFontMetrics metrics(font);
+    // Both in one line, or in a narrow picture in two.
+    const int width = metrics.horizontalAdvance(camera) + metrics.horizontalAdvance(time) + 2;
+    const bool isNarrow = width + 2 * metrics.height() > image.width();
+    QImage whole(image.width(), image.height() + metrics.height() * (isNarrow ? 3 : 2),
+                 QImage::Format_RGB32);
+    whole.fill(background);
+    QPainter painter(&whole);
+    painter.setFont(font);
+    painter.drawImage(0, 0, image);
+    paintNameAndTime(painter, whole.rect().adjusted(0, image.height(), 0, 0));
+    return whole;
 }
 
 } // namespace Review

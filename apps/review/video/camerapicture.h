@@ -24,12 +24,21 @@ struct CameraPicture
     void paintTexts(QPainter& painter, const QRect& area) const;
     /// The picture with its texts in it.
     QImage withTexts() const;
+    /// The picture as it was recorded, with the name and the time below it.
+    QImage withCaption() const;
 
     QString camera = {};
     QImage image = {};
     QString time = {};
+    /// When it was taken, and how far the clock that is shown was ahead of UTC then; 0 and 0
+    /// without a picture.
+    qint64 instant = 0; ///< milliseconds since the Unix epoch
+    int offset = 0;     ///< seconds
     /// Why there is no picture.
     QString message = {};
+
+private:
+    int paintNameAndTime(QPainter& painter, const QRect& area) const;
 };
 
 } // namespace Review

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "container.h"
 #include "framestore.h"
 
 #include <QImage>
@@ -43,6 +44,8 @@ public:
     /// The last picture that is not later than @p msecs, whatever was asked for before; none
     /// before the first one, once aborted, and where nothing can be decoded.
     std::optional<ClipPicture> pictureAt(qint64 msecs, Accuracy accuracy = Accuracy::Exact);
+    /// The time stamp of the first picture, in the time base of the stream.
+    qint64 zero() const { return m_zero; }
 
     /// What a file says of itself; files say all kinds of things.
     struct Facts
@@ -58,14 +61,10 @@ public:
 private:
     Clip(QString path, qint64 cacheBytes, const std::atomic<bool>& aborted);
 
-    int openContainer();
     bool openFile(QString& fault);
-    qint64 declaredDuration() const;
-    std::optional<qint64> creationTime() const;
     bool restart();
     bool seek(qint64 timestamp);
     DecodedFrame decode();
-    bool readPacket();
     void store(DecodedFrame frame);
     bool decodeUntil(qint64 msecs);
     bool seekBefore(qint64 msecs);
@@ -77,14 +76,12 @@ private:
 
     const QString m_path;
     const std::atomic<bool>& m_aborted;
-    FormatContext m_format;
+    Container m_container;
     CodecContext m_codec;
     Packet m_packet;
-    AVStream* m_stream = nullptr;
     std::unique_ptr<FrameConverter> m_converter;
 
-    qint64 m_zero = 0;       ///< time stamp of the first picture
-    bool m_awaitsKey = true; ///< after a seek, what comes before a key frame cannot be decoded
+    qint64 m_zero = 0;
     bool m_drained = false;
     bool m_counts = false; ///< pictures have no times after a seek: they are counted from the begin
     qint64 m_counted = 0;

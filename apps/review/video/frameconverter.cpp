@@ -1,5 +1,7 @@
 #include "frameconverter.h"
 
+#include "container.h"
+
 #include <QTransform>
 
 #include <cmath>
@@ -12,23 +14,13 @@ namespace {
 
 constexpr int hdLines = 720; // from here on, untagged pictures use the colours of HD television
 
-const qint32* displayMatrix(const AVStream& stream)
-{
-#if LIBAVCODEC_VERSION_MAJOR >= 61
-    const AVPacketSideData* data =
-        av_packet_side_data_get(stream.codecpar->coded_side_data,
-                                stream.codecpar->nb_coded_side_data, AV_PKT_DATA_DISPLAYMATRIX);
-    return data ? reinterpret_cast<const qint32*>(data->data) : nullptr;
-#else
-    return reinterpret_cast<const qint32*>(
-        av_stream_get_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, nullptr));
-#endif
-}
-
 double rotationOf(const AVStream& stream)
 {
-    const qint32* matrix = displayMatrix(stream);
-    const double degrees = matrix ? -av_display_rotation_get(matrix) : 0.0;
+    constexpr qsizetype size = 9 * sizeof(qint32);
+    const QByteArrayView matrix = displayMatrix(stream);
+    if (matrix.size() < size)
+        return 0.0;
+    const double degrees = -av_display_rotation_get(reinterpret_cast<const qint32*>(matrix.data()));
     return std::isnan(degrees) ? 0.0 : degrees;
 }
 

@@ -23,13 +23,23 @@ QString translated(const char* text)
     return QCoreApplication::translate("Review::VideoSource", text);
 }
 
+bool beginsEarlier(const VideoFile& a, const VideoFile& b)
+{
+    return a.begin < b.begin;
+}
+
+bool goesOn(const VideoFile& before, const VideoFile& file)
+{
+    return before.path == file.path && before.end == file.begin &&
+           before.offset - before.begin == file.offset - file.begin;
+}
+
 } // namespace
 
 VideoSource::VideoSource(QList<VideoFile> files, qint64 cacheBytes)
     : m_files(std::move(files)), m_cacheBytes(cacheBytes / qint64(openClips))
 {
-    std::sort(m_files.begin(), m_files.end(),
-              [](const VideoFile& a, const VideoFile& b) { return a.begin < b.begin; });
+    std::sort(m_files.begin(), m_files.end(), beginsEarlier);
 }
 
 VideoSource::~VideoSource() = default;
@@ -44,6 +54,37 @@ const VideoFile* VideoSource::fileAt(qint64 instant) const
         if (--file; instant < file->end)
             return &*file;
     return nullptr;
+}
+
+QList<VideoFile> VideoSource::stretches(QList<VideoFile> files, qint64 begin, qint64 end)
+{
+    files.removeIf([=](const VideoFile& file) { return file.end <= begin || file.begin >= end; });
+    std::sort(files.begin(), files.end(), beginsEarlier);
+    QList<VideoFile> pieces;
+    for (auto file = files.cbegin(); file != files.cend(); ++file) {
+        const auto show = [&](qint64 from, qint64 until) {
+            from = std::max(from, begin);
+            until = std::min(until, end);
+            if (from < until)
+                pieces.append({file->path, from, until, file->offset + from - file->begin});
+        };
+        // What begins later covers it.
+        qint64 from = file->begin;
+        for (auto later = file + 1; later != files.cend() && later->begin < file->end; ++later) {
+            show(from, later->begin);
+            from = std::max(from, later->end);
+        }
+        show(from, file->end);
+    }
+    std::sort(pieces.begin(), pieces.end(), beginsEarlier);
+    QList<VideoFile> joined;
+    for (const VideoFile& piece : std::as_const(pieces)) {
+        if (!joined.isEmpty() && goesOn(joined.last(), piece))
+            joined.last().end = piece.end;
+        else
+            joined.append(piece);
+    }
+    return joined;
 }
 
 Clip* VideoSource::clipOf(const VideoFile& file, QString& fault)

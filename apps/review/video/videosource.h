@@ -42,6 +42,9 @@ public:
     /// The last picture that is not later than @p instant.
     VideoFrame frameAt(qint64 instant, Clip::Accuracy accuracy = Clip::Accuracy::Exact);
 
+    /// What @p files show of a range, in the order of time and without overlaps.
+    static QList<VideoFile> stretches(QList<VideoFile> files, qint64 begin, qint64 end);
+
     /// Lets the work in progress, and all later work, end soon without a picture.
     void abort() { m_aborted = true; }
 

@@ -22,7 +22,10 @@ public:
 
     QAction* open() const { return m_open; }
     QAction* openFiles() const { return m_openFiles; }
-    QAction* exportPictures() const { return m_export; }
+    QAction* exportClips() const { return m_exportClips; }
+    QAction* exportPictures() const { return m_exportPictures; }
+    QAction* savePicture() const { return m_savePicture; }
+    QAction* copyPicture() const { return m_copyPicture; }
     QAction* quit() const { return m_quit; }
     /// For what belongs to the whole program; hidden as long as it is empty.
     QMenu* tools() const { return m_tools; }
@@ -34,7 +37,10 @@ private:
     QMenu* m_file;
     QAction* m_open;
     QAction* m_openFiles;
-    QAction* m_export;
+    QAction* m_exportClips;
+    QAction* m_exportPictures;
+    QAction* m_savePicture;
+    QAction* m_copyPicture;
     QAction* m_quit;
     QMenu* m_devices;
     QMenu* m_view;

@@ -20,10 +20,13 @@
 #include "timeline/timelinepane.h"
 #include "timeline/timelinetoolbar.h"
 #include "updatemenu.h"
+#include "video/camerapicture.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QMimeData>
 #include <QSettings>
@@ -173,6 +176,9 @@ void ReviewWindow::connectParts()
     connect(m_opener, &ReviewOpener::loadingChanged, m_menus->openFiles(), &QAction::setDisabled);
     connect(m_opener, &ReviewOpener::ended, this, &ReviewWindow::showLoaded);
     connect(m_menus->exportPictures(), &QAction::triggered, this, &ReviewWindow::exportPictures);
+    connect(m_menus->exportClips(), &QAction::triggered, this, &ReviewWindow::exportClips);
+    connect(m_menus->savePicture(), &QAction::triggered, this, &ReviewWindow::savePicture);
+    connect(m_menus->copyPicture(), &QAction::triggered, this, &ReviewWindow::copyPicture);
     connect(&m_panes->events(), &EventPane::exportWanted, m_status->exportPanel(),
             &ExportPanel::askForEvents);
     connect(m_status->exportPanel(), &ExportPanel::exportingChanged, this,
@@ -217,6 +223,40 @@ void ReviewWindow::exportPictures()
         m_status->exportPanel()->askForPictures(*camera, timeline->view(), timeline->searchRange());
 }
 
+void ReviewWindow::exportClips()
+{
+    const TimelinePane* timeline = m_panes->timeline();
+    const QList<Camera> cameras = m_panes->playback().cameras();
+    if (!cameras.isEmpty())
+        m_status->exportPanel()->askForClips(cameras, m_selection.camera(),
+                                             m_panes->events().events().events(), timeline->view(),
+                                             timeline->searchRange());
+}
+
+const CameraPicture* ReviewWindow::shownPicture()
+{
+    const CameraPicture* picture = m_panes->playback().picture();
+    if (picture && !picture->image.isNull())
+        return picture;
+    m_status->tell(tr("There is no picture of this camera at this time."));
+    return nullptr;
+}
+
+void ReviewWindow::savePicture()
+{
+    if (const CameraPicture* picture = shownPicture())
+        m_status->exportPanel()->askForPicture(*picture);
+}
+
+void ReviewWindow::copyPicture()
+{
+    const CameraPicture* picture = shownPicture();
+    if (!picture)
+        return;
+    QGuiApplication::clipboard()->setImage(picture->withCaption());
+    m_status->tell(tr("The picture is on the clipboard."));
+}
+
 void ReviewWindow::closeEvent(QCloseEvent* event)
 {
     if (m_status->exportPanel()->mayQuit())
@@ -227,9 +267,13 @@ void ReviewWindow::closeEvent(QCloseEvent* event)
 
 void ReviewWindow::enableExport()
 {
-    m_menus->exportPictures()->setEnabled(m_panes->playback().camera() &&
-                                          !m_panes->timeline()->view().isEmpty() &&
-                                          !m_status->exportPanel()->isExporting());
+    const bool hasCamera = m_panes->playback().camera();
+    const bool canExport = hasCamera && !m_panes->timeline()->view().isEmpty() &&
+                           !m_status->exportPanel()->isExporting();
+    m_menus->exportPictures()->setEnabled(canExport);
+    m_menus->exportClips()->setEnabled(canExport);
+    m_menus->savePicture()->setEnabled(hasCamera);
+    m_menus->copyPicture()->setEnabled(hasCamera);
 }
 
 void ReviewWindow::applySettings(const ReviewSettings& settings)

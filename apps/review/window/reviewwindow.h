@@ -13,6 +13,7 @@ class QMenu;
 
 namespace Review {
 
+struct CameraPicture;
 class LoadJob;
 class ProblemDock;
 class ReviewMenuBar;
@@ -71,7 +72,7 @@ Q_SIGNALS:
 
 protected:
     void retranslate() final;
-    /// Asks first while pictures are exported.
+    /// Asks first while something is exported.
     void closeEvent(QCloseEvent* event) override;
     /// Takes files and folders of this machine.
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -84,6 +85,11 @@ private:
     void tellTimeSources(const LoadJob& job);
     void showTitle();
     void exportPictures();
+    void exportClips();
+    /// Null, and the user is told, where none is shown.
+    const CameraPicture* shownPicture();
+    void savePicture();
+    void copyPicture();
     void enableExport();
 
     Clock m_clock;

@@ -1,0 +1,124 @@
+#include "clipfolder.h"
+
+#include "data/filewriter.h"
+#include "data/jobprogress.h"
+#include "filenames.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUuid>
+
+using namespace Qt::StringLiterals;
+
+namespace Review {
+
+namespace {
+
+/// In hexadecimal digits; empty where the file cannot be read, with the reason in @p error.
+QByteArray sumOf(const QString& path, const JobProgress& progress, QString& error)
+{
+    constexpr qint64 block = 1 << 20;
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    bool isRead = file.open(QIODevice::ReadOnly);
+    while (isRead && !file.atEnd() && !progress.isCancelled()) {
+        hash.addData(file.read(block));
+        isRead = file.error() == QFileDevice::NoError;
+    }
+    if (!isRead)
+        error = file.errorString();
+    return isRead ? hash.result().toHex() : QByteArray();
+}
+
+} // namespace
+
+ClipFolder::ClipFolder(const QString& parent, qint64 begin, const QTimeZone& zone)
+    : m_parent(parent)
+    , m_name(u"recordings_"_s + FileNames::timePart(begin, zone))
+    , m_zone(zone)
+    , m_recordings({"camera", "begin", "end", "file", "offset"}, CsvWriter::userSeparator())
+{}
+
+ClipFolder::~ClipFolder()
+{
+    if (!m_isWhole && !m_path.isEmpty())
+        QDir(m_path).removeRecursively();
+}
+
+QString ClipFolder::create()
+{
+    const QString path =
+        QDir(m_parent).filePath(u".export-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces));
+    if (!QDir().mkdir(path))
+        return QCoreApplication::translate("Review::ClipFolder", "No folder can be made in %1.")
+            .arg(QDir::toNativeSeparators(m_parent));
+    m_path = path;
+    return {};
+}
+
+QString ClipFolder::newFile(const QString& camera, qint64 begin, const QString& ending)
+{
+    const QString first = FileNames::cameraPart(camera) + u'_' + FileNames::timePart(begin, m_zone);
+    QString name = first + u'.' + ending;
+    for (int number = 2; m_taken.contains(name.toLower()); ++number)
+        name = u"%1_%2.%3"_s.arg(first, QString::number(number), ending);
+    m_taken.insert(name.toLower());
+    return QDir(m_path).filePath(name);
+}
+
+void ClipFolder::list(const QString& camera, const VideoFile& file)
+{
+    const QString name = QFileInfo(file.path).fileName();
+    if (m_listed.isEmpty() || m_listed.last() != name)
+        m_listed.append(name);
+    m_recordings.add({camera.toUtf8(), CsvWriter::timeText(file.begin, m_zone),
+                      CsvWriter::timeText(file.end, m_zone), name.toUtf8(),
+                      QByteArray::number(double(file.offset) / 1'000, 'f', 3)});
+}
+
+QString ClipFolder::finish(const QByteArray& events, const JobProgress& progress)
+{
+    const QDir folder(m_path);
+    const QStringList lists{u"recordings.csv"_s, u"events.csv"_s};
+    QString error = writeFile(m_recordings.text(), folder.filePath(lists[0]));
+    if (error.isEmpty())
+        error = writeFile(events, folder.filePath(lists[1]));
+    m_listed += lists;
+    if (error.isEmpty())
+        error = addSums(progress);
+    return error.isEmpty() && !progress.isCancelled() ? publish() : error;
+}
+
+QString ClipFolder::addSums(const JobProgress& progress)
+{
+    const QDir folder(m_path);
+    QByteArray sums;
+    for (const QString& name : std::as_const(m_listed)) {
+        QString error;
+        const QByteArray sum = sumOf(folder.filePath(name), progress, error);
+        if (!error.isEmpty() || progress.isCancelled())
+            return error;
+        sums += sum + "  " + name.toUtf8() + '\n';
+    }
+    return writeFile(sums, folder.filePath(u"SHA256SUMS"_s));
+}
+
+QString ClipFolder::publish()
+{
+    const QDir parent(m_parent);
+    QString name = m_name;
+    for (int number = 2; parent.exists(name); ++number)
+        name = m_name + u'_' + QString::number(number);
+    const QString path = parent.filePath(name);
+    if (!QDir().rename(m_path, path))
+        return QCoreApplication::translate("Review::ClipFolder", "%1 cannot be made.")
+            .arg(QDir::toNativeSeparators(path));
+    m_path = path;
+    m_isWhole = true;
+    return {};
+}
+
+} // namespace Review
