@@ -51,17 +51,11 @@ QPainterPath IconGrid::block(const QRectF& area) const
     return path;
 }
 
-QPainterPath IconGrid::box(const QRectF& area, qreal radius) const
+QPainterPath IconGrid::box(const QRectF& area) const
 {
-    const QRectF outer = snapped(area);
-    const QRectF inner = outer.adjusted(m_stroke, m_stroke, -m_stroke, -m_stroke);
-    const qreal outerRadius = radius * m_unit;
-    const qreal innerRadius = qMax(0.0, outerRadius - m_stroke);
-    QPainterPath path = windingPath();
-    path.addRoundedRect(outer, outerRadius, outerRadius);
     QPainterPath hole;
-    hole.addRoundedRect(inner, innerRadius, innerRadius);
-    return withHole(path, hole);
+    hole.addRect(snapped(area).adjusted(m_stroke, m_stroke, -m_stroke, -m_stroke));
+    return withHole(block(area), hole);
 }
 
 QPainterPath IconGrid::hBar(QPointF from, qreal length) const

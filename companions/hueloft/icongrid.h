@@ -29,7 +29,7 @@ public:
     /// A filled rectangle.
     QPainterPath block(const QRectF& area) const;
     /// The frame of a rectangle; its outer edge is the border of @p area.
-    QPainterPath box(const QRectF& area, qreal radius = 0) const;
+    QPainterPath box(const QRectF& area) const;
     /// A horizontal bar of stroke width that begins at @p from and is centred on its line.
     QPainterPath hBar(QPointF from, qreal length) const;
     /// A filled polygon, its corners on pixel corners.
