@@ -4,12 +4,7 @@
 #include <Corvel/SubNetMask>
 #include <Corvel/UrlChecker>
 
-#include <QTest>
-
-#include <utility>
-
 using namespace Corvel;
-using namespace Qt::StringLiterals;
 
 class TestAddresses : public WarningFreeTest
 {
@@ -18,11 +13,7 @@ class TestAddresses : public WarningFreeTest
 private Q_SLOTS:
     void accepts()
     {
-        const struct
-        {
-            QString url, host;
-            int port;
-        } rows[] = {
+        const std::tuple<QString, QString, int> rows[] = {
             {u"http://example.com"_s, u"example.com"_s, 80},
             {u"https://example.com/a:b/?c=d@e#f"_s, u"example.com"_s, 443},
             {u"ftp://example.com?/"_s, u"example.com"_s, 21},
@@ -45,16 +36,16 @@ private Q_SLOTS:
             {u"http://пример。рф"_s, u"пример.рф"_s, 80},
             {u"１.2.3.4"_s, u"1.2.3.4"_s, 80},
         };
-        for (const auto& row : rows) {
+        for (const auto& [url, itsHost, itsPort] : rows) {
             QString host;
             int port = 0;
-            QVERIFY2(UrlChecker::IsUrlValid(row.url, host, port), qPrintable(row.url));
-            QCOMPARE(host, row.host);
-            QCOMPARE(port, row.port);
+            QVERIFY2(UrlChecker::IsUrlValid(url, host, port), qPrintable(url));
+            QCOMPARE(host, itsHost);
+            QCOMPARE(port, itsPort);
             // A text that is its own result.
-            QString both = row.url;
+            QString both = url;
             QVERIFY(UrlChecker::IsUrlValid(both, both, port));
-            QCOMPARE(both, row.host);
+            QCOMPARE(both, itsHost);
         }
     }
 

@@ -7,13 +7,9 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QPointer>
-#include <QSignalSpy>
-#include <QTest>
 
 using Corvel::CheckAppUpdate;
 using LocalHttp::Misbehaviour;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -155,11 +151,9 @@ private Q_SLOTS:
         server.script("/update", QJsonDocument(offer).toJson());
         for (const QString& base : {server.base(), u"not an address"_s}) {
             QPointer<CheckAppUpdate> check = new CheckAppUpdate(base);
-            const auto destroy = [&check] {
-                delete check;
-            };
-            connect(check, &CheckAppUpdate::appUpdateInfoResult, this, destroy);
-            connect(check, &CheckAppUpdate::appUpdateInfoError, this, destroy);
+            connect(check, &CheckAppUpdate::appUpdateInfoResult, this, [&] { delete check; });
+            connect(check, &CheckAppUpdate::appUpdateInfoError, this, [&] { delete check; });
+
             check->checkForUpdates(u"key"_s, current);
             QVERIFY(check);
             QTRY_VERIFY(!check);

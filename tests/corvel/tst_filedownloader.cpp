@@ -1,20 +1,12 @@
 #include "scriptedserver.h"
-#include "testfiles.h"
 #include "testsupport.h"
 
 #include <Corvel/FileDownloader>
 #include <Corvel/ProxyUserSettings>
 
-#include <QDir>
-#include <QPointer>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
 using Corvel::FileDownloader;
 using LocalHttp::Answer;
 using LocalHttp::Misbehaviour;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {

@@ -3,10 +3,7 @@
 
 #include <Corvel/TimeZoneHelper>
 
-#include <QTest>
-
 using Corvel::TimeZoneHelper;
-using namespace Qt::StringLiterals;
 
 class TestTimeZoneHelper : public WarningFreeTest
 {

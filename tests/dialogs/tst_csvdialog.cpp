@@ -1,24 +1,9 @@
-#include "testfiles.h"
 #include "testsupport.h"
-#include "whenshown.h"
 
 #include <CorvelGui/PCsvDialog>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTableWidget>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTreeWidget>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -51,7 +36,7 @@ Part* part(const PCsvDialog& dialog, const QString& name)
 
 QPushButton* ok(const PCsvDialog& dialog)
 {
-    return part<QDialogButtonBox>(dialog, u"buttonBox"_s)->button(QDialogButtonBox::Ok);
+    return buttonOf(dialog, QDialogButtonBox::Ok);
 }
 
 QLineEdit* field(const PCsvDialog& dialog)
@@ -108,33 +93,27 @@ private Q_SLOTS:
             (*item)->setSelected(true);
 
         const QString all = u"'A';'B';'C'\n'a1';'b\"1';'ä;1'\n'a2';'';'c\n2'\n'a3';'b3';'c3'\n"_s;
-        const struct
-        {
-            int delimiter;
-            int quote;
-            bool header;
-            QList<int> unchecked;
-            QString text;
-        } rows[] = {{0, 1, true, {}, QString(all).replace(u"';'"_s, u"'\t'"_s)},
-                    {1, 1, true, {}, all},
-                    {2, 1, true, {}, QString(all).replace(u"';'"_s, u"','"_s)},
-                    {1, 0, true, {}, QString(all).replace(u'\'', u'"')},
-                    {1, 1, false, {}, all.section(u'\n', 1)},
-                    // Delimiters are missing where an unwritten column stands before written ones.
-                    {1, 1, true, {2}, u"'A';'B'\n'a1';'b\"1'\n'a2';''\n'a3';'b3'\n"_s},
-                    {1, 1, true, {0}, u"'B''C'\n'b\"1''ä;1'\n'''c\n2'\n'b3''c3'\n"_s},
-                    {1, 1, false, {1}, u"'a1';'ä;1'\n'a2';'c\n2'\n'a3';'c3'\n"_s},
-                    {1, 1, true, {0, 1, 2}, u"\n"_s}};
-        for (const auto& row : rows) {
+        const std::tuple<int, int, bool, QList<int>, QString> rows[] = {
+            {0, 1, true, {}, QString(all).replace(u"';'"_s, u"'\t'"_s)},
+            {1, 1, true, {}, all},
+            {2, 1, true, {}, QString(all).replace(u"';'"_s, u"','"_s)},
+            {1, 0, true, {}, QString(all).replace(u'\'', u'"')},
+            {1, 1, false, {}, all.section(u'\n', 1)},
+            // Delimiters are missing where an unwritten column stands before written ones.
+            {1, 1, true, {2}, u"'A';'B'\n'a1';'b\"1'\n'a2';''\n'a3';'b3'\n"_s},
+            {1, 1, true, {0}, u"'B''C'\n'b\"1''ä;1'\n'''c\n2'\n'b3''c3'\n"_s},
+            {1, 1, false, {1}, u"'a1';'ä;1'\n'a2';'c\n2'\n'a3';'c3'\n"_s},
+            {1, 1, true, {0, 1, 2}, u"\n"_s}};
+        for (const auto& [delimiter, quote, header, unchecked, text] : rows) {
             PCsvDialog dialog(&tree);
-            part<QComboBox>(dialog, u"comboBoxDelimiter"_s)->setCurrentIndex(row.delimiter);
-            part<QComboBox>(dialog, u"comboBoxTextQuote"_s)->setCurrentIndex(row.quote);
-            part<QCheckBox>(dialog, u"checkBoxAddColumns"_s)->setChecked(row.header);
-            for (const int column : row.unchecked)
+            part<QComboBox>(dialog, u"comboBoxDelimiter"_s)->setCurrentIndex(delimiter);
+            part<QComboBox>(dialog, u"comboBoxTextQuote"_s)->setCurrentIndex(quote);
+            part<QCheckBox>(dialog, u"checkBoxAddColumns"_s)->setChecked(header);
+            for (const int column : unchecked)
                 part<QListWidget>(dialog, u"listWidgetColumns"_s)
                     ->item(column)
                     ->setCheckState(Qt::Unchecked);
-            QCOMPARE(exported(dialog), row.text);
+            QCOMPARE(exported(dialog), text);
         }
     }
 

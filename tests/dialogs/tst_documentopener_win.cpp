@@ -1,15 +1,6 @@
 #include "dialogs/documentopener.h"
 #include "testsupport.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-
 /// The shell starts this program, as the handler of an ending of the test's own: it then writes the
 /// name of the file that it was given into the file "opened" beside it.
 class TestDocumentOpener : public WarningFreeTest

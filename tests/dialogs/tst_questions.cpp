@@ -1,30 +1,10 @@
 #include "testsupport.h"
-#include "whenshown.h"
 
 #include <CorvelGui/PAskRefreshDialog>
 #include <CorvelGui/PIpRangeDialog>
 #include <CorvelGui/PPasswordInputDialog>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
-
-namespace {
-
-QPushButton* buttonOf(const QDialog& dialog, QDialogButtonBox::StandardButton button)
-{
-    return dialog.findChild<QDialogButtonBox*>()->button(button);
-}
-
-} // namespace
 
 class TestQuestions : public WarningFreeTest
 {

@@ -7,15 +7,11 @@
 #include <CorvelGui/ToolBarWithLabel>
 #include <Hueloft/POrvGuiTheme>
 
-#include <QApplication>
-#include <QLabel>
 #include <QScreen>
 #include <QStyle>
-#include <QTest>
 
 using namespace CorvelGui;
 using Hueloft::POrvGuiTheme;
-using namespace Qt::StringLiterals;
 
 namespace {
 

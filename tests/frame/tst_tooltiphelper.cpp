@@ -2,13 +2,9 @@
 
 #include <CorvelGui/ToolTipHelper>
 
-#include <QDateTime>
 #include <QLocale>
-#include <QTest>
-#include <QVariant>
 
 using Tip = CorvelGui::ToolTipHelper;
-using namespace Qt::StringLiterals;
 
 namespace {
 

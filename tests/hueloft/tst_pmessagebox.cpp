@@ -1,17 +1,10 @@
 #include "testsupport.h"
-#include "whenshown.h"
 
 #include <Hueloft/PMessageBox>
 
-#include <QApplication>
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
 #include <QScreen>
-#include <QTest>
 
 using Hueloft::PMessageBox;
-using namespace Qt::StringLiterals;
 
 class TestPMessageBox : public WarningFreeTest
 {
@@ -24,10 +17,13 @@ private Q_SLOTS:
         const QString text = u"First line\nSecond line"_s;
         const QString more = u"More"_s;
         const QString all = u"Everything"_s;
-        const QMessageBox::StandardButtons retry = QMessageBox::Retry | QMessageBox::Cancel;
+        using enum QMessageBox::StandardButton;
         QWidget parent;
-        const auto expect = [&](QMessageBox::Icon kind, QMessageBox::StandardButtons buttons,
-                                QMessageBox::StandardButton byDefault) {
+        for (const auto& [kind, show, buttons, byDefault] :
+             {std::tuple(QMessageBox::Critical, &PMessageBox::Critical, Retry | Cancel, Cancel),
+              {QMessageBox::Warning, &PMessageBox::Warning, Retry | Cancel, Retry},
+              {QMessageBox::Information, &PMessageBox::Information, Ok | Ok, Ok},
+              {QMessageBox::Question, nullptr, Yes | No, No}}) {
             whenShown<QMessageBox>(this, [=, &parent](QMessageBox& box) {
                 QCOMPARE(box.icon(), kind);
                 QCOMPARE(box.standardButtons(), buttons);
@@ -36,22 +32,13 @@ private Q_SLOTS:
                 const QStringList texts{box.windowTitle(), box.text(), box.informativeText(),
                                         box.detailedText()};
                 QCOMPARE(texts, QStringList({title, text, more, all}));
-                QCOMPARE(box.defaultButton(), qobject_cast<QPushButton*>(box.button(byDefault)));
+                QCOMPARE(box.defaultButton(), box.button(byDefault));
                 box.defaultButton()->click();
             });
-        };
-        expect(QMessageBox::Critical, retry, QMessageBox::Cancel);
-        QCOMPARE(PMessageBox::Critical(&parent, title, text, retry, QMessageBox::Cancel, more, all),
-                 int(QMessageBox::Cancel));
-        expect(QMessageBox::Warning, retry, QMessageBox::Retry);
-        QCOMPARE(PMessageBox::Warning(&parent, title, text, retry, QMessageBox::Retry, more, all),
-                 int(QMessageBox::Retry));
-        const auto ok = QMessageBox::Ok;
-        expect(QMessageBox::Information, ok, ok);
-        QCOMPARE(PMessageBox::Information(&parent, title, text, ok, ok, more, all), int(ok));
-        expect(QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-        QCOMPARE(PMessageBox::Question(&parent, title, text, QMessageBox::No, more, all),
-                 int(QMessageBox::No));
+            QCOMPARE(show ? show(&parent, title, text, buttons, byDefault, more, all)
+                          : PMessageBox::Question(&parent, title, text, byDefault, more, all),
+                     int(byDefault));
+        }
         QVERIFY2(parent.children().isEmpty(), "the boxes are deleted");
     }
 

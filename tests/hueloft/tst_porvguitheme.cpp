@@ -3,20 +3,10 @@
 
 #include <Hueloft/POrvGuiTheme>
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QSpinBox>
 #include <QStyleFactory>
-#include <QTest>
 
 using Hueloft::POrvGuiTheme;
-using namespace Qt::StringLiterals;
 
 namespace {
 

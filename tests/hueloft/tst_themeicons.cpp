@@ -8,16 +8,9 @@
 #include <Hueloft/PTarvoPlayerIconHelper>
 
 #include <QBitmap>
-#include <QPainter>
-#include <QRegion>
 #include <QSet>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <algorithm>
 
 using namespace Hueloft;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,13 +1,8 @@
-#include "pointer.h"
 #include "testsupport.h"
 
 #include <CorvelGui/ZoomGraphicsView>
 
 #include <QGraphicsRectItem>
-#include <QPointer>
-#include <QRandomGenerator>
-#include <QSignalSpy>
-#include <QTest>
 
 using namespace CorvelGui;
 
@@ -216,16 +211,19 @@ private Q_SLOTS:
 
     void deletionWithinTheSignal()
     {
-        for (int way = 0; way < 3; ++way) {
+        for (const auto& act : std::initializer_list<std::function<void(View&)>>{
+                 [](View& v) {
+                     v.wheel({100, 100}, 120);
+                 },
+                 [](View& v) {
+                     v.press({100, 100}), v.move({150, 150});
+                 },
+                 [](View& v) {
+                     QTest::keyClick(v.view, Qt::Key_Minus);
+                 }}) {
             View v;
-            v.press({100, 100});
             connect(v.view, &ZoomGraphicsView::viewPortChanged, this, [&] { delete v.view; });
-            if (way == 0)
-                v.wheel({100, 100}, 120);
-            else if (way == 1)
-                v.move({150, 150});
-            else
-                QTest::keyClick(v.view, Qt::Key_Minus);
+            act(v);
             QVERIFY(!v.view);
         }
     }

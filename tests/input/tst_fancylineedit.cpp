@@ -4,16 +4,10 @@
 #include <CorvelGui/FancyLineEdit>
 #include <CorvelGui/IconButton>
 
-#include <QAccessible>
 #include <QMenu>
 #include <QPropertyAnimation>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -38,18 +32,13 @@ class TestFancyLineEdit : public WarningFreeTest
 private Q_SLOTS:
     void icons()
     {
-        const struct
-        {
-            QSize pixmap;
-            Qt::LayoutDirection direction;
-            QMargins margins;
-            QRect button;
-        } cases[] = {{{16, 16}, Qt::LeftToRight, {0, 0, 28, 0}, {176, 0, 20, 20}},
-                     {{32, 16}, Qt::LeftToRight, {0, 0, 48, 0}, {156, 0, 40, 20}},
-                     {{32, 16}, Qt::RightToLeft, {48, 0, 0, 0}, {4, 0, 40, 20}},
-                     {{20, 16}, Qt::LeftToRight, {0, 0, 28, 0}, {176, 0, 20, 20}},
-                     {{8, 16}, Qt::LeftToRight, {0, 0, 8, 0}, {196, 0, 0, 20}},
-                     {{0, 0}, Qt::LeftToRight, {0, 0, 28, 0}, {176, 0, 20, 20}}};
+        const std::tuple<QSize, Qt::LayoutDirection, QMargins, QRect> cases[] = {
+            {{16, 16}, Qt::LeftToRight, {0, 0, 28, 0}, {176, 0, 20, 20}},
+            {{32, 16}, Qt::LeftToRight, {0, 0, 48, 0}, {156, 0, 40, 20}},
+            {{32, 16}, Qt::RightToLeft, {48, 0, 0, 0}, {4, 0, 40, 20}},
+            {{20, 16}, Qt::LeftToRight, {0, 0, 28, 0}, {176, 0, 20, 20}},
+            {{8, 16}, Qt::LeftToRight, {0, 0, 8, 0}, {196, 0, 0, 20}},
+            {{0, 0}, Qt::LeftToRight, {0, 0, 28, 0}, {176, 0, 20, 20}}};
         for (const auto& [pixmap, direction, margins, place] : cases) {
             // As in a dialog: all is set before the layout decides the size.
             FancyLineEdit edit;

@@ -4,14 +4,7 @@
 
 #include <CorvelGui/FileNameValidatingLineEdit>
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <algorithm>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,10 +28,7 @@ private Q_SLOTS:
     void parts()
     {
         const QString none = u"(none)"_s;
-        const struct
-        {
-            QString path, withLetters, without;
-        } rows[] = {
+        const std::tuple<QString, QString, QString> rows[] = {
             {uR"(D:\data\report.csv)"_s, uR"(data\report.csv)"_s, uR"(data\report.csv)"_s},
             {uR"(D:\a,b:\c)"_s, u"a,b"_s, u"a,b"_s},
             {uR"(:\a)"_s, u"a"_s, u"a"_s},
@@ -54,21 +44,16 @@ private Q_SLOTS:
             {uR"(/data/a,b:\c)"_s, u"c"_s, u"data/a,b"_s},
             {u"/"_s, u"/"_s, u""_s},
         };
-        for (const auto& row : rows) {
-            QCOMPARE(checkedNamePart(row.path, true).value_or(none), row.withLetters);
-            QCOMPARE(checkedNamePart(row.path, false).value_or(none), row.without);
+        for (const auto& [path, withLetters, without] : rows) {
+            QCOMPARE(checkedNamePart(path, true).value_or(none), withLetters);
+            QCOMPARE(checkedNamePart(path, false).value_or(none), without);
         }
     }
 
     void names()
     {
         const QString share = uR"(\\nowhere.invalid\share\a.csv)"_s;
-        const struct
-        {
-            QString path;
-            bool valid;
-            QString error;
-        } rows[] = {
+        const std::tuple<QString, bool, QString> rows[] = {
             {m_native + u"übersicht-2024_01.csv"_s, true, untouched},
             {m_native + u"CON.csv"_s, true, untouched},
             {m_native + u"COM3"_s, true, untouched},
@@ -85,12 +70,12 @@ private Q_SLOTS:
             {share, !hasDriveLetters(), untouched},
             {uR"(Q:\data\a.csv)"_s, !hasDriveLetters(), untouched},
         };
-        for (const auto& row : rows) {
+        for (const auto& [path, valid, error] : rows) {
             FileNameValidatingLineEdit field;
-            field.setText(row.path);
+            field.setText(path);
             field.setValidationActive(true); // the empty text is no change
-            QVERIFY2(field.isValid() == row.valid, qPrintable(row.path));
-            QCOMPARE(field.getErrorAsStrin(), row.error);
+            QVERIFY2(field.isValid() == valid, qPrintable(path));
+            QCOMPARE(field.getErrorAsStrin(), error);
         }
         QCOMPARE(hasDriveLetters(), m_native.at(1) == u':');
     }

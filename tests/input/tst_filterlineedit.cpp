@@ -6,14 +6,9 @@
 
 #include <QDialog>
 #include <QPropertyAnimation>
-#include <QPushButton>
 #include <QShortcut>
-#include <QSignalSpy>
-#include <QTest>
-#include <QVBoxLayout>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 class TestFilterLineEdit : public WarningFreeTest
 {

@@ -4,12 +4,9 @@
 #include <CorvelGui/NetworkInterfaceComboBox>
 #include <CorvelGui/SubNetMaskComboBox>
 
-#include <QSignalSpy>
 #include <QStyleOptionComboBox>
-#include <QTest>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 

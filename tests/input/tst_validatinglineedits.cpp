@@ -12,20 +12,7 @@
 #include <CorvelGui/UrlLineEdit>
 #include <Hueloft/POrvGuiTheme>
 
-#include <QApplication>
-#include <QClipboard>
-#include <QDir>
-#include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <algorithm>
-#include <memory>
-#include <utility>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -132,22 +119,19 @@ private Q_SLOTS:
         const QString missing = m_dir.filePath(u"missing"_s);
         const QString null(QChar::Null);
         const QString longText(aMegabyte, u'a');
-        const struct
-        {
-            Create create;
-            QString accepted, refused;
-        } rows[] = {{create<IpLineEdit>, u"|abc|192.168.1.1|1.2.3.4.|256.1.1.1|::g|"_s + longText,
-                     u"192.168.001.1|192.168.1|1| 1.2.3.4|::1|::ffff:1.2.3.4"_s},
-                    {create<CheckDirLineEdit>, folder + u'|' + folder + u"/|."_s,
-                     u'|' + m_file + u'|' + missing + u'|' + folder + null + u'|' + longText},
-                    {create<CheckFileNameLineEdit>, m_file + u"|a file.txt|"_s + folder,
-                     u'|' + missing + u'|' + m_file + null + u'|' + longText},
-                    {create<CountryCodeLineEdit>, u"DE|ZZ"_s,
-                     u"|de|D|DEU|D1|ÄÖ|DE |DE\n|\nDE|D"_s + null + u'|' + longText.toUpper()},
-                    {createWithLength, u"abc|äöüßé|   "_s, u"|ab|abcdef|"_s + longText},
-                    {create<NotEmptyLineEdit>, u" |"_s + null + u'|' + longText, u""_s},
-                    {create<UrlLineEdit>, u"rtsp://camera:8554/a|camera"_s,
-                     u"|mailto:a@b|a b|"_s + longText}};
+        const std::tuple<Create, QString, QString> rows[] = {
+            {create<IpLineEdit>, u"|abc|192.168.1.1|1.2.3.4.|256.1.1.1|::g|"_s + longText,
+             u"192.168.001.1|192.168.1|1| 1.2.3.4|::1|::ffff:1.2.3.4"_s},
+            {create<CheckDirLineEdit>, folder + u'|' + folder + u"/|."_s,
+             u'|' + m_file + u'|' + missing + u'|' + folder + null + u'|' + longText},
+            {create<CheckFileNameLineEdit>, m_file + u"|a file.txt|"_s + folder,
+             u'|' + missing + u'|' + m_file + null + u'|' + longText},
+            {create<CountryCodeLineEdit>, u"DE|ZZ"_s,
+             u"|de|D|DEU|D1|ÄÖ|DE |DE\n|\nDE|D"_s + null + u'|' + longText.toUpper()},
+            {createWithLength, u"abc|äöüßé|   "_s, u"|ab|abcdef|"_s + longText},
+            {create<NotEmptyLineEdit>, u" |"_s + null + u'|' + longText, u""_s},
+            {create<UrlLineEdit>, u"rtsp://camera:8554/a|camera"_s,
+             u"|mailto:a@b|a b|"_s + longText}};
         for (const auto& [create, accepted, refused] : rows) {
             const std::unique_ptr<ValidateBaseLineEdit> field(create());
             field->setMaxLength(2 * aMegabyte);

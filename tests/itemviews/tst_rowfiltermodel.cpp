@@ -3,16 +3,8 @@
 #include <CorvelGui/PRowFilterModel>
 
 #include <QAbstractItemModelTester>
-#include <QRandomGenerator>
-#include <QSignalSpy>
 #include <QStandardItemModel>
-#include <QTest>
 
-#include <algorithm>
-#include <memory>
-#include <optional>
-
-using namespace Qt::StringLiterals;
 using CorvelGui::PRowFilterModel;
 
 namespace {
@@ -102,93 +94,91 @@ class TestRowFilterModel : public WarningFreeTest
 private Q_SLOTS:
     // The order of texts is that of a language.
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English)); }
-    void showsWhatASimpleModelDoes();
-    void worksInSlices();
-    void indexesFollowTheirRows();
-};
 
-void TestRowFilterModel::showsWhatASimpleModelDoes()
-{
-    for (quint32 seed = 0; seed < 12; ++seed) {
-        Play play(seed);
-        // It looks at all rows after every change, which takes long.
-        std::optional<QAbstractItemModelTester> tester;
-        if (seed == 0)
-            tester.emplace(&play.filtered, QAbstractItemModelTester::FailureReportingMode::Fatal);
-        for (int change = 0; change < 60; ++change) {
-            play.change();
-            if (play.below(2))
-                QCoreApplication::processEvents();
-            if (play.below(3))
-                continue;
-            play.filtered.finish();
-            QVERIFY(!play.filtered.isBusy());
-            QCOMPARE(texts(play.filtered), play.expected());
-            QCOMPARE(play.filtered.hasChildren(), !play.expected().isEmpty());
+    void showsWhatASimpleModelDoes()
+    {
+        for (quint32 seed = 0; seed < 12; ++seed) {
+            Play play(seed);
+            // It looks at all rows after every change, which takes long.
+            std::optional<QAbstractItemModelTester> tester;
+            if (seed == 0)
+                tester.emplace(&play.filtered,
+                               QAbstractItemModelTester::FailureReportingMode::Fatal);
+            for (int change = 0; change < 60; ++change) {
+                play.change();
+                if (play.below(2))
+                    QCoreApplication::processEvents();
+                if (play.below(3))
+                    continue;
+                play.filtered.finish();
+                QVERIFY(!play.filtered.isBusy());
+                QCOMPARE(texts(play.filtered), play.expected());
+                QCOMPARE(play.filtered.hasChildren(), !play.expected().isEmpty());
+            }
         }
     }
-}
 
-void TestRowFilterModel::worksInSlices()
-{
-    QStandardItemModel source(10'000, 1);
-    PRowFilterModel filtered;
-    filtered.setSlice(std::chrono::milliseconds(0));
-    filtered.setSourceModel(&source);
-    QSignalSpy busy(&filtered, &PRowFilterModel::busyChanged);
-    const auto slowly = [](int) {
-        QTest::qSleep(1);
-        return true;
-    };
-    filtered.setFilter(slowly);
-    QVERIFY(filtered.isBusy());
-    const int found = filtered.rowCount();
-    QVERIFY(found > 0 && found < source.rowCount());
-    QTRY_VERIFY(filtered.rowCount() > found);
-    QVERIFY(filtered.isBusy());
+    void worksInSlices()
+    {
+        QStandardItemModel source(10'000, 1);
+        PRowFilterModel filtered;
+        filtered.setSlice(std::chrono::milliseconds(0));
+        filtered.setSourceModel(&source);
+        QSignalSpy busy(&filtered, &PRowFilterModel::busyChanged);
+        const auto slowly = [](int) {
+            QTest::qSleep(1);
+            return true;
+        };
+        filtered.setFilter(slowly);
+        QVERIFY(filtered.isBusy());
+        const int found = filtered.rowCount();
+        QVERIFY(found > 0 && found < source.rowCount());
+        QTRY_VERIFY(filtered.rowCount() > found);
+        QVERIFY(filtered.isBusy());
 
-    // What comes in the meantime waits for its place.
-    source.appendRow(new QStandardItem);
-    filtered.setFilter([&](int row) { return row >= 9'999; });
-    QTRY_VERIFY(!filtered.isBusy());
-    QCOMPARE(filtered.rowCount(), 2);
-    QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
-}
+        // What comes in the meantime waits for its place.
+        source.appendRow(new QStandardItem);
+        filtered.setFilter([&](int row) { return row >= 9'999; });
+        QTRY_VERIFY(!filtered.isBusy());
+        QCOMPARE(filtered.rowCount(), 2);
+        QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
+    }
 
-void TestRowFilterModel::indexesFollowTheirRows()
-{
-    QStandardItemModel source;
-    for (const char* name : {"b", "c", "a"})
-        source.appendRow(new QStandardItem(QString::fromLatin1(name)));
-    PRowFilterModel filtered;
-    filtered.setSourceModel(&source);
-    const QPersistentModelIndex b = filtered.index(0, 0);
-    filtered.setComparison([&](int row, int other, int) {
-        return -source.item(row)->text().compare(source.item(other)->text());
-    });
-    filtered.sort(0);
-    filtered.finish();
-    QCOMPARE(texts(filtered), (QStringList{u"c"_s, u"b"_s, u"a"_s}));
-    QCOMPARE(b.row(), 1);
-    QCOMPARE(filtered.mapFromSource(source.index(2, 0)), filtered.index(2, 0));
-    QCOMPARE(filtered.headerData(0, Qt::Vertical), source.headerData(1, Qt::Vertical));
+    void indexesFollowTheirRows()
+    {
+        QStandardItemModel source;
+        for (const char* name : {"b", "c", "a"})
+            source.appendRow(new QStandardItem(QString::fromLatin1(name)));
+        PRowFilterModel filtered;
+        filtered.setSourceModel(&source);
+        const QPersistentModelIndex b = filtered.index(0, 0);
+        filtered.setComparison([&](int row, int other, int) {
+            return -source.item(row)->text().compare(source.item(other)->text());
+        });
+        filtered.sort(0);
+        filtered.finish();
+        QCOMPARE(texts(filtered), (QStringList{u"c"_s, u"b"_s, u"a"_s}));
+        QCOMPARE(b.row(), 1);
+        QCOMPARE(filtered.mapFromSource(source.index(2, 0)), filtered.index(2, 0));
+        QCOMPARE(filtered.headerData(0, Qt::Vertical), source.headerData(1, Qt::Vertical));
 
-    QSignalSpy changes(&filtered, &QAbstractItemModel::dataChanged);
-    source.item(1)->setText(u"d"_s);
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(changes[0][0].toModelIndex(), filtered.index(0, 0));
-    filtered.setFilterText(u"d"_s);
-    QVERIFY(!filtered.mapFromSource(source.index(0, 0)).isValid());
+        QSignalSpy changes(&filtered, &QAbstractItemModel::dataChanged);
+        source.item(1)->setText(u"d"_s);
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(changes[0][0].toModelIndex(), filtered.index(0, 0));
+        filtered.setFilterText(u"d"_s);
+        QVERIFY(!filtered.mapFromSource(source.index(0, 0)).isValid());
 
-    // A source that goes leaves a model without rows.
-    auto gone = std::make_unique<QStandardItemModel>(1, 1);
-    filtered.setFilterText({});
-    filtered.setSourceModel(gone.get());
-    QSignalSpy resets(&filtered, &QAbstractItemModel::modelReset);
-    gone.reset();
-    QCOMPARE(resets.size(), 1);
-    QCOMPARE(filtered.rowCount(), 0);
-}
+        // A source that goes leaves a model without rows.
+        auto gone = std::make_unique<QStandardItemModel>(1, 1);
+        filtered.setFilterText({});
+        filtered.setSourceModel(gone.get());
+        QSignalSpy resets(&filtered, &QAbstractItemModel::modelReset);
+        gone.reset();
+        QCOMPARE(resets.size(), 1);
+        QCOMPARE(filtered.rowCount(), 0);
+    }
+};
 
 QTEST_MAIN(TestRowFilterModel)
 #include "tst_rowfiltermodel.moc"

@@ -10,17 +10,11 @@
 #include <CorvelGui/ToolTipHelper>
 #include <Hueloft/POrvGuiTheme>
 
-#include <QApplication>
 #include <QHostAddress>
-#include <QImage>
-#include <QRandomGenerator>
-#include <QTableWidget>
-#include <QTest>
 #include <QTextDocument>
 
 using namespace CorvelGui;
 using Hueloft::POrvGuiTheme;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,117 +34,111 @@ class TestTableItems : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void labelsToolTips();
-    void textsShowTheirColour();
-    void sortsAddressesByValue();
-    void copiesKeepTheirFields();
-    void collectsStatus();
-};
+    void labelsToolTips()
+    {
+        const auto row = [](const QString& label, const QString& value) {
+            return table({{label, value}});
+        };
+        QCOMPARE(PIpItem(u"10.0.0.2"_s).toolTip(), row(u"IP"_s, u"10.0.0.2"_s));
+        QCOMPARE(PSerialNumberItem().toolTip(), row(u"Serial Number"_s, {}));
+        QCOMPARE(PDeviceItem(u"<b>"_s).toolTip(), row(u"Device"_s, u"<b>"_s));
+        QCOMPARE(PFirmwareVersionItem(u"1"_s).toolTip(), row(u"Software"_s, u"1"_s));
+        QCOMPARE(PPathItem(u"A/B"_s).toolTip(), row(u"Group Path"_s, u"A/B"_s));
+        QVERIFY(!PTableWidgetItem(u"a"_s).data(Qt::ToolTipRole).isValid());
+        QVERIFY(!PStatusItem(u"a"_s).data(Qt::ToolTipRole).isValid());
+        QCOMPARE(PTextWidgetItem(u"a\nb"_s).toolTip(), u"a\nb"_s);
+        const QString markup = u"<img src=\"/etc/passwd\"> & <b>"_s;
+        QTextDocument document;
+        document.setHtml(PTextWidgetItem(markup).toolTip());
+        QCOMPARE(document.toPlainText(), markup);
+    }
 
-void TestTableItems::labelsToolTips()
-{
-    const auto row = [](const QString& label, const QString& value) {
-        return table({{label, value}});
-    };
-    QCOMPARE(PIpItem(u"10.0.0.2"_s).toolTip(), row(u"IP"_s, u"10.0.0.2"_s));
-    QCOMPARE(PSerialNumberItem().toolTip(), row(u"Serial Number"_s, {}));
-    QCOMPARE(PDeviceItem(u"<b>"_s).toolTip(), row(u"Device"_s, u"<b>"_s));
-    QCOMPARE(PFirmwareVersionItem(u"1"_s).toolTip(), row(u"Software"_s, u"1"_s));
-    QCOMPARE(PPathItem(u"A/B"_s).toolTip(), row(u"Group Path"_s, u"A/B"_s));
-    QVERIFY(!PTableWidgetItem(u"a"_s).data(Qt::ToolTipRole).isValid());
-    QVERIFY(!PStatusItem(u"a"_s).data(Qt::ToolTipRole).isValid());
-    QCOMPARE(PTextWidgetItem(u"a\nb"_s).toolTip(), u"a\nb"_s);
-    const QString markup = u"<img src=\"/etc/passwd\"> & <b>"_s;
-    QTextDocument document;
-    document.setHtml(PTextWidgetItem(markup).toolTip());
-    QCOMPARE(document.toPlainText(), markup);
-}
+    void textsShowTheirColour()
+    {
+        QTableWidget table(1, 1);
+        auto* item = new PTableWidgetItem;
+        table.setItem(0, 0, item);
+        // Full blocks take the pure colour into the picture.
+        const auto painted = [&](const QColor& color) {
+            const QImage cell = table.viewport()->grab(table.visualItemRect(item)).toImage();
+            for (int x = 0; x < cell.width(); ++x)
+                if (cell.pixelColor(x, cell.height() / 2) == color)
+                    return true;
+            return false;
+        };
+        item->SetRedText(u"████"_s);
+        QVERIFY(painted(POrvGuiTheme::statusRed()));
+        item->SetNormalText(u"████"_s);
+        QVERIFY(!painted(POrvGuiTheme::statusRed()));
+        QVERIFY(painted(QApplication::palette().color(QPalette::Text)));
+        item->setForeground(QBrush(Qt::blue, Qt::Dense4Pattern));
+        item->SetRedText(u"a"_s);
+        QCOMPARE(item->foreground(), QBrush(POrvGuiTheme::statusRed(), Qt::Dense4Pattern));
+    }
 
-void TestTableItems::textsShowTheirColour()
-{
-    QTableWidget table(1, 1);
-    auto* item = new PTableWidgetItem;
-    table.setItem(0, 0, item);
-    // Full blocks take the pure colour into the picture.
-    const auto painted = [&](const QColor& color) {
-        const QImage cell = table.viewport()->grab(table.visualItemRect(item)).toImage();
-        for (int x = 0; x < cell.width(); ++x)
-            if (cell.pixelColor(x, cell.height() / 2) == color)
-                return true;
-        return false;
-    };
-    item->SetRedText(u"████"_s);
-    QVERIFY(painted(POrvGuiTheme::statusRed()));
-    item->SetNormalText(u"████"_s);
-    QVERIFY(!painted(POrvGuiTheme::statusRed()));
-    QVERIFY(painted(QApplication::palette().color(QPalette::Text)));
-    item->setForeground(QBrush(Qt::blue, Qt::Dense4Pattern));
-    item->SetRedText(u"a"_s);
-    QCOMPARE(item->foreground(), QBrush(POrvGuiTheme::statusRed(), Qt::Dense4Pattern));
-}
-
-void TestTableItems::sortsAddressesByValue()
-{
-    const QStringList notAddresses{u""_s, u"camera"_s, u"1.2.3.256"_s, u"fe80::1"_s};
-    QList<quint32> values(notAddresses.size(), 0);
-    QTableWidget table(1000, 1);
-    QRandomGenerator random(1);
-    for (int row = 0; row < table.rowCount(); ++row) {
-        auto* item = new PIpItem(u"9.9.9.9"_s);
-        if (row < notAddresses.size()) {
-            item->setIp(notAddresses[row]);
-            QCOMPARE(item->getIp(), 0u);
-        } else {
-            values.append(random.generate());
-            item->setIp(QHostAddress(values.last()).toString());
+    void sortsAddressesByValue()
+    {
+        const QStringList notAddresses{u""_s, u"camera"_s, u"1.2.3.256"_s, u"fe80::1"_s};
+        QList<quint32> values(notAddresses.size(), 0);
+        QTableWidget table(1000, 1);
+        QRandomGenerator random(1);
+        for (int row = 0; row < table.rowCount(); ++row) {
+            auto* item = new PIpItem(u"9.9.9.9"_s);
+            if (row < notAddresses.size()) {
+                item->setIp(notAddresses[row]);
+                QCOMPARE(item->getIp(), 0u);
+            } else {
+                values.append(random.generate());
+                item->setIp(QHostAddress(values.last()).toString());
+            }
+            table.setItem((row * 7) % 1000, 0, item);
         }
-        table.setItem((row * 7) % 1000, 0, item);
+        table.sortItems(0);
+        std::ranges::sort(values);
+        for (int row = 0; row < table.rowCount(); ++row)
+            QCOMPARE(static_cast<PIpItem*>(table.item(row, 0))->getIp(), values[row]);
+        // The other cell is judged by its text, of whatever class it is.
+        QVERIFY(PIpItem(u"9.255.255.255"_s) < QTableWidgetItem(u"10.0.0.2"_s));
+        QVERIFY(!(PIpItem(u"10.0.0.10"_s) < QTableWidgetItem(u"10.0.0.2"_s)));
     }
-    table.sortItems(0);
-    std::ranges::sort(values);
-    for (int row = 0; row < table.rowCount(); ++row)
-        QCOMPARE(static_cast<PIpItem*>(table.item(row, 0))->getIp(), values[row]);
-    // The other cell is judged by its text, of whatever class it is.
-    QVERIFY(PIpItem(u"9.255.255.255"_s) < QTableWidgetItem(u"10.0.0.2"_s));
-    QVERIFY(!(PIpItem(u"10.0.0.10"_s) < QTableWidgetItem(u"10.0.0.2"_s)));
-}
 
-void TestTableItems::copiesKeepTheirFields()
-{
-    PIpItem ip(u"10.0.0.2"_s);
-    ip.setIconResource(u":/a.png"_s);
-    PStatusItem status;
-    status.AddRedStatus(u"a"_s);
-    PIpItem otherIp;
-    otherIp = ip;
-    const PStatusItem otherStatus = std::move(status);
-    QCOMPARE(otherIp.getIp(), 0x0a000002u);
-    QCOMPARE(otherIp.getIconResource(), u":/a.png"_s);
-    QCOMPARE(otherIp.text(), u"10.0.0.2"_s);
-    QCOMPARE(otherStatus.toolTip(), table({{u"1"_s, u"a"_s}}));
-}
-
-void TestTableItems::collectsStatus()
-{
-    PStatusItem item;
-    item.AddRedStatus(u"No %2 <b>"_s);
-    QCOMPARE(item.foreground().color(), POrvGuiTheme::statusRed());
-    item.AddApplicationSystemUpTime(u"%2 h"_s);
-    item.AddStatusSystemUpTime(u"3 d"_s);
-    QCOMPARE(item.text(), u"3 d System uptime"_s);
-    QCOMPARE(item.foreground().color(), QApplication::palette().color(QPalette::Text));
-    QCOMPARE(item.toolTip(), table({{u"1"_s, u"No %2 <b>"_s},
-                                    {u"2"_s, u"%2 h Application uptime"_s},
-                                    {u"3"_s, u"3 d System uptime"_s}}));
-    const QStringList months[] = {{QString(), QString()},
-                                  {u"0"_s, QString()},
-                                  {u"14"_s, u" (14 Month(s))"_s},
-                                  {u"abc"_s, u" (abc Month(s))"_s}};
-    for (const QStringList& row : months) {
-        item.AddMaintenanceInfo(u"%1-31"_s, row[0]);
-        QCOMPARE(item.text(), u"End of Software Maintenance %1-31"_s + row[1]);
+    void copiesKeepTheirFields()
+    {
+        PIpItem ip(u"10.0.0.2"_s);
+        ip.setIconResource(u":/a.png"_s);
+        PStatusItem status;
+        status.AddRedStatus(u"a"_s);
+        PIpItem otherIp;
+        otherIp = ip;
+        const PStatusItem otherStatus = std::move(status);
+        QCOMPARE(otherIp.getIp(), 0x0a000002u);
+        QCOMPARE(otherIp.getIconResource(), u":/a.png"_s);
+        QCOMPARE(otherIp.text(), u"10.0.0.2"_s);
+        QCOMPARE(otherStatus.toolTip(), table({{u"1"_s, u"a"_s}}));
     }
-}
+
+    void collectsStatus()
+    {
+        PStatusItem item;
+        item.AddRedStatus(u"No %2 <b>"_s);
+        QCOMPARE(item.foreground().color(), POrvGuiTheme::statusRed());
+        item.AddApplicationSystemUpTime(u"%2 h"_s);
+        item.AddStatusSystemUpTime(u"3 d"_s);
+        QCOMPARE(item.text(), u"3 d System uptime"_s);
+        QCOMPARE(item.foreground().color(), QApplication::palette().color(QPalette::Text));
+        QCOMPARE(item.toolTip(), table({{u"1"_s, u"No %2 <b>"_s},
+                                        {u"2"_s, u"%2 h Application uptime"_s},
+                                        {u"3"_s, u"3 d System uptime"_s}}));
+        const QStringList months[] = {{QString(), QString()},
+                                      {u"0"_s, QString()},
+                                      {u"14"_s, u" (14 Month(s))"_s},
+                                      {u"abc"_s, u" (abc Month(s))"_s}};
+        for (const QStringList& row : months) {
+            item.AddMaintenanceInfo(u"%1-31"_s, row[0]);
+            QCOMPARE(item.text(), u"End of Software Maintenance %1-31"_s + row[1]);
+        }
+    }
+};
 
 QTEST_MAIN(TestTableItems)
 #include "tst_tableitems.moc"

@@ -4,17 +4,7 @@
 #include <CorvelGui/PTableWidget>
 #include <CorvelGui/PTableWidgetItem>
 
-#include <QApplication>
-#include <QClipboard>
-#include <QHeaderView>
-#include <QPushButton>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,11 +43,6 @@ public:
     using PTableWidget::slotCopy;
 };
 
-QString clipboard()
-{
-    return QApplication::clipboard()->text();
-}
-
 QStringList texts(const QMenu& menu)
 {
     QStringList result;
@@ -74,177 +59,168 @@ class TestTableWidget : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void copies();
-    void deletesWidgets();
-    void filtersAndSelectsWhatIsShown();
-    void selects();
-    void measures();
-    void headerMenu();
-    void headerMenuState();
-};
-
-void TestTableWidget::copies()
-{
-    Table table;
-    table.selectRow(3);
-    table.selectionModel()->select(table.model()->index(1, 0),
-                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    table.CopyCellToClipBoard();
-    QCOMPARE(clipboard(), u"b\nc"_s);
-    table.slotCopy();
-    QCOMPARE(clipboard(), u"b\t\t1\t\nc\tX\t3\t\n"_s);
-}
-
-void TestTableWidget::deletesWidgets()
-{
-    Table table;
-    const QPointer<QWidget> kept = new QWidget;
-    const QPointer<QPushButton> button = new QPushButton;
-    table.setCellWidget(1, 0, kept);
-    table.setCellWidget(1, 1, button); // in the cell without an item
-    // It asks for it itself.
-    connect(button, &QPushButton::clicked, &table, [&table] { table.DeleteWidgets(1); });
-    button->click();
-    QCOMPARE(table.cellWidget(1, 1), nullptr);
-    QVERIFY(button->isHidden());
-    QTRY_VERIFY(!button && kept);
-}
-
-void TestTableWidget::filtersAndSelectsWhatIsShown()
-{
-    Table table;
-    table.FilterTable(u"x"_s);
-    QCOMPARE(table.names(), u"dac"_s);
-    table.sortItems(0);
-    QCOMPARE(table.names(), u"acd"_s);
-    table.FilterTable(u"X"_s);
-    QCOMPARE(table.names(), QString());
-    table.selectAll();
-    QCOMPARE(table.GetSelectedRows(), QList<int>());
-    table.FilterTable(QString());
-    QCOMPARE(table.names(), u"abcd"_s);
-
-    table.setRowHidden(1, true);
-    table.selectAll();
-    QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2, 3}));
-    // From one row to another with the mouse, downwards and upwards.
-    for (const auto& [first, last] : {std::pair(0, 2), {2, 0}}) {
-        const auto at = [&](int row) {
-            return table.visualItemRect(table.item(row, 0)).center();
-        };
-        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, at(first));
-        QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ShiftModifier, at(last));
-        QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2}));
-    }
-}
-
-void TestTableWidget::selects()
-{
-    Table table;
-    table.ScrollToItemAndSelect(table.item(2, 1), true);
-    QCOMPARE(table.GetSingleSelection(), 2);
-    QVERIFY(table.item(2, 0)->isSelected());
-    table.SelectFirstItemIfPossible();
-    QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2}));
-    QCOMPARE(table.GetSingleSelection(), -1);
-    table.ScrollToItemAndSelect(Table().item(0, 0), true);
-    QCOMPARE(table.GetSelectedRows(), QList<int>());
-    table.item(1, 0)->setCheckState(Qt::PartiallyChecked);
-    QVERIFY(!table.IsAlLeastOneSelected(0));
-    table.item(2, 0)->setCheckState(Qt::Checked);
-    QVERIFY(table.IsAlLeastOneSelected(0) && !table.IsAlLeastOneSelected(1));
-    // What cannot be selected is not, although the selection spans it.
-    for (const int column : {0, 1, 2})
-        table.item(2, column)->setFlags(Qt::ItemIsEnabled);
-    table.selectAll();
-    QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 1, 3}));
-}
-
-void TestTableWidget::measures()
-{
-    Table table;
-    table.horizontalHeader()->setFixedHeight(25);
-    table.setRowHeight(0, 50);
-    table.setRowHidden(2, true);
-    QCOMPARE(table.CalcNeededHeight(), 50 + 2 * table.rowHeight(3) + 25 + 16);
-    table.item(0, 0)->setText(u"a long text that needs space"_s);
-    const int last = table.columnWidth(2);
-    const int width = table.GetMaxTextWidth({table.item(1, 0), nullptr, table.item(0, 0)});
-    table.resizeAllColumnToContentsWithOffset(20);
-    QVERIFY(table.columnWidth(0) > width + 20);
-    QCOMPARE(table.columnWidth(2), last);
-    table.setRowCount(0);
-    QCOMPARE(table.CalcNeededHeight(), 16 + 25 + 16);
-}
-
-void TestTableWidget::headerMenu()
-{
-    Table table;
-    auto* menu = new PHeaderCheckMenu(table.horizontalHeader());
-    QSignalSpy toggled(menu, &PHeaderCheckMenu::columnToggled);
-    table.horizontalHeader()->moveSection(0, 2);
-    table.setColumnHidden(2, true);
-    const auto open = [&] {
-        Q_EMIT table.horizontalHeader()->customContextMenuRequested({5, 5});
-        return menu->isVisible();
-    };
-    const auto choose = [&](int place) {
-        menu->setActiveAction(menu->actions().at(place));
-        QTest::keyClick(menu, Qt::Key_Return);
-    };
-    QVERIFY(open());
-    QCOMPARE(texts(*menu), (QStringList{u"+R&&D"_s, u"-Column 3"_s, u"+Name"_s}));
-    choose(2);
-    QVERIFY(table.isColumnHidden(0));
-    QCOMPARE(toggled.takeFirst(), (QVariantList{0, false}));
-    QVERIFY(open());
-    QCOMPARE(texts(*menu), (QStringList{u"+R&&D!"_s, u"-Column 3"_s, u"-Name"_s}));
-    choose(1);
-    QVERIFY(!table.isColumnHidden(2));
-    menu->setColumnVisible(2, false);
-    menu->setColumnVisible(1, false);
-    menu->setColumnVisible(7, false);
-    QVERIFY(!table.isColumnHidden(1));
-    QCOMPARE(toggled.count(), 1);
-
-    // Outlives its header, also while it is open.
-    auto gone = std::make_unique<Table>();
-    PHeaderCheckMenu orphan(gone->horizontalHeader(), &table);
-    Q_EMIT gone->horizontalHeader()->customContextMenuRequested({5, 5});
-    gone.reset();
-    orphan.actions().constFirst()->trigger();
-    orphan.popup({});
-    QVERIFY(orphan.isEmpty());
-}
-
-void TestTableWidget::headerMenuState()
-{
-    const QTemporaryDir folder;
-    // Of a table whose second column is hidden.
-    const auto hiddenAfterReading = [](QSettings& settings) {
+    void copies()
+    {
         Table table;
-        table.setColumnHidden(1, true);
-        PHeaderCheckMenu(table.horizontalHeader()).readUserSettings(settings);
-        return table.hiddenColumns();
-    };
-    QSettings settings(folder.filePath(u"state.ini"_s), QSettings::IniFormat);
-    QCOMPARE(hiddenAfterReading(settings), u"1"_s);
-    for (const QString& columns : {u"02"_s, u""_s}) {
-        Table written;
-        for (const QChar column : columns)
-            written.setColumnHidden(column.digitValue(), true);
-        PHeaderCheckMenu(written.horizontalHeader()).writeUserSettings(settings);
-        settings.sync();
-        QSettings read(settings.fileName(), QSettings::IniFormat);
-        QCOMPARE(hiddenAfterReading(read), columns);
+        table.selectRow(3);
+        table.selectionModel()->select(table.model()->index(1, 0),
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        table.CopyCellToClipBoard();
+        QCOMPARE(QApplication::clipboard()->text(), u"b\nc"_s);
+        table.slotCopy();
+        QCOMPARE(QApplication::clipboard()->text(), u"b\t\t1\t\nc\tX\t3\t\n"_s);
     }
-    const std::pair<QVariant, QString> damaged[] = {
-        {u"2,9,-1,x"_s, u"2"_s}, {u"2,1,0"_s, u"12"_s}, {QByteArray(9, '\xff'), QString()}};
-    for (const auto& [value, expected] : damaged) {
-        settings.setValue(u"HiddenColumns"_s, value);
-        QCOMPARE(hiddenAfterReading(settings), expected);
+
+    void deletesWidgets()
+    {
+        Table table;
+        const QPointer<QWidget> kept = new QWidget;
+        const QPointer<QPushButton> button = new QPushButton;
+        table.setCellWidget(1, 0, kept);
+        table.setCellWidget(1, 1, button); // in the cell without an item
+        // It asks for it itself.
+        connect(button, &QPushButton::clicked, &table, [&table] { table.DeleteWidgets(1); });
+        button->click();
+        QCOMPARE(table.cellWidget(1, 1), nullptr);
+        QVERIFY(button->isHidden());
+        QTRY_VERIFY(!button && kept);
     }
-}
+
+    void filtersAndSelectsWhatIsShown()
+    {
+        Table table;
+        table.FilterTable(u"x"_s);
+        QCOMPARE(table.names(), u"dac"_s);
+        table.sortItems(0);
+        QCOMPARE(table.names(), u"acd"_s);
+        table.FilterTable(u"X"_s);
+        QCOMPARE(table.names(), QString());
+        table.selectAll();
+        QCOMPARE(table.GetSelectedRows(), QList<int>());
+        table.FilterTable(QString());
+        QCOMPARE(table.names(), u"abcd"_s);
+
+        table.setRowHidden(1, true);
+        table.selectAll();
+        QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2, 3}));
+        // From one row to another with the mouse, downwards and upwards.
+        for (const auto& [first, last] : {std::pair(0, 2), {2, 0}}) {
+            for (const int row : {first, last})
+                QTest::mouseClick(table.viewport(), Qt::LeftButton,
+                                  row == last ? Qt::ShiftModifier : Qt::NoModifier,
+                                  table.visualItemRect(table.item(row, 0)).center());
+            QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2}));
+        }
+    }
+
+    void selects()
+    {
+        Table table;
+        table.ScrollToItemAndSelect(table.item(2, 1), true);
+        QCOMPARE(table.GetSingleSelection(), 2);
+        QVERIFY(table.item(2, 0)->isSelected());
+        table.SelectFirstItemIfPossible();
+        QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2}));
+        QCOMPARE(table.GetSingleSelection(), -1);
+        table.ScrollToItemAndSelect(Table().item(0, 0), true);
+        QCOMPARE(table.GetSelectedRows(), QList<int>());
+        table.item(1, 0)->setCheckState(Qt::PartiallyChecked);
+        QVERIFY(!table.IsAlLeastOneSelected(0));
+        table.item(2, 0)->setCheckState(Qt::Checked);
+        QVERIFY(table.IsAlLeastOneSelected(0) && !table.IsAlLeastOneSelected(1));
+        // What cannot be selected is not, although the selection spans it.
+        for (const int column : {0, 1, 2})
+            table.item(2, column)->setFlags(Qt::ItemIsEnabled);
+        table.selectAll();
+        QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 1, 3}));
+    }
+
+    void measures()
+    {
+        Table table;
+        table.horizontalHeader()->setFixedHeight(25);
+        table.setRowHeight(0, 50);
+        table.setRowHidden(2, true);
+        QCOMPARE(table.CalcNeededHeight(), 50 + 2 * table.rowHeight(3) + 25 + 16);
+        table.item(0, 0)->setText(u"a long text that needs space"_s);
+        const int last = table.columnWidth(2);
+        const int width = table.GetMaxTextWidth({table.item(1, 0), nullptr, table.item(0, 0)});
+        table.resizeAllColumnToContentsWithOffset(20);
+        QVERIFY(table.columnWidth(0) > width + 20);
+        QCOMPARE(table.columnWidth(2), last);
+        table.setRowCount(0);
+        QCOMPARE(table.CalcNeededHeight(), 16 + 25 + 16);
+    }
+
+    void headerMenu()
+    {
+        Table table;
+        auto* menu = new PHeaderCheckMenu(table.horizontalHeader());
+        QSignalSpy toggled(menu, &PHeaderCheckMenu::columnToggled);
+        table.horizontalHeader()->moveSection(0, 2);
+        table.setColumnHidden(2, true);
+        const auto open = [&] {
+            Q_EMIT table.horizontalHeader()->customContextMenuRequested({5, 5});
+            return menu->isVisible();
+        };
+        const auto choose = [&](int place) {
+            menu->setActiveAction(menu->actions().at(place));
+            QTest::keyClick(menu, Qt::Key_Return);
+        };
+        QVERIFY(open());
+        QCOMPARE(texts(*menu), (QStringList{u"+R&&D"_s, u"-Column 3"_s, u"+Name"_s}));
+        choose(2);
+        QVERIFY(table.isColumnHidden(0));
+        QCOMPARE(toggled.takeFirst(), (QVariantList{0, false}));
+        QVERIFY(open());
+        QCOMPARE(texts(*menu), (QStringList{u"+R&&D!"_s, u"-Column 3"_s, u"-Name"_s}));
+        choose(1);
+        QVERIFY(!table.isColumnHidden(2));
+        menu->setColumnVisible(2, false);
+        menu->setColumnVisible(1, false);
+        menu->setColumnVisible(7, false);
+        QVERIFY(!table.isColumnHidden(1));
+        QCOMPARE(toggled.count(), 1);
+
+        // Outlives its header, also while it is open.
+        auto gone = std::make_unique<Table>();
+        PHeaderCheckMenu orphan(gone->horizontalHeader(), &table);
+        Q_EMIT gone->horizontalHeader()->customContextMenuRequested({5, 5});
+        gone.reset();
+        orphan.actions().constFirst()->trigger();
+        orphan.popup({});
+        QVERIFY(orphan.isEmpty());
+    }
+
+    void headerMenuState()
+    {
+        const QTemporaryDir folder;
+        // Of a table whose second column is hidden.
+        const auto hiddenAfterReading = [](QSettings& settings) {
+            Table table;
+            table.setColumnHidden(1, true);
+            PHeaderCheckMenu(table.horizontalHeader()).readUserSettings(settings);
+            return table.hiddenColumns();
+        };
+        QSettings settings(folder.filePath(u"state.ini"_s), QSettings::IniFormat);
+        QCOMPARE(hiddenAfterReading(settings), u"1"_s);
+        for (const QString& columns : {u"02"_s, u""_s}) {
+            Table written;
+            for (const QChar column : columns)
+                written.setColumnHidden(column.digitValue(), true);
+            PHeaderCheckMenu(written.horizontalHeader()).writeUserSettings(settings);
+            settings.sync();
+            QSettings read(settings.fileName(), QSettings::IniFormat);
+            QCOMPARE(hiddenAfterReading(read), columns);
+        }
+        const std::pair<QVariant, QString> damaged[] = {
+            {u"2,9,-1,x"_s, u"2"_s}, {u"2,1,0"_s, u"12"_s}, {QByteArray(9, '\xff'), QString()}};
+        for (const auto& [value, expected] : damaged) {
+            settings.setValue(u"HiddenColumns"_s, value);
+            QCOMPARE(hiddenAfterReading(settings), expected);
+        }
+    }
+};
 
 QTEST_MAIN(TestTableWidget)
 #include "tst_tablewidget.moc"

@@ -2,17 +2,9 @@
 
 #include <CorvelGui/PTabWidget>
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
-#include <QLineEdit>
-#include <QPointer>
-#include <QSignalSpy>
 #include <QTabBar>
-#include <QTest>
-#include <QVBoxLayout>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -63,126 +55,110 @@ class TestTabWidget : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void renames();
-    void refusesAndCancels();
-    void editorFollowsItsTab();
-    void closes();
-    void survivesItsReceivers();
-};
+    void renames()
+    {
+        Tabs tabs;
+        QSignalSpy renamed(&tabs, &PTabWidget::tabRenamed);
+        tabs.doubleClick(1);
+        QVERIFY(tabs.editor() && tabs.tabBar()->tabRect(1).contains(tabs.editor()->geometry()));
+        tabs.type(u" Q&A "_s, Qt::Key_Return);
+        QCOMPARE(tabs.editor(), nullptr);
+        QCOMPARE(tabs.tabText(1), u"Q&&A"_s);
+        QCOMPARE(renamed.takeFirst(), (QVariantList{1, u"Q&A"_s}));
 
-void TestTabWidget::renames()
-{
-    Tabs tabs;
-    QSignalSpy renamed(&tabs, &PTabWidget::tabRenamed);
-    tabs.doubleClick(1);
-    QVERIFY(tabs.editor() && tabs.tabBar()->tabRect(1).contains(tabs.editor()->geometry()));
-    tabs.type(u" Q&A "_s, Qt::Key_Return);
-    QCOMPARE(tabs.editor(), nullptr);
-    QCOMPARE(tabs.tabText(1), u"Q&&A"_s);
-    QCOMPARE(renamed.takeFirst(), (QVariantList{1, u"Q&A"_s}));
+        tabs.setCurrentIndex(2);
+        QTest::keyClick(tabs.tabBar(), Qt::Key_F2);
+        QCOMPARE(tabs.editor()->text(), u"R&D"_s);
+        tabs.type({}, Qt::Key_Enter); // the same name
+        QCOMPARE(tabs.tabName(2), u"R&D"_s);
+        QCOMPARE(renamed.count(), 0);
 
-    tabs.setCurrentIndex(2);
-    QTest::keyClick(tabs.tabBar(), Qt::Key_F2);
-    QCOMPARE(tabs.editor()->text(), u"R&D"_s);
-    tabs.type({}, Qt::Key_Enter); // the same name
-    QCOMPARE(tabs.tabName(2), u"R&D"_s);
-    QCOMPARE(renamed.count(), 0);
+        // A click elsewhere takes the name.
+        QTest::keyClick(tabs.tabBar(), Qt::Key_F2);
+        tabs.type(u"Left"_s);
+        QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(0).center());
+        QCOMPARE(tabs.tabName(2), u"Left"_s);
 
-    // A click elsewhere takes the name.
-    QTest::keyClick(tabs.tabBar(), Qt::Key_F2);
-    tabs.type(u"Left"_s);
-    QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(0).center());
-    QCOMPARE(tabs.tabName(2), u"Left"_s);
-
-    tabs.setTabsRenamable(false);
-    tabs.doubleClick(0);
-    QCOMPARE(tabs.editor(), nullptr);
-}
-
-void TestTabWidget::refusesAndCancels()
-{
-    // Neither Enter nor Escape reaches the dialog around it.
-    QDialog dialog;
-    auto* tabs = new Tabs;
-    (new QVBoxLayout(&dialog))->addWidget(tabs);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    QSignalSpy renamed(tabs, &PTabWidget::tabRenamed);
-    tabs->doubleClick(0);
-    tabs->type(u"  "_s, Qt::Key_Return);
-    QVERIFY(tabs->editor());
-    tabs->type(u"Other"_s, Qt::Key_Escape);
-    QCOMPARE(tabs->editor(), nullptr);
-    tabs->doubleClick(0);
-    tabs->type(u" "_s);
-    tabs->tabBar()->setFocus();
-    QCOMPARE(tabs->editor(), nullptr);
-    QCOMPARE(tabs->tabName(0), u"One"_s);
-    QCOMPARE(renamed.count(), 0);
-    QVERIFY(dialog.isVisible());
-}
-
-void TestTabWidget::editorFollowsItsTab()
-{
-    Tabs tabs;
-    tabs.doubleClick(0);
-    tabs.type(u"First"_s);
-    tabs.insertTab(0, new Page, u"A long name before it"_s);
-    QTRY_COMPARE(tabs.editor()->geometry(), tabs.tabBar()->tabRect(1));
-    tabs.tabBar()->moveTab(1, 2);
-    QTRY_COMPARE(tabs.editor()->geometry(), tabs.tabBar()->tabRect(2));
-    tabs.type({}, Qt::Key_Return);
-    QCOMPARE(tabs.tabName(2), u"First"_s);
-
-    tabs.editTabName(2);
-    tabs.type(u"Too late"_s);
-    delete tabs.widget(2);
-    QCOMPARE(tabs.editor(), nullptr);
-    QCOMPARE(tabs.tabName(2), u"R&D"_s);
-}
-
-void TestTabWidget::closes()
-{
-    Tabs tabs;
-    QVERIFY(tabs.isMovable());
-    QSignalSpy closed(&tabs, &PTabWidget::tabClosed);
-    const QPointer<QWidget> page = tabs.widget(1);
-    static_cast<Page*>(tabs.widget(0))->mayGo = false;
-    const auto clickClose = [&](int index) {
-        QTest::mouseClick(tabs.tabBar()->tabButton(index, QTabBar::RightSide), Qt::LeftButton);
-    };
-    clickClose(0);
-    QCOMPARE(tabs.count(), 3);
-    clickClose(1);
-    QCOMPARE(tabs.count(), 2);
-    QCOMPARE(tabs.tabName(1), u"R&D"_s);
-    QCOMPARE(closed.takeFirst(), QVariantList{1});
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!page);
-}
-
-void TestTabWidget::survivesItsReceivers()
-{
-    for (const int way : {0, 1, 2}) {
-        QPointer<Tabs> tabs = new Tabs;
-        const auto end = [&] {
-            delete tabs.data();
-        };
-        connect(tabs, &PTabWidget::tabRenamed, this, end);
-        connect(tabs, &PTabWidget::tabClosed, this, end);
-        if (way == 2) {
-            tabs->closeTab(1);
-        } else {
-            tabs->doubleClick(0);
-            tabs->type(u"Last"_s);
-            if (way == 0)
-                tabs->type({}, Qt::Key_Return);
-            else
-                tabs->setCurrentIndex(1);
-        }
-        QVERIFY(!tabs);
+        tabs.setTabsRenamable(false);
+        tabs.doubleClick(0);
+        QCOMPARE(tabs.editor(), nullptr);
     }
-}
+
+    void refusesAndCancels()
+    {
+        // Neither Enter nor Escape reaches the dialog around it.
+        QDialog dialog;
+        auto* tabs = new Tabs;
+        (new QVBoxLayout(&dialog))->addWidget(tabs);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QSignalSpy renamed(tabs, &PTabWidget::tabRenamed);
+        tabs->doubleClick(0);
+        tabs->type(u"  "_s, Qt::Key_Return);
+        QVERIFY(tabs->editor());
+        tabs->type(u"Other"_s, Qt::Key_Escape);
+        QCOMPARE(tabs->editor(), nullptr);
+        tabs->doubleClick(0);
+        tabs->type(u" "_s);
+        tabs->tabBar()->setFocus();
+        QCOMPARE(tabs->editor(), nullptr);
+        QCOMPARE(tabs->tabName(0), u"One"_s);
+        QCOMPARE(renamed.count(), 0);
+        QVERIFY(dialog.isVisible());
+    }
+
+    void editorFollowsItsTab()
+    {
+        Tabs tabs;
+        tabs.doubleClick(0);
+        tabs.type(u"First"_s);
+        tabs.insertTab(0, new Page, u"A long name before it"_s);
+        QTRY_COMPARE(tabs.editor()->geometry(), tabs.tabBar()->tabRect(1));
+        tabs.tabBar()->moveTab(1, 2);
+        QTRY_COMPARE(tabs.editor()->geometry(), tabs.tabBar()->tabRect(2));
+        tabs.type({}, Qt::Key_Return);
+        QCOMPARE(tabs.tabName(2), u"First"_s);
+
+        tabs.editTabName(2);
+        tabs.type(u"Too late"_s);
+        delete tabs.widget(2);
+        QCOMPARE(tabs.editor(), nullptr);
+        QCOMPARE(tabs.tabName(2), u"R&D"_s);
+    }
+
+    void closes()
+    {
+        Tabs tabs;
+        QVERIFY(tabs.isMovable());
+        QSignalSpy closed(&tabs, &PTabWidget::tabClosed);
+        const QPointer<QWidget> page = tabs.widget(1);
+        static_cast<Page*>(tabs.widget(0))->mayGo = false;
+        for (const int index : {0, 1}) {
+            QTest::mouseClick(tabs.tabBar()->tabButton(index, QTabBar::RightSide), Qt::LeftButton);
+            QCOMPARE(tabs.count(), 3 - index);
+        }
+
+        QCOMPARE(tabs.tabName(1), u"R&D"_s);
+        QCOMPARE(closed.takeFirst(), QVariantList{1});
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!page);
+    }
+
+    void survivesItsReceivers()
+    {
+        const auto typed = [](Tabs& tabs, Qt::Key key) {
+            tabs.doubleClick(0);
+            tabs.type(u"Last"_s, key);
+        };
+        for (const auto& act : std::initializer_list<std::function<void(Tabs&)>>{
+                 [](Tabs& tabs) { tabs.closeTab(1); },
+                 [&](Tabs& tabs) { typed(tabs, Qt::Key_Return); },
+                 [&](Tabs& tabs) {
+                     typed(tabs, {}), tabs.setCurrentIndex(1);
+                 }})
+            QVERIFY(isDeletedBy(act, &PTabWidget::tabRenamed, &PTabWidget::tabClosed));
+    }
+};
 
 QTEST_MAIN(TestTabWidget)
 #include "tst_tabwidget.moc"

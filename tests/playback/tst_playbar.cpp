@@ -1,4 +1,3 @@
-#include "pointer.h"
 #include "testsupport.h"
 
 #include <CorvelGui/PPlaybar>
@@ -6,12 +5,8 @@
 
 #include <QButtonGroup>
 #include <QCursor>
-#include <QLabel>
-#include <QPointer>
-#include <QTest>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -221,16 +216,16 @@ disabled > state 5: x 1, Play > enable 0: x 1, Play > up Play: x 1, Play > right
         };
         const QIcon normal = button->icon();
         QVERIFY(looks(normal, QIcon::Active) != looks(normal));
-        const QPointF inside(5, 5);
-        QEnterEvent enter(inside, inside, button->mapToGlobal(inside));
-        QCoreApplication::sendEvent(button, &enter);
+
+        enterMouse(*button, {5, 5});
+
         QCOMPARE(looks(button->icon()), looks(normal, QIcon::Active));
-        QCursor::setPos(button->mapToGlobal(inside.toPoint()));
+        QCursor::setPos(button->mapToGlobal(QPoint(5, 5)));
         bar.setPlaybackState(Bar::Play);
         QCOMPARE(looks(button->icon()), looks(normal, QIcon::Selected));
         button->setIcon(bar.button(u"Pause"_s)->icon());
-        QEvent leave(QEvent::Leave);
-        QCoreApplication::sendEvent(button, &leave);
+        leaveMouse(*button);
+
         QCOMPARE(looks(button->icon()), looks(normal));
     }
 

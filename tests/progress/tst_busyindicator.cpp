@@ -4,22 +4,12 @@
 #include <CorvelGui/BusyIndicator>
 #include <CorvelGui/PFractionalProgressBar>
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-#include <QVBoxLayout>
 
 #include <climits>
-#include <cmath>
 #include <numbers>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {

@@ -3,7 +3,6 @@
 
 #include <CorvelGui/TaskbarProgress>
 
-#include <QTest>
 #include <QWindow>
 
 #include <climits>

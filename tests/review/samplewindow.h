@@ -2,6 +2,9 @@
 
 #include "data/sampledata.h"
 #include "lists/eventtable.h"
+#include "look/zonecombo.h"
+
+#include "testsupport.h"
 #include "window/reviewwindow.h"
 
 #include <CorvelGui/PRowFilterModel>
@@ -10,10 +13,6 @@
 #include <CorvelGui/TarvoDateTimeView>
 
 #include <QAction>
-#include <QLabel>
-#include <QTest>
-
-#include <algorithm>
 
 /// The client's window, and what a user sees and presses in it.
 struct SampleWindow
@@ -49,6 +48,15 @@ struct SampleWindow
     {
         return window.findChild<CorvelGui::TarvoDateTimeView*>()->shownText() == text;
     }
+    void press(const QString& button) const { withText<QPushButton>(button)->click(); }
+    void enterZone(const QString& text) const
+    {
+        auto* zones = window.findChild<Review::ZoneCombo*>();
+        zones->setEditText(text);
+        QTest::keyClick(zones, Qt::Key_Return);
+    }
+    qint64 viewSpan() const { return ruler()->view().end - ruler()->view().begin; }
+    qint64 viewCentre() const { return (ruler()->view().end + ruler()->view().begin) / 2; }
     CorvelGui::Ruler* ruler() const { return window.findChild<CorvelGui::Ruler*>(); }
     CorvelGui::PTreeWidget* devices() const { return window.findChild<CorvelGui::PTreeWidget*>(); }
     /// The only one of the name.

@@ -2,11 +2,7 @@
 #include "testsupport.h"
 #include "times.h"
 
-#include <QRandomGenerator>
-#include <QTest>
-
 using Review::PlayerClock;
-using namespace Qt::StringLiterals;
 
 class TestPlayerClock : public WarningFreeTest
 {

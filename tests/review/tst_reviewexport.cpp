@@ -6,29 +6,16 @@
 #include "footage/exiftime.h"
 #include "playback/playbackpane.h"
 #include "samplewindow.h"
-#include "testfiles.h"
 #include "testsupport.h"
 #include "timeline/timelinepane.h"
 #include "times.h"
 #include "useranswers.h"
 #include "video/camerapicture.h"
-#include "whenshown.h"
 
 #include <CorvelGui/FilterLineEdit>
 
-#include <QCheckBox>
-#include <QClipboard>
-#include <QDialogButtonBox>
-#include <QListWidget>
-#include <QMessageBox>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolButton>
 
-using namespace Qt::StringLiterals;
 using namespace Review;
 using CorvelGui::TimeSpan;
 
@@ -161,7 +148,7 @@ private Q_SLOTS:
         sample.window.findChild<TimelinePane*>()->setSearchRange(recorded);
         whenShown<ClipDialog>(this, [&](ClipDialog& dialog) {
             auto* cameras = dialog.findChild<QListWidget*>();
-            auto* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            auto* ok = buttonOf(dialog, QDialogButtonBox::Ok);
             dialog.findChild<FolderChoice*>()->setFolder(folder.path());
             QVERIFY(ok->isEnabled());
             cameras->currentItem()->setCheckState(Qt::Unchecked);
@@ -247,7 +234,7 @@ private:
         int count = 0;
         whenShown<ExportDialog>(this, [&](ExportDialog& dialog) {
             auto* seconds = dialog.findChild<QSpinBox*>();
-            QPushButton* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            QPushButton* ok = buttonOf(dialog, QDialogButtonBox::Ok);
             dialog.findChild<FolderChoice*>()->setFolder(m_folder.path());
             seconds->setValue(1); // tens of thousands of pictures
             QVERIFY(!ok->isEnabled());

@@ -2,26 +2,19 @@
 #include "lists/devicepane.h"
 #include "lists/devicetree.h"
 #include "lists/eventtexts.h"
-#include "look/zonecombo.h"
+
 #include "samplewindow.h"
 #include "session/clock.h"
 #include "session/selection.h"
 #include "testsupport.h"
 #include "times.h"
-#include "whenshown.h"
 #include "window/reviewpanes.h"
 
 #include <CorvelGui/FilterLineEdit>
 #include <CorvelGui/PIpRangeDialog>
 
-#include <QComboBox>
-#include <QHeaderView>
-#include <QMessageBox>
-#include <QSignalSpy>
 #include <QStatusBar>
-#include <QTest>
 
-using namespace Qt::StringLiterals;
 using namespace Review;
 using CorvelGui::FilterLineEdit;
 using CorvelGui::PIpRangeDialog;
@@ -104,9 +97,8 @@ private Q_SLOTS:
         QCOMPARE(sample.ruler()->grab().toImage(), timeline);
 
         // The rows follow what the cells say in another zone.
-        auto* zones = sample.window.findChild<ZoneCombo*>();
-        zones->setEditText(u"Australia/Darwin"_s);
-        QTest::keyClick(zones, Qt::Key_Return);
+        sample.enterZone(u"Australia/Darwin"_s);
+
         QCOMPARE(sample.shownEvents(EventTexts::Text).size(), 1);
         QCOMPARE(shown(u"12:00"_s), QString());
         QCOMPARE(shown(u"21:30"_s), u"No 10, no 9"_s);

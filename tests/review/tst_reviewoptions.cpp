@@ -1,33 +1,18 @@
 #include "look/languages.h"
 #include "options/settingsstore.h"
-#include "testfiles.h"
 #include "testsupport.h"
 #include "visibletexts.h"
-#include "whenshown.h"
 #include "window/clientoptions.h"
 #include "window/reviewwindow.h"
 
 #include <CorvelGui/OptionsDialog>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
 #include <QKeySequenceEdit>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListView>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QSpinBox>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QToolBar>
 
-using namespace Qt::StringLiterals;
 using namespace Review;
 using Corvel::ProxyUserSettings;
 using CorvelGui::OptionsDialog;
@@ -71,11 +56,6 @@ Field& field(const OptionsDialog& dialog, const QString& label)
 void visit(const QString& category, const QString& page)
 {
     OptionsDialog::getSettingsDialog(nullptr, category, page);
-}
-
-void press(const OptionsDialog& dialog, QDialogButtonBox::StandardButton button)
-{
-    dialog.findChild<QDialogButtonBox*>()->button(button)->click();
 }
 
 void fill(const OptionsDialog& dialog)
@@ -150,7 +130,7 @@ private Q_SLOTS:
                 for (const QLabel* label : dialog.findChildren<QLabel*>())
                     message += label->text().contains(u"belongs to"_s) ? label->text() : QString();
                 untouched = client.store.settings() == before;
-                press(dialog, taken ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+                buttonOf(dialog, taken ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)->click();
             });
             client.options.run();
 
@@ -311,7 +291,7 @@ private Q_SLOTS:
             client.speak(u"de"_s);
             search->setText(u"kennwort"_s);
             found = dialog.findChild<QListView*>()->model()->rowCount();
-            press(dialog, QDialogButtonBox::Cancel);
+            buttonOf(dialog, QDialogButtonBox::Cancel)->click();
         });
         client.options.run();
         QCOMPARE(found, 1);

@@ -16,12 +16,6 @@
 #include <CorvelGui/Indicator>
 #include <CorvelGui/TarvoDateTimeView>
 
-#include <QPointer>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 using namespace Review;
 using CorvelGui::PPlaybar;
 using CorvelGui::Ruler;
@@ -136,30 +130,25 @@ private Q_SLOTS:
 
     void endsPause()
     {
-        struct Case
-        {
-            bool skip;
-            PPlaybar::PlaybackState state;
-            qint64 from;
-            qint64 to;
-        };
         using enum PPlaybar::PlaybackState;
-        for (const Case& end : {Case{false, FastForward, 71 * hour, 72 * hour},
-                                Case{false, FastBackward, 1 * hour, 0},
-                                Case{true, FastForward, 30 * hour + 1, 31 * hour},
-                                Case{true, FastBackward, 3 * hour - 1, 1 * hour}}) {
+        for (const auto& [skip, state, from, to] :
+             {std::tuple(false, FastForward, 71 * hour, 72 * hour),
+              {false, FastBackward, hour, 0},
+              {true, FastForward, 30 * hour + 1, 31 * hour},
+              {true, FastBackward, 3 * hour - 1, hour}}) {
             Playing playing;
-            playing.player.setSkippingGaps(end.skip);
-            playing.selection.goTo(monday + end.from);
+            playing.player.setSkippingGaps(skip);
+            playing.selection.goTo(monday + from);
+
             const QSignalSpy states(&playing.bar, &PPlaybar::playbackStateChanged);
             const QSignalSpy ranOut(&playing.player, &Player::ranOutOfRecordings);
-            playing.setSpeed(end.state, PPlaybar::Speed2);
+            playing.setSpeed(state, PPlaybar::Speed2);
             playing.tick(2 * hour);
-            QCOMPARE(playing.selection.moment(), monday + end.to);
+            QCOMPARE(playing.selection.moment(), monday + to);
             QCOMPARE(playing.bar.playbackState(), Pause);
             QVERIFY(!playing.player.isPlaying());
             QCOMPARE(states.size(), 1); // the user's own
-            QCOMPARE(ranOut.size(), end.skip ? 1 : 0);
+            QCOMPARE(ranOut.size(), skip ? 1 : 0);
         }
 
         Playing playing;
@@ -273,10 +262,11 @@ private Q_SLOTS:
         QCOMPARE(pane->views()[0]->camera()->name, u"Yard"_s);
     }
 
-    void fastPlayingIsKnown()
+    void speedsHaveKeys()
     {
         Playing playing;
         const QSignalSpy fast(&playing.player, &Player::fastChanged);
+
         playing.setSpeed(PPlaybar::FastForward, PPlaybar::Speed4);
         QVERIFY(!playing.player.isFast());
         playing.setSpeed(PPlaybar::FastBackward, PPlaybar::Speed8);
@@ -284,11 +274,7 @@ private Q_SLOTS:
         playing.player.pause();
         QVERIFY(!playing.player.isFast());
         QCOMPARE(fast.size(), 2);
-    }
 
-    void speedsHaveKeys()
-    {
-        Playing playing;
         SpeedMenu menu(playing.player);
         QAction* slower = menu.actions()[0];
         QAction* faster = menu.actions()[1];

@@ -1,12 +1,6 @@
-#include "testfiles.h"
 #include "testsupport.h"
 
-#include <QImage>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

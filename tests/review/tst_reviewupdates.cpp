@@ -1,17 +1,12 @@
 #include "samplewindow.h"
 #include "testsupport.h"
 #include "useranswers.h"
-#include "whenshown.h"
 #include "window/updatemenu.h"
 
 #include <CorvelGui/PChangeLogDialog>
 
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTextEdit>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,7 +1,5 @@
-#include "testfiles.h"
 #include "testsupport.h"
 #include "visibletexts.h"
-#include "whenshown.h"
 
 #include <CorvelGui/AppUpdaterDialog>
 #include <CorvelGui/BusyIndicator>
@@ -20,17 +18,9 @@
 #include <CorvelGui/TranslatorList>
 #include <CorvelGui/ZoomTimeline>
 
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QDir>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QVersionNumber>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -94,6 +84,7 @@ private Q_SLOTS:
     {
         provide(u"broken_de.qm"_s);
         auto* parent = new QWidget;
+
         whenShown<QMessageBox>(this, [&](QMessageBox&) {
             switchTo(u"en_US"_s);
             delete parent;
@@ -121,12 +112,7 @@ private Q_SLOTS:
         for (const auto& name : {u"app_extra_fr.qm"_s, u"app_de_AT.qm"_s})
             provide(name);
         // While en_US is current.
-        const struct
-        {
-            QString prefix;
-            QStringList supported, items;
-            QString chosen;
-        } rows[] = {
+        const std::tuple<QString, QStringList, QStringList, QString> rows[] = {
             {u"app"_s, {u"de"_s, u"en_US"_s}, {u"German"_s, u"English"_s}, u"en_US"_s},
             {u"app"_s, {u"fr"_s}, {u"French"_s}, u"fr"_s},       // of a longer prefix
             {u"[a][p][p]"_s, {u"de"_s}, {u"German"_s}, u"de"_s}, // longer than the names it finds
@@ -146,9 +132,7 @@ private Q_SLOTS:
                 items << box->itemText(index);
             QCOMPARE(items, expected);
             QCOMPARE(dialog.getCurrentKey(), chosen);
-            QCOMPARE(
-                dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled(),
-                prefix != u"missing"_s);
+            QCOMPARE(buttonOf(dialog, QDialogButtonBox::Ok)->isEnabled(), prefix != u"missing"_s);
         }
     }
 
@@ -159,7 +143,7 @@ private Q_SLOTS:
             dialog.addSupportedLanguageKey(u"de"_s);
             dialog.show();
             QTRY_COMPARE(dialog.getCurrentKey(), u"de"_s);
-            dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+            buttonOf(dialog, QDialogButtonBox::Ok)->click();
             QCOMPARE(dialog.result(), int(QDialog::Accepted));
             QCOMPARE(texts(), apply ? german : untranslated);
             QTRY_COMPARE(dialog.windowTitle() == u"Spracheinstellungen der Anwendung"_s, apply);

@@ -1,28 +1,21 @@
 #include "categorylistview.h"
 #include "colormetrics.h"
-#include "testfiles.h"
 #include "testsupport.h"
-#include "whenshown.h"
 
 #include <CorvelGui/ISettingsPage>
 #include <CorvelGui/OptionPageProvider>
 #include <CorvelGui/OptionsDialog>
+#include <CorvelGui/SettingsBaseWidget>
+
 #include <CorvelGui/SettingsManager>
 
 #include <QBitmap>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSettings>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QGroupBox>
+#include <QRadioButton>
 
-#include <functional>
+#include <QTabWidget>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -60,6 +53,22 @@ private:
     const QString m_text;
 };
 
+struct TextPage : Page
+{
+    using Page::Page;
+    QWidget* createWidget(QWidget* parent) override
+    {
+        m_widget = new SettingsBaseWidget(parent);
+        new QLabel(u"&Proxy"_s, m_widget);
+        new QLabel(u"A&&B"_s, m_widget);
+        new QCheckBox(u"Remember"_s, m_widget);
+        auto* group = new QGroupBox(u"&Server"_s, m_widget);
+        new QRadioButton(u"Dir&ect"_s, group);
+        new QPushButton(u"Te&st"_s, group);
+        return m_widget;
+    }
+};
+
 class Provider : public OptionPageProvider
 {
 public:
@@ -74,9 +83,7 @@ public:
 struct Parts
 {
     explicit Parts(OptionsDialog& dialog)
-        : list(dialog.findChild<CategoryListView*>())
-        , search(dialog.findChild<QLineEdit*>())
-        , buttons(dialog.findChild<QDialogButtonBox*>())
+        : list(dialog.findChild<CategoryListView*>()), search(dialog.findChild<QLineEdit*>())
     {}
     QStringList captions() const
     {
@@ -95,12 +102,15 @@ struct Parts
         return nullptr;
     }
     QString tab() const { return tabs()->tabText(tabs()->currentIndex()); }
-    void ok() const { QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton); }
 
     CategoryListView* list;
     QLineEdit* search;
-    QDialogButtonBox* buttons;
 };
+
+void ok(const OptionsDialog& dialog)
+{
+    QTest::mouseClick(buttonOf(dialog, QDialogButtonBox::Ok), Qt::LeftButton);
+}
 
 template <typename... Pages>
 void provide(const QString& category, Pages*... pages)
@@ -162,9 +172,10 @@ private Q_SLOTS:
                 if (end.startsWith(u'A'))
                     QMetaObject::invokeMethod(&shown, "slotApply");
                 if (end == u'O')
-                    parts.ok();
+                    ok(shown);
                 else if (end.endsWith(u'C'))
-                    parts.buttons->button(QDialogButtonBox::Cancel)->click();
+                    buttonOf(shown, QDialogButtonBox::Cancel)->click();
+
                 else if (end == u'E')
                     QTest::keyClick(&shown, Qt::Key_Escape);
                 else
@@ -189,7 +200,7 @@ private Q_SLOTS:
         whenShown<OptionsDialog>(this, [&](OptionsDialog&) {
             QCOMPARE(open(u"b"_s, u"b1"_s), first);
             QCOMPARE(Parts(*first).caption(), u"Category b"_s);
-            QTimer::singleShot(0, first, [&] { Parts(*first).ok(); });
+            QTimer::singleShot(0, first, [&] { ok(*first); });
             QVERIFY(first->execDialog());
             returned << u"second"_s;
             QVERIFY(first->execDialog()); // which does not wait for a dialog that is closing
@@ -234,7 +245,7 @@ private Q_SLOTS:
                 else
                     delete parent;
             };
-            whenShown<OptionsDialog>(this, [](OptionsDialog& shown) { Parts(shown).ok(); });
+            whenShown<OptionsDialog>(this, [](OptionsDialog& shown) { ok(shown); });
             QVERIFY(dialog->execDialog());
             QCOMPARE(calls.contains(u"apply a3"_s), deleted == u"page"_s || deleted == u"widget"_s);
             QCOMPARE(calls.contains(u"finish a2"_s), deleted != u"dialog"_s);
@@ -351,6 +362,21 @@ private Q_SLOTS:
             delete dialog;
         }
         QCOMPARE(settings.value(u"UserSettings/Mine"_s).toInt(), 7);
+
+        // Wherever its owner is, it opens within the screen.
+        settings.setValue(u"UserSettings/LastSize"_s, QSize(600, 400));
+        for (const int corner : {-900, 1900}) {
+            parent.move(corner, corner);
+            OptionsDialog* dialog = open({}, {}, &parent);
+            dialog->readUserSettings(settings);
+            QRect place;
+            whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
+                place = {shown.pos(), shown.size()};
+                ok(shown);
+            });
+            QVERIFY(dialog->execDialog());
+            QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(place));
+        }
     }
 
     void readsDamagedSettings()
@@ -372,7 +398,7 @@ private Q_SLOTS:
             QCOMPARE(dialog->size(), QSize(1000, 600));
             whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
                 QCOMPARE(Parts(shown).caption(), caption);
-                Parts(shown).ok();
+                ok(shown);
             });
             QVERIFY(dialog->execDialog());
             // A place where nothing can be written.
@@ -401,6 +427,51 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(15, row.height() / 2), blue);
         QCOMPARE_GE(contrast(image.pixelColor(row.width() - 3, row.height() / 2), blue), 2);
         delete dialog;
+    }
+
+    void textsAreFound()
+    {
+        TextPage page(u"a"_s, u"a1"_s);
+        QVERIFY(!page.matches(u"proxy"_s)); // there is no widget yet
+        std::unique_ptr<QWidget> widget(page.createWidget(nullptr));
+        for (const auto& text : {u"proxy"_s, u"AB"_s, u"rememb"_s, u"TEST"_s, u"server"_s, u""_s})
+            QVERIFY2(page.matches(text), qPrintable(text));
+        QVERIFY(!page.matches(u"direct"_s));
+        QCOMPARE(static_cast<SettingsBaseWidget*>(widget.get())->searchKeywords().join(u' '),
+                 u"&Server &Proxy A&&B Remember Te&st Dir&ect"_s);
+
+        widget->findChild<QLabel*>()->setText(u"Gateway"_s);
+        QVERIFY(!page.matches(u"gateway"_s));
+        widget.reset();
+        QVERIFY(page.matches(u"proxy"_s));
+    }
+
+    void iconsOfMissingPicturesAreNull()
+    {
+        const QTemporaryDir folder;
+        const QString broken = writeFile(folder.filePath(u"broken.png"_s), "no picture");
+        Page page({}, {});
+        for (const auto& path : {QString(), folder.filePath(u"missing.png"_s), broken}) {
+            page.setCategoryIcon(path);
+            QVERIFY2(page.categoryIcon().isNull(), qPrintable(path));
+        }
+        page.setCategoryIcon(u":/CorvelGui/common/open.png"_s);
+        QVERIFY(!page.categoryIcon().isNull());
+    }
+
+    void whatIsDeletedLeavesTheLists()
+    {
+        Page* first = add(u"a"_s, u"a1"_s);
+        const QPointer<Page> second = add(u"a"_s, u"a2"_s);
+        auto* provider = new Provider(u"a"_s, {first, nullptr, second});
+        SettingsManager::m_listProvider << provider;
+        QCOMPARE(provider->pages().size(), 3);
+        delete first;
+        QCOMPARE(provider->pages(), QList<ISettingsPage*>({nullptr, second}));
+        QCOMPARE(SettingsManager::GetPages(), QList<ISettingsPage*>({second}));
+        delete provider;
+        QVERIFY(!second);
+        QVERIFY(SettingsManager::GetProvider().isEmpty());
     }
 
 private:

@@ -1,12 +1,14 @@
 #pragma once
 
-#include <QCoreApplication>
 #include <QEnterEvent>
 #include <QEventLoop>
-#include <QMouseEvent>
+#include <QPointer>
+#include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
 #include <QWidget>
+
+#include <functional>
 
 /// Turns the wheel over @p widget and returns whether anything handled it.
 inline bool turnWheel(QWidget* widget, QPointF at, QPoint angle, Qt::KeyboardModifiers held = {})
@@ -34,6 +36,18 @@ inline void leaveMouse(QWidget& widget)
 {
     QEvent event(QEvent::Leave);
     QCoreApplication::sendEvent(&widget, &event);
+}
+
+/// Does @p act to a new object of which every receiver of the signals deletes it. Returns whether
+/// it is gone then.
+template <typename Object, typename... Signals>
+bool isDeletedBy(const std::function<void(Object&)>& act, Signals... signals)
+{
+    QPointer<Object> object = new Object;
+    QObject context;
+    (QObject::connect(object.data(), signals, &context, [&] { delete object; }), ...);
+    act(*object);
+    return QTest::qWaitFor([&] { return !object; });
 }
 
 /// Deletes @p object, if @p nested from an event loop that goes on for a while.

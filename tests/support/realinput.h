@@ -14,9 +14,8 @@ bool isAvailable();
 
 /// @p position is in pixels of the device.
 void moveTo(QPoint position);
-void press();
-void release();
-void doubleClick();
+void setPressed(bool pressed);
+
 /// Positive notches turn the wheel away from the user.
 void turnWheel(int notches);
 /// Presses a key by its name in Qt.

@@ -55,22 +55,9 @@ void moveTo(QPoint position)
     QCoreApplication::processEvents();
 }
 
-void press()
+void setPressed(bool pressed)
 {
-    sendMouse(MOUSEEVENTF_LEFTDOWN);
-}
-
-void release()
-{
-    sendMouse(MOUSEEVENTF_LEFTUP);
-}
-
-void doubleClick()
-{
-    for (int i = 0; i < 2; ++i) {
-        press();
-        release();
-    }
+    sendMouse(pressed ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP);
 }
 
 void turnWheel(int notches)
@@ -82,10 +69,8 @@ void turnWheel(int notches)
 void strike(const QString& key)
 {
     static const QHash<QString, WORD> keys{
-        {u"Left"_s, WORD(VK_LEFT)},  {u"Right"_s, WORD(VK_RIGHT)},  {u"Up"_s, WORD(VK_UP)},
-        {u"Down"_s, WORD(VK_DOWN)},  {u"Home"_s, WORD(VK_HOME)},    {u"End"_s, WORD(VK_END)},
-        {u"PgUp"_s, WORD(VK_PRIOR)}, {u"PgDown"_s, WORD(VK_NEXT)},  {u"Escape"_s, WORD(VK_ESCAPE)},
-        {u"Tab"_s, WORD(VK_TAB)},    {u"Return"_s, WORD(VK_RETURN)}};
+        {u"Right"_s, WORD(VK_RIGHT)}, {u"Home"_s, WORD(VK_HOME)}, {u"Escape"_s, WORD(VK_ESCAPE)}};
+
     // Letters have the code of their capital.
     const WORD letter = key.size() == 1 ? WORD(key.front().toUpper().unicode()) : WORD(0);
     const WORD code = keys.value(key, letter);

@@ -17,16 +17,6 @@ void xdo(const QStringList& arguments)
     QCoreApplication::processEvents();
 }
 
-/// The X server's names differ where Qt's are short.
-QString xKey(const QString& key)
-{
-    if (key == u"PgDown"_s)
-        return u"Next"_s;
-    if (key == u"PgUp"_s)
-        return u"Prior"_s;
-    return key;
-}
-
 } // namespace
 
 bool isWanted()
@@ -44,19 +34,9 @@ void moveTo(QPoint position)
     xdo({u"mousemove"_s, QString::number(position.x()), QString::number(position.y())});
 }
 
-void press()
+void setPressed(bool pressed)
 {
-    xdo({u"mousedown"_s, u"1"_s});
-}
-
-void release()
-{
-    xdo({u"mouseup"_s, u"1"_s});
-}
-
-void doubleClick()
-{
-    xdo({u"click"_s, u"--repeat"_s, u"2"_s, u"--delay"_s, u"50"_s, u"1"_s});
+    xdo({pressed ? u"mousedown"_s : u"mouseup"_s, u"1"_s});
 }
 
 void turnWheel(int notches)
@@ -67,7 +47,7 @@ void turnWheel(int notches)
 
 void strike(const QString& key)
 {
-    xdo({u"key"_s, xKey(key)});
+    xdo({u"key"_s, key});
 }
 
 } // namespace RealInput

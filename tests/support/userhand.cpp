@@ -1,13 +1,10 @@
 #include "userhand.h"
 
+#include "pointer.h"
 #include "realinput.h"
 
 #include <QApplication>
 #include <QKeySequence>
-#include <QMouseEvent>
-#include <QTest>
-#include <QWheelEvent>
-#include <QWidget>
 
 bool UserHand::isAvailable()
 {
@@ -28,22 +25,13 @@ void UserHand::moveTo(QWidget* widget, QPoint position)
         send(QEvent::MouseMove);
 }
 
-void UserHand::press()
+void UserHand::setPressed(bool pressed)
 {
-    m_held = true;
+    m_held = pressed;
     if (m_real)
-        RealInput::press();
+        RealInput::setPressed(pressed);
     else
-        send(QEvent::MouseButtonPress);
-}
-
-void UserHand::release()
-{
-    m_held = false;
-    if (m_real)
-        RealInput::release();
-    else
-        send(QEvent::MouseButtonRelease);
+        send(pressed ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease);
 }
 
 void UserHand::click()
@@ -54,9 +42,9 @@ void UserHand::click()
 
 void UserHand::doubleClick()
 {
-    if (m_real)
-        return RealInput::doubleClick();
     click();
+    if (m_real)
+        return click();
     send(QEvent::MouseButtonDblClick);
     release();
 }
@@ -66,10 +54,8 @@ void UserHand::turnWheel(int notches)
     if (m_real)
         return RealInput::turnWheel(notches);
     for (int i = 0; i < qAbs(notches); ++i) {
-        QWheelEvent event(m_target->mapFromGlobal(QPointF(m_position)), m_position, {},
-                          QPoint(0, notches > 0 ? 120 : -120), Qt::NoButton, {}, Qt::NoScrollPhase,
-                          false);
-        QApplication::sendEvent(m_target, &event);
+        ::turnWheel(m_target, m_target->mapFromGlobal(QPointF(m_position)),
+                    {0, notches > 0 ? 120 : -120});
     }
 }
 

@@ -16,16 +16,18 @@ public:
     UserHand();
 
     void moveTo(QWidget* widget, QPoint position);
-    void press();
-    void release();
+    void press() { setPressed(true); }
+    void release() { setPressed(false); }
     void click();
     void doubleClick();
+
     /// Turns the wheel by notches; positive ones away from the user.
     void turnWheel(int notches);
-    /// Presses a key by its name in Qt, such as "Right" or "PgDown".
+    /// Presses a key by its name in Qt, such as "Right".
     void strike(const QString& key);
 
 private:
+    void setPressed(bool pressed);
     void send(int type);
 
     QWidget* m_target = nullptr;

@@ -1,9 +1,17 @@
 #pragma once
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QPushButton>
+
 #include <QTimer>
 
 #include <functional>
+
+inline QPushButton* buttonOf(const QWidget& dialog, QDialogButtonBox::StandardButton button)
+{
+    return dialog.findChild<QDialogButtonBox*>()->button(button);
+}
 
 /// Runs @p act once a modal dialog of that class is shown, inside the dialog's event loop. It must
 /// end the dialog.

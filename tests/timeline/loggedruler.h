@@ -1,18 +1,9 @@
 #pragma once
 
-#include "pointer.h"
+#include "testsupport.h"
 #include "times.h"
 
 #include <CorvelGui/Ruler>
-
-#include <QAccessible>
-#include <QApplication>
-#include <QStringList>
-#include <QTest>
-#include <QTimeZone>
-
-#include <functional>
-#include <utility>
 
 /// Milliseconds since the epoch, @p offset after a Monday's midnight in UTC.
 inline quint64 at(qint64 offset)
@@ -39,8 +30,6 @@ class LoggedRuler : public CorvelGui::Ruler
 public:
     LoggedRuler()
     {
-        using namespace Qt::StringLiterals;
-
         resize(1020, height());
         show(); // a widget that was never shown does not know its size
         setTimeZone(u"UTC"_s);

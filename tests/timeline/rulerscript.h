@@ -4,17 +4,15 @@
 #include "loggedruler.h"
 #include "rangehandle.h"
 
-#include <QPointer>
 #include <QRegularExpression>
 
-#include <functional>
 #include <map>
 
 /// Sends a mouse event to the widget at a place of the ruler, or to its indicator. Returns false if
 /// @p kind is none of the mouse.
 inline bool playMouse(LoggedRuler& ruler, const QString& kind, const QString& place)
 {
-    using namespace Qt::StringLiterals;
+
     static const std::map<QString, std::tuple<QEvent::Type, Qt::MouseButton, Qt::MouseButtons>>
         kinds{
             {u"press"_s, {QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton}},
@@ -60,7 +58,7 @@ inline bool playMouse(LoggedRuler& ruler, const QString& kind, const QString& pl
 /// arguments. Returns what the ruler said.
 inline QString play(LoggedRuler* ruler, const QString& script)
 {
-    using namespace Qt::StringLiterals;
+
     using R = LoggedRuler;
     struct Words : QStringList
     {
@@ -170,7 +168,7 @@ struct RulerCase
 
 inline void comparePlay(const RulerCase& expected)
 {
-    using namespace Qt::StringLiterals;
+
     LoggedRuler ruler;
     play(&ruler, expected.setUp);
     const QString name = expected.setUp + u" - "_s + expected.script + u": "_s;

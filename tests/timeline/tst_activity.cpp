@@ -7,14 +7,7 @@
 #include <CorvelGui/ZoomTimeline>
 #include <CorvelGui/Zoomer>
 
-#include <QLayout>
-#include <QRandomGenerator>
-#include <QSignalSpy>
-
-#include <cmath>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -63,192 +56,180 @@ class TestActivity : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void histogramCountsAsALoopDoes();
-    void rulerKnowsWhatHappens();
-    void boxShowsWhatThereIsOfTheView();
-    void stripStandsUnderTheRuler();
-    void edgesResizeTheView();
-    void wheelZoomsTheRuler();
-    void viewBeforeThePeriodShowsAtItsBegin();
-};
-
-void TestActivity::histogramCountsAsALoopDoes()
-{
-    QRandomGenerator random(7);
-    for (const qint64 duration : {qint64(1), qint64(7), qint64(1'000), 10 * day}) {
-        for (const int columns : {1, 3, 640}) {
-            const TimeSpan period{monday, monday + duration};
-            ActivityHistogram histogram(period, columns);
-            TimelineActivity expected{
-                .columns = std::vector<TimelineActivity::Column>(std::size_t(columns))};
-            const auto columnOf = [&](qint64 msecs) {
-                int column = 0;
-                while (column + 1 < columns &&
-                       (msecs - monday) * columns >= (column + 1) * duration)
-                    ++column;
-                return std::size_t(column);
-            };
-            for (int i = 0; i < 200; ++i) {
-                const qint64 time = monday - 2 + random.bounded(duration + 5);
-                const auto severity = random.bounded(4);
-                histogram.add(time, Severity(severity));
-                if (time >= period.begin && time <= period.end)
-                    ++expected.columns[columnOf(time)].events[std::size_t(severity)];
+    void histogramCountsAsALoopDoes()
+    {
+        QRandomGenerator random(7);
+        for (const qint64 duration : {qint64(1), qint64(7), qint64(1'000), 10 * day}) {
+            for (const int columns : {1, 3, 640}) {
+                const TimeSpan period{monday, monday + duration};
+                ActivityHistogram histogram(period, columns);
+                TimelineActivity expected{
+                    .columns = std::vector<TimelineActivity::Column>(std::size_t(columns))};
+                const auto columnOf = [&](qint64 msecs) {
+                    int column = 0;
+                    while (column + 1 < columns &&
+                           (msecs - monday) * columns >= (column + 1) * duration)
+                        ++column;
+                    return std::size_t(column);
+                };
+                for (int i = 0; i < 200; ++i) {
+                    const qint64 time = monday - 2 + random.bounded(duration + 5);
+                    const auto severity = random.bounded(4);
+                    histogram.add(time, Severity(severity));
+                    if (time >= period.begin && time <= period.end)
+                        ++expected.columns[columnOf(time)].events[std::size_t(severity)];
+                }
+                const TimeSpan span{monday + duration / 3, monday + duration / 2 + 1};
+                histogram.cover({{monday - 5, monday + duration + 5}}, Recording::Gap);
+                histogram.cover({span}, Recording::Recorded);
+                for (std::size_t i = 0; i < expected.columns.size(); ++i)
+                    expected.columns[i].recording =
+                        qint64(i) * duration < (span.end - monday) * columns &&
+                                qint64(i + 1) * duration > (span.begin - monday) * columns
+                            ? Recording::Recorded
+                            : Recording::Gap;
+                QVERIFY(histogram.take().columns == expected.columns);
             }
-            const TimeSpan span{monday + duration / 3, monday + duration / 2 + 1};
-            histogram.cover({{monday - 5, monday + duration + 5}}, Recording::Gap);
-            histogram.cover({span}, Recording::Recorded);
-            for (std::size_t i = 0; i < expected.columns.size(); ++i)
-                expected.columns[i].recording =
-                    qint64(i) * duration < (span.end - monday) * columns &&
-                            qint64(i + 1) * duration > (span.begin - monday) * columns
-                        ? Recording::Recorded
-                        : Recording::Gap;
-            QVERIFY(histogram.take().columns == expected.columns);
         }
     }
-}
 
-void TestActivity::rulerKnowsWhatHappens()
-{
-    LoggedRuler ruler;
-    QCOMPARE(Ruler().activity(4).columns.size(), 0U);
-    ruler.setTimeLimits(at(0), at(4 * hour));
-    QSignalSpy changes(&ruler, &Ruler::activityChanged);
-    ruler.setTrackDescriptions({{u"a"_s, {}, monday, monday + 3 * hour, {}}});
-    ruler.addRecordedSpans(u"a"_s, {{monday + hour, monday + 2 * hour}});
-    const RulerMarker alarm{.time = timeAt(hour), .severity = Severity::Alarm};
-    ruler.onAddMarkers({alarm, {.time = timeAt(4 * hour)}});
-    const TimelineActivity activity = ruler.activity(4);
-    QCOMPARE(activity.columns.size(), 4U);
-    QVERIFY(activity.columns[0] == TimelineActivity::Column{Recording::Gap});
-    QVERIFY(activity.columns[1] == (TimelineActivity::Column{Recording::Recorded, {0, 0, 0, 1}}));
-    QVERIFY(activity.columns[3] == (TimelineActivity::Column{Recording::Unknown, {1, 0, 0, 0}}));
-    QCOMPARE(changes.size(), 3);
-    ruler.onRemoveMarkers({alarm});
-    ruler.onClearMarkers();
-    ruler.setTimeLimits(at(0), at(hour));
-    QCOMPARE(changes.size(), 6);
-}
-
-void TestActivity::boxShowsWhatThereIsOfTheView()
-{
-    const OverviewScale scale(120); // 100 pixels from 10 on
-    const struct
+    void rulerKnowsWhatHappens()
     {
-        OverviewRange view;
-        double left, right;
-    } cases[] = {{{0.2, 0.5}, 30, 60}, {{0.0, 1.0}, 10, 110},  {{-9.0, 9.0}, 1, 119},
-                 {{-3.0, -2.0}, 1, 6}, {{2.0, 3.0}, 114, 119}, {{0.5, 0.5}, 57.5, 62.5},
-                 {{NAN, NAN}, 1, 6}};
-    for (const auto& c : cases) {
-        const OverviewBox box(scale, c.view);
-        QCOMPARE(box.left(), c.left);
-        QCOMPARE(box.right(), c.right);
+        LoggedRuler ruler;
+        QCOMPARE(Ruler().activity(4).columns.size(), 0U);
+        ruler.setTimeLimits(at(0), at(4 * hour));
+        QSignalSpy changes(&ruler, &Ruler::activityChanged);
+        ruler.setTrackDescriptions({{u"a"_s, {}, monday, monday + 3 * hour, {}}});
+        ruler.addRecordedSpans(u"a"_s, {{monday + hour, monday + 2 * hour}});
+        const RulerMarker alarm{.time = timeAt(hour), .severity = Severity::Alarm};
+        ruler.onAddMarkers({alarm, {.time = timeAt(4 * hour)}});
+        const TimelineActivity activity = ruler.activity(4);
+        QCOMPARE(activity.columns.size(), 4U);
+        QVERIFY(activity.columns[0] == TimelineActivity::Column{Recording::Gap});
+        QVERIFY(activity.columns[1] ==
+                (TimelineActivity::Column{Recording::Recorded, {0, 0, 0, 1}}));
+        QVERIFY(activity.columns[3] ==
+                (TimelineActivity::Column{Recording::Unknown, {1, 0, 0, 0}}));
+        QCOMPARE(changes.size(), 3);
+        ruler.onRemoveMarkers({alarm});
+        ruler.onClearMarkers();
+        ruler.setTimeLimits(at(0), at(hour));
+        QCOMPARE(changes.size(), 6);
     }
-    using Part = OverviewBox::Part;
-    const OverviewBox box(scale, {0.2, 0.5});
-    for (const auto& [x, part] : {std::pair(25, Part::Outside),
-                                  {26, Part::Begin},
-                                  {34, Part::Begin},
-                                  {35, Part::Inside},
-                                  {55, Part::Inside},
-                                  {56, Part::End},
-                                  {64, Part::End},
-                                  {65, Part::Outside}})
-        QCOMPARE(box.partAt(x), part);
-}
 
-void TestActivity::stripStandsUnderTheRuler()
-{
-    BusyTimeline timeline;
-    const QWidget& ruler = *timeline.ruler();
-    const QWidget& strip = *timeline.timelineScroll();
-    QCOMPARE(strip.x(), ruler.x());
-    QCOMPARE(strip.width(), ruler.width());
-    QVERIFY(timeline.zoomer()->geometry().right() < ruler.x());
-    timeline.ruler()->setView(monday, monday + day);
-    QVERIFY(std::abs(timeline.ruler()->xAt(monday + 7 * hour) - timeline.stripX(7 * hour)) < 0.5);
+    void boxShowsWhatThereIsOfTheView()
+    {
+        const OverviewScale scale(120); // 100 pixels from 10 on
+        const std::tuple<OverviewRange, double, double> cases[] = {
+            {{0.2, 0.5}, 30, 60}, {{0.0, 1.0}, 10, 110},  {{-9.0, 9.0}, 1, 119},
+            {{-3.0, -2.0}, 1, 6}, {{2.0, 3.0}, 114, 119}, {{0.5, 0.5}, 57.5, 62.5},
+            {{NAN, NAN}, 1, 6}};
+        for (const auto& [view, left, right] : cases) {
+            const OverviewBox box(scale, view);
+            QCOMPARE(box.left(), left);
+            QCOMPARE(box.right(), right);
+        }
+        using Part = OverviewBox::Part;
+        const OverviewBox box(scale, {0.2, 0.5});
+        for (const auto& [x, part] : {std::pair(25, Part::Outside),
+                                      {26, Part::Begin},
+                                      {34, Part::Begin},
+                                      {35, Part::Inside},
+                                      {55, Part::Inside},
+                                      {56, Part::End},
+                                      {64, Part::End},
+                                      {65, Part::Outside}})
+            QCOMPARE(box.partAt(x), part);
+    }
 
-    // A recording and an alarm stand in the strip's columns of their times.
-    timeline.ruler()->setTrackDescriptions(
-        {{u"a"_s, {}, monday, monday + day, {{monday + 6 * hour, monday + 9 * hour}}}});
-    timeline.ruler()->onAddMarkers({{.time = timeAt(15 * hour), .severity = Severity::Alarm}});
-    const QImage image = timeline.timelineScroll()->grab().toImage();
-    const auto colorAt = [&](double x, int y) {
-        return image.pixelColor(int(x), y);
-    };
-    const int foot = strip.height() - 4;
-    QVERIFY(colorAt(timeline.stripX(6 * hour) + 2, foot) !=
-            colorAt(timeline.stripX(6 * hour) - 2, foot));
-    QVERIFY(colorAt(timeline.stripX(9 * hour) - 2, foot) !=
-            colorAt(timeline.stripX(9 * hour) + 2, foot));
-    const QColor bar = colorAt(timeline.stripX(15 * hour) - 1, 8);
-    QVERIFY(bar.red() > bar.blue() + 50);
+    void stripStandsUnderTheRuler()
+    {
+        BusyTimeline timeline;
+        const QWidget& ruler = *timeline.ruler();
+        const QWidget& strip = *timeline.timelineScroll();
+        QCOMPARE(strip.x(), ruler.x());
+        QCOMPARE(strip.width(), ruler.width());
+        QVERIFY(timeline.zoomer()->geometry().right() < ruler.x());
+        timeline.ruler()->setView(monday, monday + day);
+        QVERIFY(std::abs(timeline.ruler()->xAt(monday + 7 * hour) - timeline.stripX(7 * hour)) <
+                0.5);
 
-    timeline.setActivityVisible(false);
-    timeline.layout()->activate();
-    QCOMPARE(strip.maximumHeight(), 15);
-    QVERIFY(timeline.zoomer()->geometry().right() < strip.x());
-    QVERIFY(ruler.x() < strip.x());
-}
+        // A recording and an alarm stand in the strip's columns of their times.
+        timeline.ruler()->setTrackDescriptions(
+            {{u"a"_s, {}, monday, monday + day, {{monday + 6 * hour, monday + 9 * hour}}}});
+        timeline.ruler()->onAddMarkers({{.time = timeAt(15 * hour), .severity = Severity::Alarm}});
+        const QImage image = timeline.timelineScroll()->grab().toImage();
+        const auto colorAt = [&](double x, int y) {
+            return image.pixelColor(int(x), y);
+        };
+        const int foot = strip.height() - 4;
+        QVERIFY(colorAt(timeline.stripX(6 * hour) + 2, foot) !=
+                colorAt(timeline.stripX(6 * hour) - 2, foot));
+        QVERIFY(colorAt(timeline.stripX(9 * hour) - 2, foot) !=
+                colorAt(timeline.stripX(9 * hour) + 2, foot));
+        const QColor bar = colorAt(timeline.stripX(15 * hour) - 1, 8);
+        QVERIFY(bar.red() > bar.blue() + 50);
 
-void TestActivity::edgesResizeTheView()
-{
-    BusyTimeline timeline;
-    timeline.ruler()->setView(monday, monday + 12 * hour);
-    QCOMPARE(timeline.view(), (TimeSpan{0, 12 * hour}));
+        timeline.setActivityVisible(false);
+        timeline.layout()->activate();
+        QCOMPARE(strip.maximumHeight(), 15);
+        QVERIFY(timeline.zoomer()->geometry().right() < strip.x());
+        QVERIFY(ruler.x() < strip.x());
+    }
 
-    // The box is what the user wants of it, and the view what the levels allow.
-    timeline.press(timeline.stripX(12 * hour));
-    QVERIFY(timeline.isHeld());
-    timeline.moveTo(timeline.stripX(6 * hour));
-    QVERIFY(std::abs(timeline.wanted.end - 0.25) < 0.002);
-    QCOMPARE(timeline.wanted.begin, 0.0);
-    QCOMPARE(timeline.view().end, 12 * hour);
-    timeline.moveTo(timeline.stripX(3 * hour) - 1);
-    QCOMPARE(timeline.view().end - timeline.view().begin, 3 * hour);
-    timeline.moveTo(0);
-    QVERIFY(timeline.wanted.length() > 0);
-    timeline.release(0);
-    QVERIFY(!timeline.isHeld());
+    void edgesResizeTheView()
+    {
+        BusyTimeline timeline;
+        timeline.ruler()->setView(monday, monday + 12 * hour);
+        QCOMPARE(timeline.view(), (TimeSpan{0, 12 * hour}));
 
-    // Shift holds the end and Ctrl the begin, step by step.
-    timeline.ruler()->setView(monday, monday + 12 * hour);
-    const auto press = [&](int key, Qt::KeyboardModifiers modifiers, int times) {
-        for (int i = 0; i < times; ++i)
-            QTest::keyPress(timeline.timelineScroll(), Qt::Key(key), modifiers);
-    };
-    press(Qt::Key_Right, Qt::ShiftModifier, 1);
-    QCOMPARE(timeline.wanted, (OverviewRange{0.0, 0.55}));
-    QCOMPARE(timeline.view().end - timeline.view().begin, day);
-    QTest::keyRelease(timeline.timelineScroll(), Qt::Key_Shift);
-    press(Qt::Key_Right, Qt::ControlModifier, 3);
-    QVERIFY(std::abs(timeline.wanted.begin - (1 - 0.9 * 0.9 * 0.9)) < 1e-9);
-    QCOMPARE(timeline.wanted.end, 1.0);
-}
+        // The box is what the user wants of it, and the view what the levels allow.
+        timeline.press(timeline.stripX(12 * hour));
+        QVERIFY(timeline.isHeld());
+        timeline.moveTo(timeline.stripX(6 * hour));
+        QVERIFY(std::abs(timeline.wanted.end - 0.25) < 0.002);
+        QCOMPARE(timeline.wanted.begin, 0.0);
+        QCOMPARE(timeline.view().end, 12 * hour);
+        timeline.moveTo(timeline.stripX(3 * hour) - 1);
+        QCOMPARE(timeline.view().end - timeline.view().begin, 3 * hour);
+        timeline.moveTo(0);
+        QVERIFY(timeline.wanted.length() > 0);
+        timeline.release(0);
+        QVERIFY(!timeline.isHeld());
 
-void TestActivity::wheelZoomsTheRuler()
-{
-    BusyTimeline timeline;
-    timeline.ruler()->setView(monday, monday + day);
-    TimelineScroll* strip = timeline.timelineScroll();
-    const QPointF position(timeline.stripX(6 * hour), 5);
-    QWheelEvent wheel(position, strip->mapToGlobal(position), {}, {0, 120}, {}, {},
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(strip, &wheel);
-    QCOMPARE(timeline.view().end - timeline.view().begin, 12 * hour);
-    QVERIFY(std::abs(timeline.view().begin - 3 * hour) < 10 * minute);
-}
+        // Shift holds the end and Ctrl the begin, step by step.
+        timeline.ruler()->setView(monday, monday + 12 * hour);
+        const auto press = [&](int key, Qt::KeyboardModifiers modifiers, int times) {
+            for (int i = 0; i < times; ++i)
+                QTest::keyPress(timeline.timelineScroll(), Qt::Key(key), modifiers);
+        };
+        press(Qt::Key_Right, Qt::ShiftModifier, 1);
+        QCOMPARE(timeline.wanted, (OverviewRange{0.0, 0.55}));
+        QCOMPARE(timeline.view().end - timeline.view().begin, day);
+        QTest::keyRelease(timeline.timelineScroll(), Qt::Key_Shift);
+        press(Qt::Key_Right, Qt::ControlModifier, 3);
+        QVERIFY(std::abs(timeline.wanted.begin - (1 - 0.9 * 0.9 * 0.9)) < 1e-9);
+        QCOMPARE(timeline.wanted.end, 1.0);
+    }
 
-void TestActivity::viewBeforeThePeriodShowsAtItsBegin()
-{
-    BusyTimeline timeline;
-    timeline.setActivityVisible(false);
-    timeline.ruler()->onTimelineOffsetChanged(-1.0);
-    timeline.setActivityVisible(true);
-    QVERIFY(std::abs(timeline.timelineScroll()->centerPosition() + 1.0) < 1e-6);
-}
+    void wheelZoomsTheRuler()
+    {
+        BusyTimeline timeline;
+        timeline.ruler()->setView(monday, monday + day);
+
+        turnWheel(timeline.timelineScroll(), {timeline.stripX(6 * hour), 5}, {0, 120});
+
+        QCOMPARE(timeline.view().end - timeline.view().begin, 12 * hour);
+        QVERIFY(std::abs(timeline.view().begin - 3 * hour) < 10 * minute);
+
+        // A view before the period shows at its begin.
+        timeline.setActivityVisible(false);
+        timeline.ruler()->setView(monday, monday + hour);
+        timeline.ruler()->onTimelineOffsetChanged(-1.0);
+        timeline.setActivityVisible(true);
+        QVERIFY(std::abs(timeline.timelineScroll()->centerPosition() + 1.0) < 1e-6);
+    }
+};
 
 QTEST_MAIN(TestActivity)
 #include "tst_activity.moc"

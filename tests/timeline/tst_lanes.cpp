@@ -6,12 +6,9 @@
 #include <CorvelGui/TimelineLanes>
 #include <CorvelGui/ZoomTimeline>
 
-#include <QLayout>
 #include <QScrollBar>
-#include <QSignalSpy>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -56,10 +53,7 @@ public:
     }
     void turn(int x, Qt::KeyboardModifiers modifiers = {})
     {
-        const QPointF position(x, 5);
-        QWheelEvent wheel(position, lanes()->mapToGlobal(position), {}, {0, -120}, {}, modifiers,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(lanes(), &wheel);
+        turnWheel(lanes(), QPointF(x, 5), {0, -120}, modifiers);
     }
     int scrolled() const { return -lanes()->laneRect(0).top(); }
 };
@@ -71,127 +65,117 @@ class TestLanes : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void layout();
-    void spansOfOneTrack();
-    void statesStandInTheColumnsOfTheRuler();
-    void userChoosesTracks();
-    void lanesScroll();
-    void assistiveTechnologySeesAList();
-};
-
-void TestLanes::layout()
-{
-    const LaneLayout lanes{.count = 10, .laneHeight = 20, .height = 50, .offset = 30};
-    QCOMPARE(lanes.maximumOffset(), 150);
-    QCOMPARE(QList({lanes.first(), lanes.end(), lanes.top(2)}), QList({1, 4, 10}));
-    QCOMPARE(QList({lanes.laneAt(-31), lanes.laneAt(0), lanes.laneAt(10), lanes.laneAt(170)}),
-             QList({-1, 1, 2, -1}));
-    QCOMPARE(QList({lanes.offsetShowing(0), lanes.offsetShowing(2), lanes.offsetShowing(3),
-                    lanes.offsetShowing(9)}),
-             QList({0, 30, 30, 150}));
-    const LaneLayout few{.count = 2, .laneHeight = 20, .height = 50, .offset = 0};
-    QCOMPARE(QList({few.maximumOffset(), few.end(), few.laneAt(45)}), QList({0, 2, -1}));
-}
-
-void TestLanes::spansOfOneTrack()
-{
-    TrackLanes lanes;
-    lanes.setTracks({{u"a"_s, {}, 0, 100, {{40, 60}, {20, 50}}}, {u"b"_s, {}, 0, 10, {}}});
-    QCOMPARE(lanes.spans(0).recorded, (TimeSpans{{20, 60}}));
-    QCOMPARE(lanes.spans(0).described, (TimeSpans{{0, 100}}));
-    for (const TimeSpan& span : {TimeSpan{60, 70}, {70, 75}, {90, 110}})
-        lanes.addRecorded(u"a"_s, {span});
-    lanes.addRecorded(u"b"_s, {{0, 4}, {4, 5}}); // not looked at so far
-    QCOMPARE(lanes.spans(0).recorded, (TimeSpans{{20, 75}, {90, 110}}));
-    QCOMPARE(lanes.spans(0).described, (TimeSpans{{0, 110}}));
-    QCOMPARE(lanes.tracks()[1].recorded, (QList<TimeSpan>{{0, 5}}));
-    QCOMPARE(lanes.spans(1).described, (TimeSpans{{0, 10}}));
-}
-
-void TestLanes::statesStandInTheColumnsOfTheRuler()
-{
-    LaneTimeline timeline(3);
-    const QColor recorded = timeline.colorAt(1, 90 * minute);
-    const QColor gap = timeline.colorAt(1, 30 * minute);
-    QVERIFY(recorded != gap);
-    QCOMPARE(timeline.colorAt(1, hour + 3 * minute), recorded);
-    QCOMPARE(timeline.colorAt(1, hour - 3 * minute), gap);
-    QCOMPARE(timeline.colorAt(2, 90 * minute), gap);
-
-    // What comes to be known is seen, and what the ruler's view becomes.
-    timeline.ruler()->addRecordedSpans(u"2"_s, {{monday + hour, monday + 2 * hour}});
-    QCOMPARE(timeline.colorAt(2, 90 * minute), recorded);
-    timeline.ruler()->setTrackDescriptions({{u"0"_s, {}, monday, monday + hour, {}}});
-    QVERIFY(timeline.colorAt(0, 2 * hour) != timeline.colorAt(0, hour / 2));
-    timeline.ruler()->setTrackDescriptions({});
-    QVERIFY(!timeline.lanes()->isVisible());
-}
-
-void TestLanes::userChoosesTracks()
-{
-    LaneTimeline timeline(10);
-    QSignalSpy chosen(&timeline, &ZoomTimeline::currentTrackChanged);
-    timeline.click(2);
-    timeline.click(2);
-    const struct
+    void layout()
     {
-        Qt::Key key;
-        int lane;
-    } keys[] = {{Qt::Key_Down, 3},   {Qt::Key_Down, 4}, {Qt::Key_Up, 3},      {Qt::Key_End, 9},
-                {Qt::Key_PageUp, 5}, {Qt::Key_Home, 0}, {Qt::Key_PageDown, 4}};
-    for (const auto& [key, lane] : keys) {
-        QTest::keyClick(timeline.lanes(), key);
-        QCOMPARE(timeline.currentTrack(), QString::number(lane));
-        QVERIFY(timeline.lanes()->rect().contains(timeline.lanes()->laneRect(lane)));
+        const LaneLayout lanes{.count = 10, .laneHeight = 20, .height = 50, .offset = 30};
+        QCOMPARE(lanes.maximumOffset(), 150);
+        QCOMPARE(QList({lanes.first(), lanes.end(), lanes.top(2)}), QList({1, 4, 10}));
+        QCOMPARE(QList({lanes.laneAt(-31), lanes.laneAt(0), lanes.laneAt(10), lanes.laneAt(170)}),
+                 QList({-1, 1, 2, -1}));
+        QCOMPARE(QList({lanes.offsetShowing(0), lanes.offsetShowing(2), lanes.offsetShowing(3),
+                        lanes.offsetShowing(9)}),
+                 QList({0, 30, 30, 150}));
+        const LaneLayout few{.count = 2, .laneHeight = 20, .height = 50, .offset = 0};
+        QCOMPARE(QList({few.maximumOffset(), few.end(), few.laneAt(45)}), QList({0, 2, -1}));
     }
-    QCOMPARE(chosen.size(), 1 + std::ssize(keys));
 
-    // A track may come later.
-    timeline.setCurrentTrack(u"11"_s);
-    QCOMPARE(timeline.lanes()->currentLane(), -1);
-    timeline.ruler()->setTrackDescriptions(tracks(12));
-    QCOMPARE(timeline.lanes()->currentLane(), 11);
-}
+    void spansOfOneTrack()
+    {
+        TrackLanes lanes;
+        lanes.setTracks({{u"a"_s, {}, 0, 100, {{40, 60}, {20, 50}}}, {u"b"_s, {}, 0, 10, {}}});
+        QCOMPARE(lanes.spans(0).recorded, (TimeSpans{{20, 60}}));
+        QCOMPARE(lanes.spans(0).described, (TimeSpans{{0, 100}}));
+        for (const TimeSpan& span : {TimeSpan{60, 70}, {70, 75}, {90, 110}})
+            lanes.addRecorded(u"a"_s, {span});
+        lanes.addRecorded(u"b"_s, {{0, 4}, {4, 5}}); // not looked at so far
+        QCOMPARE(lanes.spans(0).recorded, (TimeSpans{{20, 75}, {90, 110}}));
+        QCOMPARE(lanes.spans(0).described, (TimeSpans{{0, 110}}));
+        QCOMPARE(lanes.tracks()[1].recorded, (QList<TimeSpan>{{0, 5}}));
+        QCOMPARE(lanes.spans(1).described, (TimeSpans{{0, 10}}));
+    }
 
-void TestLanes::lanesScroll()
-{
-    LaneTimeline timeline(10);
-    const int lane = timeline.lanes()->laneRect(0).height();
-    QCOMPARE(timeline.lanes()->height(), 4 * lane);
-    timeline.turn(5);
-    QCOMPARE(timeline.scrolled(), lane);
-    timeline.turn(600, Qt::ShiftModifier);
-    QCOMPARE(timeline.scrolled(), 2 * lane);
-    const TimeSpan view = timeline.ruler()->view();
-    timeline.ruler()->setView(view.begin, view.begin + hour);
-    timeline.turn(600);
-    QCOMPARE(timeline.scrolled(), 2 * lane);
-    QVERIFY(timeline.ruler()->view().end - timeline.ruler()->view().begin > hour);
-    QVERIFY(timeline.lanes()->findChild<QScrollBar*>()->isVisible());
-    timeline.lanes()->setMaximumLanes(10);
-    QCOMPARE(timeline.scrolled(), 0);
-    QVERIFY(!timeline.lanes()->findChild<QScrollBar*>()->isVisible());
-}
+    void statesStandInTheColumnsOfTheRuler()
+    {
+        LaneTimeline timeline(3);
+        const QColor recorded = timeline.colorAt(1, 90 * minute);
+        const QColor gap = timeline.colorAt(1, 30 * minute);
+        QVERIFY(recorded != gap);
+        QCOMPARE(timeline.colorAt(1, hour + 3 * minute), recorded);
+        QCOMPARE(timeline.colorAt(1, hour - 3 * minute), gap);
+        QCOMPARE(timeline.colorAt(2, 90 * minute), gap);
 
-void TestLanes::assistiveTechnologySeesAList()
-{
-    LaneTimeline timeline(10);
-    timeline.setCurrentTrack(u"1"_s);
-    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(timeline.lanes());
-    QCOMPARE(list->role(), QAccessible::List);
-    QVERIFY(!list->text(QAccessible::Name).isEmpty());
-    QCOMPARE(list->childCount(), 10);
-    QAccessibleInterface* lane = list->child(3);
-    QCOMPARE(lane->text(QAccessible::Name), u"Camera 3"_s);
-    QCOMPARE(list->indexOfChild(lane), 3);
-    QCOMPARE(list->childAt(lane->rect().center().x(), lane->rect().center().y()), lane);
-    QVERIFY(list->child(1)->state().selected && !lane->state().selected);
-    QVERIFY(list->child(9)->state().offscreen && !lane->state().offscreen);
-    lane->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QCOMPARE(timeline.currentTrack(), u"3"_s);
-    timeline.ruler()->setTrackDescriptions(tracks(2));
-    QVERIFY(!lane->isValid());
-}
+        // What comes to be known is seen, and what the ruler's view becomes.
+        timeline.ruler()->addRecordedSpans(u"2"_s, {{monday + hour, monday + 2 * hour}});
+        QCOMPARE(timeline.colorAt(2, 90 * minute), recorded);
+        timeline.ruler()->setTrackDescriptions({{u"0"_s, {}, monday, monday + hour, {}}});
+        QVERIFY(timeline.colorAt(0, 2 * hour) != timeline.colorAt(0, hour / 2));
+        timeline.ruler()->setTrackDescriptions({});
+        QVERIFY(!timeline.lanes()->isVisible());
+    }
+
+    void userChoosesTracks()
+    {
+        LaneTimeline timeline(10);
+        QSignalSpy chosen(&timeline, &ZoomTimeline::currentTrackChanged);
+        timeline.click(2);
+        timeline.click(2);
+        const std::pair<Qt::Key, int> keys[] = {
+            {Qt::Key_Down, 3},   {Qt::Key_Down, 4}, {Qt::Key_Up, 3},      {Qt::Key_End, 9},
+            {Qt::Key_PageUp, 5}, {Qt::Key_Home, 0}, {Qt::Key_PageDown, 4}};
+        for (const auto& [key, lane] : keys) {
+            QTest::keyClick(timeline.lanes(), key);
+            QCOMPARE(timeline.currentTrack(), QString::number(lane));
+            QVERIFY(timeline.lanes()->rect().contains(timeline.lanes()->laneRect(lane)));
+        }
+        QCOMPARE(chosen.size(), 1 + std::ssize(keys));
+
+        // A track may come later.
+        timeline.setCurrentTrack(u"11"_s);
+        QCOMPARE(timeline.lanes()->currentLane(), -1);
+        timeline.ruler()->setTrackDescriptions(tracks(12));
+        QCOMPARE(timeline.lanes()->currentLane(), 11);
+    }
+
+    void lanesScroll()
+    {
+        LaneTimeline timeline(10);
+        const int lane = timeline.lanes()->laneRect(0).height();
+        QCOMPARE(timeline.lanes()->height(), 4 * lane);
+        timeline.turn(5);
+        QCOMPARE(timeline.scrolled(), lane);
+        timeline.turn(600, Qt::ShiftModifier);
+        QCOMPARE(timeline.scrolled(), 2 * lane);
+        const TimeSpan view = timeline.ruler()->view();
+        timeline.ruler()->setView(view.begin, view.begin + hour);
+        timeline.turn(600);
+        QCOMPARE(timeline.scrolled(), 2 * lane);
+        QVERIFY(timeline.ruler()->view().end - timeline.ruler()->view().begin > hour);
+        QVERIFY(timeline.lanes()->findChild<QScrollBar*>()->isVisible());
+        timeline.lanes()->setMaximumLanes(10);
+        QCOMPARE(timeline.scrolled(), 0);
+        QVERIFY(!timeline.lanes()->findChild<QScrollBar*>()->isVisible());
+    }
+
+    void assistiveTechnologySeesAList()
+    {
+        LaneTimeline timeline(10);
+        timeline.setCurrentTrack(u"1"_s);
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(timeline.lanes());
+        QCOMPARE(list->role(), QAccessible::List);
+        QVERIFY(!list->text(QAccessible::Name).isEmpty());
+        QCOMPARE(list->childCount(), 10);
+        QAccessibleInterface* lane = list->child(3);
+        QCOMPARE(lane->text(QAccessible::Name), u"Camera 3"_s);
+        QCOMPARE(list->indexOfChild(lane), 3);
+        QCOMPARE(list->childAt(lane->rect().center().x(), lane->rect().center().y()), lane);
+        QVERIFY(list->child(1)->state().selected && !lane->state().selected);
+        QVERIFY(list->child(9)->state().offscreen && !lane->state().offscreen);
+        lane->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(timeline.currentTrack(), u"3"_s);
+        timeline.ruler()->setTrackDescriptions(tracks(2));
+        QVERIFY(!lane->isValid());
+    }
+};
 
 QTEST_MAIN(TestLanes)
 #include "tst_lanes.moc"

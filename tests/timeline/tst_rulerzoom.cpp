@@ -5,21 +5,13 @@
 #include "ticklayout.h"
 #include "viewhistory.h"
 
-#include <QRandomGenerator>
-#include <QSignalSpy>
-
-#include <cmath>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
 void turn(QWidget& ruler, double x, QPoint angle, Qt::KeyboardModifiers keys = {})
 {
-    QWheelEvent event(QPointF(x, 30), ruler.mapToGlobal(QPointF(x, 30)), {}, angle, Qt::NoButton,
-                      keys, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&ruler, &event);
+    turnWheel(&ruler, {x, 30}, angle, keys);
 }
 
 QString viewOf(const Ruler& ruler)
@@ -37,370 +29,347 @@ class TestRulerZoom : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void pointStaysUnderThePointer();
-    void viewsBetweenTheLevels();
-    void dragsLessThanAMillisecond();
-    void keysZoomAboutTheIndicator();
-    void fineWheel();
-    void history();
-    void turnsCountAsOne();
-    void smoothFollowing();
-    void fingers();
-    void flick();
-    void paintedLabels();
-    void repeatedHour();
-};
-
-void TestRulerZoom::pointStaysUnderThePointer()
-{
-    LoggedRuler ruler;
-    ruler.setContinuousZoom(true);
-    ruler.setFineWheel(true);
-    constexpr double middle = 510;
-    turn(ruler, middle, {0, -5000});
-    QCOMPARE(viewOf(ruler), u"0 - 864000"_s);
-    const qint64 time = monday + 5 * day;
-    QRandomGenerator random(1);
-    int depth = 0; // about 60 notches from the whole period to the closest view
-    for (int step = 0; step < 2000; ++step) {
-        const int angle = random.bounded(-900, 901);
-        depth = std::clamp(depth + angle, 0, 5000);
-        turn(ruler, middle, {0, angle});
-        QVERIFY(std::abs(ruler.xAt(time) - middle) < 0.001);
-    }
-    turn(ruler, middle, {0, 9000});
-    QCOMPARE(viewOf(ruler), u"431999.8 - 432000.2"_s);
-    QVERIFY(!ruler.canZoomIn() && ruler.canZoomOut());
-    QVERIFY(std::abs(ruler.xAt(time) - middle) < 0.001);
-    // The limits come first.
-    turn(ruler, 30, {0, -9000});
-    QCOMPARE(viewOf(ruler), u"0 - 864000"_s);
-    QCOMPARE(ruler.level(), ruler.getNrOfZooomLevels());
-}
-
-// A level is chosen even if it is the nearest one already, and the view outlasts other limits.
-void TestRulerZoom::viewsBetweenTheLevels()
-{
-    const auto view = [](const QString& script) {
+    void pointStaysUnderThePointer()
+    {
         LoggedRuler ruler;
         ruler.setContinuousZoom(true);
-        play(&ruler, script);
-        return u"%1, level %2, %3"_s.arg(viewOf(ruler))
-            .arg(ruler.level())
-            .arg(ruler.log.join(u'|'));
-    };
-    QCOMPARE(view(u"view 1000 5000"_s), u"1000 - 5000, level 1, "_s);
-    QCOMPARE(view(u"view 1000 7800"_s), u"1000 - 7800, level 2, "_s);
-    QCOMPARE(view(u"view 36000 40000; level 1 0.5"_s), u"36197.8 - 39797.8, level 1, "_s);
-    QCOMPARE(view(u"view 36000 40000; in 1"_s), u"36197.8 - 39797.8, level 1, "_s);
-    QCOMPARE(view(u"view 0 860000; key Ctrl+0"_s), u"0 - 864000, level 8, "_s);
-    QCOMPARE(view(u"view 1000 5000; limits 0 2000000"_s), u"1000 - 5000, level 1, "_s);
-    QCOMPARE(view(u"view 1000 5000; limits 0 3000"_s), u"0 - 3000, level 8, "_s);
-    QCOMPARE(view(u"view 1000 5000; search 36000 39000 zoom"_s), u"35700 - 39300, level 1, "_s);
+        ruler.setFineWheel(true);
+        constexpr double middle = 510;
+        turn(ruler, middle, {0, -5000});
+        QCOMPARE(viewOf(ruler), u"0 - 864000"_s);
+        const qint64 time = monday + 5 * day;
+        QRandomGenerator random(1);
+        int depth = 0; // about 60 notches from the whole period to the closest view
+        for (int step = 0; step < 2000; ++step) {
+            const int angle = random.bounded(-900, 901);
+            depth = std::clamp(depth + angle, 0, 5000);
+            turn(ruler, middle, {0, angle});
+            QVERIFY(std::abs(ruler.xAt(time) - middle) < 0.001);
+        }
+        turn(ruler, middle, {0, 9000});
+        QCOMPARE(viewOf(ruler), u"431999.8 - 432000.2"_s);
+        QVERIFY(!ruler.canZoomIn() && ruler.canZoomOut());
+        QVERIFY(std::abs(ruler.xAt(time) - middle) < 0.001);
+        // The limits come first.
+        turn(ruler, 30, {0, -9000});
+        QCOMPARE(viewOf(ruler), u"0 - 864000"_s);
+        QCOMPARE(ruler.level(), ruler.getNrOfZooomLevels());
+        // A drag of less than a millisecond counts.
+        ruler.setView(monday + hour, monday + hour + 400);
+        play(&ruler, u"press 510; drag 700; drag 530"_s);
+        QVERIFY(std::abs(ruler.xAt(monday + hour + 200) - 530) < 0.001);
+    }
 
-    LoggedRuler ruler;
-    ruler.setContinuousZoom(true);
-    play(&ruler, u"view 36000 40000"_s);
-    ruler.setContinuousZoom(false);
-    QCOMPARE(viewOf(ruler), u"36197.8 - 39797.8"_s);
-    QCOMPARE(ruler.takeLog(),
-             (QStringList{u"level 1"_s, u"center 0.04398"_s, u"view 02 10:02 - 02 11:03"_s}));
-}
-
-void TestRulerZoom::dragsLessThanAMillisecond()
-{
-    LoggedRuler ruler;
-    ruler.setContinuousZoom(true);
-    ruler.setView(monday + hour, monday + hour + 400);
-    const qint64 time = monday + hour + 200;
-    play(&ruler, u"press 510; drag 700; drag 530"_s);
-    QVERIFY(std::abs(ruler.xAt(time) - 530) < 0.001);
-}
-
-void TestRulerZoom::keysZoomAboutTheIndicator()
-{
-    LoggedRuler ruler;
-    ruler.setContinuousZoom(true);
-    play(&ruler, u"view 36000 44000; place 38000; key +"_s);
-    QCOMPARE(viewOf(ruler), u"37000 - 41000"_s);
-    play(&ruler, u"take-away; key -"_s);
-    QCOMPARE(viewOf(ruler), u"35000 - 43000"_s);
-}
-
-void TestRulerZoom::fineWheel()
-{
-    struct Turn
+    // A level is chosen even if it is the nearest one already, and the view outlasts other limits.
+    void viewsBetweenTheLevels()
     {
-        bool fine;
-        QPoint angle;
-        Qt::KeyboardModifiers keys;
-        int count;
-        QString view;
-    };
-    // From three hours of ten days, with the mouse in the middle.
-    const QString whole = u"0 - 864000"_s;
-    const QString closer = u"426591 - 430191"_s;
-    const QString unmoved = u"423000 - 433800"_s;
-    const Turn turns[] = {{false, {0, 15}, {}, 8, u"427788 - 428988"_s},
-                          {false, {15, 0}, {}, 8, whole},
-                          {true, {0, 15}, {}, 7, unmoved},
-                          {true, {0, 15}, {}, 8, closer},
-                          {true, {0, 240}, {}, 1, u"427788 - 428988"_s},
-                          {true, {0, 2}, {}, 59, unmoved},
-                          {true, {120, 40}, {}, 1, u"422352 - 433152"_s},
-                          {true, {0, -120}, Qt::ShiftModifier, 1, u"423648 - 434448"_s}};
-    for (const Turn& expected : turns) {
+        const auto view = [](const QString& script) {
+            LoggedRuler ruler;
+            ruler.setContinuousZoom(true);
+            play(&ruler, script);
+            return u"%1, level %2"_s.arg(viewOf(ruler)).arg(ruler.level());
+        };
+        QCOMPARE(view(u"view 1000 5000"_s), u"1000 - 5000, level 1"_s);
+        QCOMPARE(view(u"view 1000 7800"_s), u"1000 - 7800, level 2"_s);
+        QCOMPARE(view(u"view 36000 40000; level 1 0.5"_s), u"36197.8 - 39797.8, level 1"_s);
+        QCOMPARE(view(u"view 36000 40000; in 1"_s), u"36197.8 - 39797.8, level 1"_s);
+        QCOMPARE(view(u"view 0 860000; key Ctrl+0"_s), u"0 - 864000, level 8"_s);
+        QCOMPARE(view(u"view 1000 5000; limits 0 2000000"_s), u"1000 - 5000, level 1"_s);
+        QCOMPARE(view(u"view 1000 5000; limits 0 3000"_s), u"0 - 3000, level 8"_s);
+        QCOMPARE(view(u"view 1000 5000; search 36000 39000 zoom"_s), u"35700 - 39300, level 1"_s);
+        QCOMPARE(view(u"view 36000 44000; place 38000; key +"_s), u"37000 - 41000, level 1"_s);
+        QCOMPARE(view(u"view 36000 44000; key -"_s), u"32000 - 48000, level 2"_s);
+
+        LoggedRuler ruler;
+        ruler.setContinuousZoom(true);
+        play(&ruler, u"view 36000 40000"_s);
+        ruler.setContinuousZoom(false);
+        QCOMPARE(viewOf(ruler), u"36197.8 - 39797.8"_s);
+        QCOMPARE(ruler.takeLog(),
+                 (QStringList{u"level 1"_s, u"center 0.04398"_s, u"view 02 10:02 - 02 11:03"_s}));
+    }
+
+    void fineWheel()
+    {
+
+        // From three hours of ten days, with the mouse in the middle.
+        const QString whole = u"0 - 864000"_s;
+        const QString closer = u"426591 - 430191"_s;
+        const QString unmoved = u"423000 - 433800"_s;
+        const std::tuple<bool, QPoint, Qt::KeyboardModifiers, int, QString> turns[] = {
+            {false, {0, 15}, {}, 8, u"427788 - 428988"_s},
+            {false, {15, 0}, {}, 8, whole},
+            {true, {0, 15}, {}, 7, unmoved},
+            {true, {0, 15}, {}, 8, closer},
+            {true, {0, 240}, {}, 1, u"427788 - 428988"_s},
+            {true, {0, 2}, {}, 59, unmoved},
+            {true, {120, 40}, {}, 1, u"422352 - 433152"_s},
+            {true, {0, -120}, Qt::ShiftModifier, 1, u"423648 - 434448"_s}};
+        for (const auto& [fine, angle, keys, count, view] : turns) {
+            LoggedRuler ruler;
+            play(&ruler, u"view 423000 433800"_s);
+            ruler.setFineWheel(fine);
+            for (int i = 0; i < count; ++i)
+                turn(ruler, 510, angle, keys);
+            QCOMPARE(viewOf(ruler), view);
+        }
+
+        // A turn back begins anew, and a moved view comes to rest.
         LoggedRuler ruler;
         play(&ruler, u"view 423000 433800"_s);
-        ruler.setFineWheel(expected.fine);
-        for (int count = 0; count < expected.count; ++count)
-            turn(ruler, 510, expected.angle, expected.keys);
-        QCOMPARE(viewOf(ruler), expected.view);
+        ruler.setFineWheel(true);
+        for (const int angle : {100, -10, 100})
+            turn(ruler, 510, {0, angle});
+
+        QCOMPARE(viewOf(ruler), unmoved);
+        turn(ruler, 510, {120, 0});
+        QCOMPARE(ruler.takeLog().last(), u"view 06 21:17 - 07 00:19 moving"_s);
+        QTRY_COMPARE(ruler.log, QStringList(u"view 06 21:17 - 07 00:19"_s));
     }
 
-    // A turn back begins anew, and a moved view comes to rest.
-    LoggedRuler ruler;
-    play(&ruler, u"view 423000 433800"_s);
-    ruler.setFineWheel(true);
-    turn(ruler, 510, {0, 100});
-    turn(ruler, 510, {0, -10});
-    turn(ruler, 510, {0, 100});
-    QCOMPARE(viewOf(ruler), unmoved);
-    turn(ruler, 510, {120, 0});
-    QCOMPARE(ruler.takeLog().last(), u"view 06 21:17 - 07 00:19 moving"_s);
-    QTRY_COMPARE(ruler.log, QStringList(u"view 06 21:17 - 07 00:19"_s));
-}
+    void history()
+    {
+        LoggedRuler ruler;
+        const QSignalSpy moved(&ruler, &Ruler::zoomHistoryMoved);
+        play(&ruler, u"view 36000 46800; key Alt+Left"_s);
+        QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
+        QVERIFY(!ruler.canZoomBack() && moved.isEmpty());
 
-void TestRulerZoom::history()
-{
-    LoggedRuler ruler;
-    const QSignalSpy moved(&ruler, &Ruler::zoomHistoryMoved);
-    play(&ruler, u"view 36000 46800; key Alt+Left"_s);
-    QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
-    QVERIFY(!ruler.canZoomBack() && moved.isEmpty());
-
-    ruler.setZoomHistory(true);
-    play(&ruler, u"view 72000 75600; center 80000; view 50000 93200"_s);
-    QCOMPARE(moved.size(), 1);
-    const QPair<QString, QString> steps[] = {{u"key Alt+Left"_s, u"78200 - 81800"_s},
-                                             {u"key Backspace"_s, u"36000 - 46800"_s},
-                                             {u"key Backspace"_s, u"36000 - 46800"_s},
-                                             {u"key Alt+Right"_s, u"78200 - 81800"_s},
-                                             {u"key Shift+Backspace"_s, u"50000 - 93200"_s}};
-    for (const auto& [script, view] : steps) {
-        play(&ruler, script);
-        QCOMPARE(viewOf(ruler), view);
-    }
-    QTest::mouseClick(&ruler, Qt::BackButton, {}, {300, 30});
-    QCOMPARE(viewOf(ruler), u"78200 - 81800"_s);
-    QVERIFY(ruler.canZoomForward());
-    QTest::mouseClick(&ruler, Qt::ForwardButton, {}, {300, 30});
-    QCOMPARE(viewOf(ruler), u"50000 - 93200"_s);
-    // Nothing of it is left in quite another period.
-    ruler.setTimeLimits(at(20 * day), at(30 * day));
-    QVERIFY(!ruler.canZoomBack());
-}
-
-void TestRulerZoom::turnsCountAsOne()
-{
-    using Zoom = ViewHistory::Zoom;
-    const auto stepsBack = [](const QList<std::pair<Zoom, int>>& zooms) {
-        ViewHistory history;
-        ViewHistory::Clock::time_point now{};
-        for (const auto& [zoom, pause] : zooms)
-            history.zoomed({}, zoom, now += std::chrono::milliseconds(pause));
-        int steps = 0;
-        while (history.back({}))
-            ++steps;
-        return steps;
-    };
-    QCOMPARE(stepsBack({{Zoom::Whole, 0}, {Zoom::Whole, 10}}), 2);
-    QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 500}, {Zoom::Turn, 500}}), 1);
-    QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 700}}), 2);
-    QCOMPARE(stepsBack({{Zoom::Gesture, 0}, {Zoom::Gesture, 9000}, {Zoom::Turn, 1}}), 2);
-
-    // A step back ends a turn.
-    ViewHistory history;
-    for (int i = 0; i < 2; ++i) {
-        history.zoomed({}, Zoom::Turn, {});
-        QVERIFY(history.back({}));
-    }
-}
-
-void TestRulerZoom::smoothFollowing()
-{
-    LoggedRuler ruler;
-    ruler.setFollowMode(Ruler::FollowMode::Smooth);
-    play(&ruler, u"view 36000 46800; place 40000"_s);
-    QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
-    play(&ruler, u"place 44200; place 44300"_s); // three quarters are at 44100
-    QCOMPARE(viewOf(ruler), u"36200 - 47000"_s);
-    play(&ruler, u"press 900; drag 500; release 500; place 44600"_s);
-    QCOMPARE(viewOf(ruler), u"40520 - 51320"_s);
-    play(&ruler, u"press 500; drag 900; release 900; place 44700"_s);
-    QVERIFY(!ruler.isFollowing());
-    QCOMPARE(viewOf(ruler), u"36200 - 47000"_s);
-    play(&ruler, u"resume"_s);
-    QCOMPARE(viewOf(ruler), u"36600 - 47400"_s);
-}
-
-void TestRulerZoom::fingers()
-{
-    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-    LoggedRuler ruler;
-    play(&ruler, u"view 36000 46800"_s);
-    const auto touch = [&] {
-        return QTest::touchEvent(&ruler, screen.get());
-    };
-    const auto pinch = [&](int from, int to) {
-        touch().press(0, {from, 40}).press(1, {to, 40});
-        touch().move(0, {from, 41}).move(1, {to, 41});
-        touch().move(0, {from - 100, 41}).move(1, {to + 100, 41});
-        touch().release(0, {from - 100, 41}).stationary(1);
-        touch().release(1, {to, 41});
-    };
-    // Off, a finger is the mouse, and a second one ends that.
-    pinch(410, 610);
-    QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
-    ruler.setTouchGestures(true);
-    ruler.takeLog();
-    pinch(300, 400); // to a third, which is the next level
-    QCOMPARE(viewOf(ruler), u"38448 - 42048"_s);
-
-    ruler.setContinuousZoom(true);
-    ruler.setZoomHistory(true);
-    play(&ruler, u"view 36000 46000"_s);
-    QSignalSpy held(&ruler, &Ruler::heldChanged);
-    pinch(410, 610);
-    QCOMPARE(viewOf(ruler), u"38500 - 43500"_s);
-    QVERIFY(!held.isEmpty() && !held.last().first().toBool());
-    QCOMPARE(ruler.takeLog().last(), u"view 02 10:40 - 02 12:05"_s);
-    ruler.zoomBack();
-    QCOMPARE(viewOf(ruler), u"36000 - 46000"_s);
-
-    // One drags, and sets the indicator where it is lifted at once.
-    touch().press(0, {410, 40});
-    touch().move(0, {510, 40});
-    touch().move(0, {510, 41});
-    QCOMPARE(viewOf(ruler), u"35000 - 45000"_s);
-    QElapsedTimer rest; // no flick
-    rest.start();
-    QTRY_VERIFY(rest.elapsed() > 120);
-    touch().release(0, {510, 41});
-    touch().press(0, {410, 40});
-    touch().release(0, {410, 40});
-    QCOMPARE(ruler.getIndicatorMSecs(), at(39000 * second));
-
-    // One that stays asks for the menu, and does nothing else.
-    ruler.setContextMenuPolicy(Qt::CustomContextMenu);
-    const QSignalSpy menu(&ruler, &QWidget::customContextMenuRequested);
-    touch().press(0, {610, 40});
-    QTRY_COMPARE(menu.size(), 1);
-    QCOMPARE(menu.first().first().toPoint(), QPoint(610, 40));
-    QVERIFY(!ruler.isHeld());
-    touch().release(0, {610, 40});
-    QCOMPARE(ruler.getIndicatorMSecs(), at(39000 * second));
-}
-
-void TestRulerZoom::flick()
-{
-    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-    LoggedRuler ruler;
-    ruler.setTouchGestures(true);
-    play(&ruler, u"view 360000 363600"_s);
-    const auto touch = [&] {
-        return QTest::touchEvent(&ruler, screen.get());
-    };
-    touch().press(0, {300, 40});
-    QElapsedTimer time;
-    time.start();
-    for (int x = 320; x <= 400; x += 20) {
-        QTRY_VERIFY(time.elapsed() > (x - 300) / 5); // as fast as a finger
-        touch().move(0, {x, 40});
-    }
-    touch().release(0, {400, 40});
-    QVERIFY(!ruler.isHeld());
-    const qint64 released = ruler.view().begin;
-    QTRY_VERIFY(ruler.view().begin < released - 300 * second);
-    QVERIFY(ruler.takeLog().last().endsWith(u"moving"_s));
-    // Another finger stops it, and places nothing.
-    touch().press(0, {600, 40});
-    const qint64 stopped = ruler.view().begin;
-    touch().release(0, {600, 40});
-    QCoreApplication::processEvents();
-    QCOMPARE(ruler.view().begin, stopped);
-    QVERIFY(!ruler.takeLog().last().endsWith(u"moving"_s));
-    QCOMPARE(ruler.getIndicatorMSecs(), at(0));
-}
-
-// Against a plain reckoning with Qt's clock, at widths and fonts of all kinds.
-void TestRulerZoom::paintedLabels()
-{
-    const QTimeZone zone("Europe/Brussels");
-    ClockChanges clock;
-    clock.setZone(zone);
-    QRandomGenerator random(16);
-    for (int round = 0; round < 1000; ++round) {
-        TimeScale scale = scaleOf(3000 * day, TimeScale::wholeRangeLevel, monday, zone);
-        scale.setWidth(400 + random.bounded(3440));
-        const QRectF rect(5, 0, scale.width() - 10, 60);
-        const double span = scale.closestSpan() * std::pow(10, random.generateDouble() * 8);
-        const double x = random.bounded(400);
-        scale.zoomTo(span, scale.fineTimeAt(x), x);
-        const QFont font(u"DejaVu Sans"_s, 8 + random.bounded(13));
-        const QFontMetrics metrics(font);
-        const TickLayout layout =
-            layoutCalendarTicks(scale, rect, {metrics, metrics.height(), u"dd.MM.yyyy"_s}, clock);
-        QHash<double, double> ends;
-        for (const TickLabel& label : layout.labels) {
-            const double end = label.x + QFontMetricsF(font).horizontalAdvance(label.text);
-            QVERIFY2(label.x >= ends.value(label.baseline, 5) && end <= rect.right(),
-                     qPrintable(label.text));
-            ends[label.baseline] = end;
-            for (const Tick& tick : layout.ticks)
-                QVERIFY(tick.x <= label.x || tick.x >= end || tick.top >= label.baseline ||
-                        tick.bottom < label.baseline);
-            const QTime time = QTime::fromString(label.text.section(u' ', 0, 0), Qt::ISODateWithMs);
-            if (!time.isValid() || label.baseline != layout.labels.front().baseline)
-                continue;
-            // Half a pixel to either side of where the label says to be.
-            const QDateTime middle = scale.inZone(scale.fineTimeAt(label.x - 2).msecs);
-            const double distance = std::remainder(middle.time().msecsTo(time), double(day));
-            QVERIFY2(std::abs(distance) <= 0.5 / scale.lengthPerMillisecond() + 1,
-                     qPrintable(label.text));
+        ruler.setZoomHistory(true);
+        play(&ruler, u"view 72000 75600; center 80000; view 50000 93200"_s);
+        QCOMPARE(moved.size(), 1);
+        const QPair<QString, QString> steps[] = {{u"key Alt+Left"_s, u"78200 - 81800"_s},
+                                                 {u"key Backspace"_s, u"36000 - 46800"_s},
+                                                 {u"key Backspace"_s, u"36000 - 46800"_s},
+                                                 {u"key Alt+Right"_s, u"78200 - 81800"_s},
+                                                 {u"key Shift+Backspace"_s, u"50000 - 93200"_s}};
+        for (const auto& [script, view] : steps) {
+            play(&ruler, script);
+            QCOMPARE(viewOf(ruler), view);
         }
-        QVERIFY(!layout.ticks.empty());
+        QTest::mouseClick(&ruler, Qt::BackButton, {}, {300, 30});
+        QCOMPARE(viewOf(ruler), u"78200 - 81800"_s);
+        QVERIFY(ruler.canZoomForward());
+        QTest::mouseClick(&ruler, Qt::ForwardButton, {}, {300, 30});
+        QCOMPARE(viewOf(ruler), u"50000 - 93200"_s);
+        // Nothing of it is left in quite another period.
+        ruler.setTimeLimits(at(20 * day), at(30 * day));
+        QVERIFY(!ruler.canZoomBack());
     }
-}
 
-void TestRulerZoom::repeatedHour()
-{
-    LoggedRuler ruler;
-    ruler.setTimeZone(u"Europe/Brussels"_s);
-    const qint64 change = QDateTime({2026, 10, 25}, {1, 0}, Qt::UTC).toMSecsSinceEpoch();
-    ruler.setTimeLimits(quint64(change - day), quint64(change + day));
-    ruler.setCalendarTicks(true);
-    ruler.changeLevel(3, 0.5);
-    ruler.centerOn(change);
-    const auto* indicator = ruler.findChild<Indicator*>();
-    for (const auto& [offset, text] :
-         {std::pair(-90 * minute, u"01:30:00"_s), std::pair(-30 * minute, u"02:30:00 +02"_s),
-          std::pair(30 * minute, u"02:30:00 +01"_s), std::pair(5 * hour, u"07:00:00"_s)}) {
-        ruler.setIndicatorPosition(quint64(change + offset));
-        QCOMPARE(indicator->text(), text);
-        // Assistive technology hears which it is, too.
-        const auto* said = QAccessible::queryAccessibleInterface(&ruler);
-        QCOMPARE(said->text(QAccessible::Value).section(u' ', -1).startsWith(u'+'),
-                 text.contains(u'+'));
+    void turnsCountAsOne()
+    {
+        using Zoom = ViewHistory::Zoom;
+        const auto stepsBack = [](const QList<std::pair<Zoom, int>>& zooms) {
+            ViewHistory history;
+            ViewHistory::Clock::time_point now{};
+            for (const auto& [zoom, pause] : zooms)
+                history.zoomed({}, zoom, now += std::chrono::milliseconds(pause));
+            int steps = 0;
+            while (history.back({}))
+                ++steps;
+            return steps;
+        };
+        QCOMPARE(stepsBack({{Zoom::Whole, 0}, {Zoom::Whole, 10}}), 2);
+        QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 500}, {Zoom::Turn, 500}}), 1);
+        QCOMPARE(stepsBack({{Zoom::Turn, 0}, {Zoom::Turn, 700}}), 2);
+        QCOMPARE(stepsBack({{Zoom::Gesture, 0}, {Zoom::Gesture, 9000}, {Zoom::Turn, 1}}), 2);
+
+        // A step back ends a turn.
+        ViewHistory history;
+        for (int i = 0; i < 2; ++i) {
+            history.zoomed({}, Zoom::Turn, {});
+            QVERIFY(history.back({}));
+        }
     }
-    // From left to right: before, the first time, the second, after.
-    const QImage image = ruler.grab().toImage();
-    QList<QRgb> header;
-    for (const qint64 offset : {-70, -10, 10, 70})
-        header << image.pixel(int(ruler.xAt(change + offset * minute)), 1);
-    QCOMPARE(header[0], header[3]);
-    QVERIFY(header[0] != header[1] && header[1] != header[2] && header[2] != header[3]);
-}
+
+    void smoothFollowing()
+    {
+        LoggedRuler ruler;
+        ruler.setFollowMode(Ruler::FollowMode::Smooth);
+        play(&ruler, u"view 36000 46800; place 40000"_s);
+        QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
+        play(&ruler, u"place 44200; place 44300"_s); // three quarters are at 44100
+        QCOMPARE(viewOf(ruler), u"36200 - 47000"_s);
+        play(&ruler, u"press 900; drag 500; release 500; place 44600"_s);
+        QCOMPARE(viewOf(ruler), u"40520 - 51320"_s);
+        play(&ruler, u"press 500; drag 900; release 900; place 44700"_s);
+        QVERIFY(!ruler.isFollowing());
+        QCOMPARE(viewOf(ruler), u"36200 - 47000"_s);
+        play(&ruler, u"resume"_s);
+        QCOMPARE(viewOf(ruler), u"36600 - 47400"_s);
+    }
+
+    void fingers()
+    {
+        LoggedRuler ruler;
+        play(&ruler, u"view 36000 46800"_s);
+        const auto touch = [&] {
+            return QTest::touchEvent(&ruler, m_screen.get());
+        };
+
+        const auto pinch = [&](int from, int to) {
+            touch().press(0, {from, 40}).press(1, {to, 40});
+            touch().move(0, {from, 41}).move(1, {to, 41});
+            touch().move(0, {from - 100, 41}).move(1, {to + 100, 41});
+            touch().release(0, {from - 100, 41}).stationary(1);
+            touch().release(1, {to, 41});
+        };
+        // Off, a finger is the mouse, and a second one ends that.
+        pinch(410, 610);
+        QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
+        QCOMPARE(ruler.getIndicatorMSecs(), at(0));
+        touch().press(0, {410, 40});
+        touch().move(0, {510, 40});
+        QCOMPARE(viewOf(ruler), u"34920 - 45720"_s);
+        touch().release(0, {510, 40});
+        QVERIFY(!ruler.isHeld());
+        play(&ruler, u"view 36000 46800"_s);
+        ruler.setTouchGestures(true);
+
+        ruler.takeLog();
+        pinch(300, 400); // to a third, which is the next level
+        QCOMPARE(viewOf(ruler), u"38448 - 42048"_s);
+
+        ruler.setContinuousZoom(true);
+        ruler.setZoomHistory(true);
+        play(&ruler, u"view 36000 46000"_s);
+        QSignalSpy held(&ruler, &Ruler::heldChanged);
+        pinch(410, 610);
+        QCOMPARE(viewOf(ruler), u"38500 - 43500"_s);
+        QVERIFY(!held.isEmpty() && !held.last().first().toBool());
+        QCOMPARE(ruler.takeLog().last(), u"view 02 10:40 - 02 12:05"_s);
+        ruler.zoomBack();
+        QCOMPARE(viewOf(ruler), u"36000 - 46000"_s);
+
+        // One drags, and sets the indicator where it is lifted at once.
+        touch().press(0, {410, 40});
+        touch().move(0, {510, 40});
+        touch().move(0, {510, 41});
+        QCOMPARE(viewOf(ruler), u"35000 - 45000"_s);
+        QElapsedTimer rest; // no flick
+        rest.start();
+        QTRY_VERIFY(rest.elapsed() > 120);
+        touch().release(0, {510, 41});
+        touch().press(0, {410, 40});
+        touch().release(0, {410, 40});
+        QCOMPARE(ruler.getIndicatorMSecs(), at(39000 * second));
+
+        // One that stays asks for the menu, and does nothing else.
+        ruler.setContextMenuPolicy(Qt::CustomContextMenu);
+        const QSignalSpy menu(&ruler, &QWidget::customContextMenuRequested);
+        touch().press(0, {610, 40});
+        QTRY_COMPARE(menu.size(), 1);
+        QCOMPARE(menu.first().first().toPoint(), QPoint(610, 40));
+        QVERIFY(!ruler.isHeld());
+        touch().release(0, {610, 40});
+        QCOMPARE(ruler.getIndicatorMSecs(), at(39000 * second));
+    }
+
+    void flick()
+    {
+        LoggedRuler ruler;
+        ruler.setTouchGestures(true);
+        play(&ruler, u"view 360000 363600"_s);
+        const auto touch = [&] {
+            return QTest::touchEvent(&ruler, m_screen.get());
+        };
+
+        touch().press(0, {300, 40});
+        QElapsedTimer time;
+        time.start();
+        for (int x = 320; x <= 400; x += 20) {
+            QTRY_VERIFY(time.elapsed() > (x - 300) / 5); // as fast as a finger
+            touch().move(0, {x, 40});
+        }
+        touch().release(0, {400, 40});
+        QVERIFY(!ruler.isHeld());
+        const qint64 released = ruler.view().begin;
+        QTRY_VERIFY(ruler.view().begin < released - 300 * second);
+        QVERIFY(ruler.takeLog().last().endsWith(u"moving"_s));
+        // Another finger stops it, and places nothing.
+        touch().press(0, {600, 40});
+        const qint64 stopped = ruler.view().begin;
+        touch().release(0, {600, 40});
+        QCoreApplication::processEvents();
+        QCOMPARE(ruler.view().begin, stopped);
+        QVERIFY(!ruler.takeLog().last().endsWith(u"moving"_s));
+        QCOMPARE(ruler.getIndicatorMSecs(), at(0));
+    }
+
+    // Against a plain reckoning with Qt's clock, at widths and fonts of all kinds.
+    void paintedLabels()
+    {
+        const QTimeZone zone("Europe/Brussels");
+        ClockChanges clock;
+        clock.setZone(zone);
+        QRandomGenerator random(16);
+        for (int round = 0; round < 1000; ++round) {
+            TimeScale scale = scaleOf(3000 * day, TimeScale::wholeRangeLevel, monday, zone);
+            scale.setWidth(400 + random.bounded(3440));
+            const QRectF rect(5, 0, scale.width() - 10, 60);
+            const double span = scale.closestSpan() * std::pow(10, random.generateDouble() * 8);
+            const double x = random.bounded(400);
+            scale.zoomTo(span, scale.fineTimeAt(x), x);
+            const QFont font(u"DejaVu Sans"_s, 8 + random.bounded(13));
+            const QFontMetrics metrics(font);
+            const TickLayout layout = layoutCalendarTicks(
+                scale, rect, {metrics, metrics.height(), u"dd.MM.yyyy"_s}, clock);
+            QHash<double, double> ends;
+            for (const TickLabel& label : layout.labels) {
+                const double end = label.x + QFontMetricsF(font).horizontalAdvance(label.text);
+                QVERIFY2(label.x >= ends.value(label.baseline, 5) && end <= rect.right(),
+                         qPrintable(label.text));
+                ends[label.baseline] = end;
+                for (const Tick& tick : layout.ticks)
+                    QVERIFY(tick.x <= label.x || tick.x >= end || tick.top >= label.baseline ||
+                            tick.bottom < label.baseline);
+                const QTime time =
+                    QTime::fromString(label.text.section(u' ', 0, 0), Qt::ISODateWithMs);
+                if (!time.isValid() || label.baseline != layout.labels.front().baseline)
+                    continue;
+                // Half a pixel to either side of where the label says to be.
+                const QDateTime middle = scale.inZone(scale.fineTimeAt(label.x - 2).msecs);
+                const double distance = std::remainder(middle.time().msecsTo(time), double(day));
+                QVERIFY2(std::abs(distance) <= 0.5 / scale.lengthPerMillisecond() + 1,
+                         qPrintable(label.text));
+            }
+            QVERIFY(!layout.ticks.empty());
+        }
+    }
+
+    void repeatedHour()
+    {
+        LoggedRuler ruler;
+        ruler.setTimeZone(u"Europe/Brussels"_s);
+        const qint64 change = QDateTime({2026, 10, 25}, {1, 0}, Qt::UTC).toMSecsSinceEpoch();
+        ruler.setTimeLimits(quint64(change - day), quint64(change + day));
+        ruler.setCalendarTicks(true);
+        ruler.changeLevel(3, 0.5);
+        ruler.centerOn(change);
+        const auto* indicator = ruler.findChild<Indicator*>();
+        for (const auto& [offset, text] :
+             {std::pair(-90 * minute, u"01:30:00"_s), std::pair(-30 * minute, u"02:30:00 +02"_s),
+              std::pair(30 * minute, u"02:30:00 +01"_s), std::pair(5 * hour, u"07:00:00"_s)}) {
+            ruler.setIndicatorPosition(quint64(change + offset));
+            QCOMPARE(indicator->text(), text);
+            // Assistive technology hears which it is, too.
+            const auto* said = QAccessible::queryAccessibleInterface(&ruler);
+            QCOMPARE(said->text(QAccessible::Value).section(u' ', -1).startsWith(u'+'),
+                     text.contains(u'+'));
+        }
+        // From left to right: before, the first time, the second, after.
+        const QImage image = ruler.grab().toImage();
+        QList<QRgb> header;
+        for (const qint64 offset : {-70, -10, 10, 70})
+            header << image.pixel(int(ruler.xAt(change + offset * minute)), 1);
+        QCOMPARE(header[0], header[3]);
+        QVERIFY(header[0] != header[1] && header[1] != header[2] && header[2] != header[3]);
+    }
+
+private:
+    std::unique_ptr<QPointingDevice> m_screen{QTest::createTouchDevice()};
+};
 
 QTEST_MAIN(TestRulerZoom)
 #include "tst_rulerzoom.moc"

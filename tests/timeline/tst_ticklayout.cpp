@@ -3,13 +3,8 @@
 #include "ticklayout.h"
 
 #include <QOperatingSystemVersion>
-#include <QTest>
-
-#include <algorithm>
-#include <cmath>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -79,107 +74,94 @@ class TestTickLayout : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void minorTicksBeforeTheFirstMajorOne();
-    void minorTicksPassBelowDates();
-    void lastLabelReachesFurtherThanLines();
-    void labelsSayTheClock();
-    void midnightThatDoesNotExist();
-};
-
-void TestTickLayout::minorTicksBeforeTheFirstMajorOne()
-{
-    // Level 7: days of 71 pixels in 2 divisions of 35; midnight comes at x = 10 + 1000 / 14 *
-    // fraction. Level 0: 2 minutes of 100 pixels in 8 divisions of 12; the major tick stands at
-    // x = 95.
-    const struct
+    void minorTicksBeforeTheFirstMajorOne()
     {
-        int level;
-        qint64 start;
-        QList<double> expected;
-    } cases[] = {{7, day / 2, {45.714 - 35}},         // past the major tick before
-                 {7, 22 * hour, {}},                  // none left of the margin
-                 {0, 18 * second, {83, 71, 59, 47}}}; // four at most
-    for (const auto& [level, start, expected] : cases) {
-        const TickLayout layout = layoutOf(scaleOf(30 * day, level, monday + start));
-        for (qsizetype i = 0; i < expected.size(); ++i) {
-            const Tick& tick = layout.ticks.at(i);
-            QVERIFY2(qAbs(tick.x - expected[i]) < 0.01, qPrintable(QString::number(tick.x)));
-            QCOMPARE(tick.top, double(headerHeight));
+        // Level 7: days of 71 pixels in 2 divisions of 35; midnight comes at x = 10 + 1000 / 14 *
+        // fraction. Level 0: 2 minutes of 100 pixels in 8 divisions of 12; the major tick stands at
+        // x = 95.
+        const std::tuple<int, qint64, QList<double>> cases[] = {
+            {7, day / 2, {45.714 - 35}},         // past the major tick before
+            {7, 22 * hour, {}},                  // none left of the margin
+            {0, 18 * second, {83, 71, 59, 47}}}; // four at most
+        for (const auto& [level, start, expected] : cases) {
+            const TickLayout layout = layoutOf(scaleOf(30 * day, level, monday + start));
+            for (qsizetype i = 0; i < expected.size(); ++i) {
+                const Tick& tick = layout.ticks.at(i);
+                QVERIFY2(qAbs(tick.x - expected[i]) < 0.01, qPrintable(QString::number(tick.x)));
+                QCOMPARE(tick.top, double(headerHeight));
+            }
+            QVERIFY(layout.ticks.at(expected.size()).major);
         }
-        QVERIFY(layout.ticks.at(expected.size()).major);
     }
-}
 
-void TestTickLayout::minorTicksPassBelowDates()
-{
-    // 5 minutes of 83 pixels in 5 divisions of 16, the date at the first tick only.
-    const std::vector<Tick> minor = ticks(layoutOf(scaleOf(10 * day)), false);
-    const double dateWidth = style().metrics.horizontalAdvance(u"02.03.26"_s) + 2;
-    QVERIFY(16 < dateWidth);
-    for (int k = 1; k <= 4; ++k) {
-        QCOMPARE(minor[k - 1].x, 10.0 + k * 16);
-        QCOMPARE(minor[k - 1].top,
-                 k * 16 < dateWidth ? 2.0 * lineHeight() + 4 : double(headerHeight));
-        QCOMPARE(minor[3 + k].top, double(headerHeight));
-    }
-}
-
-void TestTickLayout::lastLabelReachesFurtherThanLines()
-{
-    // Ticks 100 pixels apart from x = 18. The last would stand right of the rectangle.
-    const TimeScale scale = scaleOf(10 * day, 0, monday - 9600);
-    const struct
+    void minorTicksPassBelowDates()
     {
-        int width;
-        double tick, label;
-    } cases[] = {{1010, 918, 920}, {905, 818, 920}, {904, 818, 820}};
-    for (const auto& [width, tick, label] : cases) {
-        const TickLayout layout = layoutOf(scale, width);
-        QCOMPARE(ticks(layout, true).back().x, tick);
-        QCOMPARE(layout.labels.back().x, label);
+        // 5 minutes of 83 pixels in 5 divisions of 16, the date at the first tick only.
+        const std::vector<Tick> minor = ticks(layoutOf(scaleOf(10 * day)), false);
+        const double dateWidth = style().metrics.horizontalAdvance(u"02.03.26"_s) + 2;
+        QVERIFY(16 < dateWidth);
+        for (int k = 1; k <= 4; ++k) {
+            QCOMPARE(minor[k - 1].x, 10.0 + k * 16);
+            QCOMPARE(minor[k - 1].top,
+                     k * 16 < dateWidth ? 2.0 * lineHeight() + 4 : double(headerHeight));
+            QCOMPARE(minor[3 + k].top, double(headerHeight));
+        }
     }
-    TimeScale narrow = scaleOf(10 * day);
-    narrow.setWidth(25);
-    QVERIFY(layoutOf(narrow, 15).ticks.empty());
-}
 
-void TestTickLayout::labelsSayTheClock()
-{
-    // The changes of these clocks wander through the view.
-    const std::pair<const char*, QString> changes[] = {
-        {"Europe/Berlin", u"2026-03-29T01:00:00Z"_s},
-        {"Europe/Berlin", u"2026-10-25T01:00:00Z"_s},
-        {"Australia/Lord_Howe", u"2026-04-04T15:00:00Z"_s},
-        {"Asia/Kathmandu", u"1985-12-31T18:30:00Z"_s}};
-    for (const auto& [id, text] : changes) {
-        const QTimeZone zone(id);
-        const QDateTime change = QDateTime::fromString(text, Qt::ISODate).toTimeZone(zone);
-        if (change.date().year() < 2000 &&
-            QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
-            continue; // knows the recent rules of a zone only
-        QVERIFY(change.offsetFromUtc() != change.addMSecs(-1).offsetFromUtc());
-        for (int level = 0; level <= TimeScale::wholeRangeLevel; ++level) {
-            TimeScale scale =
-                scaleOf(80 * day, level, change.addDays(-40).toMSecsSinceEpoch(), zone);
-            for (int part = 0; part < 20; ++part) {
-                scale.setViewStart(
-                    change.addMSecs(-qint64(scale.millisecondsPerLevel()) * part / 20));
-                compareWithClock(scale, zone);
-                if (QTest::currentTestFailed())
-                    return;
+    void lastLabelReachesFurtherThanLines()
+    {
+        // Ticks 100 pixels apart from x = 18. The last would stand right of the rectangle.
+        const TimeScale scale = scaleOf(10 * day, 0, monday - 9600);
+        const std::tuple<int, double, double> cases[] = {
+            {1010, 918, 920}, {905, 818, 920}, {904, 818, 820}};
+        for (const auto& [width, tick, label] : cases) {
+            const TickLayout layout = layoutOf(scale, width);
+            QCOMPARE(ticks(layout, true).back().x, tick);
+            QCOMPARE(layout.labels.back().x, label);
+        }
+        TimeScale narrow = scaleOf(10 * day);
+        narrow.setWidth(25);
+        QVERIFY(layoutOf(narrow, 15).ticks.empty());
+    }
+
+    void labelsSayTheClock()
+    {
+        // The changes of these clocks wander through the view.
+        const std::pair<const char*, QString> changes[] = {
+            {"Europe/Berlin", u"2026-03-29T01:00:00Z"_s},
+            {"Europe/Berlin", u"2026-10-25T01:00:00Z"_s},
+            {"Australia/Lord_Howe", u"2026-04-04T15:00:00Z"_s},
+            {"Asia/Kathmandu", u"1985-12-31T18:30:00Z"_s}};
+        for (const auto& [id, text] : changes) {
+            const QTimeZone zone(id);
+            const QDateTime change = QDateTime::fromString(text, Qt::ISODate).toTimeZone(zone);
+            if (change.date().year() < 2000 &&
+                QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
+                continue; // knows the recent rules of a zone only
+            QVERIFY(change.offsetFromUtc() != change.addMSecs(-1).offsetFromUtc());
+            for (int level = 0; level <= TimeScale::wholeRangeLevel; ++level) {
+                TimeScale scale =
+                    scaleOf(80 * day, level, change.addDays(-40).toMSecsSinceEpoch(), zone);
+                for (int part = 0; part < 20; ++part) {
+                    scale.setViewStart(
+                        change.addMSecs(-qint64(scale.millisecondsPerLevel()) * part / 20));
+                    compareWithClock(scale, zone);
+                    if (QTest::currentTestFailed())
+                        return;
+                }
             }
         }
     }
-}
 
-void TestTickLayout::midnightThatDoesNotExist()
-{
-    // On this day the clocks of Beirut went from 23:59 to 01:00.
-    const QDateTime start(QDate(2020, 3, 28), QTime(22, 0), QTimeZone("Asia/Beirut"));
-    const TimeScale scale = scaleOf(10 * day, 1, start.toMSecsSinceEpoch(), start.timeZone());
-    QCOMPARE(msecsToMidnight(scale), 2 * hour);
-    compareWithClock(scale, start.timeZone());
-}
+    void midnightThatDoesNotExist()
+    {
+        // On this day the clocks of Beirut went from 23:59 to 01:00.
+        const QDateTime start(QDate(2020, 3, 28), QTime(22, 0), QTimeZone("Asia/Beirut"));
+        const TimeScale scale = scaleOf(10 * day, 1, start.toMSecsSinceEpoch(), start.timeZone());
+        QCOMPARE(msecsToMidnight(scale), 2 * hour);
+        compareWithClock(scale, start.timeZone());
+    }
+};
 
 QTEST_MAIN(TestTickLayout)
 #include "tst_ticklayout.moc"

@@ -6,14 +6,9 @@
 #include <CorvelGui/ZoomTimeline>
 #include <CorvelGui/Zoomer>
 
-#include <QPointer>
-#include <QSignalSpy>
 #include <QSlider>
 
-#include <algorithm>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -52,262 +47,241 @@ class TestZoomTimeline : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void layout();
-    void limitsReportOnce();
-    void stripAndRulerFollowEachOther();
-    void zoomerAndRulerFollowEachOther();
-    void operations();
-    void searchRangeOnTheStrip();
-    void withoutZoomer();
-    void activity();
-    void zoneKeepsTheView();
-    void handAndMouseReachTheParts();
-    void deletionInSignals();
-};
-
-void TestZoomTimeline::layout()
-{
-    TestedTimeline timeline;
-    QVERIFY(QTest::qWaitForWindowExposed(&timeline));
-    QTRY_VERIFY(timeline.zoomer()->y() > timeline.ruler()->geometry().bottom());
-    const QRect ruler = timeline.ruler()->geometry();
-    const QRect zoomer = timeline.zoomer()->geometry();
-    const QRect scroll = timeline.timelineScroll()->geometry();
-    QCOMPARE(ruler.topLeft(), QPoint(2, 2));
-    QCOMPARE(ruler.right(), timeline.width() - 3);
-    QVERIFY(zoomer.right() < scroll.left());
-    QCOMPARE(scroll.right(), ruler.right());
-    QCOMPARE(timeline.slider()->maximum(), 8);
-    // Tab goes from left to right and downwards.
-    QList<QPoint> tabbed;
-    QWidget* widget = timeline.ruler();
-    do {
-        if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus)
-            tabbed << widget->mapTo(&timeline, widget->rect().bottomLeft());
-        widget = widget->nextInFocusChain();
-    } while (widget != timeline.ruler());
-    QCOMPARE(tabbed.size(), 5);
-    QVERIFY(std::is_sorted(tabbed.begin() + 1, tabbed.end(),
-                           [](QPoint a, QPoint b) { return a.x() < b.x(); }));
-}
-
-void TestZoomTimeline::limitsReportOnce()
-{
-    TestedTimeline timeline;
-    QSignalSpy view(timeline.ruler(), &Ruler::timeLineViewChanged);
-    // Less than a pixel of 3600 ms changes nothing.
-    timeline.setTimeLimits(at(3599), at(10 * day + 3599));
-    QCOMPARE(timeline.ruler()->getTimeLimits(), std::pair(at(0), at(10 * day)));
-    timeline.setTimeLimits(at(0), at(10 * day + 3600));
-    QCOMPARE(timeline.ruler()->getTimeLimits(), std::pair(at(0), at(10 * day + 3600)));
-    QCOMPARE(view.count(), 0);
-    for (int i = 0; i < 2; ++i) {
-        timeline.setTimeLimitsAndIndicatorPosition(at(2 * day), at(12 * day), at(5 * day));
-        QCOMPARE(view.count(), 1);
-    }
-    QCOMPARE(view.front().at(4).toBool(), false);
-    QCOMPARE(timeline.ruler()->getIndicatorMSecs(), at(5 * day));
-}
-
-void TestZoomTimeline::stripAndRulerFollowEachOther()
-{
-    TestedTimeline timeline;
-    TimelineScroll* scroll = timeline.timelineScroll();
-    timeline.ruler()->changeLevel(4, 0.0);
-    QCOMPARE(scroll->viewArea(), 0.1);
-    QCOMPARE(scroll->centerPosition(), 0.05);
-    QSignalSpy center(timeline.ruler(), &Ruler::centerPositionChanged);
-    QTest::mouseClick(scroll, Qt::LeftButton, {}, QPoint(scroll->width() - 10, 5));
-    QVERIFY(timeline.ruler()->beginTime() > at(20 * hour));
-    QVERIFY(timeline.ruler()->beginTime() < at(28 * hour));
-    QCOMPARE(center.count(), 0);
-
-    timeline.setIndicatorPosition(at(5 * day));
-    QCOMPARE(scroll->centerPosition(), 0.45);
-    // The same view is another part of a longer period.
-    timeline.setTimeLimits(at(0), at(20 * day));
-    QCOMPARE(scroll->viewArea(), 0.05);
-    QCOMPARE(scroll->centerPosition(), 0.225);
-
-    timeline.setSearchTimeRange(timeAt(0), timeAt(20 * day), false);
-    timeline.ruler()->changeLevel(5, 0.5);
-    timeline.resetTimeline();
-    QCOMPARE(scroll->viewArea(), 0.0);
-    QCOMPARE(timeline.slider()->value(), 1);
-    QVERIFY(!timeline.stripIsMarkedAt(0.5));
-    QCOMPARE(timeline.strip().pixelColor(1, 5), timeline.strip().pixelColor(3, 5));
-    // There is nothing that could move.
-    QTest::keyClick(scroll, Qt::Key_End);
-    timeline.setTimeLimits(at(day), at(10 * day));
-    QCOMPARE(timeline.ruler()->beginTime(), at(day));
-    QVERIFY(timeline.stripIsMarkedAt(0.5));
-}
-
-void TestZoomTimeline::zoomerAndRulerFollowEachOther()
-{
-    TestedTimeline timeline;
-    QSignalSpy levels(timeline.ruler(), &Ruler::changeSliderZoom);
-    QSignalSpy requests(timeline.zoomer(), &Zoomer::zoomerOut);
-    timeline.ruler()->changeLevel(4, 0.5);
-    QCOMPARE(timeline.slider()->value(), 4);
-    // Two requests, one change.
-    timeline.zoomer()->onZoomOutClicked(false);
-    QCOMPARE(requests.count(), 2);
-    QCOMPARE(levels, (QList<QVariantList>{{4}, {5}}));
-    timeline.slider()->setValue(2);
-    QCOMPARE(timeline.ruler()->level(), 2);
-    QCOMPARE(timeline.timelineScroll()->viewArea(), 3.0 * hour / (10 * day));
-}
-
-void TestZoomTimeline::operations()
-{
-    const struct
+    void layout()
     {
-        int code;
-        bool flagB, searchShown, zooms;
-    } cases[] = {{0, false, false, false}, {1, false, true, true},  {1, true, true, false},
-                 {5, false, false, true},  {5, true, false, false}, {6, false, false, true},
-                 {7, true, false, false},  {8, false, false, false}};
-    for (const auto& operation : cases) {
         TestedTimeline timeline;
-        timeline.ruler()->changeLevel(8, 0.5);
-        const auto shownAfter = [&](int code) {
-            timeline.onZoomTimeLineOperation({.code = code,
-                                              .from = timeAt(4 * day),
-                                              .to = timeAt(6 * day),
-                                              .flagB = operation.flagB});
-            return std::pair(timeline.stripIsMarkedAt(0.5), timeline.rulerIsMarked());
-        };
-        const std::pair nowhere(false, false);
-        const std::pair shown(operation.searchShown, operation.searchShown);
-        QCOMPARE(shownAfter(operation.code), shown);
-        QCOMPARE(timeline.ruler()->level(), operation.zooms ? 5 : 8);
-        QCOMPARE(shownAfter(4), nowhere);
-        QCOMPARE(shownAfter(3), shown);
-        QCOMPARE(shownAfter(2), nowhere);
-        QCOMPARE(shownAfter(3), nowhere);
+        QVERIFY(QTest::qWaitForWindowExposed(&timeline));
+        QTRY_VERIFY(timeline.zoomer()->y() > timeline.ruler()->geometry().bottom());
+        const QRect ruler = timeline.ruler()->geometry();
+        const QRect zoomer = timeline.zoomer()->geometry();
+        const QRect scroll = timeline.timelineScroll()->geometry();
+        QCOMPARE(ruler.topLeft(), QPoint(2, 2));
+        QCOMPARE(ruler.right(), timeline.width() - 3);
+        QVERIFY(zoomer.right() < scroll.left());
+        QCOMPARE(scroll.right(), ruler.right());
+        QCOMPARE(timeline.slider()->maximum(), 8);
+        // Tab goes from left to right and downwards.
+        QList<QPoint> tabbed;
+        QWidget* widget = timeline.ruler();
+        do {
+            if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus)
+                tabbed << widget->mapTo(&timeline, widget->rect().bottomLeft());
+            widget = widget->nextInFocusChain();
+        } while (widget != timeline.ruler());
+        QCOMPARE(tabbed.size(), 5);
+        QVERIFY(std::is_sorted(tabbed.begin() + 1, tabbed.end(),
+                               [](QPoint a, QPoint b) { return a.x() < b.x(); }));
+
+        ZoomTimeline::setZoomerEnabled(false);
+        TestedTimeline without;
+        ZoomTimeline::setZoomerEnabled(true);
+        QVERIFY(!without.zoomer());
+        without.ruler()->changeLevel(4, 0.5);
+        QCOMPARE(without.timelineScroll()->viewArea(), 0.1);
     }
-}
 
-void TestZoomTimeline::searchRangeOnTheStrip()
-{
-    TestedTimeline timeline;
-    timeline.ruler()->changeLevel(8, 0.5);
-    timeline.setIndicatorPosition(at(day));
-    for (const bool on : {true, false}) {
-        timeline.setSearchTimeRange(timeAt(4 * day), timeAt(6 * day), false);
-        timeline.setResultMode(on);
-        QCOMPARE(timeline.stripIsMarkedAt(0.5), !on);
-        QCOMPARE(timeline.rulerIsMarked(), !on);
-        QCOMPARE(timeline.findChild<Indicator*>()->isVisible(), !on);
+    void limitsReportOnce()
+    {
+        TestedTimeline timeline;
+        QSignalSpy view(timeline.ruler(), &Ruler::timeLineViewChanged);
+        // Less than a pixel of 3600 ms changes nothing.
+        timeline.setTimeLimits(at(3599), at(10 * day + 3599));
+        QCOMPARE(timeline.ruler()->getTimeLimits(), std::pair(at(0), at(10 * day)));
+        timeline.setTimeLimits(at(0), at(10 * day + 3600));
+        QCOMPARE(timeline.ruler()->getTimeLimits(), std::pair(at(0), at(10 * day + 3600)));
+        QCOMPARE(view.count(), 0);
+        for (int i = 0; i < 2; ++i) {
+            timeline.setTimeLimitsAndIndicatorPosition(at(2 * day), at(12 * day), at(5 * day));
+            QCOMPARE(view.count(), 1);
+        }
+        QCOMPARE(view.front().at(4).toBool(), false);
+        QCOMPARE(timeline.ruler()->getIndicatorMSecs(), at(5 * day));
     }
-    for (const double fraction : {0.35, 0.45, 0.55, 0.65})
-        QCOMPARE(timeline.stripIsMarkedAt(fraction), qAbs(fraction - 0.5) < 0.1);
-    timeline.setTimeLimits(at(0), at(20 * day));
-    QVERIFY(timeline.stripIsMarkedAt(0.25) && !timeline.stripIsMarkedAt(0.45));
-}
 
-void TestZoomTimeline::withoutZoomer()
-{
-    ZoomTimeline::setZoomerEnabled(false);
-    TestedTimeline timeline;
-    ZoomTimeline::setZoomerEnabled(true);
-    QVERIFY(!timeline.zoomer());
-    timeline.ruler()->changeLevel(4, 0.5);
-    QCOMPARE(timeline.timelineScroll()->viewArea(), 0.1);
-}
+    void stripAndRulerFollowEachOther()
+    {
+        TestedTimeline timeline;
+        TimelineScroll* scroll = timeline.timelineScroll();
+        timeline.ruler()->changeLevel(4, 0.0);
+        QCOMPARE(scroll->viewArea(), 0.1);
+        QCOMPARE(scroll->centerPosition(), 0.05);
+        QSignalSpy center(timeline.ruler(), &Ruler::centerPositionChanged);
+        QTest::mouseClick(scroll, Qt::LeftButton, {}, QPoint(scroll->width() - 10, 5));
+        QVERIFY(timeline.ruler()->beginTime() > at(20 * hour));
+        QVERIFY(timeline.ruler()->beginTime() < at(28 * hour));
+        QCOMPARE(center.count(), 0);
 
-void TestZoomTimeline::activity()
-{
-    for (const bool active : {true, false}) {
-        for (const bool blocked : {true, false}) {
+        timeline.setIndicatorPosition(at(5 * day));
+        QCOMPARE(scroll->centerPosition(), 0.45);
+        // The same view is another part of a longer period.
+        timeline.setTimeLimits(at(0), at(20 * day));
+        QCOMPARE(scroll->viewArea(), 0.05);
+        QCOMPARE(scroll->centerPosition(), 0.225);
+
+        timeline.setSearchTimeRange(timeAt(0), timeAt(20 * day), false);
+        timeline.ruler()->changeLevel(5, 0.5);
+        timeline.resetTimeline();
+        QCOMPARE(scroll->viewArea(), 0.0);
+        QCOMPARE(timeline.slider()->value(), 1);
+        QVERIFY(!timeline.stripIsMarkedAt(0.5));
+        QCOMPARE(timeline.strip().pixelColor(1, 5), timeline.strip().pixelColor(3, 5));
+        // There is nothing that could move.
+        QTest::keyClick(scroll, Qt::Key_End);
+        timeline.setTimeLimits(at(day), at(10 * day));
+        QCOMPARE(timeline.ruler()->beginTime(), at(day));
+        QVERIFY(timeline.stripIsMarkedAt(0.5));
+    }
+
+    void zoomerAndRulerFollowEachOther()
+    {
+        TestedTimeline timeline;
+        QSignalSpy levels(timeline.ruler(), &Ruler::changeSliderZoom);
+        QSignalSpy requests(timeline.zoomer(), &Zoomer::zoomerOut);
+        timeline.ruler()->changeLevel(4, 0.5);
+        QCOMPARE(timeline.slider()->value(), 4);
+        // Two requests, one change.
+        timeline.zoomer()->onZoomOutClicked(false);
+        QCOMPARE(requests.count(), 2);
+        QCOMPARE(levels, (QList<QVariantList>{{4}, {5}}));
+        timeline.slider()->setValue(2);
+        QCOMPARE(timeline.ruler()->level(), 2);
+        QCOMPARE(timeline.timelineScroll()->viewArea(), 3.0 * hour / (10 * day));
+    }
+
+    void operations()
+    {
+        const std::tuple<int, bool, bool, bool> cases[] = {
+            {0, false, false, false}, {1, false, true, true},  {1, true, true, false},
+            {5, false, false, true},  {5, true, false, false}, {6, false, false, true},
+            {7, true, false, false},  {8, false, false, false}};
+        for (const auto& [code, flagB, searchShown, zooms] : cases) {
             TestedTimeline timeline;
-            timeline.setActive(active, blocked);
-            const bool usable = active && !blocked;
-            QCOMPARE(timeline.isEnabled(), active);
-            QCOMPARE(timeline.zoomer()->isEnabled(), usable);
-            QCOMPARE(timeline.timelineScroll()->isEnabled(), usable);
-            QSignalSpy clicks(timeline.ruler(), &Ruler::indicatorPositionChanged);
-            if (active)
-                QTest::mouseClick(timeline.ruler(), Qt::LeftButton, {}, QPoint(500, 40));
-            QCOMPARE(clicks.count(), usable ? 1 : 0);
+            timeline.ruler()->changeLevel(8, 0.5);
+            const auto shownAfter = [&](int asked) {
+                timeline.onZoomTimeLineOperation({.code = asked,
+                                                  .from = timeAt(4 * day),
+                                                  .to = timeAt(6 * day),
+                                                  .flagB = flagB});
+                return std::pair(timeline.stripIsMarkedAt(0.5), timeline.rulerIsMarked());
+            };
+            const std::pair nowhere(false, false);
+            const std::pair shown(searchShown, searchShown);
+            QCOMPARE(shownAfter(code), shown);
+            QCOMPARE(timeline.ruler()->level(), zooms ? 5 : 8);
+            QCOMPARE(shownAfter(4), nowhere);
+            QCOMPARE(shownAfter(3), shown);
+            QCOMPARE(shownAfter(2), nowhere);
+            QCOMPARE(shownAfter(3), nowhere);
         }
     }
-}
 
-void TestZoomTimeline::zoneKeepsTheView()
-{
-    TestedTimeline timeline;
-    timeline.ruler()->changeLevel(4, 0.5);
-    timeline.setIndicatorPosition(at(4 * day));
-    QSignalSpy view(timeline.ruler(), &Ruler::timeLineViewChanged);
-    // Wherever the view is.
-    for (const qint64 limit : {qint64(0), 5 * day, -10 * day}) {
-        timeline.ruler()->setTimeLimits(at(limit), at(limit + 10 * day));
-        timeline.ruler()->onTimelineOffsetChanged((4.0 * day - limit) / (10 * day));
-        const quint64 begin = timeline.ruler()->beginTime();
-        timeline.setTimeZone(u"UTC"_s);
-        view.clear();
-        timeline.setTimeZone(u"Asia/Kathmandu"_s);
-        QCOMPARE(timeline.ruler()->beginTime(), begin);
-        QCOMPARE(view.count(), 1);
-        QCOMPARE(view.front().at(3).toDateTime().offsetFromUtc(), 20'700);
+    void searchRangeOnTheStrip()
+    {
+        TestedTimeline timeline;
+        timeline.ruler()->changeLevel(8, 0.5);
+        timeline.setIndicatorPosition(at(day));
+        for (const bool on : {true, false}) {
+            timeline.setSearchTimeRange(timeAt(4 * day), timeAt(6 * day), false);
+            timeline.setResultMode(on);
+            QCOMPARE(timeline.stripIsMarkedAt(0.5), !on);
+            QCOMPARE(timeline.rulerIsMarked(), !on);
+            QCOMPARE(timeline.findChild<Indicator*>()->isVisible(), !on);
+        }
+        for (const double fraction : {0.35, 0.45, 0.55, 0.65})
+            QCOMPARE(timeline.stripIsMarkedAt(fraction), qAbs(fraction - 0.5) < 0.1);
+        timeline.setTimeLimits(at(0), at(20 * day));
+        QVERIFY(timeline.stripIsMarkedAt(0.25) && !timeline.stripIsMarkedAt(0.45));
     }
-}
 
-void TestZoomTimeline::handAndMouseReachTheParts()
-{
-    TestedTimeline timeline;
-    for (QWidget* part : QList<QWidget*>{timeline.ruler(), timeline.timelineScroll()}) {
-        QSignalSpy held(&timeline, &ZoomTimeline::heldChanged);
-        QTest::mousePress(part, Qt::LeftButton, {}, {200, 5});
-        QVERIFY(timeline.isHeld());
-        QTest::mouseRelease(part, Qt::LeftButton, {}, {200, 5});
-        QVERIFY(!timeline.isHeld());
-        QCOMPARE(held.count(), 2);
+    void activity()
+    {
+        for (const bool active : {true, false}) {
+            for (const bool blocked : {true, false}) {
+                TestedTimeline timeline;
+                timeline.setActive(active, blocked);
+                const bool usable = active && !blocked;
+                QCOMPARE(timeline.isEnabled(), active);
+                QCOMPARE(timeline.zoomer()->isEnabled(), usable);
+                QCOMPARE(timeline.timelineScroll()->isEnabled(), usable);
+                QSignalSpy clicks(timeline.ruler(), &Ruler::indicatorPositionChanged);
+                if (active)
+                    QTest::mouseClick(timeline.ruler(), Qt::LeftButton, {}, QPoint(500, 40));
+                QCOMPARE(clicks.count(), usable ? 1 : 0);
+            }
+        }
     }
-    timeline.ruler()->changeLevel(4, 0.0);
-    const auto boxColor = [&] {
-        return timeline.strip().pixelColor(40, timeline.strip().height() / 2);
-    };
-    leaveMouse(*timeline.ruler());
-    const QColor idle = boxColor();
-    enterMouse(*timeline.ruler());
-    QVERIFY(boxColor() != idle);
-    leaveMouse(*timeline.ruler());
-    QCOMPARE(boxColor(), idle);
-}
 
-void TestZoomTimeline::deletionInSignals()
-{
-    using T = TestedTimeline;
-    const std::vector<std::function<void(T&)>> acts{
-        [](T& t) { t.setTimeLimits(at(day), at(5 * day)); },
-        [](T& t) { t.setIndicatorPosition(at(4 * day)); },
-        [](T& t) { t.setTimeLimitsAndIndicatorPosition(at(day), at(5 * day), at(3 * day)); },
-        [](T& t) { t.setTimeZone(u"Asia/Tokyo"_s); },
-        [](T& t) { t.zoomer()->onZoomOutClicked(false); },
-        [](T& t) { t.slider()->setValue(4); },
-        [](T& t) {
-            QTest::mouseClick(t.timelineScroll(), Qt::LeftButton, {}, {700, 5});
-        },
-        [](T& t) { t.setSearchTimeRange(timeAt(day), timeAt(2 * day), true); },
-        [](T& t) {
-            QTest::mouseClick(t.ruler(), Qt::LeftButton, {}, {500, 40});
-        }};
-    for (const auto& act : acts) {
-        QPointer<TestedTimeline> timeline = new TestedTimeline;
-        timeline->ruler()->changeLevel(2, 0.0); // which the slider shows
-        QObject context;
-        const auto remove = [&] {
-            delete timeline;
+    void zoneKeepsTheView()
+    {
+        TestedTimeline timeline;
+        timeline.ruler()->changeLevel(4, 0.5);
+        timeline.setIndicatorPosition(at(4 * day));
+        QSignalSpy view(timeline.ruler(), &Ruler::timeLineViewChanged);
+        // Wherever the view is.
+        for (const qint64 limit : {qint64(0), 5 * day, -10 * day}) {
+            timeline.ruler()->setTimeLimits(at(limit), at(limit + 10 * day));
+            timeline.ruler()->onTimelineOffsetChanged((4.0 * day - limit) / (10 * day));
+            const quint64 begin = timeline.ruler()->beginTime();
+            timeline.setTimeZone(u"UTC"_s);
+            view.clear();
+            timeline.setTimeZone(u"Asia/Kathmandu"_s);
+            QCOMPARE(timeline.ruler()->beginTime(), begin);
+            QCOMPARE(view.count(), 1);
+            QCOMPARE(view.front().at(3).toDateTime().offsetFromUtc(), 20'700);
+        }
+    }
+
+    void handAndMouseReachTheParts()
+    {
+        TestedTimeline timeline;
+        for (QWidget* part : QList<QWidget*>{timeline.ruler(), timeline.timelineScroll()}) {
+            QSignalSpy held(&timeline, &ZoomTimeline::heldChanged);
+            QTest::mousePress(part, Qt::LeftButton, {}, {200, 5});
+            QVERIFY(timeline.isHeld());
+            QTest::mouseRelease(part, Qt::LeftButton, {}, {200, 5});
+            QVERIFY(!timeline.isHeld());
+            QCOMPARE(held.count(), 2);
+        }
+        timeline.ruler()->changeLevel(4, 0.0);
+        const auto boxColor = [&] {
+            return timeline.strip().pixelColor(40, timeline.strip().height() / 2);
         };
-        connect(timeline->ruler(), &Ruler::timeLineViewChanged, &context, remove);
-        connect(timeline->ruler(), &Ruler::indicatorPositionChanged, &context, remove);
-        act(*timeline);
-        QVERIFY(!timeline);
+        leaveMouse(*timeline.ruler());
+        const QColor idle = boxColor();
+        enterMouse(*timeline.ruler());
+        QVERIFY(boxColor() != idle);
+        leaveMouse(*timeline.ruler());
+        QCOMPARE(boxColor(), idle);
     }
-}
+
+    void deletionInSignals()
+    {
+        using T = TestedTimeline;
+        const std::vector<std::function<void(T&)>> acts{
+            [](T& t) { t.setTimeLimits(at(day), at(5 * day)); },
+            [](T& t) { t.setIndicatorPosition(at(4 * day)); },
+            [](T& t) { t.setTimeLimitsAndIndicatorPosition(at(day), at(5 * day), at(3 * day)); },
+            [](T& t) { t.setTimeZone(u"Asia/Tokyo"_s); },
+            [](T& t) { t.zoomer()->onZoomOutClicked(false); },
+            [](T& t) { t.slider()->setValue(4); },
+            [](T& t) { QTest::mouseClick(t.timelineScroll(), Qt::LeftButton, {}, QPoint(700, 5)); },
+            [](T& t) { t.setSearchTimeRange(timeAt(day), timeAt(2 * day), true); },
+            [](T& t) {
+                QTest::mouseClick(t.ruler(), Qt::LeftButton, {}, QPoint(500, 40));
+            }};
+        for (const auto& act : acts) {
+            QPointer<TestedTimeline> timeline = new TestedTimeline;
+            timeline->ruler()->changeLevel(2, 0.0); // which the slider shows
+            QObject context;
+            connect(timeline->ruler(), &Ruler::timeLineViewChanged, &context,
+                    [&] { delete timeline; });
+            connect(timeline->ruler(), &Ruler::indicatorPositionChanged, &context,
+                    [&] { delete timeline; });
+            act(*timeline);
+            QVERIFY(!timeline);
+        }
+    }
+};
 
 QTEST_MAIN(TestZoomTimeline)
 #include "tst_zoomtimeline.moc"

@@ -9,12 +9,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProgressDialog>
-#include <QPushButton>
-#include <QSignalSpy>
 
 using namespace CorvelGui;
 using Corvel::FileDownloader;
-using namespace Qt::StringLiterals;
 using LocalHttp::Answer;
 using LocalHttp::Misbehaviour;
 
@@ -79,21 +76,16 @@ private Q_SLOTS:
         const QString noStart = u"Warning: Error: Unable to start download of Software Update."_s;
         const auto withoutDate = with(release, u"releaseDate"_s, QJsonValue::Undefined);
         const QString undated = u"The server's answer has no valid “releaseDate”."_s;
-        const struct
-        {
-            QJsonObject answer;
-            bool showResult;
-            QByteArray cut; // the path of an answer that is not complete
-            QString saveAs;
-            QStringList said;
-        } rows[] = {{nothing, true, {}, u"a"_s, {none}},
-                    {nothing, false, {}, u"a"_s, {}},
-                    {release, true, {}, {}, {offer(), save}},
-                    {release, false, {}, u"a"_s, {offer(), save, question}},
-                    {release, true, {}, u"nowhere/a"_s, {offer(), save, noStart}},
-                    {withoutDate, false, {}, u"a"_s, {checkError + undated}},
-                    {release, false, "/update", u"a"_s, {checkError + closed}},
-                    {release, false, "/software", u"a"_s, {offer(), save, downloadError + closed}}};
+        // The third is the path of an answer that is not complete.
+        const std::tuple<QJsonObject, bool, QByteArray, QString, QStringList> rows[] = {
+            {nothing, true, {}, u"a"_s, {none}},
+            {nothing, false, {}, u"a"_s, {}},
+            {release, true, {}, {}, {offer(), save}},
+            {release, false, {}, u"a"_s, {offer(), save, question}},
+            {release, true, {}, u"nowhere/a"_s, {offer(), save, noStart}},
+            {withoutDate, false, {}, u"a"_s, {checkError + undated}},
+            {release, false, "/update", u"a"_s, {checkError + closed}},
+            {release, false, "/software", u"a"_s, {offer(), save, downloadError + closed}}};
         for (const auto& [answer, showResult, cut, saveAs, said] : rows) {
             Bench bench(answer);
             bench.user.savePath = saveAs.isEmpty() ? saveAs : bench.folder.filePath(saveAs);

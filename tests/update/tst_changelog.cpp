@@ -5,11 +5,9 @@
 #include <CorvelGui/PChangeLogDialog>
 
 #include <QElapsedTimer>
-#include <QTest>
 #include <QTextBrowser>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 class TestChangeLog : public WarningFreeTest
 {

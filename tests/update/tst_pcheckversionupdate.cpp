@@ -5,11 +5,7 @@
 #include <CorvelGui/PCheckVersionUpdate>
 #include <CorvelGui/PCheckVersionUpdateDialog>
 
-#include <QPushButton>
-#include <QSignalSpy>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using LocalHttp::Misbehaviour;
 
@@ -78,14 +74,8 @@ private Q_SLOTS:
         const auto version = [](const QByteArray& number) {
             return "version=" + number + keys;
         };
-        const struct
-        {
-            QByteArray internal; // the version file of that channel
-            QByteArray external;
-            bool showResult;
-            QByteArray requests;
-            QStringList said;
-        } rows[] = {
+        // The version files of both channels come first.
+        const std::tuple<QByteArray, QByteArray, bool, QByteArray, QStringList> rows[] = {
             {versionFile, versionFile, false, inAndNotes, {offer()}},
             {{}, versionFile, false, both + " /out/notes.html", {offer(u"2.1.0"_s, {})}},
             {{}, {}, true, both, {unreachable}},

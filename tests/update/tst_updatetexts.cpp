@@ -3,10 +3,8 @@
 #include "versionfile.h"
 
 #include <QStandardPaths>
-#include <QTest>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 class TestUpdateTexts : public WarningFreeTest
 {

@@ -1,14 +1,8 @@
 #pragma once
 
 #include "scriptedserver.h"
-#include "testfiles.h"
+#include "testsupport.h"
 #include "useranswers.h"
-
-#include <QApplication>
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QWidget>
 
 inline const QByteArray installer = QByteArray("installer ").repeated(5'000);
 
