@@ -1,6 +1,7 @@
 #include "footage/exiftime.h"
-#include "footage/footagescan.h"
+#include "footage/footageindex.h"
 #include "footage/loadjob.h"
+#include "footage/pathpattern.h"
 #include "numberedclip.h"
 #include "testsupport.h"
 
@@ -9,6 +10,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace Review;
 using namespace Qt::StringLiterals;
@@ -63,6 +66,7 @@ private Q_SLOTS:
     void ownPattern();
     void exif();
     void foldersAreScanned();
+    void offsets();
     void whatIsKnownIsKept();
 };
 
@@ -165,13 +169,49 @@ void TestFootage::foldersAreScanned()
                           u"Site 2026-03-02/101800.mp4 09:18:00 1000"_s,
                           u"Yard Yard/a.mp4 10:16:00 1000"_s, u"Yard Yard/b.jpg 09:17:00 1000"_s,
                           u"Yard Yard/c.jpeg 10:16:00 1000"_s}));
-    QCOMPARE(job.timeSources(), (std::array<qsizetype, FootageScan::SourceCount>{2, 1, 1, 1}));
+    QCOMPARE(job.read().footage.sources(), (Footage::Sources{2, 1, 1, 1}));
+
+    // Without reading a file: there is none any more.
+    QVERIFY(QDir(folder).removeRecursively());
+    LoadJob corrected(job.read(), {{u"Gate"_s, {u"UTC"_s, -500}}, {u"Yard"_s, {u"UTC"_s, 0}}});
+    QSignalSpy again(&corrected, &LoadJob::loaded);
+    corrected.start();
+    QVERIFY(again.wait());
+    QCOMPARE(corrected.data().files[u"Gate"_s][0].begin, 1'772'446'499'500);
+    QCOMPARE(std::ranges::count(corrected.data().tracks, 1'772'446'499'500,
+                                &CorvelGui::TrackDescription::begin),
+             1);
+    const QList<VideoFile> yard = corrected.data().files[u"Yard"_s];
+    QCOMPARE(std::ranges::count(yard, created, &VideoFile::begin), 2);
+    QCOMPARE(std::ranges::count(yard, created + 60'000, &VideoFile::begin), 1);
 
     LoadJob nothing(ReviewFiles::named({folder.filePath(u"none"_s)}), QTimeZone::utc());
     QSignalSpy ended(&nothing, &LoadJob::loaded);
     nothing.start();
     QVERIFY(ended.wait());
     QVERIFY(nothing.error().startsWith(u"There are neither recordings nor events in "_s));
+}
+
+void TestFootage::offsets()
+{
+    const std::tuple<QString, qint64, QString> rows[] = {
+        {u"+1:02:03.5"_s, 3'723'500, u"+1:02:03.500"_s},
+        {u" 90 "_s, 90'000, u"+0:01:30"_s},
+        {u"-0,25"_s, -250, u"-0:00:00.250"_s},
+        {u"\u2212200000:0:0"_s, -720'000'000'000, u"-200000:00:00"_s}};
+    for (const auto& [text, offset, again] : rows) {
+        QCOMPARE(TimeCorrection::parseOffset(text), std::optional(offset));
+        QCOMPARE(TimeCorrection::offsetText(offset), again);
+    }
+    for (const char* bad :
+         {"", "+", "1:2", "1:60:00", "1:00:60", "1h", "9999999:00:00", "1:00:00.0001"})
+        QVERIFY2(!TimeCorrection::parseOffset(QString::fromLatin1(bad)), bad);
+
+    const FolderCorrections corrections{
+        {{u"/a \"b\""_s, {{u"Gate"_s, {u"Europe/Brussels"_s, -5}}, {u"Yard"_s, {{}, 1}}}}}};
+    QCOMPARE(FolderCorrections::fromText(corrections.toText()), corrections);
+    QCOMPARE(FolderCorrections::fromText(u"{\"a\":{\"b\":[\"Nowhere\",1e99],\"c\":3}}"_s),
+             FolderCorrections());
 }
 
 void TestFootage::whatIsKnownIsKept()

@@ -53,6 +53,15 @@ QStringList tracksOf(const ReviewData& data)
     return tracks;
 }
 
+/// Each as "line text".
+QStringList problemsOf(const ReviewLoader& loader)
+{
+    QStringList texts;
+    for (const Problem& problem : loader.problems().listed())
+        texts.append(u"%1 %2"_s.arg(problem.line).arg(problem.text.text()));
+    return texts;
+}
+
 } // namespace
 
 class TestReviewData : public WarningFreeTest
@@ -211,6 +220,60 @@ private Q_SLOTS:
         QCOMPARE(cancelled.load({.recordings = recordings, .events = events, .deployments = {}}),
                  QString());
         QVERIFY(cancelled.data().tracks.isEmpty() && cancelled.data().events.isEmpty());
+    }
+
+    void jsonLines()
+    {
+        const QString path =
+            write(u"events.jsonl"_s,
+                  "\xEF\xBB\xBF"
+                  "{\"time\":\"2026-03-02T00:02Z\",\"kind\":\"person\",\"track\":7}\n\n"
+                  "{\"kind\":\"car\",\"time\":\"2026-03-02T00:01Z\",\"text\":\"\xC3\xBC\","
+                  "\"camera\":\"b\",\"box\":[1]}\r\n"
+                  "[1]\n{\"kind\":\"x\"}\n{\"time\":\"now\",\"kind\":\"x\"}\n"
+                  "{\"time\":\"2026-03-02T00:01Z\",\"kind\":[]}\n{\"time\":");
+        ReviewLoader loader;
+        QCOMPARE(loader.load(ReviewFiles::named({path})), QString());
+        QCOMPARE(loader.progress().percent(), 100);
+        QCOMPARE(loader.data().events, (Events{{monday + minute, u"car"_s, u"ü"_s, u"b"_s},
+                                               {monday + 2 * minute, u"person"_s, {}, u"7"_s}}));
+        QCOMPARE(problemsOf(loader),
+                 (QStringList{u"4 the line is no JSON object"_s, u"5 the object has no “time”"_s,
+                              u"6 “now” is not an ISO 8601 date and time"_s,
+                              u"7 “kind” is neither a text nor a number"_s,
+                              u"8 the line is no JSON object"_s}));
+    }
+
+    void cameraTraps()
+    {
+        const QString path = write(u"set.json"_s, R"({
+            "images": [
+                {"id": 1, "file_name": "a/1.jpg", "location": 7, "datetime": "2026-03-02 01:00:01", "seq_id": "s"},
+                {"id": 2, "file_name": "a/2.jpg", "location": 7, "datetime": "2026-03-02 01:00:00", "seq_id": "s"},
+                {"id": "x", "file_name": "b/3.jpg", "datetime": "2026-03-02T00:05:00Z"},
+                {"id": 4, "file_name": "b/4.jpg", "datetime": "02.03.2026"}],
+            "categories": [{"id": 0, "name": "empty"}, {"id": 1, "name": "Vulpes vulpes"}],
+            "annotations": [
+                {"id": 1, "image_id": 1, "category_id": 1}, {"id": 2, "image_id": 2, "category_id": 1},
+                {"id": 3, "image_id": "x", "category_id": 0}, {"id": 4, "image_id": 4, "category_id": 1},
+                {"id": 5, "image_id": 1, "category_id": 9}]})");
+        ReviewLoader loader;
+        QCOMPARE(loader.load(ReviewFiles::named({path}), QTimeZone("Europe/Brussels")), QString());
+        QCOMPARE(loader.data().events,
+                 (Events{{monday, u"animal"_s, u"Vulpes vulpes"_s, u"7"_s},
+                         {monday + 5 * minute, u"empty"_s, u"empty"_s, u"b"_s}}));
+        QCOMPARE(loader.data().files[u"7"_s][0],
+                 (VideoFile{m_dir.filePath(u"a/1.jpg"_s), monday + 1'000, monday + 2'000, 0}));
+        QCOMPARE(loader.data().files[u"b"_s].size(), 1);
+        QCOMPARE(problemsOf(loader),
+                 (QStringList{u"0 the image “4” has no date and time"_s,
+                              u"0 the annotation “4” is of no image with a time"_s,
+                              u"0 the annotation “5” is of no category"_s}));
+        for (const char* bad : {"{", "[]", R"({"images":[],"annotations":{}})"})
+            QVERIFY2(ReviewLoader()
+                         .load(ReviewFiles::named({write(u"bad.json"_s, bad)}))
+                         .startsWith(u"Cannot read "_s),
+                     bad);
     }
 
     void writtenEventsComeBack()

@@ -1,12 +1,9 @@
 #include "csvtable.h"
 
 #include "csvreader.h"
+#include "textfile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QLocale>
-#include <QStringConverter>
 
 #include <algorithm>
 #include <utility>
@@ -19,43 +16,6 @@ namespace {
 
 constexpr const char* context = "Review::CsvTable";
 constexpr qsizetype missing = -1;
-
-constexpr qint64 largestFile = qint64(1) << 30;
-
-/// Why nothing is read from @p path; empty if it can be tried.
-QString unfitness(const QString& path)
-{
-    const QFileInfo file(path);
-    if (file.isDir())
-        return CsvTable::tr("it is a folder");
-    // Devices and pipes need not come to an end.
-    if (file.exists() && !file.isFile())
-        return CsvTable::tr("it is not a file");
-    if (file.size() > largestFile)
-        return CsvTable::tr("it is larger than %1").arg(QLocale().formattedDataSize(largestFile));
-    return {};
-}
-
-/// The text of @p path as UTF-8, or nothing and a reason in @p error.
-QByteArray contents(const QString& path, QString& error)
-{
-    error = unfitness(path);
-    if (!error.isEmpty())
-        return {};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
-        return {};
-    }
-    const QByteArray text = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        error = file.errorString();
-    // What spreadsheets call Unicode text.
-    const auto encoding = QStringConverter::encodingForData(text);
-    if (!encoding || *encoding == QStringConverter::Utf8)
-        return text;
-    return QString(QStringDecoder(*encoding).decode(text)).toUtf8();
-}
 
 /// Recordings of a camera are a track of the timeline, and many files call it that.
 QString columnName(const QByteArray& header)
@@ -117,15 +77,16 @@ QString CsvTable::read(const QString& path, const QStringList& neededColumns,
                        ProblemList& problems, JobProgress& progress)
 {
     QString error;
-    CsvReader reader(contents(path, error));
+    CsvReader reader(readText(path, error));
+    if (!error.isEmpty())
+        return error;
     QStringList header;
     QList<qsizetype> positions;
-    if (error.isEmpty())
-        error = readHeader(reader, header);
+    error = readHeader(reader, header);
     if (error.isEmpty())
         error = findColumns(header, neededColumns, optionalColumns, positions);
     if (!error.isEmpty())
-        return tr("Cannot read %1: %2").arg(QDir::toNativeSeparators(path), error);
+        return unreadable(path, error);
 
     qint64 done = 0;
     const qint64 size = QFileInfo(path).size();

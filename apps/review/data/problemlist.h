@@ -11,7 +11,7 @@ namespace Review {
 struct Problem
 {
     QString file;
-    /// Counted from 1.
+    /// Counted from 1; 0 where the file does not go by lines.
     qsizetype line = 0;
     LineFault text;
 

@@ -1,5 +1,7 @@
 #include "reviewloader.h"
 
+#include "cameratrapset.h"
+#include "jsonlines.h"
 #include "lineparser.h"
 
 #include <QDir>
@@ -16,6 +18,21 @@ namespace Review {
 
 namespace {
 
+QString endingOf(const QString& path)
+{
+    return QFileInfo(path).suffix().toLower();
+}
+
+bool isJsonLines(const QString& path)
+{
+    return endingOf(path) == u"jsonl"_s || endingOf(path) == u"ndjson"_s;
+}
+
+bool isCameraTrapSet(const QString& path)
+{
+    return endingOf(path) == u"json"_s;
+}
+
 // An empty period that every other one extends.
 constexpr TimeSpan notDescribed{.begin = std::numeric_limits<qint64>::max(), .end = 0};
 
@@ -29,13 +46,15 @@ void extend(TrackDescription& track, const TimeSpan& span)
 
 ReviewFiles ReviewFiles::inFolder(const QString& folder)
 {
-    const auto existing = [dir = QDir(folder)](const QString& name) {
-        return dir.exists(name) ? dir.filePath(name) : QString();
+    const auto existing = [dir = QDir(folder)](const QStringList& names) {
+        const auto found =
+            std::ranges::find_if(names, [&](const auto& name) { return dir.exists(name); });
+        return found == names.end() ? QString() : dir.filePath(*found);
     };
-    ReviewFiles files{.recordings = existing(u"recordings.csv"_s),
-                      .events = existing(u"events.csv"_s),
-                      .deployments = existing(u"deployments.csv"_s)};
-    if (files.recordings.isEmpty())
+    ReviewFiles files{.recordings = existing({u"recordings.csv"_s}),
+                      .events = existing({u"events.csv"_s, u"events.jsonl"_s, u"events.json"_s}),
+                      .deployments = existing({u"deployments.csv"_s})};
+    if (files.recordings.isEmpty() && !isCameraTrapSet(files.events))
         files.footage = {folder};
     return files;
 }
@@ -45,7 +64,16 @@ ReviewFiles ReviewFiles::named(const QStringList& paths)
     if (paths.size() == 1 && QFileInfo(paths[0]).isDir())
         return inFolder(paths[0]);
     ReviewFiles files;
-    files.footage = paths;
+    for (const QString& path : paths) {
+        const bool isCsv = endingOf(path) == u"csv"_s;
+        const QString name = QFileInfo(path).completeBaseName().toLower();
+        if (isCameraTrapSet(path) || isJsonLines(path) || (isCsv && name == u"events"_s))
+            files.events = path;
+        else if (isCsv)
+            (name == u"deployments"_s ? files.deployments : files.recordings) = path;
+        else
+            files.footage.append(path);
+    }
     return files;
 }
 
@@ -59,13 +87,22 @@ QString ReviewFiles::name() const
     return first.isEmpty() ? QString() : QFileInfo(first).absoluteDir().dirName();
 }
 
+QString ReviewFiles::footageFolder() const
+{
+    const QFileInfo first(footage.value(0));
+    if (footage.isEmpty())
+        return {};
+    return first.isDir() ? first.absoluteFilePath() : first.absolutePath();
+}
+
 qint64 ReviewFiles::size() const
 {
     return QFileInfo(recordings).size() + QFileInfo(deployments).size() + QFileInfo(events).size();
 }
 
-QString ReviewLoader::load(const ReviewFiles& files)
+QString ReviewLoader::load(const ReviewFiles& files, const QTimeZone& zone)
 {
+    m_zone = zone;
     m_progress.setTotal(files.size());
     using Step = QString (ReviewLoader::*)(const QString&);
     const std::pair<QString, Step> steps[] = {
@@ -135,7 +172,9 @@ QString ReviewLoader::loadDeployments(const QString& path)
 
 QString ReviewLoader::loadEvents(const QString& path)
 {
-    const auto add = [this](const CsvTable::Values& values) {
+    if (isCameraTrapSet(path))
+        return loadCameraTraps(path);
+    const auto addEvent = [this](const CsvTable::Values& values) {
         qint64 time = 0;
         LineFault fault = LineParser::parseTime(values[0], time);
         if (fault.isEmpty() && values[1].isEmpty())
@@ -145,8 +184,23 @@ QString ReviewLoader::loadEvents(const QString& path)
                                  QString::fromUtf8(values[3]));
         return fault;
     };
-    const QString error = CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"camera"_s},
-                                         add, m_problems, m_progress);
+    const QString error =
+        isJsonLines(path) ? JsonLines::read(path, {u"time"_s, u"kind"_s}, {u"text"_s, u"camera"_s},
+                                            addEvent, m_problems, m_progress)
+                          : CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"camera"_s},
+                                           addEvent, m_problems, m_progress);
+    m_data.events.sort();
+    return error;
+}
+
+QString ReviewLoader::loadCameraTraps(const QString& path)
+{
+    CameraTrapSet set;
+    const QString error = set.read(path, m_zone, m_problems, m_progress);
+    for (const CameraTrapSet::Picture& picture : set.pictures())
+        add(picture.camera, picture.file);
+    for (const Event& event : set.events())
+        m_data.events.append(event);
     m_data.events.sort();
     return error;
 }

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QTimeZone>
 
 namespace Review {
 
@@ -14,6 +15,7 @@ namespace Review {
 struct ReviewFiles
 {
     QString recordings;
+    /// CSV, JSON lines, or a data set of camera traps, which has pictures too; by its ending.
     QString events;
     QString deployments;
     /// Folders with clips and pictures, and single ones.
@@ -21,10 +23,11 @@ struct ReviewFiles
     /// How their paths are built; empty for the common ways.
     QString pattern = {};
 
-    /// Those of recordings.csv, events.csv and deployments.csv that are in @p folder. Without
-    /// recordings.csv, the clips and pictures are looked for.
+    /// Those of recordings.csv, deployments.csv and events.csv, .jsonl or .json that are in
+    /// @p folder. Where they name no recordings, the clips and pictures are looked for.
     static ReviewFiles inFolder(const QString& folder);
-    /// What somebody means who names files and folders.
+    /// What somebody means who names files and folders: lists by their names and endings, and
+    /// footage.
     static ReviewFiles named(const QStringList& paths);
 
     /// Of all of them, in bytes.
@@ -36,6 +39,8 @@ struct ReviewFiles
     }
     /// What the user calls them: the folder that they are in.
     QString name() const;
+    /// The path of the folder with clips and pictures; empty without one.
+    QString footageFolder() const;
 };
 
 /// Loads recordings, events and deployments from files. Malformed lines are left out and noted.
@@ -44,11 +49,9 @@ class ReviewLoader
     Q_DECLARE_TR_FUNCTIONS(Review::ReviewLoader)
 
 public:
-    /// Returns why a file cannot be read, or an empty string. What a cancelled load leaves is
-    /// incomplete.
-    QString load(const ReviewFiles& files);
-    /// Adds a recording that is known already.
-    void add(const QString& camera, const VideoFile& file);
+    /// Times of camera traps without an offset are those of @p zone. Returns why a file cannot be
+    /// read, or an empty string. What a cancelled load leaves is incomplete.
+    QString load(const ReviewFiles& files, const QTimeZone& zone = QTimeZone::utc());
     /// Any thread may look at it, or end the load by it.
     JobProgress& progress() { return m_progress; }
     const JobProgress& progress() const { return m_progress; }
@@ -60,12 +63,15 @@ private:
     QString loadRecordings(const QString& path);
     QString loadDeployments(const QString& path);
     QString loadEvents(const QString& path);
+    QString loadCameraTraps(const QString& path);
+    void add(const QString& camera, const VideoFile& file);
     CorvelGui::TrackDescription& track(const QString& identifier);
 
     ReviewData m_data;
     ProblemList m_problems;
     QHash<QString, qsizetype> m_trackIndexes;
     JobProgress m_progress;
+    QTimeZone m_zone = QTimeZone::utc();
 };
 
 } // namespace Review

@@ -34,19 +34,19 @@ qint64 guessedDuration(const FileFacts& facts, qint64 begin, qint64 changed)
 
 } // namespace
 
-FootageScan::FootageScan(PathPattern pattern, QTimeZone zone, FootageIndex& index,
-                         JobProgress& progress)
-    : m_pattern(std::move(pattern)), m_zone(std::move(zone)), m_index(index), m_progress(progress)
+FootageScan::FootageScan(PathPattern pattern, FootageIndex& index, JobProgress& progress)
+    : m_pattern(std::move(pattern)), m_index(index), m_progress(progress)
 {}
 
-void FootageScan::scan(const QStringList& paths)
+void FootageScan::scan(const QStringList& paths, Footage& footage)
 {
     const QList<Found> all = list(paths);
     m_progress.setTotal(all.size());
     for (const Found& found : all) {
-        if (m_progress.isCancelled())
+        const std::optional<FileFacts> facts = factsOf(found);
+        if (!facts)
             return;
-        add(found);
+        add(found, *facts, footage);
         m_progress.add(1);
     }
 }
@@ -74,50 +74,45 @@ QList<FootageScan::Found> FootageScan::list(const QStringList& paths) const
     return all;
 }
 
-void FootageScan::add(const Found& found)
+std::optional<FileFacts> FootageScan::factsOf(const Found& found)
 {
-    FileFacts facts;
-    if (const FileFacts* known = m_index.find(found.file)) {
-        facts = *known;
-    } else {
-        facts = FileFacts::of(found.file.filePath(), m_progress.cancelled());
-        if (m_progress.isCancelled())
-            return;
-        m_index.add(found.file, facts);
-    }
+    if (m_progress.isCancelled())
+        return {};
+    if (const FileFacts* known = m_index.find(found.file))
+        return *known;
+    const FileFacts facts = FileFacts::of(found.file.filePath(), m_progress.cancelled());
+    if (m_progress.isCancelled())
+        return {};
+    m_index.add(found.file, facts);
+    return facts;
+}
+
+void FootageScan::add(const Found& found, const FileFacts& facts, Footage& footage) const
+{
     const bool isPicture = isPictureFile(found.path);
     const qint64 changed = found.file.lastModified().toMSecsSinceEpoch();
     const auto match = m_pattern.match(found.path);
-    qint64 duration = isPicture ? pictureTime : facts.duration;
-    qint64 begin = 0;
-    Source source = ChangeTime;
-    if (match) {
-        source = Path;
-        begin = instantOf(match->begin);
-    } else if (facts.created) {
-        source = CreationTime;
-        begin = *facts.created;
-    } else if (facts.taken) {
-        source = Exif;
-        begin = instantOf(*facts.taken);
-    } else {
-        begin = isPicture ? changed : changed - duration;
-    }
-    if (duration <= 0)
-        duration = guessedDuration(facts, begin, changed);
-    if (begin < 0)
-        return; // no time of a camera
-    ++m_sources[source];
     const bool hasCamera = match && !match->camera.isEmpty();
-    m_recordings.append({hasCamera ? match->camera : cameraOf(found.path),
-                         {found.file.absoluteFilePath(), begin, begin + duration, 0}});
-}
-
-qint64 FootageScan::instantOf(const WallTime& time) const
-{
-    if (time.offset)
-        return time.clock.toMSecsSinceEpoch() - *time.offset * qint64(1'000);
-    return QDateTime(time.clock.date(), time.clock.time(), m_zone).toMSecsSinceEpoch();
+    Footage::Recording recording{.camera = hasCamera ? match->camera : cameraOf(found.path),
+                                 .path = found.file.absoluteFilePath(),
+                                 .begin = {},
+                                 .length = isPicture ? pictureTime : facts.duration,
+                                 .source = Footage::ChangeTime};
+    if (match) {
+        recording.source = Footage::Path;
+        recording.begin = match->begin;
+    } else if (facts.created) {
+        recording.source = Footage::CreationTime;
+        recording.begin = WallTime::utc(*facts.created);
+    } else if (facts.taken) {
+        recording.source = Footage::Exif;
+        recording.begin = *facts.taken;
+    } else {
+        recording.begin = WallTime::utc(isPicture ? changed : changed - recording.length);
+    }
+    if (recording.length <= 0)
+        recording.length = guessedDuration(facts, footage.instantOf(recording.begin, {}), changed);
+    footage.add(recording);
 }
 
 } // namespace Review

@@ -1,51 +1,137 @@
 #include "loadjob.h"
 
+#include "data/leavethread.h"
 #include "data/sampledata.h"
+#include "footagescan.h"
 
 #include <QDir>
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 namespace Review {
 
-LoadJob::LoadJob(const ReviewFiles& files, const QTimeZone& zone, QObject* parent)
-    : QObject(parent), m_files(files), m_zone(zone), m_thread(QThread::create([this] { load(); }))
+/// What the thread does, and what it leaves behind.
+class LoadJob::Work
 {
-    connect(m_thread.get(), &QThread::finished, this, &LoadJob::loaded);
+public:
+    explicit Work(const LoadedFiles& begin, bool hasRead) : loaded(begin), isRead(hasRead) {}
+
+    void run(const TimeCorrections& corrections);
+
+    LoadedFiles loaded;
+    const bool isRead;
+    ReviewLoader loader = {};
+    ReviewData data = {};
+    QString error = {};
+
+private:
+    void read();
+};
+
+void LoadJob::Work::run(const TimeCorrections& corrections)
+{
+    if (loaded.files.isEmpty()) {
+        data = SampleData::make();
+        return;
+    }
+    if (!isRead)
+        read();
+    if (!error.isEmpty() || loader.progress().isCancelled())
+        return;
+    data = loaded.footage.addTo(loaded.listed, corrections);
+    if (data.tracks.isEmpty() && data.events.isEmpty() && !loaded.files.footage.isEmpty())
+        error = LoadJob::tr("There are neither recordings nor events in %1.")
+                    .arg(QDir::toNativeSeparators(loaded.files.footage.first()));
+}
+
+void LoadJob::Work::read()
+{
+    const ReviewFiles& files = loaded.files;
+    if (!files.footage.isEmpty()) {
+        FootageIndex index(FootageIndex::userFile());
+        const PathPattern pattern =
+            files.pattern.isEmpty() ? PathPattern() : PathPattern(files.pattern);
+        FootageScan(pattern, index, loader.progress()).scan(files.footage, loaded.footage);
+        index.save();
+    }
+    error = loader.load(files, loaded.footage.zone());
+    loaded.listed = loader.data();
+}
+
+LoadJob::LoadJob(const ReviewFiles& files, const QTimeZone& zone,
+                 const TimeCorrections& corrections, QObject* parent)
+    : LoadJob(std::make_shared<Work>(LoadedFiles{files, {}, Footage(zone)}, false), corrections,
+              false, parent)
+{}
+
+LoadJob::LoadJob(const LoadedFiles& known, const TimeCorrections& corrections, QObject* parent)
+    : LoadJob(std::make_shared<Work>(known, true), corrections, true, parent)
+{}
+
+LoadJob::LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, bool isCorrection,
+                 QObject* parent)
+    : QObject(parent)
+    , m_work(std::move(work))
+    , m_files(m_work->loaded.files)
+    , m_corrections(corrections)
+    , m_isCorrection(isCorrection)
+    , m_thread(QThread::create([work = m_work, corrections] { work->run(corrections); }))
+{
+    connect(m_thread, &QThread::finished, this, &LoadJob::end);
 }
 
 LoadJob::~LoadJob()
 {
-    m_loader.progress().cancel();
-    m_thread->wait();
+    m_work->loader.progress().cancel();
+    leaveThread(m_thread);
 }
 
-void LoadJob::load()
+void LoadJob::cancel()
 {
-    if (m_files.isEmpty()) {
-        m_data = SampleData::make();
-        return;
-    }
-    if (!m_files.footage.isEmpty())
-        findFootage();
-    m_error = m_loader.load(m_files);
-    if (!m_error.isEmpty() || m_loader.progress().isCancelled())
-        return;
-    m_data = m_loader.data();
-    if (m_data.tracks.isEmpty() && m_data.events.isEmpty() && !m_files.footage.isEmpty())
-        m_error = tr("There are neither recordings nor events in %1.")
-                      .arg(QDir::toNativeSeparators(m_files.footage.first()));
+    m_work->loader.progress().cancel();
+    // A share that does not answer is not waited for.
+    constexpr auto patience = 2s;
+    QTimer::singleShot(patience, this, &LoadJob::end);
 }
 
-void LoadJob::findFootage()
+void LoadJob::end()
 {
-    FootageIndex index(FootageIndex::userFile());
-    const PathPattern pattern =
-        m_files.pattern.isEmpty() ? PathPattern() : PathPattern(m_files.pattern);
-    FootageScan scan(pattern, m_zone, index, m_loader.progress());
-    scan.scan(m_files.footage);
-    index.save();
-    m_timeSources = scan.sources();
-    for (const FootageScan::Recording& recording : scan.recordings())
-        m_loader.add(recording.camera, recording.file);
+    if (!std::exchange(m_ended, true))
+        Q_EMIT loaded();
+}
+
+bool LoadJob::isCancelled() const
+{
+    return m_work->loader.progress().isCancelled();
+}
+
+int LoadJob::percent() const
+{
+    return m_work->loader.progress().percent();
+}
+
+const ReviewData& LoadJob::data() const
+{
+    return m_work->data;
+}
+
+const LoadedFiles& LoadJob::read() const
+{
+    return m_work->loaded;
+}
+
+const ProblemList& LoadJob::problems() const
+{
+    return m_work->loader.problems();
+}
+
+QString LoadJob::error() const
+{
+    return isCancelled() ? QString() : m_work->error;
 }
 
 } // namespace Review

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/reviewloader.h"
-#include "footagescan.h"
+#include "footage.h"
 
 #include <QObject>
 #include <QThread>
@@ -9,6 +9,14 @@
 #include <memory>
 
 namespace Review {
+
+/// What was read, before recordings that were found in folders are put to their times.
+struct LoadedFiles
+{
+    ReviewFiles files = {};
+    ReviewData listed = {};
+    Footage footage = {};
+};
 
 /// Loads files, and finds those in folders, on a thread of its own, so that the window stays alive.
 class LoadJob : public QObject
@@ -18,44 +26,50 @@ class LoadJob : public QObject
 public:
     /// Loads the sample when no file is named. Recordings whose times are without an offset were
     /// made in @p zone.
-    LoadJob(const ReviewFiles& files, const QTimeZone& zone, QObject* parent = nullptr);
-    /// Cancels a load that is under way, and waits for it to end.
+    LoadJob(const ReviewFiles& files, const QTimeZone& zone,
+            const TimeCorrections& corrections = {}, QObject* parent = nullptr);
+    /// Corrects the times of what was read before.
+    LoadJob(const LoadedFiles& known, const TimeCorrections& corrections,
+            QObject* parent = nullptr);
+    /// Cancels a load that is under way.
     ~LoadJob() override;
 
     void start() { m_thread->start(); }
     /// Ends the load early; loaded() is emitted nevertheless.
-    void cancel() { m_loader.progress().cancel(); }
-    bool isCancelled() const { return m_loader.progress().isCancelled(); }
+    void cancel();
+    bool isCancelled() const;
     /// How far it has come, from 0 to 100.
-    int percent() const { return m_loader.progress().percent(); }
+    int percent() const;
 
     /// Empty before loaded(), when a file could not be read, and when the load was cancelled.
-    const ReviewData& data() const { return m_data; }
-    const ProblemList& problems() const { return m_loader.problems(); }
+    const ReviewData& data() const;
+    const LoadedFiles& read() const;
+    const ProblemList& problems() const;
     /// Why a file could not be read, or an empty string.
-    const QString& error() const { return m_error; }
+    QString error() const;
     const ReviewFiles& files() const { return m_files; }
-    /// How many recordings that were found in folders got their time from where.
-    const std::array<qsizetype, FootageScan::SourceCount>& timeSources() const
-    {
-        return m_timeSources;
-    }
+    const TimeCorrections& corrections() const { return m_corrections; }
+    /// Whether nothing is new but the times.
+    bool isCorrection() const { return m_isCorrection; }
 
 Q_SIGNALS:
-    /// Emitted once, from the event loop of the thread that made the job.
+    /// Emitted once, from the event loop of the thread that made the job. When cancelled, nothing
+    /// but isCancelled() and files() may be asked: a share may still not have answered.
     void loaded();
 
 private:
-    void load();
-    void findFootage();
+    class Work;
 
+    LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, bool isCorrection,
+            QObject* parent);
+    void end();
+
+    const std::shared_ptr<Work> m_work;
     const ReviewFiles m_files;
-    const QTimeZone m_zone;
-    ReviewLoader m_loader;
-    ReviewData m_data;
-    QString m_error;
-    std::array<qsizetype, FootageScan::SourceCount> m_timeSources{};
-    const std::unique_ptr<QThread> m_thread;
+    const TimeCorrections m_corrections;
+    const bool m_isCorrection;
+    bool m_ended = false;
+    QThread* const m_thread;
 };
 
 } // namespace Review

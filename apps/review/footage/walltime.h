@@ -12,6 +12,11 @@ struct WallTime
     QDateTime clock = {};           ///< claims to be UTC
     std::optional<int> offset = {}; ///< seconds
 
+    static WallTime utc(qint64 msecs)
+    {
+        return {QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC), 0};
+    }
+
     bool operator==(const WallTime&) const = default;
 };
 

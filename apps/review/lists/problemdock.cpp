@@ -40,10 +40,9 @@ void ProblemDock::retranslate()
         close->setAccessibleName(tr("Close"));
     m_list->clear();
     for (const Problem& problem : m_problems.listed()) {
-        auto* item = new QListWidgetItem(u"%1:%2: %3"_s.arg(QFileInfo(problem.file).fileName())
-                                             .arg(problem.line)
-                                             .arg(problem.text.text()),
-                                         m_list);
+        const QString line = problem.line > 0 ? u':' + QString::number(problem.line) : QString();
+        auto* item = new QListWidgetItem(
+            QFileInfo(problem.file).fileName() + line + u": "_s + problem.text.text(), m_list);
         item->setToolTip(QDir::toNativeSeparators(problem.file).toHtmlEscaped());
     }
     if (m_problems.unlisted() > 0)

@@ -57,6 +57,11 @@ QString textOf(quint16 value)
     return QString::number(value);
 }
 
+QString textOf(const FolderCorrections& value)
+{
+    return value.toText();
+}
+
 template <typename Names, typename Value>
 QString nameOf(const Names& names, Value value)
 {
@@ -93,6 +98,11 @@ void take(bool& value, const QString& text)
 void take(quint16& value, const QString& text)
 {
     value = text.toUShort();
+}
+
+void take(FolderCorrections& value, const QString& text)
+{
+    value = FolderCorrections::fromText(text);
 }
 
 template <typename Names, typename Value>
@@ -135,6 +145,7 @@ void forEachValue(Settings& settings, const Use& use)
     use(u"Timeline/FreeZoom"_s, settings.freeZoom);
     use(u"Timeline/DragSelects"_s, settings.dragSelects);
     use(u"Timeline/Follow"_s, settings.followMode);
+    use(u"Recordings/Corrections"_s, settings.corrections);
     use(u"Updates/InternalChannel"_s, settings.servers.internalChannel);
     use(u"Updates/PublicServer"_s, settings.servers.publicServer);
     use(u"Updates/QueryServer"_s, settings.servers.queryServer);

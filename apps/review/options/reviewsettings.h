@@ -1,5 +1,6 @@
 #pragma once
 
+#include "footage/timecorrection.h"
 #include "look/timetexts.h"
 #include "playback/shortcuts.h"
 #include "updateservers.h"
@@ -36,6 +37,7 @@ struct ReviewSettings
     /// How the timeline goes after the moment.
     CorvelGui::Ruler::FollowMode followMode = CorvelGui::Ruler::FollowMode::Pages;
     Shortcuts shortcuts = defaultShortcuts();
+    FolderCorrections corrections = {};
 
     UpdateServers servers = {};
     Corvel::ProxyUserSettings proxy = {};

@@ -32,6 +32,108 @@
     </message>
 </context>
 <context>
+    <name>Review::CameraTimesDialog</name>
+    <message>
+        <source>Times of recordings</source>
+        <translation>Zeiten der Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Times come from</source>
+        <translation>Zeiten stammen von</translation>
+    </message>
+    <message>
+        <source>First recording</source>
+        <translation>Erste Aufnahme</translation>
+    </message>
+    <message>
+        <source>Zone</source>
+        <translation>Zone</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>There is no time zone “%1”.</source>
+        <translation>Es gibt keine Zeitzone „%1“.</translation>
+    </message>
+    <message>
+        <source>Zone of the camera&apos;s clock</source>
+        <translation>Zone der Kamera-Uhr</translation>
+    </message>
+    <message>
+        <source>Add to its times</source>
+        <translation>Zu ihren Zeiten addieren</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>time of creation</source>
+        <translation>Erstellungszeit</translation>
+    </message>
+    <message>
+        <source>EXIF</source>
+        <translation>EXIF</translation>
+    </message>
+    <message>
+        <source>time of change</source>
+        <translation>Änderungszeit</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>before 1970</source>
+        <translation>vor 1970</translation>
+    </message>
+    <message>
+        <source>known</source>
+        <translation>bekannt</translation>
+    </message>
+    <message>
+        <source>Write hours, minutes and seconds, such as %1, or seconds, such as %2.</source>
+        <translation>Schreiben Sie Stunden, Minuten und Sekunden, etwa %1, oder Sekunden, etwa %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::CameraTrapSet</name>
+    <message>
+        <source>it is no JSON: %1, at byte %2</source>
+        <translation>sie ist kein JSON: %1, bei Byte %2</translation>
+    </message>
+    <message>
+        <source>it has no list “%1”</source>
+        <translation>sie hat keine Liste „%1“</translation>
+    </message>
+    <message>
+        <source>the image “%1” has no date and time</source>
+        <translation>das Bild „%1“ hat weder Datum noch Uhrzeit</translation>
+    </message>
+    <message>
+        <source>the annotation “%1” is of no image with a time</source>
+        <translation>die Anmerkung „%1“ gehört zu keinem Bild mit einer Zeit</translation>
+    </message>
+    <message>
+        <source>the annotation “%1” is of no category</source>
+        <translation>die Anmerkung „%1“ gehört zu keiner Kategorie</translation>
+    </message>
+</context>
+<context>
     <name>Review::CameraView</name>
     <message>
         <source>Waiting for the file…</source>
@@ -269,10 +371,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
 <context>
     <name>Review::CsvTable</name>
     <message>
-        <source>Cannot read %1: %2</source>
-        <translation>%1 kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
         <source>it has no header line that names its columns</source>
         <translation>Eine Kopfzeile mit den Namen der Spalten fehlt</translation>
     </message>
@@ -299,18 +397,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>%1 fields instead of %2</source>
         <translation>%1 Felder statt %2</translation>
-    </message>
-    <message>
-        <source>it is a folder</source>
-        <translation>es ist ein Ordner</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>es ist keine Datei</translation>
-    </message>
-    <message>
-        <source>it is larger than %1</source>
-        <translation>sie ist größer als %1</translation>
     </message>
 </context>
 <context>
@@ -670,6 +756,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Choose a day in a calendar</source>
         <translation>Einen Tag im Kalender auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>Review::JsonLines</name>
+    <message>
+        <source>the line is no JSON object</source>
+        <translation>die Zeile ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>the object has no “%1”</source>
+        <translation>das Objekt hat kein „%1“</translation>
+    </message>
+    <message>
+        <source>“%1” is neither a text nor a number</source>
+        <translation>„%1“ ist weder ein Text noch eine Zahl</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1182,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Export &amp;recordings…</source>
         <translation>Auf&amp;nahmen exportieren …</translation>
     </message>
+    <message>
+        <source>&amp;Times of recordings…</source>
+        <translation>&amp;Zeiten der Aufnahmen …</translation>
+    </message>
 </context>
 <context>
     <name>Review::ReviewOpener</name>
@@ -1136,26 +1241,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>%1 – Recording review</source>
         <translation>%1 – Aufzeichnungen sichten</translation>
-    </message>
-    <message>
-        <source>path</source>
-        <translation>Pfad</translation>
-    </message>
-    <message>
-        <source>time of creation</source>
-        <translation>Zeit der Entstehung</translation>
-    </message>
-    <message>
-        <source>EXIF</source>
-        <translation>EXIF</translation>
-    </message>
-    <message>
-        <source>time of change</source>
-        <translation>Zeit der Änderung</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Where the times of recordings come from: %1; zone: %2</source>
@@ -1237,6 +1322,25 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Nothing known</source>
         <translation>Nichts bekannt</translation>
+    </message>
+</context>
+<context>
+    <name>Review::TextFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>sie ist größer als %1</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
 </context>
 <context>

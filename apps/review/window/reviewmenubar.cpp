@@ -6,6 +6,8 @@
 
 #include <QAction>
 
+using namespace Qt::StringLiterals;
+
 namespace Review {
 
 ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
@@ -17,6 +19,9 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     m_open = m_file->addAction(QString());
     m_open->setShortcut(QKeySequence::Open);
     m_openFiles = m_file->addAction(QString());
+    m_cameraTimes = m_file->addAction(QString());
+    m_cameraTimes->setObjectName(u"cameraTimes"_s);
+    m_cameraTimes->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_T);
     m_file->addSeparator();
     m_savePicture = m_file->addAction(QString());
     m_savePicture->setShortcut(QKeySequence::Save);
@@ -58,6 +63,7 @@ void ReviewMenuBar::retranslate()
     m_file->setTitle(tr("&File"));
     m_open->setText(tr("&Open folder…"));
     m_openFiles->setText(tr("Open &files…"));
+    m_cameraTimes->setText(tr("&Times of recordings…"));
     m_savePicture->setText(tr("&Save picture…"));
     m_copyPicture->setText(tr("&Copy picture"));
     m_exportClips->setText(tr("Export &recordings…"));

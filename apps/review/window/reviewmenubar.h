@@ -22,6 +22,7 @@ public:
 
     QAction* open() const { return m_open; }
     QAction* openFiles() const { return m_openFiles; }
+    QAction* cameraTimes() const { return m_cameraTimes; }
     QAction* exportClips() const { return m_exportClips; }
     QAction* exportPictures() const { return m_exportPictures; }
     QAction* savePicture() const { return m_savePicture; }
@@ -37,6 +38,7 @@ private:
     QMenu* m_file;
     QAction* m_open;
     QAction* m_openFiles;
+    QAction* m_cameraTimes;
     QAction* m_exportClips;
     QAction* m_exportPictures;
     QAction* m_savePicture;

@@ -1,6 +1,5 @@
 #include "reviewopener.h"
 
-#include "footage/loadjob.h"
 #include "loadpanel.h"
 #include "session/clock.h"
 
@@ -12,6 +11,7 @@
 #include <QStatusBar>
 
 #include <chrono>
+#include <utility>
 
 using CorvelGui::BusyIndicator;
 using Hueloft::PMessageBox;
@@ -33,7 +33,24 @@ ReviewOpener::~ReviewOpener() = default;
 void ReviewOpener::load(const ReviewFiles& files)
 {
     m_pattern = files.pattern;
-    m_job = std::make_unique<LoadJob>(files, m_clock.times().zone());
+    start(std::make_unique<LoadJob>(files, m_clock.times().zone(), correctionsOf(files)));
+}
+
+TimeCorrections ReviewOpener::correctionsOf(const ReviewFiles& files) const
+{
+    return m_corrections.folders.value(files.footageFolder());
+}
+
+void ReviewOpener::correct(const TimeCorrections& corrections)
+{
+    m_corrections.folders.insert(m_loaded.files.footageFolder(), corrections);
+    if (!isLoading())
+        start(std::make_unique<LoadJob>(m_loaded, corrections));
+}
+
+void ReviewOpener::start(std::unique_ptr<LoadJob> job)
+{
+    m_job = std::move(job);
     auto* busy = new BusyIndicator(m_window->centralWidget());
     busy->setDelay(quickLoad);
     busy->show();
@@ -53,8 +70,14 @@ void ReviewOpener::finish()
 {
     LoadJob* job = m_job.release();
     job->deleteLater();
+    if (!job->isCancelled() && job->error().isEmpty())
+        m_loaded = job->read();
     Q_EMIT loadingChanged(false);
     Q_EMIT ended(*job);
+    // Corrected meanwhile.
+    const TimeCorrections wanted = correctionsOf(m_loaded.files);
+    if (!isLoading() && job->isCorrection() && job->corrections() != wanted)
+        correct(wanted);
 }
 
 void ReviewOpener::open(const QStringList& paths)

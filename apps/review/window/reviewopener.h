@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/reviewloader.h"
+#include "footage/loadjob.h"
 
 #include <QObject>
 
@@ -11,7 +11,6 @@ class QMainWindow;
 namespace Review {
 
 class Clock;
-class LoadJob;
 
 /// Loads files for a window, which is covered meanwhile.
 class ReviewOpener : public QObject
@@ -34,6 +33,14 @@ public:
     void askForFiles();
     bool isLoading() const { return m_job != nullptr; }
 
+    /// What was loaded last.
+    const LoadedFiles& loaded() const { return m_loaded; }
+    /// How times in folders are corrected. Setting it says nothing of what is loaded.
+    const FolderCorrections& corrections() const { return m_corrections; }
+    void setCorrections(const FolderCorrections& corrections) { m_corrections = corrections; }
+    /// Corrects the times of what was loaded last, without reading it again.
+    void correct(const TimeCorrections& corrections);
+
 Q_SIGNALS:
     /// Emitted when a load begins, and before ended().
     void loadingChanged(bool loading);
@@ -41,10 +48,14 @@ Q_SIGNALS:
     void ended(const Review::LoadJob& job);
 
 private:
+    void start(std::unique_ptr<LoadJob> job);
     void finish();
+    TimeCorrections correctionsOf(const ReviewFiles& files) const;
 
     QMainWindow* m_window;
     const Clock& m_clock;
+    LoadedFiles m_loaded;
+    FolderCorrections m_corrections;
     QString m_pattern; ///< of the paths of clips, once there is one
     std::unique_ptr<LoadJob> m_job;
 };

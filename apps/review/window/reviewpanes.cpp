@@ -115,13 +115,29 @@ void ReviewPanes::connectPlayer()
             [this] { Q_EMIT told(tr("There are no more recordings of this camera.")); });
 }
 
-void ReviewPanes::setReview(const ReviewData& review)
+void ReviewPanes::setPeriod(const TimeSpan& period)
 {
-    const TimeSpan period = review.period();
     m_player->setPeriod(period);
     m_transport->setPeriod(period);
     m_ranges->setPeriod(period);
     m_timeline->setPeriod(period);
+}
+
+void ReviewPanes::setTimes(const ReviewData& review)
+{
+    const TimeSpan view = m_timeline->view();
+    const bool showedAll = m_timeline->showsWholePeriod();
+    const TimeSpan period = review.period();
+    setPeriod(period);
+    setTexts(review);
+    m_selection.setMoment(std::clamp(m_selection.moment(), period.begin, period.end));
+    if (!showedAll)
+        m_timeline->showAround(view.begin + (view.end - view.begin) / 2, view.end - view.begin);
+}
+
+void ReviewPanes::setReview(const ReviewData& review)
+{
+    setPeriod(review.period());
     m_devices->removeAll();
     setTexts(review);
     const Sight first = review.firstSight();

@@ -34,6 +34,8 @@ public:
 
     /// Replaces all that is shown.
     void setReview(const ReviewData& review);
+    /// Replaces what differs in times. View, moment and camera stay as far as they can.
+    void setTimes(const ReviewData& review);
     /// Replaces what differs in names and texts only. View and moment stay.
     void setTexts(const ReviewData& review);
     /// Shows the day in the middle of the period, with the indicator on the first event after noon.
@@ -62,6 +64,7 @@ protected:
 
 private:
     void createLayout();
+    void setPeriod(const CorvelGui::TimeSpan& period);
     void connectLists();
     void connectTimeline();
     void connectPlayer();

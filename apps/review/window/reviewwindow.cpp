@@ -1,5 +1,6 @@
 #include "reviewwindow.h"
 
+#include "cameratimesdialog.h"
 #include "data/sampledata.h"
 #include "export/exportpanel.h"
 #include "footage/loadjob.h"
@@ -29,6 +30,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QMimeData>
+#include <QPointer>
 #include <QSettings>
 #include <QUrl>
 
@@ -68,6 +70,7 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
                                 new SpeedMenu(*m_panes->player(), this), m_updates, this);
     setMenuBar(m_menus);
     connectParts();
+    m_menus->cameraTimes()->setEnabled(false);
     enableExport();
     retranslate();
 }
@@ -87,6 +90,7 @@ void ReviewWindow::setReview(const ReviewData& review, const ProblemList& proble
 {
     m_showsSample = false;
     m_name.clear();
+    m_menus->cameraTimes()->setEnabled(false);
     m_panes->setReview(review);
     m_status->setCounts(review);
     showTitle();
@@ -102,26 +106,43 @@ void ReviewWindow::load(const ReviewFiles& files)
 
 void ReviewWindow::showLoaded(const LoadJob& job)
 {
-    if (job.error().isEmpty() && !job.isCancelled()) {
-        setReview(job.data(), job.problems());
-        m_showsSample = job.files().isEmpty();
-        m_name = job.files().name();
-        showTitle();
-        tellTimeSources(job);
+    if (job.isCancelled() || !job.error().isEmpty()) {
+        Q_EMIT loaded(job.error());
+        return;
     }
-    Q_EMIT loaded(job.error());
+    if (job.isCorrection()) {
+        m_panes->setTimes(job.data());
+        return;
+    }
+    setReview(job.data(), job.problems());
+    m_showsSample = job.files().isEmpty();
+    m_name = job.files().name();
+    showTitle();
+    tellTimeSources(job.read().footage);
+    m_menus->cameraTimes()->setEnabled(!job.read().footage.isEmpty());
+    Q_EMIT loaded({});
 }
 
-void ReviewWindow::tellTimeSources(const LoadJob& job)
+void ReviewWindow::tellTimeSources(const Footage& footage)
 {
-    const QString names[] = {tr("path"), tr("time of creation"), tr("EXIF"), tr("time of change")};
-    QStringList parts;
-    for (int source = 0; source < FootageScan::SourceCount; ++source)
-        if (const qsizetype count = job.timeSources()[source]; count > 0)
-            parts.append(tr("%1: %2").arg(names[source], QLocale().toString(count)));
-    if (!parts.isEmpty())
+    if (!footage.isEmpty())
         m_status->tell(tr("Where the times of recordings come from: %1; zone: %2")
-                           .arg(parts.join(u", "_s), m_clock.times().zoneName()));
+                           .arg(CameraTimesDialog::sourcesText(footage.sources()),
+                                QString::fromUtf8(footage.zone().id())));
+}
+
+void ReviewWindow::correctTimes()
+{
+    const LoadedFiles& loaded = m_opener->loaded();
+    const QString folder = loaded.files.footageFolder();
+    const QPointer dialog = new CameraTimesDialog(
+        loaded.footage, m_opener->corrections().folders.value(folder), m_clock.times(), this);
+    connect(dialog, &CameraTimesDialog::applied, this, [this, dialog] {
+        m_opener->correct(dialog->corrections());
+        Q_EMIT settingsTouched();
+    });
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 void ReviewWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -176,6 +197,7 @@ void ReviewWindow::connectParts()
     connect(m_opener, &ReviewOpener::loadingChanged, m_menus->openFiles(), &QAction::setDisabled);
     connect(m_opener, &ReviewOpener::ended, this, &ReviewWindow::showLoaded);
     connect(m_menus->exportPictures(), &QAction::triggered, this, &ReviewWindow::exportPictures);
+    connect(m_menus->cameraTimes(), &QAction::triggered, this, &ReviewWindow::correctTimes);
     connect(m_menus->exportClips(), &QAction::triggered, this, &ReviewWindow::exportClips);
     connect(m_menus->savePicture(), &QAction::triggered, this, &ReviewWindow::savePicture);
     connect(m_menus->copyPicture(), &QAction::triggered, this, &ReviewWindow::copyPicture);
@@ -289,6 +311,7 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     m_toolBar->followMenu()->setMode(settings.followMode);
     m_panes->player()->setShortcuts(settings.shortcuts);
     m_updates->setServers(settings.servers);
+    m_opener->setCorrections(settings.corrections);
 }
 
 void ReviewWindow::takeSettings(ReviewSettings& settings) const
@@ -302,6 +325,7 @@ void ReviewWindow::takeSettings(ReviewSettings& settings) const
     settings.freeZoom = m_toolBar->freeZoom()->isChecked();
     settings.dragSelects = m_toolBar->dragSelects()->isChecked();
     settings.followMode = m_toolBar->followMenu()->mode();
+    settings.corrections = m_opener->corrections();
 }
 
 void ReviewWindow::writeUserSettings(QSettings& settings) const

@@ -14,6 +14,7 @@ class QMenu;
 namespace Review {
 
 struct CameraPicture;
+class Footage;
 class LoadJob;
 class ProblemDock;
 class ReviewMenuBar;
@@ -82,7 +83,8 @@ private:
     void createToolBar(bool dark);
     void connectParts();
     void showLoaded(const LoadJob& job);
-    void tellTimeSources(const LoadJob& job);
+    void tellTimeSources(const Footage& footage);
+    void correctTimes();
     void showTitle();
     void exportPictures();
     void exportClips();
