@@ -153,9 +153,8 @@ private Q_SLOTS:
         for (const auto& act : std::initializer_list<std::function<void(Tabs&)>>{
                  [](Tabs& tabs) { tabs.closeTab(1); },
                  [&](Tabs& tabs) { typed(tabs, Qt::Key_Return); },
-                 [&](Tabs& tabs) {
-                     typed(tabs, {}), tabs.setCurrentIndex(1);
-                 }})
+                 [&](Tabs& tabs) { typed(tabs, Qt::Key()), tabs.setCurrentIndex(1); },
+             })
             QVERIFY(isDeletedBy(act, &PTabWidget::tabRenamed, &PTabWidget::tabClosed));
     }
 };

@@ -77,6 +77,7 @@ private Q_SLOTS:
     {
         View view;
         QCOMPARE(view.reads(), u"|--:|--:|--|"_s);
+        QVERIFY(view.property("tarvo").toBool());
         const QString moment = u"2026-08-18T12:15:30.250"_s;
         const std::pair<QDateTime, const char*> steps[] = {
             {at(moment, newYork), "18 Aug|08:|15:|30|250"},

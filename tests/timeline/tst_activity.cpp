@@ -1,7 +1,6 @@
 #include "activityhistogram.h"
 #include "loggedruler.h"
 #include "overviewbox.h"
-#include "testsupport.h"
 
 #include <CorvelGui/TimelineScroll>
 #include <CorvelGui/ZoomTimeline>
@@ -131,14 +130,10 @@ private Q_SLOTS:
         }
         using Part = OverviewBox::Part;
         const OverviewBox box(scale, {0.2, 0.5});
-        for (const auto& [x, part] : {std::pair(25, Part::Outside),
-                                      {26, Part::Begin},
-                                      {34, Part::Begin},
-                                      {35, Part::Inside},
-                                      {55, Part::Inside},
-                                      {56, Part::End},
-                                      {64, Part::End},
-                                      {65, Part::Outside}})
+        const std::pair<int, Part> places[] = {
+            {25, Part::Outside}, {26, Part::Begin}, {34, Part::Begin}, {35, Part::Inside},
+            {55, Part::Inside},  {56, Part::End},   {64, Part::End},   {65, Part::Outside}};
+        for (const auto& [x, part] : places)
             QCOMPARE(box.partAt(x), part);
     }
 

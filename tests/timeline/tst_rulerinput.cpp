@@ -1,6 +1,8 @@
+#include "hoverpreview.h"
 #include "rulerscript.h"
-#include "testsupport.h"
 
+using namespace std::chrono_literals;
+using CorvelGui::HoverPreview;
 using namespace CorvelGui;
 
 namespace {
@@ -12,6 +14,17 @@ int runningTimers(const Ruler& ruler)
     for (const QTimer* timer : ruler.findChildren<QTimer*>())
         count += timer->isActive();
     return count;
+}
+
+/// The test's own clock: nothing here waits.
+const HoverPreview::Clock::time_point zero{1000s};
+constexpr qint64 viewBegin = 1'000'000;
+
+HoverPreview started()
+{
+    HoverPreview hover;
+    hover.start(QPoint(100, 5), viewBegin, zero);
+    return hover;
 }
 
 } // namespace
@@ -236,6 +249,10 @@ private Q_SLOTS:
             QWidget* arrow = stepped.childAt(x, 30);
             QCOMPARE(arrow->accessibleName(), name);
             QVERIFY(stepped.rect().contains(arrow->geometry()));
+            const QImage picture = arrow->grab().toImage(); // its icon is in the middle
+            QCOMPARE(picture.pixel(arrow->width() / 2, 6),
+                     picture.pixel(arrow->width() / 2, arrow->height() - 6));
+
             pressByAssistiveTechnology(arrow);
             QTRY_COMPARE(stepped.log.size(), 3);
             QVERIFY(!stepped.isHeld());
@@ -345,6 +362,48 @@ private Q_SLOTS:
                 delete ruler;
             }
         }
+    }
+
+    void restEarnsAPreview()
+    {
+        constexpr auto never = 0ms;
+        // The mouse has moved so far since the last preview, and rests.
+        const std::tuple<HoverPreview::Situation, int, std::chrono::milliseconds> cases[] = {
+            {{}, 0, 301ms},
+            {{.pending = true}, 0, 151ms},
+            {{.dragging = true}, 0, never},
+            {{.visible = true}, 0, never},
+            {{.visible = true}, 3, never},
+            {{.visible = true}, 4, 101ms},
+            {{.visible = true}, -4, 101ms},
+            {{.visible = true, .viewStart = 500}, 0, never},
+            {{.visible = true, .viewStart = -501}, 0, 101ms},
+            {{.visible = true, .markerHovered = true}, 0, 101ms}};
+        for (auto [situation, mouseMove, rest] : cases) {
+            situation.viewStart += viewBegin;
+            HoverPreview hover = started();
+            hover.emitted(viewBegin);
+            hover.mouseMoved(QPoint(100 + mouseMove, 25), zero);
+            QCOMPARE(hover.isDue(situation, zero + (rest == never ? 10s : rest)), rest != never);
+            QVERIFY(!hover.isDue(situation, zero + rest - 1ms));
+        }
+    }
+
+    void movingMouseEarnsNothing()
+    {
+        HoverPreview hover = started();
+        for (int i = 1; i <= 50; ++i) {
+            hover.mouseMoved(QPoint(100 + i, 5), zero + i * 90ms);
+            QVERIFY(
+                !hover.isDue({.pending = true, .viewStart = viewBegin}, zero + i * 90ms + 89ms));
+        }
+        // A zero forgets the last preview.
+        hover.emitted(viewBegin);
+        QCOMPARE(hover.lastPosition(), QPoint(150, 5));
+
+        hover.start(QPoint(100, 5), viewBegin, zero + 1s);
+        QCOMPARE(hover.lastPosition(), QPoint(-1, -1));
+        QVERIFY(hover.isDue({.visible = true, .viewStart = viewBegin}, zero + 1101ms));
     }
 };
 

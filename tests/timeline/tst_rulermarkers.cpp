@@ -1,6 +1,5 @@
 #include "rulericonset.h"
 #include "rulerscript.h"
-#include "testsupport.h"
 
 #include <CorvelGui/RulerMarkerButton>
 #include <Hueloft/POrvGuiTheme>
@@ -181,14 +180,14 @@ private Q_SLOTS:
         QCOMPARE(hidden->toolTip(), u"300"_s);
         QTest::mouseClick(hidden, Qt::LeftButton);
         QCOMPARE(ruler.takeLog(), QStringList{u"jump 02 00:17"_s});
-        for (const auto& end : std::initializer_list<std::function<void()>>{
-                 [&] { moveMouse(ruler, QPoint(400, y)); }, [&] { leaveMouse(ruler); },
-                 [&] {
-                     enterMouse(*visibleButtons(ruler).front());
-                 }}) {
+        for (const auto& end : std::initializer_list<std::function<void(Ruler&)>>{
+                 [&](Ruler& r) { moveMouse(r, QPoint(400, y)); },
+                 [](Ruler& r) { leaveMouse(r); },
+                 [](Ruler& r) { enterMouse(*visibleButtons(r).front()); },
+             }) {
             moveMouse(ruler, QPoint(318, y));
             QCOMPARE(symbols(ruler), u"307+ 314"_s);
-            end();
+            end(ruler);
             QCOMPARE(symbols(ruler), u"307+"_s);
         }
         // It grows with the others.
@@ -293,9 +292,7 @@ private Q_SLOTS:
         const QString ofMarker = u"preview 1044 at 299 marker"_s;
         const QString ofMouse = u"preview 1051 at 302"_s;
         const std::pair<std::function<void(Ruler&)>, QStringList> cases[] = {
-            {[](Ruler& r) {
-                 r.onAddMarkers(markersAtPixels(QList<int>{100, 500}));
-             },
+            {[](Ruler& r) { r.onAddMarkers(markersAtPixels(QList<int>(2, 100))); },
              {ofMarker, ofMouse}},
             {[](Ruler& r) { r.onRemoveMarkers(markersAtPixels({200})); }, {ofMarker, ofMouse}},
             {[](Ruler& r) { r.onTimelineOffsetChanged(0.5); }, {u"preview 431251 at 302"_s}},
@@ -395,12 +392,11 @@ private Q_SLOTS:
     void clearingInsideSignals()
     {
         for (const auto& act : std::initializer_list<std::function<void(Ruler&)>>{
-                 [](Ruler& ruler) { ruler.onClearMarkers(); },
-                 [](Ruler& ruler) { qDeleteAll(ruler.findChildren<RulerMarkerButton*>()); },
-                 [](Ruler& ruler) { qDeleteAll(ruler.findChildren<QAbstractButton*>()); },
-                 [](Ruler& ruler) {
-                     delete &ruler;
-                 }}) {
+                 [](Ruler& r) { r.onClearMarkers(); },
+                 [](Ruler& r) { qDeleteAll(r.findChildren<RulerMarkerButton*>()); },
+                 [](Ruler& r) { qDeleteAll(r.findChildren<QAbstractButton*>()); },
+                 [](Ruler& r) { delete &r; },
+             }) {
             for (const bool twice : {false, true}) {
                 QPointer<LoggedRuler> ruler = new LoggedRuler;
                 ruler->onAddMarkers(markersAtPixels({300, 500}));

@@ -172,50 +172,18 @@ private Q_SLOTS:
 
     void settersAreSilentAndRepaintChanges()
     {
-        const std::pair<bool, Act> setters[] = {{false,
-                                                 [](LoggedStrip& s) {
-                                                     s.setViewArea(0.2);
-                                                 }},
-                                                {false,
-                                                 [](LoggedStrip& s) {
-                                                     s.onCenterPositionChanged(0.3);
-                                                 }},
-                                                {false,
-                                                 [](LoggedStrip& s) {
-                                                     s.onIndicatorPositionChanged(5, 0.0);
-                                                 }},
-                                                {false,
-                                                 [](LoggedStrip& s) {
-                                                     s.setSearchTimeRange(0.500009, 0.599991);
-                                                 }},
-                                                {true,
-                                                 [](LoggedStrip& s) {
-                                                     s.setViewArea(0.3);
-                                                 }},
-                                                {true,
-                                                 [](LoggedStrip& s) {
-                                                     s.onCenterPositionChanged(0.4);
-                                                 }},
-                                                {true,
-                                                 [](LoggedStrip& s) {
-                                                     s.onIndicatorPositionChanged(5, 0.1);
-                                                 }},
-                                                {true,
-                                                 [](LoggedStrip& s) {
-                                                     s.setSearchTimeRange(0.500011, 0.6);
-                                                 }},
-                                                {true,
-                                                 [](LoggedStrip& s) {
-                                                     s.setSearchTimeRange(0.5, 0.599989);
-                                                 }},
-                                                {true,
-                                                 [](LoggedStrip& s) {
-                                                     s.resetSearchTimeRange();
-                                                 }},
-                                                {true, [](LoggedStrip& s) {
-                                                     s.displaySearchTimeRange(false);
-                                                 }}};
-
+        const std::pair<bool, Act> setters[] = {
+            std::pair(false, [](LoggedStrip& s) { s.setViewArea(0.2); }),
+            std::pair(false, [](LoggedStrip& s) { s.onCenterPositionChanged(0.3); }),
+            std::pair(false, [](LoggedStrip& s) { s.onIndicatorPositionChanged(5, 0.0); }),
+            std::pair(false, [](LoggedStrip& s) { s.setSearchTimeRange(0.500009, 0.599991); }),
+            std::pair(true, [](LoggedStrip& s) { s.setViewArea(0.3); }),
+            std::pair(true, [](LoggedStrip& s) { s.onCenterPositionChanged(0.4); }),
+            std::pair(true, [](LoggedStrip& s) { s.onIndicatorPositionChanged(5, 0.1); }),
+            std::pair(true, [](LoggedStrip& s) { s.setSearchTimeRange(0.500011, 0.6); }),
+            std::pair(true, [](LoggedStrip& s) { s.setSearchTimeRange(0.5, 0.599989); }),
+            std::pair(true, [](LoggedStrip& s) { s.resetSearchTimeRange(); }),
+            std::pair(true, [](LoggedStrip& s) { s.displaySearchTimeRange(false); })};
         for (const auto& [isChange, set] : setters) {
             LoggedStrip strip;
             strip.setSearchTimeRange(0.5, 0.6);
@@ -344,14 +312,13 @@ private Q_SLOTS:
 
     void deletionWithinTheSignal()
     {
-        for (const Act& act : std::initializer_list<Act>{
+        for (const Act& act : std::initializer_list<std::function<void(LoggedStrip&)>>{
                  [](LoggedStrip& strip) { strip.press(60), strip.release(60); },
                  [](LoggedStrip& strip) { strip.press(60); },
                  [](LoggedStrip& strip) { strip.press(30), strip.moveTo(50); },
                  [](LoggedStrip& strip) { QTest::keyPress(&strip, Qt::Key_End); },
-                 [](LoggedStrip& strip) {
-                     setAccessibleValue(strip, 0.5);
-                 }})
+                 [](LoggedStrip& strip) { setAccessibleValue(strip, 0.5); },
+             })
             QVERIFY(isDeletedBy(act, &TimelineScroll::viewAreaMoved));
     }
 };

@@ -1,4 +1,3 @@
-#include "testsupport.h"
 #include "updatebench.h"
 
 #include <CorvelGui/PChangeLogDialog>
@@ -186,14 +185,12 @@ private Q_SLOTS:
     void goesAtAnyMoment()
     {
         // Behind a dialog, or in the signal with so many bytes.
-        for (const auto& [dialog, received] : {std::pair(u"Offer"_s, -2),
-                                               {u"Save"_s, -2},
-                                               {u"Question"_s, -2},
-                                               {u"Critical"_s, -2},
-                                               {u"none"_s, -1},
-                                               {u"none"_s, 0},
-                                               {u"none"_s, 1},
-                                               {u"none"_s, int(installer.size())}}) {
+        const std::pair<QString, int> moments[] = {
+            {u"Offer"_s, -2},    {u"Save"_s, -2},
+            {u"Question"_s, -2}, {u"Critical"_s, -2},
+            {u"none"_s, -1},     {u"none"_s, 0},
+            {u"none"_s, 1},      {u"none"_s, int(installer.size())}};
+        for (const auto& [dialog, received] : moments) {
             Bench bench;
             bench.script("/in/");
             const bool fails = dialog == u"Critical"_s || received == 0;
