@@ -85,6 +85,7 @@ set(CORVELGUI_PUBLIC_HEADERS
     settings/TranslatorList
     timeline/Indicator
     timeline/Ruler
+    timeline/RulerContext
     timeline/RulerMarker
     timeline/RulerMarkerButton
     timeline/TimelineActivity

@@ -464,6 +464,10 @@ void Play::setAdditions()
         ruler()->setRangeSelection(Ruler::RangeSelection(number(0, 2)));
     if (ruler() && flag())
         ruler()->setSelectedRange({qint64(instant()), qint64(instant())});
+    if (ruler() && flag())
+        ruler()->setLoading({}, {qint64(instant()), qint64(instant())}, flag());
+    if (ruler() && flag())
+        ruler()->contextAt(place());
     if (timeline())
         timeline()->setActivityVisible(flag());
     if (timeline())

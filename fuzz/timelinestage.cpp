@@ -123,6 +123,12 @@ void TimelineStage::watch()
                 "the selected range is one within the limits");
         signalled();
     });
+    QObject::connect(ruler, &Ruler::viewSettled, context,
+                     [this](const TimeSpan&, const QList<TimeSpan>& added) {
+                         require(added.size() <= 2, "a view is new at its ends at most");
+                         signalled();
+                     });
+    QObject::connect(ruler, &Ruler::contextRequested, context, [this] { signalled(); });
     const auto selecting = [this](bool begins) {
         require(std::exchange(m_selecting, begins) != begins, "a selection begins before it ends");
         signalled();

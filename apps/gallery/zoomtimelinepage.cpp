@@ -192,6 +192,11 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     ZoomTimeline* search = add(tr("Search range"));
     search->setSearchTimeRange(at(middle - 2 * hour), at(middle + 3 * hour), false);
 
+    ZoomTimeline* loading = add(tr("Part of it is loading"));
+    loading->ruler()->setLoading(u"gate"_s, {middle + hour, middle + 3 * hour}, true);
+    loading->ruler()->setLoading(u"gate"_s, {middle - 4 * hour, middle - 3 * hour}, true);
+    loading->setLanesVisible(true);
+
     ZoomTimeline* selected = add(tr("A selected range; a drag selects another one"));
     selected->ruler()->onAddMarkers(markers(50 * minute));
     selected->ruler()->setRangeSelection(Ruler::RangeSelection::Drag);

@@ -1,6 +1,7 @@
 #include "lanepainter.h"
 
 #include "devicegrid.h"
+#include "loadinghatch.h"
 #include "timescale.h"
 #include "tracksegments.h"
 
@@ -35,20 +36,23 @@ void LanePainter::drawLane(QPainter& painter, const QRectF& lane,
     };
     painter.fillRect(part(rulerLeft, lane.right()), POrvGuiTheme::colorShark);
 
-    const auto fill = [&](const TimeSpans& states, const QColor& color, const QColor& foot) {
+    const auto forEach = [&](const TimeSpans& states, const auto& fill) {
         for (const TrackSegment& segment : visibleSegments(states, scale)) {
             const double x1 = std::max(rulerLeft + std::trunc(segment.start), left);
             const double x2 =
                 std::max(std::min(rulerLeft + std::trunc(segment.end), right), x1 + 1);
-            const QRectF stretch = part(x1, x2);
-            painter.fillRect(stretch, color);
-            if (foot.isValid())
-                painter.fillRect(
-                    grid.aligned(stretch.adjusted(0, stretch.height() - footHeight, 0, 0)), foot);
+            fill(part(x1, x2));
         }
     };
-    fill(spans.described, POrvGuiTheme::colorBlack, {});
-    fill(spans.recorded, POrvGuiTheme::colorTuna, POrvGuiTheme::colorYellow.darker(200));
+    forEach(spans.described,
+            [&](const QRectF& stretch) { painter.fillRect(stretch, POrvGuiTheme::colorBlack); });
+    forEach(spans.loading, [&](const QRectF& stretch) { fillLoading(painter, stretch); });
+    const QColor foot = POrvGuiTheme::colorYellow.darker(200);
+    forEach(spans.recorded, [&](const QRectF& stretch) {
+        painter.fillRect(stretch, POrvGuiTheme::colorTuna);
+        painter.fillRect(grid.aligned(stretch.adjusted(0, stretch.height() - footHeight, 0, 0)),
+                         foot);
+    });
 
     if (!scale.hasView())
         return;

@@ -57,6 +57,7 @@ Ruler::Ruler(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>())
     connect(d->arrows, &RulerArrows::entered, d->hover.get(), &RulerHover::abandon);
     d->hover->setAreaHeight(2 * d->headerHeight);
     d->gestures = std::make_unique<RulerGestures>(this, *d);
+    d->rest = std::make_unique<ViewRest>(this, *d);
     d->zoomInput = std::make_unique<RulerZoomInput>(this, *d);
     d->touch = std::make_unique<RulerTouch>(this, *d);
 
@@ -309,7 +310,8 @@ TimelineActivity Ruler::activity(int columns) const
     const TimeSpan period =
         d->scale.hasView() ? TimeSpan{d->scale.beginLimitMs(), d->scale.endLimitMs()} : TimeSpan();
     ActivityHistogram histogram(period, columns);
-    histogram.cover(d->segments.gapSpans(), TimelineActivity::Recording::Gap);
+    histogram.cover(difference(d->segments.gapSpans(), d->segments.loadingSpans()),
+                    TimelineActivity::Recording::Gap);
     histogram.cover(d->segments.recordedSpans(), TimelineActivity::Recording::Recorded);
     d->markers->store().forEach([&histogram](qint64 msecs, RulerMarker::Severity severity) {
         histogram.add(msecs, severity);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <CorvelGui/RulerContext>
 #include <CorvelGui/RulerMarker>
 #include <CorvelGui/TimelineActivity>
 #include <CorvelGui/TrackDescription>
@@ -102,6 +103,12 @@ public:
     /// costs microseconds, however many there are. Returns false, and changes nothing, if no track
     /// with that identifier is described.
     bool addRecordedSpans(const QString& trackIdentifier, const QList<TimeSpan>& spans);
+
+    /// Notes whether it is still to be known what is recorded in a span of a described track. Such
+    /// spans look different from gaps, and what is recorded covers them. Neither this nor
+    /// recordings move the view: those that come late, for a time out of view, do no harm. Returns
+    /// false, and changes nothing, if no track with that identifier is described.
+    bool setLoading(const QString& trackIdentifier, const TimeSpan& span, bool loading);
 
     // The view
 
@@ -277,6 +284,15 @@ public:
     MergedClick mergedClick() const;
     void setMergedClick(MergedClick action);
 
+    // What is at a place
+
+    /// What is at a position of the ruler.
+    RulerContext contextAt(const QPoint& position) const;
+    /// The markers that the symbol at a position stands for, the first @p most of them.
+    QList<RulerMarker> markersAt(const QPoint& position, qsizetype most = 100) const;
+    /// The ranges that are shown at a time.
+    RulerContext::Ranges rangesAt(qint64 msecs) const;
+
     // Appearance and state
 
     /// True puts the theme's colours in, which a new ruler does not wear yet. False leaves the
@@ -384,6 +400,13 @@ Q_SIGNALS:
     /// Emitted when the view moved, except by onTimelineOffsetChanged() and, without a follow mode,
     /// by setIndicatorPosition().
     void centerPositionChanged(double position);
+    /// Emitted when the view has not changed for 150 ms, first that long after somebody connected.
+    /// @p added is what of it, within the limits, was not in the view that was told before; nothing
+    /// after zooming in. A view that keeps moving, as one that follows may, does not settle.
+    void viewSettled(const CorvelGui::TimeSpan& view, const QList<CorvelGui::TimeSpan>& added);
+    /// Emitted when the user asks for a menu: by a right click, the menu key (at the indicator) or
+    /// a long press. While nobody is connected, the parent gets the event.
+    void contextRequested(const CorvelGui::RulerContext& context);
     void markerDetailsChanged(bool on);
     void mergedClickChanged(CorvelGui::Ruler::MergedClick action);
     /// Emitted when a merged symbol is to be listed or to fall apart, before that: the times of its
@@ -419,6 +442,8 @@ protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void connectNotify(const QMetaMethod& signal) override;
 
 private:
     void applyLook();
@@ -428,6 +453,8 @@ private:
     void tellTracksChanged();
     void followView();
     void markersChanged();
+    RulerContext contextOfColumn(double x) const;
+    int contextColumn() const;
     bool openByKey(const QKeyEvent* event);
     void openMerged(const MarkerSymbol& symbol);
     void setUpAccessibility();
@@ -458,6 +485,7 @@ private:
     friend class RulerTouch;
     friend class ZoomTimeline; // its strip resizes the view in many steps
     friend class RulerZoomInput;
+    friend class ViewRest;
     friend class TimelineLanes; // shows the same view
     struct Private;
     struct Zoomed;

@@ -19,6 +19,7 @@
 #include "tracksegments.h"
 #include "viewfollower.h"
 #include "viewhistory.h"
+#include "viewrest.h"
 
 #include <memory>
 #include <optional>
@@ -74,6 +75,7 @@ struct Ruler::Private
     ViewHistory history;
     std::pair<bool, bool> historyReported; ///< back, forward
 
+    std::unique_ptr<ViewRest> rest;
     ViewFollower follower;
     bool followingReported = false;
 

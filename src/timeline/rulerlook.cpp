@@ -147,6 +147,7 @@ void Ruler::setTrackDescriptions(const QList<TrackDescription>& tracks)
 {
     d->segments.setTracks(tracks);
     d->lanes.setTracks(tracks);
+    d->segments.setLoading(d->lanes.loading());
     tellTracksChanged();
 }
 
@@ -164,6 +165,15 @@ bool Ruler::addRecordedSpans(const QString& trackIdentifier, const QList<TimeSpa
     return true;
 }
 
+bool Ruler::setLoading(const QString& trackIdentifier, const TimeSpan& span, bool loading)
+{
+    if (!d->lanes.setLoading(trackIdentifier, span, loading))
+        return false;
+    d->segments.setLoading(d->lanes.loading());
+    tellTracksChanged();
+    return true;
+}
+
 void Ruler::tellTracksChanged()
 {
     updateTrackSegments();
@@ -174,6 +184,7 @@ void Ruler::tellTracksChanged()
 void Ruler::updateTrackSegments()
 {
     d->segments.update(d->scale);
+    d->rest->notice();
     update();
 }
 

@@ -70,6 +70,15 @@ std::optional<MarkerSymbol> RulerMarkers::mergedNear(int x) const
     return nearest ? std::optional(symbolWithPlace(*nearest)) : std::nullopt;
 }
 
+std::optional<MarkerSymbol> RulerMarkers::symbolAt(QPoint position) const
+{
+    const auto isThere = [position](const Symbol& symbol) {
+        return symbol.button && symbol.button->geometry().contains(position);
+    };
+    const auto symbol = std::find_if(m_symbols.begin(), m_symbols.end(), isThere);
+    return symbol != m_symbols.end() ? std::optional(symbolWithPlace(*symbol)) : std::nullopt;
+}
+
 std::optional<MarkerSymbol> RulerMarkers::mergedOn(const RulerMarkerButton* button) const
 {
     for (const Symbol& symbol : m_symbols) {

@@ -66,6 +66,8 @@ public:
     void setOpensMerged(bool on) { m_opensMerged = on; }
     /// The merged symbol nearest to a column, no further away than a symbol is wide.
     std::optional<MarkerSymbol> mergedNear(int x) const;
+    /// The symbol whose button is at a position of the ruler.
+    std::optional<MarkerSymbol> symbolAt(QPoint position) const;
     /// The first of them, @p most at most.
     QList<RulerMarker> markersOf(const MarkerSymbol& symbol, qsizetype most) const;
     /// From the time of the first to that of the last.

@@ -2,6 +2,7 @@
 
 #include "devicegrid.h"
 #include "keyboardfocus.h"
+#include "loadinghatch.h"
 #include "timescale.h"
 #include "tracksegments.h"
 
@@ -119,15 +120,18 @@ void RulerPainter::fillTracks(QPainter& painter, const RulerScene& scene) const
     const DeviceGrid grid(painter);
     const double left = std::round(TimeScale::halfMargin());
     const double right = std::max(std::round(scene.scale.sightEnd()), left + 1);
-    const auto fill = [&](const TrackSegmentList& segments, const QBrush& brush) {
+    const auto forEach = [&](const TrackSegmentList& segments, const auto& fill) {
         for (const TrackSegment& segment : segments) {
             const double x1 = std::max(std::trunc(segment.start), left);
             const double x2 = std::max(std::min(std::trunc(segment.end), right), x1 + 1);
-            painter.fillRect(grid.aligned(bodyBand(scene, x1, x2)), brush);
+            fill(grid.aligned(bodyBand(scene, x1, x2)));
         }
     };
-    fill(scene.segments.gaps(), colors.shade);
-    fill(scene.segments.recorded(), m_trackGradient);
+    forEach(scene.segments.gaps(),
+            [&](const QRectF& band) { painter.fillRect(band, colors.shade); });
+    forEach(scene.segments.loading(), [&](const QRectF& band) { fillLoading(painter, band); });
+    forEach(scene.segments.recorded(),
+            [&](const QRectF& band) { painter.fillRect(band, m_trackGradient); });
 }
 
 void RulerPainter::shadeOutsideLimits(QPainter& painter, const RulerScene& scene,

@@ -2,6 +2,8 @@
 
 #include "ruler_p.h"
 
+#include <QMetaMethod>
+
 #include <utility>
 
 namespace CorvelGui {
@@ -46,6 +48,12 @@ void Ruler::centerOn(qint64 msecs)
         return;
     scale.setViewStart(scale.inZone(start));
     viewMovedByUser(false);
+}
+
+void Ruler::connectNotify(const QMetaMethod& signal)
+{
+    if (signal == QMetaMethod::fromSignal(&Ruler::viewSettled))
+        d->rest->listen();
 }
 
 Ruler::FollowMode Ruler::followMode() const

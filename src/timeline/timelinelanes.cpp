@@ -9,8 +9,10 @@
 
 #include <Hueloft/POrvGuiTheme>
 
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QHelpEvent>
+#include <QMetaMethod>
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
@@ -137,6 +139,35 @@ QRect TimelineLanes::laneRect(int lane) const
 int TimelineLanes::laneAt(const QPoint& position) const
 {
     return rect().contains(position) ? d->layout().laneAt(position.y()) : -1;
+}
+
+QString TimelineLanes::trackAt(const QPoint& position) const
+{
+    const int lane = laneAt(position);
+    return lane < 0 ? QString() : laneTrack(lane);
+}
+
+RulerContext TimelineLanes::contextAt(const QPoint& position) const
+{
+    RulerContext context = d->ruler->contextOfColumn(position.x() - d->rulerLeft());
+    context.globalPosition = mapToGlobal(position);
+    context.track = trackAt(position);
+    return context;
+}
+
+void TimelineLanes::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!isSignalConnected(QMetaMethod::fromSignal(&TimelineLanes::contextRequested)) ||
+        !d->ruler->d->takesInput())
+        return QWidget::contextMenuEvent(event);
+    event->accept();
+    QPoint position = event->pos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const LaneLayout lanes = d->layout();
+        const int lane = std::max(std::min(currentLane(), lanes.end() - 1), lanes.first());
+        position = {d->rulerLeft() + d->ruler->contextColumn(), laneRect(lane).center().y()};
+    }
+    Q_EMIT contextRequested(contextAt(position));
 }
 
 QString TimelineLanes::currentTrack() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <CorvelGui/RulerContext>
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QWidget>
@@ -40,6 +41,12 @@ public:
     /// The lane at a position of the widget; -1 where there is none.
     int laneAt(const QPoint& position) const;
 
+    /// Identifier of the track whose lane is at a position of the widget; empty where there is
+    /// none.
+    QString trackAt(const QPoint& position) const;
+    /// What is at a position of the widget. At names there is no time, and nowhere are markers.
+    RulerContext contextAt(const QPoint& position) const;
+
     /// Identifier of the track whose lane is highlighted. One that no track has is kept until there
     /// is such a track. Empty by default.
     QString currentTrack() const;
@@ -64,6 +71,8 @@ Q_SIGNALS:
     void maximumLanesChanged(int count);
     /// Emitted when laneCount() or namesWidth() may have changed.
     void lanesChanged();
+    /// As Ruler::contextRequested().
+    void contextRequested(const CorvelGui::RulerContext& context);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -72,6 +81,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -29,6 +29,9 @@ struct TrackDescription
     /// In any order; spans may overlap, and may reach beyond the described period, which they then
     /// extend.
     QList<TimeSpan> recorded = {};
+    /// Of which it is not known yet whether it is recorded. What is recorded all the same counts as
+    /// that.
+    QList<TimeSpan> loading = {};
 };
 
 } // namespace CorvelGui

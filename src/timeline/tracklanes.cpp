@@ -33,6 +33,31 @@ void TrackLanes::addRecorded(const QString& track, const QList<TimeSpan>& spans)
     }
 }
 
+bool TrackLanes::setLoading(const QString& track, const TimeSpan& span, bool loading)
+{
+    const int index = indexOf(track);
+    if (index < 0)
+        return false;
+    QList<TimeSpan>& list = m_tracks[index].loading;
+    TimeSpans spans = joined({list.begin(), list.end()});
+    if (loading)
+        unite(spans, span);
+    else
+        subtract(spans, span);
+    list = QList<TimeSpan>(spans.begin(), spans.end());
+    if (std::optional<Spans>& known = m_spans[std::size_t(index)])
+        known->loading = std::move(spans);
+    return true;
+}
+
+TimeSpans TrackLanes::loading() const
+{
+    TimeSpans all;
+    for (const TrackDescription& track : m_tracks)
+        all.insert(all.end(), track.loading.begin(), track.loading.end());
+    return joined(std::move(all));
+}
+
 const TrackLanes::Spans& TrackLanes::spans(int index) const
 {
     std::optional<Spans>& known = m_spans[std::size_t(index)];
@@ -41,7 +66,8 @@ const TrackLanes::Spans& TrackLanes::spans(int index) const
         TimeSpans recorded = joined({track.recorded.begin(), track.recorded.end()});
         TimeSpans described = recorded;
         described.push_back({track.begin, track.end});
-        known = {std::move(recorded), joined(std::move(described))};
+        known = {std::move(recorded), joined(std::move(described)),
+                 joined({track.loading.begin(), track.loading.end()})};
     }
     return *known;
 }

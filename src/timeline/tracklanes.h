@@ -21,11 +21,17 @@ public:
     {
         TimeSpans recorded;
         TimeSpans described; ///< recorded or not
+        TimeSpans loading;
     };
 
     void setTracks(const QList<TrackDescription>& tracks);
     /// Adds recordings of a track that was set.
     void addRecorded(const QString& track, const QList<TimeSpan>& spans);
+
+    /// Notes whether a span of a track is loading. Returns false if there is no such track.
+    bool setLoading(const QString& track, const TimeSpan& span, bool loading);
+    /// What is loading of any track.
+    TimeSpans loading() const;
 
     /// With the recordings that were added.
     const QList<TrackDescription>& tracks() const { return m_tracks; }

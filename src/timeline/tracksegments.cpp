@@ -79,6 +79,7 @@ bool TrackSegments::isTrackLimitChanged(const TimeScale& scale) const
 void TrackSegments::update(const TimeScale& scale)
 {
     m_gaps = visibleSegments(m_gapSpans, scale);
+    m_loading = visibleSegments(m_loadingSpans, scale);
     m_recorded = visibleSegments(m_recordedSpans, scale);
 }
 

@@ -8,6 +8,7 @@
 #include <QSet>
 #include <QString>
 
+#include <utility>
 #include <vector>
 
 namespace CorvelGui {
@@ -39,6 +40,8 @@ public:
     void setTracks(const QList<TrackDescription>& tracks);
     /// Adds recordings of a track that was set. Returns false if there is none of that name.
     bool addRecorded(const QString& track, const QList<TimeSpan>& spans);
+    /// What is loading, of any track.
+    void setLoading(TimeSpans spans) { m_loadingSpans = std::move(spans); }
     bool hasTracks() const { return !m_described.empty(); }
 
     /// True when the limits of @p scale reach beyond the described tracks, at the begin or at the
@@ -49,7 +52,10 @@ public:
     void update(const TimeScale& scale);
     const TimeSpans& gapSpans() const { return m_gapSpans; }
     const TimeSpans& recordedSpans() const { return m_recordedSpans; }
+    const TimeSpans& loadingSpans() const { return m_loadingSpans; }
     const TrackSegmentList& gaps() const { return m_gaps; }
+    /// Covers gaps, and is covered by what is recorded.
+    const TrackSegmentList& loading() const { return m_loading; }
     const TrackSegmentList& recorded() const { return m_recorded; }
 
 private:
@@ -57,7 +63,9 @@ private:
     TimeSpans m_described;
     TimeSpans m_gapSpans;
     TimeSpans m_recordedSpans;
+    TimeSpans m_loadingSpans;
     TrackSegmentList m_gaps;
+    TrackSegmentList m_loading;
     TrackSegmentList m_recorded;
 };
 

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QGridLayout>
+#include <QMetaMethod>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -227,6 +228,27 @@ QString ZoomTimeline::currentTrack() const
 void ZoomTimeline::setCurrentTrack(const QString& identifier)
 {
     m_lanes->setCurrentTrack(identifier);
+}
+
+RulerContext ZoomTimeline::contextAt(const QPoint& position) const
+{
+    const QWidget* part = childAt(position);
+    if (part && (part == m_lanes || m_lanes->isAncestorOf(part)))
+        return m_lanes->contextAt(m_lanes->mapFrom(this, position));
+    if (part && (part == m_ruler || m_ruler->isAncestorOf(part)))
+        return m_ruler->contextAt(m_ruler->mapFrom(this, position));
+    return {.globalPosition = mapToGlobal(position)};
+}
+
+// Only then, because the parts let their parents have events that nobody wants.
+void ZoomTimeline::connectNotify(const QMetaMethod& signal)
+{
+    if (signal != QMetaMethod::fromSignal(&ZoomTimeline::contextRequested))
+        return;
+    connect(m_ruler, &Ruler::contextRequested, this, &ZoomTimeline::contextRequested,
+            Qt::UniqueConnection);
+    connect(m_lanes, &TimelineLanes::contextRequested, this, &ZoomTimeline::contextRequested,
+            Qt::UniqueConnection);
 }
 
 bool ZoomTimeline::isHeld() const

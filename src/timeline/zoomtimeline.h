@@ -1,5 +1,6 @@
 #pragma once
 
+#include <CorvelGui/RulerContext>
 #include <CorvelGui/ZoomTimelineOperation>
 #include <CorvelGui/corvelgui_export.h>
 
@@ -84,6 +85,10 @@ public:
     QString currentTrack() const;
     void setCurrentTrack(const QString& identifier);
 
+    /// What is at a position of the timeline: at one of the ruler or of a lane, and nothing
+    /// elsewhere.
+    RulerContext contextAt(const QPoint& position) const;
+
     /// Whether the user holds the ruler, as Ruler::isHeld() says, or the strip.
     bool isHeld() const;
 
@@ -104,9 +109,12 @@ Q_SIGNALS:
     void lanesVisibleChanged(bool visible);
     /// As TimelineLanes::currentTrackChanged().
     void currentTrackChanged(const QString& identifier);
+    /// As that of the ruler and that of the lanes.
+    void contextRequested(const CorvelGui::RulerContext& context);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void connectNotify(const QMetaMethod& signal) override;
 
 private:
     void tellHeld();

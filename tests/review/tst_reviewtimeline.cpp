@@ -1,18 +1,20 @@
 #include "lists/deviceitem.h"
 #include "lists/eventtexts.h"
 #include "look/eventicons.h"
-
 #include "samplewindow.h"
 #include "session/clock.h"
 #include "testsupport.h"
 #include "timeline/eventmarkers.h"
 #include "timeline/instantedit.h"
 #include "timeline/previewcard.h"
+#include "timeline/timelinemenu.h"
 #include "times.h"
 
 #include <CorvelGui/RulerMarkerButton>
 #include <CorvelGui/TimelineScroll>
 
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QStatusBar>
 #include <QToolTip>
@@ -192,6 +194,40 @@ private Q_SLOTS:
         QCOMPARE(card->lines()[1], u"Person: <i>thin</i>"_s);
         QCoreApplication::processEvents();
         QCOMPARE(preview(monday + 6 * hour).size(), 3);
+    }
+
+    void menuOfATime()
+    {
+        const SampleWindow sample(u"UTC"_s, {}, smallReview());
+        Ruler* ruler = sample.ruler();
+        const auto choose = [&](const QString& text) {
+            const QPoint position(int(ruler->xAt(monday + 8 * hour)), 5);
+            QContextMenuEvent event(QContextMenuEvent::Mouse, position,
+                                    ruler->mapToGlobal(position));
+            QApplication::sendEvent(ruler, &event);
+            auto* menu = sample.window.findChild<TimelineMenu*>();
+            sample.withText<QAction>(text)->trigger();
+            menu->close();
+            QTRY_VERIFY(!sample.window.findChild<TimelineMenu*>());
+        };
+        choose(u"Next event"_s);
+        QCOMPARE(qint64(ruler->getIndicatorMSecs()), monday + 12 * hour);
+        sample.device(u"<b>Gate</b>"_s)->setCheckState(DeviceItem::Name, Qt::Unchecked);
+        choose(u"Next event"_s);
+        QCOMPARE(qint64(ruler->getIndicatorMSecs()), monday + 18 * hour);
+        choose(u"Previous event"_s);
+        QCOMPARE(qint64(ruler->getIndicatorMSecs()), monday + 6 * hour);
+        choose(u"Range begins here"_s);
+        const qint64 begin = ruler->selectedRange().begin;
+        QVERIFY(std::abs(begin - monday - 8 * hour) < 2 * minute);
+        QCOMPARE(ruler->selectedRange().end, monday + day);
+        choose(u"Zoom in here"_s);
+        choose(u"Range ends here"_s);
+        QVERIFY(ruler->view().end - ruler->view().begin < day);
+        choose(u"Clear the selected range"_s);
+        QVERIFY(ruler->selectedRange().isEmpty());
+        choose(u"Copy this time"_s);
+        QVERIFY(QGuiApplication::clipboard()->text().contains(u"02.03.2026"_s));
     }
 
     void zoneChangesAllTexts()

@@ -2,6 +2,7 @@
 
 #include "session/clock.h"
 #include "session/selection.h"
+#include "timelinemenu.h"
 #include "timelinepreview.h"
 
 #include <CorvelGui/Ruler>
@@ -12,6 +13,7 @@
 #include <QVBoxLayout>
 
 using CorvelGui::Ruler;
+using CorvelGui::RulerContext;
 using CorvelGui::RulerMarker;
 using CorvelGui::RulerMarkerOperation;
 using CorvelGui::TimeSpan;
@@ -36,6 +38,7 @@ QDateTime dateTime(qint64 msecs)
 
 TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* parent)
     : Translated(parent)
+    , m_clock(clock)
     , m_selection(selection)
     , m_timeline(new ZoomTimeline(this))
     , m_ruler(m_timeline->ruler())
@@ -74,6 +77,7 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
                 Q_EMIT previewChanged(msecs, m_ruler->mapTo(this, QPoint(x, 0)), symbol);
             });
     connect(m_ruler, &Ruler::zoomHistoryMoved, this, &TimelinePane::viewChanged);
+    connect(m_timeline, &ZoomTimeline::contextRequested, this, &TimelinePane::openMenu);
     connect(m_ruler, &Ruler::selectedRangeChanged, this, &TimelinePane::selectedRangeChanged);
     connect(m_ruler, &Ruler::followingChanged, this, &TimelinePane::followingChanged);
     connect(&clock, &Clock::changed, this, [&] { m_timeline->setTimeZone(clock.zoneName()); });
@@ -177,6 +181,22 @@ void TimelinePane::showAround(qint64 msecs, qint64 span)
     m_ruler->setView(msecs - span / 2, msecs + span / 2);
 }
 
+void TimelinePane::showRange(const TimeSpan& range)
+{
+    m_ruler->setView(range.begin, range.end);
+}
+
+void TimelinePane::openMenu(const RulerContext& context)
+{
+    if (!context.time)
+        return;
+    auto* menu = new TimelineMenu(this, context, m_clock);
+    connect(menu, &TimelineMenu::timeWanted, this,
+            [this](qint64 msecs) { m_selection.goTo(msecs); });
+    connect(menu, &TimelineMenu::eventWanted, this, &TimelinePane::eventWanted);
+    menu->popup(context.globalPosition);
+}
+
 void TimelinePane::setSearchRange(const TimeSpan& range)
 {
     m_searchRange = range;
@@ -202,6 +222,19 @@ void TimelinePane::clearRanges()
 TimeSpan TimelinePane::selectedRange() const
 {
     return m_ruler->selectedRange();
+}
+
+void TimelinePane::beginRangeAt(qint64 msecs)
+{
+    const qint64 end = selectedRange().end;
+    setSelectedRange({msecs, msecs < end ? end : m_period.end});
+}
+
+void TimelinePane::endRangeAt(qint64 msecs)
+{
+    const TimeSpan range = selectedRange();
+    const bool hasBegin = !range.isEmpty() && range.begin < msecs;
+    setSelectedRange({hasBegin ? range.begin : m_period.begin, msecs});
 }
 
 void TimelinePane::setSelectedRange(const TimeSpan& range)

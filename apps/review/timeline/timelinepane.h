@@ -39,6 +39,7 @@ public:
 
     /// Shows at least @p span around a time: the closest view there is.
     void showAround(qint64 msecs, qint64 span);
+    void showRange(const CorvelGui::TimeSpan& range);
 
     void setSearchRange(const CorvelGui::TimeSpan& range);
     void setResultRange(const CorvelGui::TimeSpan& range, const ResultLook& look);
@@ -48,6 +49,10 @@ public:
     /// What the user selected, on the timeline or elsewhere; empty without one.
     CorvelGui::TimeSpan selectedRange() const;
     void setSelectedRange(const CorvelGui::TimeSpan& range);
+    /// Puts one end of the selected range; the other stays where that makes a range, or goes to the
+    /// end of the period.
+    void beginRangeAt(qint64 msecs);
+    void endRangeAt(qint64 msecs);
 
     /// What is in view; empty without a period.
     CorvelGui::TimeSpan view() const;
@@ -92,6 +97,8 @@ Q_SIGNALS:
     void markerChosen(const QUuid& identifier);
     /// Emitted when selectedRange() changed, also while the user drags it.
     void selectedRangeChanged(const CorvelGui::TimeSpan& range);
+    /// The user wants to see the event before (-1) or after (+1) a time.
+    void eventWanted(qint64 msecs, int direction);
     /// Emitted when isFollowing() changed.
     void followingChanged();
     /// As TimelinePreview::changed(). @p position is on the upper edge of the timeline.
@@ -102,11 +109,13 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void openMenu(const CorvelGui::RulerContext& context);
     void followMoment();
     void bringIntoView(qint64 msecs);
     void followFont();
     double pixelsBetween(qint64 begin, qint64 end) const;
 
+    const Clock& m_clock;
     Selection& m_selection;
     CorvelGui::ZoomTimeline* m_timeline;
     CorvelGui::Ruler* m_ruler;

@@ -1367,6 +1367,45 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::TimelineMenu</name>
+    <message>
+        <source>Go to %1</source>
+        <translation>Gehe zu %1</translation>
+    </message>
+    <message>
+        <source>Copy this time</source>
+        <translation>Diese Zeit kopieren</translation>
+    </message>
+    <message>
+        <source>Zoom in here</source>
+        <translation>Hier vergrößern</translation>
+    </message>
+    <message>
+        <source>Previous event</source>
+        <translation>Voriges Ereignis</translation>
+    </message>
+    <message>
+        <source>Next event</source>
+        <translation>Nächstes Ereignis</translation>
+    </message>
+    <message>
+        <source>Range begins here</source>
+        <translation>Bereich beginnt hier</translation>
+    </message>
+    <message>
+        <source>Range ends here</source>
+        <translation>Bereich endet hier</translation>
+    </message>
+    <message>
+        <source>Zoom to the selected range</source>
+        <translation>Gewählten Bereich zeigen</translation>
+    </message>
+    <message>
+        <source>Clear the selected range</source>
+        <translation>Gewählten Bereich aufheben</translation>
+    </message>
+</context>
+<context>
     <name>Review::TimelinePane</name>
     <message>
         <source>Cameras on the timeline</source>

@@ -81,6 +81,7 @@ void ReviewPanes::connectTimeline()
         m_events->select(event);
         showCameraOf(event);
     });
+    connect(m_timeline, &TimelinePane::eventWanted, this, &ReviewPanes::openNextEvent);
     connect(m_timeline, &TimelinePane::previewChanged, this, &ReviewPanes::showPreview);
     connect(&m_clock, &Clock::changed, m_preview, &QWidget::hide);
     connect(m_hover, &HoverPicture::ready, m_preview, &PreviewCard::setPicture);
@@ -216,6 +217,20 @@ void ReviewPanes::openEvent(qsizetype event)
 {
     showCameraOf(event);
     m_selection.goTo(m_review.events.timeAt(event));
+}
+
+// Of those that are shown.
+void ReviewPanes::openNextEvent(qint64 msecs, int direction)
+{
+    const EventList& list = m_events->events();
+    qsizetype event =
+        direction > 0 ? list.events().firstFrom(msecs + 1) : list.events().firstFrom(msecs) - 1;
+    while (event >= 0 && event < list.events().size() && !list.isShown(event))
+        event += direction;
+    if (event < 0 || event >= list.events().size())
+        return;
+    openEvent(event);
+    m_events->select(event);
 }
 
 void ReviewPanes::showCameraOf(qsizetype event)

@@ -71,6 +71,7 @@ private:
 
     void showCheckedTracks();
     void openEvent(qsizetype event);
+    void openNextEvent(qint64 msecs, int direction);
     void showCameraOf(qsizetype event);
     void showPreview(qint64 msecs, const QPoint& position, const CorvelGui::TimeSpan& symbol);
 
