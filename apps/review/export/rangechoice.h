@@ -10,15 +10,15 @@ class QRadioButton;
 
 namespace Review {
 
-/// Lets the user choose a range of time: what is in view, or what was searched.
+/// Lets the user choose a range of time: what is in view, or what is selected.
 class RangeChoice : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// An empty @p searchRange cannot be chosen; any other one is proposed.
+    /// An empty @p selectedRange cannot be chosen; any other one is proposed.
     RangeChoice(const TimeTexts& times, const CorvelGui::TimeSpan& view,
-                const CorvelGui::TimeSpan& searchRange, QWidget* parent = nullptr);
+                const CorvelGui::TimeSpan& selectedRange, QWidget* parent = nullptr);
 
     CorvelGui::TimeSpan range() const;
 
@@ -27,9 +27,9 @@ Q_SIGNALS:
 
 private:
     const CorvelGui::TimeSpan m_viewRange;
-    const CorvelGui::TimeSpan m_searchRange;
+    const CorvelGui::TimeSpan m_selectedRange;
     QRadioButton* m_view;
-    QRadioButton* m_search;
+    QRadioButton* m_selected;
 };
 
 } // namespace Review

@@ -224,6 +224,11 @@ TimeSpan TimelinePane::selectedRange() const
     return m_ruler->selectedRange();
 }
 
+TimeSpan TimelinePane::chosenRange() const
+{
+    return selectedRange().isEmpty() ? m_searchRange : selectedRange();
+}
+
 void TimelinePane::beginRangeAt(qint64 msecs)
 {
     const qint64 end = selectedRange().end;

@@ -44,11 +44,11 @@ public:
     void setSearchRange(const CorvelGui::TimeSpan& range);
     void setResultRange(const CorvelGui::TimeSpan& range, const ResultLook& look);
     void clearRanges();
-    /// What setSearchRange() set last; empty after clearRanges().
-    CorvelGui::TimeSpan searchRange() const { return m_searchRange; }
     /// What the user selected, on the timeline or elsewhere; empty without one.
     CorvelGui::TimeSpan selectedRange() const;
     void setSelectedRange(const CorvelGui::TimeSpan& range);
+    /// What the user is likely to mean: the selected range, or else the searched one.
+    CorvelGui::TimeSpan chosenRange() const;
     /// Puts one end of the selected range; the other stays where that makes a range, or goes to the
     /// end of the period.
     void beginRangeAt(qint64 msecs);

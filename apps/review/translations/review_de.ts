@@ -1070,12 +1070,12 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Aktuelle Ansicht: %1</translation>
     </message>
     <message>
-        <source>Search range: %1</source>
-        <translation>Suchbereich: %1</translation>
+        <source>Selected range: %1</source>
+        <translation>Gewählter Bereich: %1</translation>
     </message>
     <message>
-        <source>Search range: none is set</source>
-        <translation>Suchbereich: keiner festgelegt</translation>
+        <source>Selected range: none</source>
+        <translation>Gewählter Bereich: keiner</translation>
     </message>
 </context>
 <context>

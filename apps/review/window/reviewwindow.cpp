@@ -242,7 +242,7 @@ void ReviewWindow::exportPictures()
 {
     const TimelinePane* timeline = m_panes->timeline();
     if (const Camera* camera = m_panes->playback().camera())
-        m_status->exportPanel()->askForPictures(*camera, timeline->view(), timeline->searchRange());
+        m_status->exportPanel()->askForPictures(*camera, timeline->view(), timeline->chosenRange());
 }
 
 void ReviewWindow::exportClips()
@@ -252,7 +252,7 @@ void ReviewWindow::exportClips()
     if (!cameras.isEmpty())
         m_status->exportPanel()->askForClips(cameras, m_selection.camera(),
                                              m_panes->events().events().events(), timeline->view(),
-                                             timeline->searchRange());
+                                             timeline->chosenRange());
 }
 
 const CameraPicture* ReviewWindow::shownPicture()
