@@ -5,6 +5,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+# Qt 6.4 is the oldest that will do: what a later one deprecates may have no successor there.
 target_compile_definitions(corvelgui_settings INTERFACE
     QT_NO_KEYWORDS
     QT_NO_FOREACH
@@ -13,7 +14,8 @@ target_compile_definitions(corvelgui_settings INTERFACE
     QT_NO_CAST_FROM_BYTEARRAY
     QT_NO_URL_CAST_FROM_STRING
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
-    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    QT_WARN_DEPRECATED_UP_TO=0x060400)
 
 if(CORVELGUI_BUILD_TESTS OR CORVELGUI_BUILD_BENCHMARKS OR CORVELGUI_BUILD_FUZZERS)
     # Tests, benchmarks and fuzzers reach the internal classes of the shared library.
