@@ -13,7 +13,7 @@ class Ruler;
 
 /// One lane for each track of a ruler, with its name and, in the columns of the ruler, what was
 /// recorded, what is known to be without recording, and what nothing is known of. Beyond a limit of
-/// lanes they scroll.
+/// lanes they scroll. The ruler's ranges, indicator and preview line go through them.
 ///
 /// The user chooses a track by a click on its lane, or with Up, Down, Page Up, Page Down, Home and
 /// End. The wheel scrolls the lanes over their names and with Shift; elsewhere it is the ruler's.

@@ -113,6 +113,37 @@ private Q_SLOTS:
         QVERIFY(!timeline.lanes()->isVisible());
     }
 
+    void rangesGoThroughTheLanes()
+    {
+        LaneTimeline timeline(2);
+        Ruler* ruler = timeline.ruler();
+        const std::function<void(bool)> switches[] = {
+            [&](bool on) {
+                ruler->setSelectedRange({monday + 5 * hour, on ? monday + 7 * hour : 0});
+            },
+            [&](bool on) {
+                if (on)
+                    timeline.setSearchTimeRange(timeAt(5 * hour), timeAt(7 * hour), false);
+                else
+                    timeline.clearSearchTimeRange();
+            },
+            [&](bool on) {
+                const QDateTime begin = on ? timeAt(6 * hour) : QDateTime();
+                ruler->setResultTimeRange(begin, timeAt(7 * hour), true, false, false, false);
+            },
+            [&](bool on) {
+                ruler->setPreviewIndicatorPosition(at(6 * hour));
+                ruler->onPreviewVisible(on, false);
+            }};
+        const QColor plain = timeline.colorAt(0, 6 * hour);
+        for (const auto& show : switches) {
+            show(true);
+            QVERIFY(timeline.colorAt(0, 6 * hour) != plain);
+            show(false);
+            QCOMPARE(timeline.colorAt(0, 6 * hour), plain);
+        }
+    }
+
     void userChoosesTracks()
     {
         LaneTimeline timeline(10);
