@@ -24,17 +24,18 @@ private Q_SLOTS:
               {QMessageBox::Warning, &PMessageBox::Warning, Retry | Cancel, Retry},
               {QMessageBox::Information, &PMessageBox::Information, Ok | Ok, Ok},
               {QMessageBox::Question, nullptr, Yes | No, No}}) {
-            whenShown<QMessageBox>(this, [=, &parent](QMessageBox& box) {
-                QCOMPARE(box.icon(), kind);
-                QCOMPARE(box.standardButtons(), buttons);
-                QVERIFY(box.isModal());
-                QCOMPARE(box.parentWidget(), &parent);
-                const QStringList texts{box.windowTitle(), box.text(), box.informativeText(),
-                                        box.detailedText()};
-                QCOMPARE(texts, QStringList({title, text, more, all}));
-                QCOMPARE(box.defaultButton(), box.button(byDefault));
-                box.defaultButton()->click();
-            });
+            whenShown<QMessageBox>(
+                this, [&, icon = kind, expected = buttons, chosen = byDefault](QMessageBox& box) {
+                    QCOMPARE(box.icon(), icon);
+                    QCOMPARE(box.standardButtons(), expected);
+                    QVERIFY(box.isModal());
+                    QCOMPARE(box.parentWidget(), &parent);
+                    const QStringList texts{box.windowTitle(), box.text(), box.informativeText(),
+                                            box.detailedText()};
+                    QCOMPARE(texts, QStringList({title, text, more, all}));
+                    QCOMPARE(box.defaultButton(), box.button(chosen));
+                    box.defaultButton()->click();
+                });
             QCOMPARE(show ? show(&parent, title, text, buttons, byDefault, more, all)
                           : PMessageBox::Question(&parent, title, text, byDefault, more, all),
                      int(byDefault));

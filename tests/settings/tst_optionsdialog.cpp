@@ -161,7 +161,7 @@ private Q_SLOTS:
 
             const QPointer<OptionsDialog> dialog = open();
             QVERIFY(calls.isEmpty());
-            whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
+            whenShown<OptionsDialog>(this, [&, end = end](OptionsDialog& shown) {
                 const Parts parts(shown);
                 QCOMPARE(parts.caption(), u"Category a"_s);
                 QCOMPARE(calls.join(u' '), u"create a1 create a2"_s);
@@ -396,8 +396,8 @@ private Q_SLOTS:
             OptionsDialog* dialog = open();
             dialog->readUserSettings(settings);
             QCOMPARE(dialog->size(), QSize(1000, 600));
-            whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
-                QCOMPARE(Parts(shown).caption(), caption);
+            whenShown<OptionsDialog>(this, [expected = caption](OptionsDialog& shown) {
+                QCOMPARE(Parts(shown).caption(), expected);
                 ok(shown);
             });
             QVERIFY(dialog->execDialog());

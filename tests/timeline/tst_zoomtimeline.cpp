@@ -182,11 +182,9 @@ private Q_SLOTS:
         for (const auto& [code, flagB, searchShown, zooms] : cases) {
             TestedTimeline timeline;
             timeline.ruler()->changeLevel(8, 0.5);
-            const auto shownAfter = [&](int asked) {
-                timeline.onZoomTimeLineOperation({.code = asked,
-                                                  .from = timeAt(4 * day),
-                                                  .to = timeAt(6 * day),
-                                                  .flagB = flagB});
+            const auto shownAfter = [&, flag = flagB](int asked) {
+                timeline.onZoomTimeLineOperation(
+                    {.code = asked, .from = timeAt(4 * day), .to = timeAt(6 * day), .flagB = flag});
                 return std::pair(timeline.stripIsMarkedAt(0.5), timeline.rulerIsMarked());
             };
             const std::pair nowhere(false, false);
