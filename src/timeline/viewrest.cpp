@@ -9,7 +9,7 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr int restTime = 150; // milliseconds
+constexpr int settlingTime = 150; // milliseconds
 
 } // namespace
 
@@ -18,7 +18,7 @@ ViewRest::ViewRest(Ruler* ruler, Ruler::Private& rulerState)
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
-    m_timer.setInterval(restTime);
+    m_timer.setInterval(settlingTime);
     connect(&m_timer, &QTimer::timeout, this, &ViewRest::tell);
 }
 
