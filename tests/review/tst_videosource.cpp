@@ -1,8 +1,16 @@
 #include "numberedclip.h"
 #include "video/cameradecoder.h"
 
+#include <QElapsedTimer>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 using namespace NumberedClip;
 using namespace Review;
@@ -27,6 +35,7 @@ private Q_SLOTS:
     void frames();
     void newestWins();
     void deletionEndsTheThread();
+    void silentShares();
 
 private:
     /// The clip, from its third second on; a gap of a second; the clip from its begin on, said to
@@ -122,6 +131,31 @@ void TestVideoSource::deletionEndsTheThread()
     auto decoder = std::make_unique<CameraDecoder>(files(), cacheBytes);
     decoder->request(begin + 16'000, Clip::Accuracy::Exact);
     decoder.reset();
+}
+
+// A file that never answers holds up neither other cameras nor the end of the program.
+void TestVideoSource::silentShares()
+{
+#ifdef Q_OS_UNIX
+    const QByteArray pipe = QFile::encodeName(m_folder.filePath(u"silent.mp4"_s));
+    QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+    auto silent = std::make_unique<CameraDecoder>(
+        QList<VideoFile>{{QFile::decodeName(pipe), begin, begin + length, 0}}, cacheBytes);
+    CameraDecoder other(files(), cacheBytes);
+    silent->request(begin, Clip::Accuracy::Exact);
+    int share = -1;
+    QTRY_VERIFY((share = open(pipe.constData(), O_WRONLY | O_NONBLOCK)) >= 0);
+    other.request(begin, Clip::Accuracy::Exact);
+    QTRY_VERIFY(!other.isBusy());
+    QVERIFY(silent->isBusy());
+    QElapsedTimer timer;
+    timer.start();
+    silent.reset();
+    QVERIFY(timer.elapsed() < 1'000);
+    close(share); // which lets the thread end
+#else
+    QSKIP("There are no named pipes here.");
+#endif
 }
 
 QTEST_GUILESS_MAIN(TestVideoSource)

@@ -52,4 +52,12 @@ qsizetype ReviewData::recordingCount() const
     return count;
 }
 
+void ReviewData::sort()
+{
+    for (TrackDescription& track : tracks)
+        std::ranges::sort(track.recorded, {}, &TimeSpan::begin);
+    for (QList<VideoFile>& ofTrack : files)
+        std::ranges::stable_sort(ofTrack, {}, &VideoFile::begin);
+}
+
 } // namespace Review

@@ -1,6 +1,7 @@
 #include "trackhistory.h"
 
 #include <algorithm>
+#include <utility>
 
 using CorvelGui::TimeSpan;
 using CorvelGui::TrackDescription;
@@ -11,8 +12,9 @@ TrackHistory::TrackHistory(const TrackDescription& track)
     : m_known{.begin = track.begin, .end = track.end}
 {
     QList<TimeSpan> spans = track.recorded;
-    std::sort(spans.begin(), spans.end(),
-              [](const TimeSpan& a, const TimeSpan& b) { return a.begin < b.begin; });
+    // Mostly they are.
+    if (!std::ranges::is_sorted(std::as_const(spans), {}, &TimeSpan::begin))
+        std::ranges::sort(spans, {}, &TimeSpan::begin);
     for (const TimeSpan& span : std::as_const(spans)) {
         if (span.isEmpty())
             continue;

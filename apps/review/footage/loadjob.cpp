@@ -43,6 +43,7 @@ void LoadJob::Work::run(const TimeCorrections& corrections)
     if (!error.isEmpty() || loader.progress().isCancelled())
         return;
     data = loaded.footage.addTo(loaded.listed, corrections);
+    data.sort();
     if (data.tracks.isEmpty() && data.events.isEmpty() && !loaded.files.footage.isEmpty())
         error = LoadJob::tr("There are neither recordings nor events in %1.")
                     .arg(QDir::toNativeSeparators(loaded.files.footage.first()));

@@ -39,7 +39,9 @@ bool goesOn(const VideoFile& before, const VideoFile& file)
 VideoSource::VideoSource(QList<VideoFile> files, qint64 cacheBytes)
     : m_files(std::move(files)), m_cacheBytes(cacheBytes / qint64(openClips))
 {
-    std::sort(m_files.begin(), m_files.end(), beginsEarlier);
+    // Mostly they are.
+    if (!std::is_sorted(m_files.cbegin(), m_files.cend(), beginsEarlier))
+        std::sort(m_files.begin(), m_files.end(), beginsEarlier);
 }
 
 VideoSource::~VideoSource() = default;
