@@ -35,6 +35,8 @@ QString settingsFile(const Arguments& arguments)
 
 int takePicture(QWidget& window, const QString& path)
 {
+    // What is asked for only by now, such as the place for lanes that have just appeared.
+    QCoreApplication::sendPostedEvents();
     const QString error = writePicture(window.grab().toImage(), path);
     if (error.isEmpty())
         return Success;
