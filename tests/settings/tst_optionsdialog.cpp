@@ -196,7 +196,9 @@ private Q_SLOTS:
         Page* page = add(u"a"_s, u"a1"_s);
         add(u"b"_s, u"b1"_s);
         OptionsDialog* first = open(u"a"_s, u"a1"_s);
-        page->onApply = [first] { ok(*first); }; // once is enough
+        page->onApply = [first] {
+            ok(*first);
+        }; // once is enough
         QStringList returned;
         whenShown<OptionsDialog>(this, [&](OptionsDialog&) {
             QCOMPARE(open(u"b"_s, u"b1"_s), first);

@@ -9,7 +9,9 @@ namespace Review {
 inline void leaveThread(QThread* thread)
 {
     constexpr unsigned long patience = 20; // milliseconds
-    if (thread->wait(patience)) {
+    // One that has done its work takes a moment to end; on Windows a program that exits meanwhile
+    // may hang.
+    if (thread->wait(patience) || (thread->isFinished() && thread->wait())) {
         delete thread;
         return;
     }
