@@ -90,6 +90,7 @@ void TestFootage::paths_data()
     row("Gate/1772446500250.mp4", u"2026-03-02 10:15:00.250 0"_s);
     row("Gate/20260231_101500.mp4", u"none"_s);
     row("Gate/20260302_251500.mp4", u"none"_s);
+    row("Gate/5920230310.mp4", u"none"_s);
     row("Gate/clip-0001.mp4", u"none"_s);
 }
 
@@ -108,6 +109,7 @@ void TestFootage::ownPattern()
     QCOMPARE(textOf(match->begin), u"2026-03-02 10:15:00.000"_s);
     QVERIFY(!pattern.match(u"Gate/02.03.2026/10h15.mp4x"_s));
     QVERIFY(!pattern.match(u"Gate/02.13.2026/10h15.mp4"_s));
+    QVERIFY(!PathPattern(u"{camera}/{camera}-{yyyy}{MM}{dd}.mp4"_s).isValid());
 }
 
 void TestFootage::exif()

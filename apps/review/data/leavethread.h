@@ -9,9 +9,7 @@ namespace Review {
 inline void leaveThread(QThread* thread)
 {
     constexpr unsigned long patience = 20; // milliseconds
-    // One that has done its work takes a moment to end; on Windows a program that exits meanwhile
-    // may hang.
-    if (thread->wait(patience) || (thread->isFinished() && thread->wait())) {
+    if (thread->wait(patience)) {
         delete thread;
         return;
     }

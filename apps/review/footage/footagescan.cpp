@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QDirIterator>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -18,9 +19,11 @@ constexpr qint64 longestRecording = qint64(24) * 60 * 60 * 1'000;
 /// Of the path of a file, from the name of the folder that was opened on.
 QString cameraOf(const QString& path)
 {
-    static const QRegularExpression dateLike(u"^[\\d._-]+$"_s);
     const QStringList parts = path.split(u'/');
-    const bool isBelow = parts.size() > 2 && !dateLike.match(parts[1]).hasMatch();
+    const auto mayBeOfDate = [](QChar character) {
+        return u"0123456789._-"_s.contains(character);
+    };
+    const bool isBelow = parts.size() > 2 && !std::ranges::all_of(parts[1], mayBeOfDate);
     return parts[isBelow ? 1 : 0];
 }
 
@@ -111,7 +114,7 @@ void FootageScan::add(const Found& found, const FileFacts& facts, Footage& foota
         recording.begin = WallTime::utc(isPicture ? changed : changed - recording.length);
     }
     if (recording.length <= 0)
-        recording.length = guessedDuration(facts, footage.instantOf(recording.begin, {}), changed);
+        recording.length = guessedDuration(facts, footage.instantOf(recording.begin), changed);
     footage.add(recording);
 }
 

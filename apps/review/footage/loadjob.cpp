@@ -54,9 +54,8 @@ void LoadJob::Work::read()
     const ReviewFiles& files = loaded.files;
     if (!files.footage.isEmpty()) {
         FootageIndex index(FootageIndex::userFile());
-        const PathPattern pattern =
-            files.pattern.isEmpty() ? PathPattern() : PathPattern(files.pattern);
-        FootageScan(pattern, index, loader.progress()).scan(files.footage, loaded.footage);
+        FootageScan scan(PathPattern(files.pattern), index, loader.progress());
+        scan.scan(files.footage, loaded.footage);
         index.save();
     }
     error = loader.load(files, loaded.footage.zone());

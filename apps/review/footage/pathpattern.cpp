@@ -1,102 +1,110 @@
 #include "pathpattern.h"
 
-#include <QStringList>
+#include "timeinpath.h"
 
-#include <utility>
-
-using namespace Qt::StringLiterals;
+#include <algorithm>
+#include <array>
 
 namespace Review {
 
 namespace {
 
-constexpr std::pair<const char*, const char*> placeholders[] = {
-    {"camera", "(?<camera>[^/]+)"}, {"yyyy", "(?<yyyy>\\d{4})"}, {"MM", "(?<MM>\\d\\d)"},
-    {"dd", "(?<dd>\\d\\d)"},        {"HH", "(?<HH>\\d\\d)"},     {"mm", "(?<mm>\\d\\d)"},
-    {"ss", "(?<ss>\\d\\d)"},        {"zzz", "(?<zzz>\\d{3})"}};
+enum Field { Camera, Year, Month, Day, Hour, Minute, Second, Millisecond, FieldCount };
 
-QRegularExpression expressionOf(const QString& pattern)
+struct Placeholder
 {
-    QString text = QRegularExpression::escape(pattern);
-    for (const auto& [name, expression] : placeholders)
-        text.replace(QRegularExpression::escape(u'{' + QString::fromLatin1(name) + u'}'),
-                     QString::fromLatin1(expression));
-    return QRegularExpression(u"(?:^|/)"_s + text + u'$');
-}
+    QStringView text;
+    qsizetype digits; ///< 0 for a name of any length
+};
 
-std::optional<WallTime> dateAndTime(const QString& path)
+constexpr std::array<Placeholder, FieldCount> placeholders = {{{u"{camera}", 0},
+                                                               {u"{yyyy}", 4},
+                                                               {u"{MM}", 2},
+                                                               {u"{dd}", 2},
+                                                               {u"{HH}", 2},
+                                                               {u"{mm}", 2},
+                                                               {u"{ss}", 2},
+                                                               {u"{zzz}", 3}}};
+
+using Values = std::array<QStringView, FieldCount>;
+
+/// Whether the parts make up the whole of @p text; what stands for the placeholders goes to
+/// @p values.
+bool matches(const PathPart* part, const PathPart* end, QStringView text, Values& values)
 {
-    // The parts of the time may be of other folders than the date. Only behind a T is a sign that
-    // of an offset, and not of what comes next in the name.
-    static const QRegularExpression pattern(
-        u"(?<!\\d)(?<yyyy>(?:19|20)\\d\\d)(?<s>[-_./]?)(?<MM>0[1-9]|1[0-2])\\k<s>"
-        "(?<dd>0[1-9]|[12]\\d|3[01])(?<T>[T_ ./-]{0,3})(?<HH>[01]\\d|2[0-3])[-_.:/h]?"
-        "(?<mm>[0-5]\\d)(?:[-_.:/m]?(?<ss>[0-5]\\d))?(?!\\d)(?:[.,](?<zzz>\\d{3})(?!\\d))?"
-        "(?<zone>Z|[+-](?:[01]\\d):?[0-5]\\d(?!\\d))?"_s);
-    const QRegularExpressionMatch match = pattern.match(path);
-    const auto number = [&match](QStringView name) {
-        return match.captured(name).toInt();
+    if (part == end)
+        return text.isEmpty();
+    if (part->field < 0)
+        return text.startsWith(part->literal) &&
+               matches(part + 1, end, text.sliced(part->literal.size()), values);
+    const qsizetype digits = placeholders[size_t(part->field)].digits;
+    const auto belongs = [digits](QChar character) {
+        return digits > 0 ? character >= u'0' && character <= u'9' : character != u'/';
     };
-    const QDate date(number(u"yyyy"), number(u"MM"), number(u"dd"));
-    if (!match.hasMatch() || !date.isValid())
-        return {};
-    WallTime time{
-        .clock = QDateTime(date, QTime(number(u"HH"), number(u"mm"), number(u"ss"), number(u"zzz")),
-                           Qt::UTC)};
-    const QString zone = match.captured(u"zone").remove(u':');
-    if (zone == u'Z')
-        time.offset = 0;
-    else if (!zone.isEmpty() && match.captured(u"T") == u'T')
-        time.offset = (zone.mid(1, 2).toInt() * 60 + zone.mid(3, 2).toInt()) *
-                      (zone.startsWith(u'-') ? -60 : 60);
-    return time;
-}
-
-std::optional<WallTime> sinceTheEpoch(const QString& path)
-{
-    static const QRegularExpression pattern(u"(?<!\\d)(1\\d{9})(\\d{3})?(?!\\d)"_s);
-    const QRegularExpressionMatch match = pattern.match(path);
-    if (!match.hasMatch())
-        return {};
-    const qint64 msecs = match.captured(1).toLongLong() * 1'000 + match.captured(2).toLongLong();
-    return WallTime{QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC), 0};
+    qsizetype length = std::ranges::find_if_not(text, belongs) - text.begin();
+    if (digits > 0)
+        length = length < digits ? 0 : digits;
+    for (; length > 0; length = digits > 0 ? 0 : length - 1) {
+        values[size_t(part->field)] = text.first(length);
+        if (matches(part + 1, end, text.sliced(length), values))
+            return true;
+    }
+    return false;
 }
 
 } // namespace
 
-PathPattern::PathPattern() = default;
-
 PathPattern::PathPattern(const QString& pattern)
-    : m_expression(expressionOf(pattern)), m_isOwn(true)
-{}
+{
+    for (QStringView rest = pattern; !rest.isEmpty();) {
+        const auto isNext = [rest](const Placeholder& one) {
+            return rest.startsWith(one.text);
+        };
+        const auto known = std::ranges::find_if(placeholders, isNext);
+        if (known != placeholders.end()) {
+            m_parts.append(PathPart{.field = int(known - placeholders.begin())});
+            rest = rest.sliced(known->text.size());
+            continue;
+        }
+        if (m_parts.isEmpty() || m_parts.last().field >= 0)
+            m_parts.append(PathPart{});
+        m_parts.last().literal += rest.front();
+        rest = rest.sliced(1);
+    }
+}
 
 bool PathPattern::isValid() const
 {
-    const QStringList names = m_expression.namedCaptureGroups();
-    return !m_isOwn || (m_expression.isValid() && names.contains(u"yyyy"_s) &&
-                        names.contains(u"MM"_s) && names.contains(u"dd"_s));
+    const auto has = [this](Field field) {
+        return std::ranges::count(m_parts, int(field), &PathPart::field);
+    };
+    return m_parts.isEmpty() || (has(Year) && has(Month) && has(Day) && has(Camera) <= 1);
 }
 
 std::optional<PathPattern::Match> PathPattern::match(const QString& path) const
 {
-    if (!m_isOwn) {
-        // What is nearest to the file tells most of it.
-        const QStringList parts = path.split(u'/');
-        for (const auto timeIn : {dateAndTime, sinceTheEpoch})
-            for (qsizetype first = parts.size() - 1; first >= 0; --first)
-                if (const auto time = timeIn(parts.sliced(first).join(u'/')))
-                    return Match{.begin = *time};
-        return {};
+    if (m_parts.isEmpty()) {
+        const std::optional<WallTime> begin = timeInPath(path);
+        return begin ? std::optional(Match{.begin = *begin}) : std::nullopt;
     }
-    const QRegularExpressionMatch match = m_expression.match(path);
-    const auto number = [&match](QStringView name) {
-        return match.captured(name).toInt();
+    Values values;
+    const PathPart* const parts = m_parts.constData();
+    const auto number = [&values](Field field) {
+        return values[field].toInt();
     };
-    const QDate date(number(u"yyyy"), number(u"MM"), number(u"dd"));
-    const QTime time(number(u"HH"), number(u"mm"), number(u"ss"), number(u"zzz"));
-    if (!match.hasMatch() || !date.isValid() || !time.isValid())
-        return {};
-    return Match{{QDateTime(date, time, Qt::UTC), {}}, match.captured(u"camera")};
+    for (qsizetype from = 0; from >= 0 && from < path.size();) {
+        values = {};
+        if (matches(parts, parts + m_parts.size(), QStringView(path).sliced(from), values)) {
+            const QDate date(number(Year), number(Month), number(Day));
+            const QTime time(number(Hour), number(Minute), number(Second), number(Millisecond));
+            if (!date.isValid() || !time.isValid())
+                return {};
+            return Match{{QDateTime(date, time, Qt::UTC), {}}, values[Camera].toString()};
+        }
+        const qsizetype slash = path.indexOf(u'/', from);
+        from = slash < 0 ? -1 : slash + 1;
+    }
+    return {};
 }
 
 } // namespace Review

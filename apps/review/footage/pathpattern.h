@@ -2,10 +2,17 @@
 
 #include "walltime.h"
 
-#include <QRegularExpression>
+#include <QList>
 #include <QString>
 
 namespace Review {
+
+/// Of a pattern: a placeholder, or a text that stands there as it is.
+struct PathPart
+{
+    QString literal = {};
+    int field = -1;
+};
 
 /// Finds in the path of a file when its recording began, and which camera made it.
 class PathPattern
@@ -17,21 +24,18 @@ public:
         QString camera = {}; ///< empty where the pattern does not say
     };
 
-    /// The common ways of recorders and cameras: date and time, together or over several folders,
-    /// or seconds or milliseconds since 1970.
-    PathPattern();
     /// One's own, such as "{camera}/{yyyy}-{MM}-{dd}/{HH}/{mm}.{ss}.mp4", for the end of the path.
-    explicit PathPattern(const QString& pattern);
+    /// An empty one stands for the common ways of recorders and cameras, see timeInPath().
+    explicit PathPattern(const QString& pattern = {});
 
-    /// A pattern of one's own needs a year, a month and a day.
+    /// A pattern of one's own needs a year, a month and a day, and tells the camera once at most.
     bool isValid() const;
 
     /// None where the path says nothing. @p path has slashes.
     std::optional<Match> match(const QString& path) const;
 
 private:
-    QRegularExpression m_expression;
-    bool m_isOwn = false;
+    QList<PathPart> m_parts;
 };
 
 } // namespace Review

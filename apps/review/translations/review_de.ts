@@ -364,8 +364,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Es gibt keine Datei und keinen Ordner „%1“.</translation>
     </message>
     <message>
-        <source>Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}.</source>
-        <translation>Falsches Muster „%1“: Es braucht {yyyy}, {MM} und {dd}.</translation>
+        <source>Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}, and {camera} at most once.</source>
+        <translation>Falsches Muster „%1“: Es braucht {yyyy}, {MM} und {dd}, und {camera} höchstens einmal.</translation>
     </message>
 </context>
 <context>

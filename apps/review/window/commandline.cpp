@@ -128,7 +128,8 @@ QString CommandLine::takeArguments(const QCommandLineParser& parser)
     }
     files.pattern = parser.value(u"pattern"_s);
     if (!files.pattern.isEmpty() && !PathPattern(files.pattern).isValid())
-        return tr("Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}.").arg(files.pattern);
+        return tr("Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}, and {camera} at most once.")
+            .arg(files.pattern);
     m_arguments.picture = parser.value(u"picture"_s);
     m_arguments.settings = parser.value(u"settings"_s);
     if (const QString zone = parser.value(u"zone"_s); !zone.isEmpty()) {
