@@ -2,6 +2,7 @@
 
 #include "devicegrid.h"
 #include "loadinghatch.h"
+#include "rulerpainter.h"
 #include "timescale.h"
 #include "tracksegments.h"
 
@@ -46,7 +47,9 @@ void LanePainter::drawLane(QPainter& painter, const QRectF& lane,
     };
     forEach(spans.described,
             [&](const QRectF& stretch) { painter.fillRect(stretch, POrvGuiTheme::colorBlack); });
-    forEach(spans.loading, [&](const QRectF& stretch) { fillLoading(painter, stretch); });
+    QList<QRectF> loading;
+    forEach(spans.loading, [&](const QRectF& stretch) { loading.append(stretch); });
+    fillLoading(painter, loading);
     const QColor foot = POrvGuiTheme::colorYellow.darker(200);
     forEach(spans.recorded, [&](const QRectF& stretch) {
         painter.fillRect(stretch, POrvGuiTheme::colorTuna);
@@ -93,6 +96,40 @@ void LanePainter::drawFrame(QPainter& painter, const QRectF& lane) const
                      POrvGuiTheme::colorBlue);
     painter.fillRect(grid.aligned({body.left(), body.bottom() - 1, body.width(), 1}),
                      POrvGuiTheme::colorBlue);
+}
+
+void LanePainter::drawRanges(QPainter& painter, double height, const RulerRanges& ranges,
+                             const RulerColors& colors) const
+{
+    constexpr double lineWidth = 2.0;
+    constexpr int searchAlpha = 90;
+    constexpr int selectedAlpha = 55;
+    const DeviceGrid grid(painter);
+    const auto tint = [&](const std::optional<TimeSpan>& range, QColor color, int alpha) {
+        if (!range)
+            return;
+        const double x1 = std::max(std::trunc(scale.xAt(range->begin)), TimeScale::halfMargin());
+        const double x2 = std::min(std::trunc(scale.xAt(range->end)), scale.sightEnd());
+        color.setAlpha(alpha);
+        if (x1 < x2)
+            painter.fillRect(grid.aligned(QRectF(rulerLeft + x1, 0, x2 - x1, height)), color);
+    };
+    const auto line = [&](qint64 time, const QColor& color, double width) {
+        const double x = std::trunc(scale.xAt(time));
+        const QRectF stroke(rulerLeft + x - std::floor(width / 2), 0, width, height);
+        if (scale.isInSight(x))
+            painter.fillRect(grid.aligned(stroke), color);
+    };
+    tint(ranges.search, colors.search, searchAlpha);
+    tint(ranges.selected, colors.selection, selectedAlpha);
+    if (ranges.selected) {
+        line(ranges.selected->begin, colors.selection, lineWidth);
+        line(ranges.selected->end, colors.selection, lineWidth);
+    }
+    for (const qint64 mark : ranges.resultMarks)
+        line(mark, colors.resultMark, lineWidth);
+    if (ranges.preview)
+        line(*ranges.preview, colors.preview, 1.0);
 }
 
 } // namespace CorvelGui

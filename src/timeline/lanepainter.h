@@ -10,6 +10,8 @@ class QPainter;
 namespace CorvelGui {
 
 class TimeScale;
+struct RulerColors;
+struct RulerRanges;
 
 /// Draws lanes in the colours of a ruler.
 struct LanePainter
@@ -21,6 +23,9 @@ struct LanePainter
     void drawLane(QPainter& painter, const QRectF& lane, const TrackLanes::Spans& spans) const;
     void drawName(QPainter& painter, const QRectF& lane, const QString& name, bool current) const;
     void drawFrame(QPainter& painter, const QRectF& lane) const;
+    /// Over all lanes, which are of @p height together.
+    void drawRanges(QPainter& painter, double height, const RulerRanges& ranges,
+                    const RulerColors& colors) const;
 };
 
 } // namespace CorvelGui

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <QList>
 #include <QRectF>
 
 class QPainter;
 
 namespace CorvelGui {
 
-/// Fills @p rect with what says that nothing is known yet. Neighbours fit together.
-void fillLoading(QPainter& painter, const QRectF& rect);
+/// Fills @p areas with what says that nothing is known yet. Neighbours fit together.
+void fillLoading(QPainter& painter, const QList<QRectF>& areas);
 
 } // namespace CorvelGui

@@ -408,7 +408,7 @@ void Ruler::setUpAccessibility()
                               return tr("No position");
                           const qint64 time = qint64(d->exactIndicator);
                           const QString text = QLocale().toString(d->scale.inZone(time));
-                          return showsCalendar() ? text + d->clock.whichOfTwo(time) : text;
+                          return d->showsCalendar() ? text + d->clock.whichOfTwo(time) : text;
                       },
                   .move =
                       [this](double msecs) {

@@ -257,6 +257,10 @@ public:
     /// and empty without one. New limits cut it, and take it away where it is outside.
     TimeSpan selectedRange() const;
     void setSelectedRange(const TimeSpan& range);
+    /// Puts one end of the selected range to a time within the limits, as the keys I and O do: the
+    /// other end stays, or, where that makes no range, goes to its limit.
+    void setSelectedRangeBegin(qint64 msecs);
+    void setSelectedRangeEnd(qint64 msecs);
 
     /// What is recorded in the period, and how many markers begin when, in @p columns parts of
     /// equal duration: one pass over all of them. Empty without a period.
@@ -454,7 +458,6 @@ private:
     void followView();
     void markersChanged();
     RulerContext contextOfColumn(double x) const;
-    int contextColumn() const;
     bool openByKey(const QKeyEvent* event);
     void openMerged(const MarkerSymbol& symbol);
     void setUpAccessibility();
@@ -465,10 +468,8 @@ private:
     void showRange(qint64 from, qint64 to, bool isOneOfSeveral);
     void zoomAbout(double factor, double x);
     void zoomTo(double span, const FineTime& time, double x, bool moving);
-    double zoomColumn() const;
     void reportZoomHistory();
     void goInZoomHistory(bool back);
-    bool showsCalendar() const;
     void changedTimeLineView(bool moving);
     void emitTimeLineViewChanged(bool moving);
     void zoom(int level, double anchor, bool keepIndicator);

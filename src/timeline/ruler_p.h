@@ -88,6 +88,13 @@ struct Ruler::Private
     std::unique_ptr<AccessibleRange> accessible;
 
     bool takesInput() const { return active && !blocked; }
+    bool showsCalendar() const { return calendarTicks || continuousZoom; }
+    RulerRanges shownRanges() const;
+    /// The column that keys act on, in a ruler of a width: that of the focused handle of the
+    /// range, of the indicator, or the middle.
+    int columnForKeys(int width) const;
+    /// The column of the exact indicator, or the middle.
+    double zoomColumn(int width) const;
 };
 
 /// The view was zoomed, or may have been.

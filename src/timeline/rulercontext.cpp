@@ -51,9 +51,11 @@ RulerContext Ruler::contextOfColumn(double x) const
     return context;
 }
 
-int Ruler::contextColumn() const
+int Ruler::Private::columnForKeys(int width) const
 {
-    return d->indicator->isVisible() ? d->indicator->x() + d->indicator->hotSpot() : width() / 2;
+    if (const auto handle = range->focusedColumn())
+        return *handle;
+    return indicator->isVisible() ? indicator->x() + indicator->hotSpot() : width / 2;
 }
 
 void Ruler::contextMenuEvent(QContextMenuEvent* event)
@@ -62,7 +64,7 @@ void Ruler::contextMenuEvent(QContextMenuEvent* event)
         return QWidget::contextMenuEvent(event);
     event->accept();
     const QPoint position = event->reason() == QContextMenuEvent::Keyboard
-                                ? QPoint(contextColumn(), height() / 2)
+                                ? QPoint(d->columnForKeys(width()), height() / 2)
                                 : event->pos();
     whileAlive(
         this, [this] { d->gestures->end(); },

@@ -74,9 +74,20 @@ void Ruler::setCalendarTicks(bool on)
         this, [this] { updateChildren(false); }, [&] { Q_EMIT calendarTicksChanged(on); });
 }
 
-bool Ruler::showsCalendar() const
+RulerRanges Ruler::Private::shownRanges() const
 {
-    return d->calendarTicks || d->continuousZoom;
+    RulerRanges all;
+    if (searchDisplayed)
+        all.search = searchRange;
+    if (!range->range().isEmpty())
+        all.selected = range->range();
+    if (resultRange && resultBeginMarked)
+        all.resultMarks.push_back(resultRange->begin);
+    if (resultRange && resultEndMarked)
+        all.resultMarks.push_back(resultRange->end);
+    if (hover->isPreviewVisible() && previewTime.isValid())
+        all.preview = previewTime.toMSecsSinceEpoch();
+    return all;
 }
 
 void Ruler::setDateFormat(const QString& format)
@@ -116,27 +127,14 @@ void Ruler::paintEvent(QPaintEvent*)
     painter.setFont(font);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 
-    const auto msecs = [](const QDateTime& time) -> std::optional<qint64> {
-        return time.isValid() ? std::optional(time.toMSecsSinceEpoch()) : std::nullopt;
-    };
     RulerScene scene{.scale = d->scale,
                      .segments = d->segments,
                      .rect = rect(),
                      .headerHeight = d->headerHeight,
-                     .dateFormat = d->dateFormat};
-    if (showsCalendar())
-        scene.clock = &d->clock;
-    if (d->searchDisplayed)
-        scene.searchRange = d->searchRange;
-    if (d->hover->isPreviewVisible())
-        scene.previewTime = msecs(d->previewTime);
-    if (d->resultRange && d->resultBeginMarked)
-        scene.resultMarks.push_back(d->resultRange->begin);
-    if (d->resultRange && d->resultEndMarked)
-        scene.resultMarks.push_back(d->resultRange->end);
-    if (!d->range->range().isEmpty())
-        scene.selectedRange = d->range->range();
-    scene.focus = d->focus;
+                     .dateFormat = d->dateFormat,
+                     .ranges = d->shownRanges(),
+                     .focus = d->focus,
+                     .clock = d->showsCalendar() ? &d->clock : nullptr};
     d->painter.paint(painter, scene);
     if (d->markerDetails)
         drawMarkerBars(painter, d->markers->bars(d->scale), d->scale,
@@ -243,7 +241,7 @@ void Ruler::showIndicatorTime(quint64 msecs)
     const bool needsDate = qint64(d->scale.millisecondsPerLevel()) > msecsPerDay;
     QString format = needsDate ? d->dateFormat + u" hh:mm:ss"_s : u"hh:mm:ss"_s;
     QString whichOfTwo;
-    if (showsCalendar()) {
+    if (d->showsCalendar()) {
         // Close up, a pixel is less than a tenth of a second.
         constexpr double pixelsPerMillisecond = 0.01;
         if (d->scale.lengthPerMillisecond() > pixelsPerMillisecond)

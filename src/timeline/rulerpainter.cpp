@@ -103,10 +103,11 @@ void RulerPainter::fillBands(QPainter& painter, const RulerScene& scene) const
 
 void RulerPainter::fillSearchRange(QPainter& painter, const RulerScene& scene) const
 {
-    if (scene.scale.totalDuration() == 0 || !scene.searchRange)
+    if (scene.scale.totalDuration() == 0 || !scene.ranges.search)
         return;
-    const double x1 = std::max(scene.scale.xAt(scene.searchRange->begin), TimeScale::halfMargin());
-    const double x2 = std::min(scene.scale.xAt(scene.searchRange->end), scene.scale.sightEnd());
+    const double x1 =
+        std::max(scene.scale.xAt(scene.ranges.search->begin), TimeScale::halfMargin());
+    const double x2 = std::min(scene.scale.xAt(scene.ranges.search->end), scene.scale.sightEnd());
     if (x2 <= x1)
         return;
     QRectF band = headerBand(scene);
@@ -129,7 +130,9 @@ void RulerPainter::fillTracks(QPainter& painter, const RulerScene& scene) const
     };
     forEach(scene.segments.gaps(),
             [&](const QRectF& band) { painter.fillRect(band, colors.shade); });
-    forEach(scene.segments.loading(), [&](const QRectF& band) { fillLoading(painter, band); });
+    QList<QRectF> loading;
+    forEach(scene.segments.loading(), [&](const QRectF& band) { loading.append(band); });
+    fillLoading(painter, loading);
     forEach(scene.segments.recorded(),
             [&](const QRectF& band) { painter.fillRect(band, m_trackGradient); });
 }
@@ -157,9 +160,9 @@ void RulerPainter::shadeOutsideLimits(QPainter& painter, const RulerScene& scene
 void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
                                    const QRectF& rect) const
 {
-    if (!scene.previewTime)
+    if (!scene.ranges.preview)
         return;
-    const double x = scene.scale.xAt(*scene.previewTime);
+    const double x = scene.scale.xAt(*scene.ranges.preview);
     const double inView = std::min(std::max(x, TimeScale::halfMargin()), scene.scale.sightEnd());
     const QRectF line(inView, rect.top(), penWidth, rect.height());
     painter.fillRect(DeviceGrid(painter).aligned(line),
@@ -168,12 +171,12 @@ void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
 
 void RulerPainter::fillSelectedRange(QPainter& painter, const RulerScene& scene) const
 {
-    if (!scene.selectedRange)
+    if (!scene.ranges.selected)
         return;
     const DeviceGrid grid(painter);
     const double height = scene.rect.height();
-    const double begin = std::trunc(scene.scale.xAt(scene.selectedRange->begin));
-    const double end = std::trunc(scene.scale.xAt(scene.selectedRange->end));
+    const double begin = std::trunc(scene.scale.xAt(scene.ranges.selected->begin));
+    const double end = std::trunc(scene.scale.xAt(scene.ranges.selected->end));
     const double x1 = std::max(begin, TimeScale::halfMargin());
     const double x2 = std::min(end, scene.scale.sightEnd());
     QColor tint = colors.selection;
@@ -194,7 +197,7 @@ void RulerPainter::drawResultMarks(QPainter& painter, const RulerScene& scene) c
     constexpr double markWidth = 2.0;
     constexpr double flagWidth = 6.0;
     const DeviceGrid grid(painter);
-    for (const qint64 time : scene.resultMarks) {
+    for (const qint64 time : scene.ranges.resultMarks) {
         const double x = scene.scale.xAt(time);
         if (!scene.scale.isInSight(x))
             continue;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/internalexport.h"
+#include "rulerranges.h"
 #include "ticklayout.h"
-#include "timespans.h"
 
 #include <QBrush>
 #include <QColor>
@@ -10,8 +10,6 @@
 #include <QRect>
 #include <QStaticText>
 #include <QString>
-
-#include <optional>
 
 class QPainter;
 
@@ -48,10 +46,7 @@ struct RulerScene
     QRect rect;
     int headerHeight;
     QString dateFormat;
-    std::optional<TimeSpan> searchRange = {}; ///< only while it is displayed
-    std::optional<qint64> previewTime = {};   ///< only while it is visible
-    std::optional<TimeSpan> selectedRange = {};
-    std::vector<qint64> resultMarks = {};
+    RulerRanges ranges = {};
     const KeyboardFocus* focus = nullptr;
     const ClockChanges* clock = nullptr; ///< only for ticks in steps that people count in
 };

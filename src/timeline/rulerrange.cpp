@@ -328,7 +328,7 @@ bool RulerRange::pressKey(const QKeyEvent* event)
     case Qt::Key_I:
     case Qt::Key_O:
         if (const auto time = timeForKeys())
-            putEnd(event->key() == Qt::Key_I ? End::Begin : End::End, *time);
+            change(withEnd(event->key() == Qt::Key_I ? End::Begin : End::End, *time));
         return true;
     case Qt::Key_Delete:
         change({});
@@ -338,8 +338,7 @@ bool RulerRange::pressKey(const QKeyEvent* event)
     }
 }
 
-// The other end stays where it is, if that makes a range; else the range is all that it can be.
-void RulerRange::putEnd(End end, qint64 msecs)
+TimeSpan RulerRange::withEnd(End end, qint64 msecs) const
 {
     TimeSpan range{msecs, msecs};
     if (end == End::Begin)
@@ -347,8 +346,13 @@ void RulerRange::putEnd(End end, qint64 msecs)
     else
         range.begin =
             !m_range.isEmpty() && m_range.begin < msecs ? m_range.begin : d.scale.beginLimitMs();
-    if (!withinLimits(range).isEmpty())
-        change(range);
+    return withinLimits(range).isEmpty() ? m_range : range;
+}
+
+std::optional<int> RulerRange::focusedColumn() const
+{
+    const auto focused = std::ranges::find_if(m_handles, &QWidget::hasFocus);
+    return focused == m_handles.end() ? std::nullopt : std::optional((*focused)->column());
 }
 
 bool RulerRange::moveByKey(RangeHandle* handle, const QKeyEvent* event)

@@ -35,6 +35,11 @@ public:
     void setMode(Ruler::RangeSelection mode);
     const TimeSpan& range() const { return m_range; }
     void setRange(const TimeSpan& range);
+    /// The other end stays where it is, if that makes a range; else the range is all that it can
+    /// be.
+    void setEnd(RangeHandle::End end, qint64 msecs) { setRange(withEnd(end, msecs)); }
+    /// The column of the handle that has the focus.
+    std::optional<int> focusedColumn() const;
     /// The limits or the view changed, or what the ruler may show.
     void followLimits();
     void layOut();
@@ -80,7 +85,7 @@ private:
     void tellStart();
     void takeHandle(RangeHandle::End end, int x);
     void change(const TimeSpan& range);
-    void putEnd(RangeHandle::End end, qint64 msecs);
+    TimeSpan withEnd(RangeHandle::End end, qint64 msecs) const;
     void moveEnd(RangeHandle::End end, qint64 msecs);
     bool mouseEvent(RangeHandle* handle, QMouseEvent* event);
     bool moveByKey(RangeHandle* handle, const QKeyEvent* event);

@@ -24,6 +24,16 @@ void Ruler::setSelectedRange(const TimeSpan& range)
     d->range->setRange(range);
 }
 
+void Ruler::setSelectedRangeBegin(qint64 msecs)
+{
+    d->range->setEnd(RangeHandle::End::Begin, msecs);
+}
+
+void Ruler::setSelectedRangeEnd(qint64 msecs)
+{
+    d->range->setEnd(RangeHandle::End::End, msecs);
+}
+
 bool Ruler::isEdgeScrolling() const
 {
     return d->edgeScrolling;

@@ -93,7 +93,7 @@ void Ruler::onZoomerOut(int level, double anchor)
 void Ruler::zoomIn()
 {
     if (d->continuousZoom)
-        zoomAbout(stepFactor, zoomColumn());
+        zoomAbout(stepFactor, d->zoomColumn(width()));
     else
         onZoomerIn(d->scale.level() - 1, middleOfView);
 }
@@ -101,15 +101,15 @@ void Ruler::zoomIn()
 void Ruler::zoomOut()
 {
     if (d->continuousZoom)
-        zoomAbout(1 / stepFactor, zoomColumn());
+        zoomAbout(1 / stepFactor, d->zoomColumn(width()));
     else
         onZoomerOut(d->scale.level() + 1, middleOfView);
 }
 
-double Ruler::zoomColumn() const
+double Ruler::Private::zoomColumn(int width) const
 {
-    const double x = d->scale.xAt(qint64(d->exactIndicator));
-    return d->indicatorTime.isValid() && d->scale.isInSight(x) ? x : width() / 2.0;
+    const double x = scale.xAt(qint64(exactIndicator));
+    return indicatorTime.isValid() && scale.isInSight(x) ? x : width / 2.0;
 }
 
 bool Ruler::canZoomIn() const

@@ -40,17 +40,6 @@ constexpr int wheelNotch = 120;
 
 struct TimelineLanes::Private
 {
-    /// Ranges and lines of the ruler that are seen in the lanes.
-    struct Ranges
-    {
-        std::optional<TimeSpan> search;
-        std::optional<TimeSpan> selected;
-        std::vector<qint64> resultMarks;
-        std::optional<qint64> preview;
-
-        bool operator==(const Ranges&) const = default;
-    };
-
     /// What of the ruler is seen in the lanes.
     struct ShownView
     {
@@ -60,7 +49,7 @@ struct TimelineLanes::Private
         qint64 end;
         int indicator; ///< its column; -1 without one
         QRgb indicatorColor;
-        Ranges ranges;
+        RulerRanges ranges;
 
         bool operator==(const ShownView&) const = default;
     };
@@ -95,59 +84,7 @@ struct TimelineLanes::Private
                 scale.endLimitMs(),
                 indicated ? indicator.x() + indicator.hotSpot() : -1,
                 indicator.color().rgb(),
-                ranges()};
-    }
-
-    Ranges ranges() const
-    {
-        const Ruler::Private& state = *ruler->d;
-        Ranges all;
-        if (state.searchDisplayed)
-            all.search = state.searchRange;
-        if (!state.range->range().isEmpty())
-            all.selected = state.range->range();
-        if (state.resultRange && state.resultBeginMarked)
-            all.resultMarks.push_back(state.resultRange->begin);
-        if (state.resultRange && state.resultEndMarked)
-            all.resultMarks.push_back(state.resultRange->end);
-        if (state.hover->isPreviewVisible() && state.previewTime.isValid())
-            all.preview = state.previewTime.toMSecsSinceEpoch();
-        return all;
-    }
-
-    void paintRanges(QPainter& painter, const Ranges& ranges) const
-    {
-        const RulerColors& colors = ruler->d->painter.colors;
-        const DeviceGrid grid(painter);
-        const int left = rulerLeft();
-        const auto tint = [&](const std::optional<TimeSpan>& range, QColor color, int alpha) {
-            if (!range)
-                return;
-            const double x1 =
-                std::max(std::trunc(scale.xAt(range->begin)), TimeScale::halfMargin());
-            const double x2 = std::min(std::trunc(scale.xAt(range->end)), scale.sightEnd());
-            color.setAlpha(alpha);
-            if (x1 < x2)
-                painter.fillRect(grid.aligned(QRectF(left + x1, 0, x2 - x1, q->height())), color);
-        };
-        const auto line = [&](qint64 time, const QColor& color, double width) {
-            const double x = std::trunc(scale.xAt(time));
-            if (scale.isInSight(x))
-                painter.fillRect(
-                    grid.aligned(QRectF(left + x - std::floor(width / 2), 0, width, q->height())),
-                    color);
-        };
-        constexpr double lineWidth = 2.0;
-        tint(ranges.search, colors.search, 90);
-        tint(ranges.selected, colors.selection, 55);
-        if (ranges.selected) {
-            line(ranges.selected->begin, colors.selection, lineWidth);
-            line(ranges.selected->end, colors.selection, lineWidth);
-        }
-        for (const qint64 mark : ranges.resultMarks)
-            line(mark, colors.resultMark, lineWidth);
-        if (ranges.preview)
-            line(*ranges.preview, colors.preview, 1.0);
+                ruler->d->shownRanges()};
     }
 
     TimelineLanes* const q;
@@ -232,7 +169,8 @@ void TimelineLanes::contextMenuEvent(QContextMenuEvent* event)
     if (event->reason() == QContextMenuEvent::Keyboard) {
         const LaneLayout lanes = d->layout();
         const int lane = std::max(std::min(currentLane(), lanes.end() - 1), lanes.first());
-        position = {d->rulerLeft() + d->ruler->contextColumn(), laneRect(lane).center().y()};
+        position = {d->rulerLeft() + d->ruler->d->columnForKeys(d->ruler->width()),
+                    laneRect(lane).center().y()};
     }
     Q_EMIT contextRequested(contextAt(position));
 }
@@ -358,7 +296,7 @@ void TimelineLanes::paintEvent(QPaintEvent*)
     if (current >= layout.first() && current < layout.end())
         lanes.drawFrame(painter, laneRect(current));
     if (d->scale.hasView())
-        d->paintRanges(painter, d->shown.ranges);
+        lanes.drawRanges(painter, height(), d->shown.ranges, d->ruler->d->painter.colors);
     if (d->shown.indicator >= 0) {
         const DeviceGrid grid(painter);
         painter.fillRect(grid.aligned(QRectF(left + d->shown.indicator - 1, 0, 2, height())),

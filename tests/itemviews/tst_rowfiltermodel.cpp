@@ -3,6 +3,7 @@
 #include <CorvelGui/PRowFilterModel>
 
 #include <QAbstractItemModelTester>
+#include <QDeadlineTimer>
 #include <QStandardItemModel>
 
 using CorvelGui::PRowFilterModel;
@@ -125,8 +126,10 @@ private Q_SLOTS:
         filtered.setSlice(std::chrono::milliseconds(0));
         filtered.setSourceModel(&source);
         QSignalSpy busy(&filtered, &PRowFilterModel::busyChanged);
-        const auto slowly = [](int) {
-            QTest::qSleep(1);
+        const auto slowly = [](int row) {
+            const QDeadlineTimer work(row % 64 == 0 ? 2 : 0);
+            while (!work.hasExpired()) {
+            }
             return true;
         };
         filtered.setFilter(slowly);

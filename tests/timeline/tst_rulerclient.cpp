@@ -1,6 +1,7 @@
 // What a client needs to load what is looked at, and to answer a right click.
 
 #include "loggedruler.h"
+#include "rangehandle.h"
 #include "testsupport.h"
 
 #include <CorvelGui/RulerMarkerButton>
@@ -219,6 +220,15 @@ void TestRulerClient::menus()
         QCOMPARE(asked.last().track, widget == lanes ? u"b"_s : QString());
         QVERIFY(std::abs(*asked.takeLast().time - monday - 40 * minute) < 10 * second);
     }
+    // At the handle of the range that has the focus.
+    ruler->setRangeSelection(Ruler::RangeSelection::Drag);
+    ruler->setSelectedRangeBegin(monday + 10 * minute);
+    ruler->setSelectedRangeEnd(monday + 50 * minute);
+    QCOMPARE(ruler->selectedRange(), minutes(10, 50));
+    QVERIFY(QTest::qWaitForWindowActive(&timeline));
+    ruler->findChildren<RangeHandle*>()[1]->setFocus();
+    QVERIFY(askForMenu(ruler, {1, 1}, QContextMenuEvent::Keyboard));
+    QVERIFY(std::abs(*asked.takeLast().time - monday - 50 * minute) < 10 * second);
     timeline.setActive(true, true);
     QVERIFY(!askForMenu(ruler, {510, 10}) && !askForMenu(lanes, onLane));
 

@@ -36,8 +36,7 @@ struct Scene
                                .rect = QRect(0, 0, width, height),
                                .headerHeight = header,
                                .dateFormat = u"dd.MM.yy"_s,
-                               .searchRange = search,
-                               .previewTime = preview});
+                               .ranges = {.search = search, .preview = preview}});
         return image;
     }
     QColor between(int x) { return paint().pixelColor(x, bodyY); }

@@ -83,6 +83,8 @@ QString CameraTrapSet::read(const QString& path, const QTimeZone& zone, ProblemL
     for (const QJsonValue category : root.value(u"categories"_s).toArray())
         categories.insert(idOf(category[u"id"_s]), category[u"name"_s].toString().simplified());
     for (const QJsonValue annotation : root.value(u"annotations"_s).toArray()) {
+        if (progress.isCancelled())
+            break;
         const auto image = m_images.constFind(idOf(annotation[u"image_id"_s]));
         const QString category = categories.value(idOf(annotation[u"category_id"_s]));
         if (image == m_images.cend())

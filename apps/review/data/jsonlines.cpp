@@ -16,8 +16,9 @@ namespace {
 
 constexpr const char* jsonContext = "Review::JsonLines";
 
-/// Puts the values of the keys into @p values. Returns what is wrong with the line.
-LineFault valuesOf(const QByteArray& line, const QStringList& needed, const QStringList& optional,
+/// Puts the values of the keys, of which the first @p needed must be there, into @p values. Returns
+/// what is wrong with the line.
+LineFault valuesOf(const QByteArray& line, const QStringList& keys, qsizetype needed,
                    QList<QByteArray>& values)
 {
     QJsonParseError error;
@@ -27,9 +28,9 @@ LineFault valuesOf(const QByteArray& line, const QStringList& needed, const QStr
     if (!object.contains(u"camera"_s))
         object.insert(u"camera"_s, object.take(u"track"_s));
     values.clear();
-    for (const QString& key : needed + optional) {
+    for (const QString& key : keys) {
         const QJsonValue value = object.value(key);
-        if (value.isUndefined() && needed.contains(key))
+        if (value.isUndefined() && values.size() < needed)
             return {jsonContext,
                     QT_TRANSLATE_NOOP("Review::JsonLines", "the object has no “%1”"),
                     {key}};
@@ -52,6 +53,7 @@ QString JsonLines::read(const QString& path, const QStringList& neededKeys,
     const QByteArray text = readText(path, error);
     if (!error.isEmpty())
         return error;
+    const QStringList keys = neededKeys + optionalKeys;
     QList<QByteArray> values;
     qsizetype number = 0;
     for (qsizetype begin = 0; begin < text.size() && !progress.isCancelled();) {
@@ -63,7 +65,7 @@ QString JsonLines::read(const QString& path, const QStringList& neededKeys,
         begin = end + 1;
         if (line.isEmpty())
             continue;
-        LineFault fault = valuesOf(line, neededKeys, optionalKeys, values);
+        LineFault fault = valuesOf(line, keys, neededKeys.size(), values);
         if (fault.isEmpty())
             fault = handler({values.cbegin(), values.cend()});
         if (!fault.isEmpty())

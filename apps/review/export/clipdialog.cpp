@@ -20,11 +20,11 @@ using CorvelGui::TimeSpan;
 namespace Review {
 
 ClipDialog::ClipDialog(const QList<Camera>& cameras, const QString& chosen, const TimeSpan& view,
-                       const TimeSpan& searchRange, const QString& folder, QWidget* parent)
+                       const TimeSpan& selectedRange, const QString& folder, QWidget* parent)
     : PBaseDialog(parent)
     , m_choices(cameras)
     , m_cameras(new QListWidget(this))
-    , m_range(new RangeChoice(cameras.first().times, view, searchRange, this))
+    , m_range(new RangeChoice(cameras.first().times, view, selectedRange, this))
     , m_folder(new FolderChoice(tr("Export recordings"), folder, this))
     , m_message(new QLabel(this))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))

@@ -20,9 +20,9 @@ class ClipDialog : public CorvelGui::PBaseDialog
     Q_OBJECT
 
 public:
-    /// Proposes the camera with the identifier @p chosen, and @p searchRange unless it is empty.
+    /// Proposes the camera with the identifier @p chosen, and @p selectedRange unless it is empty.
     ClipDialog(const QList<Camera>& cameras, const QString& chosen, const CorvelGui::TimeSpan& view,
-               const CorvelGui::TimeSpan& searchRange, const QString& folder, QWidget* parent);
+               const CorvelGui::TimeSpan& selectedRange, const QString& folder, QWidget* parent);
 
     /// Of @p events it takes those in the range, of the chosen cameras or of none.
     ClipPlan plan(const Events& events) const;

@@ -39,11 +39,11 @@ int proposedInterval(const TimeSpan& range, const TrackHistory& camera)
 
 } // namespace
 
-ExportDialog::ExportDialog(const Camera& camera, const TimeSpan& view, const TimeSpan& searchRange,
-                           const QString& folder, QWidget* parent)
+ExportDialog::ExportDialog(const Camera& camera, const TimeSpan& view,
+                           const TimeSpan& selectedRange, const QString& folder, QWidget* parent)
     : PBaseDialog(parent)
     , m_history(camera.history)
-    , m_range(new RangeChoice(camera.times, view, searchRange, this))
+    , m_range(new RangeChoice(camera.times, view, selectedRange, this))
     , m_interval(new QSpinBox(this))
     , m_recordedOnly(new QCheckBox(tr("&Only where something is recorded"), this))
     , m_folder(new FolderChoice(tr("Export pictures"), folder, this))

@@ -23,10 +23,10 @@ public:
     /// More pictures than that are not exported at once.
     static constexpr int mostPictures = 10'000;
 
-    /// An empty @p searchRange cannot be chosen; any other one is proposed. No range reaches beyond
-    /// what the ranges say.
+    /// An empty @p selectedRange cannot be chosen; any other one is proposed. No range reaches
+    /// beyond what the ranges say.
     ExportDialog(const Camera& camera, const CorvelGui::TimeSpan& view,
-                 const CorvelGui::TimeSpan& searchRange, const QString& folder, QWidget* parent);
+                 const CorvelGui::TimeSpan& selectedRange, const QString& folder, QWidget* parent);
 
     ExportPlan plan() const;
 

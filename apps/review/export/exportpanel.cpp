@@ -85,11 +85,12 @@ ExportPanel::ExportPanel(QWidget* parent)
 ExportPanel::~ExportPanel() = default;
 
 void ExportPanel::askForPictures(const Camera& chosen, const TimeSpan& view,
-                                 const TimeSpan& searchRange)
+                                 const TimeSpan& selectedRange)
 {
     const Camera camera = chosen;
     const QPointer<ExportPanel> alive(this);
-    const QPointer dialog = new ExportDialog(camera, view, searchRange, m_pictureFolder, window());
+    const QPointer dialog =
+        new ExportDialog(camera, view, selectedRange, m_pictureFolder, window());
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!alive || !dialog)
         return;
@@ -105,11 +106,11 @@ void ExportPanel::askForPictures(const Camera& chosen, const TimeSpan& view,
 
 void ExportPanel::askForClips(const QList<Camera>& cameras, const QString& chosen,
                               const Events& events, const TimeSpan& view,
-                              const TimeSpan& searchRange)
+                              const TimeSpan& selectedRange)
 {
     const QPointer<ExportPanel> alive(this);
     const QPointer dialog =
-        new ClipDialog(cameras, chosen, view, searchRange, m_clipFolder, window());
+        new ClipDialog(cameras, chosen, view, selectedRange, m_clipFolder, window());
     const Events all = events;
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!alive || !dialog)

@@ -37,11 +37,11 @@ public:
 
     /// Asks which pictures of a camera to export. Not while something is exported.
     void askForPictures(const Camera& camera, const CorvelGui::TimeSpan& view,
-                        const CorvelGui::TimeSpan& searchRange);
+                        const CorvelGui::TimeSpan& selectedRange);
     /// Asks which cameras to export, of which range, with @p events in it. Not while something is
     /// exported.
     void askForClips(const QList<Camera>& cameras, const QString& chosen, const Events& events,
-                     const CorvelGui::TimeSpan& view, const CorvelGui::TimeSpan& searchRange);
+                     const CorvelGui::TimeSpan& view, const CorvelGui::TimeSpan& selectedRange);
     /// Asks where to put a picture, and in which form.
     void askForPicture(const CameraPicture& picture);
     /// Asks where to put the events.

@@ -32,23 +32,39 @@ Footage::Sources Footage::sources() const
     return sources;
 }
 
+QTimeZone Footage::zoneOf(const TimeCorrection& correction) const
+{
+    return correction.zone.isEmpty() ? m_zone : QTimeZone(correction.zone.toUtf8());
+}
+
 qint64 Footage::instantOf(const WallTime& time, const TimeCorrection& correction) const
 {
-    if (time.offset)
-        return time.clock.toMSecsSinceEpoch() - *time.offset * qint64(1'000) + correction.offset;
-    const QTimeZone zone = correction.zone.isEmpty() ? m_zone : QTimeZone(correction.zone.toUtf8());
-    return QDateTime(time.clock.date(), time.clock.time(), zone).toMSecsSinceEpoch() +
-           correction.offset;
+    return time.instantIn(zoneOf(correction)) + correction.offset;
 }
 
 ReviewData Footage::addTo(ReviewData data, const TimeCorrections& corrections) const
 {
+    // What the recordings of a camera have in common.
+    struct Clock
+    {
+        QTimeZone zone;
+        qint64 offset;
+    };
+    QHash<QString, Clock> clocks;
+    const auto clockOf = [&](const QString& camera) -> const Clock& {
+        const auto known = clocks.constFind(camera);
+        if (known != clocks.cend())
+            return *known;
+        const TimeCorrection correction = corrections.value(camera);
+        return *clocks.insert(camera, {zoneOf(correction), correction.offset});
+    };
     QHash<QString, qsizetype> tracks;
     for (qsizetype i = 0; i < data.tracks.size(); ++i)
         tracks.insert(data.tracks[i].identifier, i);
     const qsizetype described = data.tracks.size();
     for (const Recording& recording : m_recordings) {
-        const qint64 begin = instantOf(recording.begin, corrections.value(recording.camera));
+        const Clock& clock = clockOf(recording.camera);
+        const qint64 begin = recording.begin.instantIn(clock.zone) + clock.offset;
         const qint64 end = begin + recording.length;
         if (begin < 0)
             continue; // no time of a camera

@@ -52,11 +52,13 @@ public:
     Sources sources() const;
 
     /// When something began that a camera with that correction dated; negative for no time at all.
-    qint64 instantOf(const WallTime& time, const TimeCorrection& correction) const;
+    qint64 instantOf(const WallTime& time, const TimeCorrection& correction = {}) const;
     /// @p data with the recordings in it.
     ReviewData addTo(ReviewData data, const TimeCorrections& corrections) const;
 
 private:
+    QTimeZone zoneOf(const TimeCorrection& correction) const;
+
     QTimeZone m_zone = QTimeZone::utc();
     QList<Recording> m_recordings;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QTimeZone>
 
 #include <optional>
 
@@ -15,6 +16,14 @@ struct WallTime
     static WallTime utc(qint64 msecs)
     {
         return {QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC), 0};
+    }
+
+    /// Milliseconds since 1970. Where the offset is not known, the clock is one of @p zone.
+    qint64 instantIn(const QTimeZone& zone) const
+    {
+        if (offset)
+            return clock.toMSecsSinceEpoch() - *offset * qint64(1'000);
+        return QDateTime(clock.date(), clock.time(), zone).toMSecsSinceEpoch();
     }
 
     bool operator==(const WallTime&) const = default;

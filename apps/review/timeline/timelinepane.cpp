@@ -231,15 +231,12 @@ TimeSpan TimelinePane::chosenRange() const
 
 void TimelinePane::beginRangeAt(qint64 msecs)
 {
-    const qint64 end = selectedRange().end;
-    setSelectedRange({msecs, msecs < end ? end : m_period.end});
+    m_ruler->setSelectedRangeBegin(msecs);
 }
 
 void TimelinePane::endRangeAt(qint64 msecs)
 {
-    const TimeSpan range = selectedRange();
-    const bool hasBegin = !range.isEmpty() && range.begin < msecs;
-    setSelectedRange({hasBegin ? range.begin : m_period.begin, msecs});
+    m_ruler->setSelectedRangeEnd(msecs);
 }
 
 void TimelinePane::setSelectedRange(const TimeSpan& range)
