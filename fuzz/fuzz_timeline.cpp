@@ -1,132 +1,40 @@
-// Random operations on a ruler or a zoom timeline: what a client may call, what a user may do, in
-// any order, and inside signals as well.
+// Random operations on a ruler or a zoom timeline, and what a client does to them.
 
 #include "fuzzing.h"
-#include "timelinestage.h"
-#include "timelinevalues.h"
+#include "timelineplay.h"
 
 #include <CorvelGui/TimelineScroll>
 #include <CorvelGui/Zoomer>
 #include <Hueloft/POrvGuiTheme>
 
 #include <QApplication>
-#include <QKeyEvent>
-#include <QWheelEvent>
-
-#include <array>
 
 using namespace CorvelGui;
 using namespace Qt::StringLiterals;
 
-namespace {
-
 constexpr int operationsAtMost = 200;
 
-class Play
-{
-public:
-    Play(const uint8_t* data, size_t size) : m_values(data, size), m_stage(m_values.flag()) {}
+const std::array<TimelinePlay::Operation, 36> TimelinePlay::operations{
+    &TimelinePlay::setLimits,      &TimelinePlay::setLimitsAndIndicator,
+    &TimelinePlay::reset,          &TimelinePlay::setZone,
+    &TimelinePlay::setTracks,      &TimelinePlay::changeLevel,
+    &TimelinePlay::zoom,           &TimelinePlay::center,
+    &TimelinePlay::setIndicator,   &TimelinePlay::setPreview,
+    &TimelinePlay::setSearchRange, &TimelinePlay::displaySearchRange,
+    &TimelinePlay::setResultRange, &TimelinePlay::addMarkers,
+    &TimelinePlay::removeMarkers,  &TimelinePlay::operateOnMarkers,
+    &TimelinePlay::setIconSize,    &TimelinePlay::setLook,
+    &TimelinePlay::setFont,        &TimelinePlay::setModes,
+    &TimelinePlay::setActive,      &TimelinePlay::blockViewChanges,
+    &TimelinePlay::askForView,     &TimelinePlay::resize,
+    &TimelinePlay::setVisible,     &TimelinePlay::armReaction,
+    &TimelinePlay::move,           &TimelinePlay::press,
+    &TimelinePlay::release,        &TimelinePlay::drag,
+    &TimelinePlay::turnWheel,      &TimelinePlay::pressKey,
+    &TimelinePlay::loseFocus,      &TimelinePlay::passTime,
+    &TimelinePlay::setAdditions,   &TimelinePlay::changeView};
 
-    void run();
-
-private:
-    using Operation = void (Play::*)();
-    static const std::array<Operation, 36> operations;
-
-    bool flag() { return m_values.flag(); }
-    int number(int least, int most) { return m_values.number(least, most); }
-    quint64 instant() { return m_values.instant(); }
-    QDateTime time() { return m_values.time(); }
-    QPoint place();
-    Qt::MouseButton button() { return flag() || flag() ? Qt::LeftButton : Qt::RightButton; }
-
-    Ruler* ruler() const { return m_stage.ruler(); }
-    ZoomTimeline* timeline() const { return m_stage.timeline(); }
-    void perform();
-
-    // The client
-    void setLimits();
-    void setLimitsAndIndicator();
-    void reset();
-    void setZone();
-    void setTracks();
-    void changeLevel();
-    void zoom();
-    void center();
-    void setIndicator();
-    void setPreview();
-    void setSearchRange();
-    void displaySearchRange();
-    void setResultRange();
-    void addMarkers();
-    void removeMarkers();
-    void operateOnMarkers();
-    void setIconSize();
-    void setLook();
-    void setFont();
-    void setModes();
-    void setActive();
-    void blockViewChanges();
-    void askForView();
-    void resize();
-    void setVisible();
-    void armReaction();
-
-    // The user
-    void move();
-    void press();
-    void release();
-    void drag();
-    void turnWheel();
-    void pressKey();
-    void loseFocus();
-    void passTime();
-    void setAdditions();
-    void changeView();
-
-    TimelineValues m_values;
-    TimelineStage m_stage;
-    QList<RulerMarker> m_added;
-};
-
-const std::array<Play::Operation, 36> Play::operations{
-    &Play::setLimits,      &Play::setLimitsAndIndicator,
-    &Play::reset,          &Play::setZone,
-    &Play::setTracks,      &Play::changeLevel,
-    &Play::zoom,           &Play::center,
-    &Play::setIndicator,   &Play::setPreview,
-    &Play::setSearchRange, &Play::displaySearchRange,
-    &Play::setResultRange, &Play::addMarkers,
-    &Play::removeMarkers,  &Play::operateOnMarkers,
-    &Play::setIconSize,    &Play::setLook,
-    &Play::setFont,        &Play::setModes,
-    &Play::setActive,      &Play::blockViewChanges,
-    &Play::askForView,     &Play::resize,
-    &Play::setVisible,     &Play::armReaction,
-    &Play::move,           &Play::press,
-    &Play::release,        &Play::drag,
-    &Play::turnWheel,      &Play::pressKey,
-    &Play::loseFocus,      &Play::passTime,
-    &Play::setAdditions,   &Play::changeView};
-
-/// Anywhere in or around the window, or on one of the visible parts.
-QPoint Play::place()
-{
-    if (flag() && m_stage.top()) {
-        QList<QWidget*> parts;
-        for (QWidget* part : m_stage.top()->findChildren<QWidget*>()) {
-            if (part->isVisible())
-                parts.append(part);
-        }
-        if (!parts.isEmpty()) {
-            const QWidget* part = parts.at(number(0, int(parts.size()) - 1));
-            return part->mapTo(m_stage.window(), part->rect().center());
-        }
-    }
-    return {number(-50, 1100), number(-30, 170)};
-}
-
-void Play::setLimits()
+void TimelinePlay::setLimits()
 {
     const quint64 begin = instant();
     const quint64 end =
@@ -137,7 +45,7 @@ void Play::setLimits()
         ruler()->setTimeLimits(begin, end);
 }
 
-void Play::setLimitsAndIndicator()
+void TimelinePlay::setLimitsAndIndicator()
 {
     if (!timeline())
         return;
@@ -146,13 +54,13 @@ void Play::setLimitsAndIndicator()
     timeline()->setTimeLimitsAndIndicatorPosition(begin, end, instant());
 }
 
-void Play::reset()
+void TimelinePlay::reset()
 {
     if (timeline())
         timeline()->resetTimeline();
 }
 
-void Play::setZone()
+void TimelinePlay::setZone()
 {
     if (timeline())
         timeline()->setTimeZone(m_values.zone());
@@ -160,7 +68,7 @@ void Play::setZone()
         ruler()->setTimeZone(m_values.zone());
 }
 
-void Play::setTracks()
+void TimelinePlay::setTracks()
 {
     QList<TrackDescription> tracks;
     for (int count = number(0, 3); count > 0; --count) {
@@ -174,13 +82,13 @@ void Play::setTracks()
     ruler()->setTrackDescriptions(tracks);
 }
 
-void Play::changeLevel()
+void TimelinePlay::changeLevel()
 {
     const int level = number(-2, 10);
     ruler()->changeLevel(level, m_values.position());
 }
 
-void Play::zoom()
+void TimelinePlay::zoom()
 {
     const int level = number(-2, 10);
     if (flag())
@@ -189,7 +97,7 @@ void Play::zoom()
         ruler()->onZoomerOut(level, m_values.position());
 }
 
-void Play::center()
+void TimelinePlay::center()
 {
     const double center = flag() ? m_values.position() : m_values.anyDouble();
     if (timeline())
@@ -198,7 +106,7 @@ void Play::center()
         ruler()->onTimelineOffsetChanged(center);
 }
 
-void Play::setIndicator()
+void TimelinePlay::setIndicator()
 {
     const quint64 msecs = instant();
     if (timeline())
@@ -209,7 +117,7 @@ void Play::setIndicator()
         ruler()->setIndicatorDragEnabled(flag());
 }
 
-void Play::setPreview()
+void TimelinePlay::setPreview()
 {
     ruler()->setPreviewIndicatorPosition(instant());
     const bool visible = flag();
@@ -217,7 +125,7 @@ void Play::setPreview()
     ruler()->setPreviewEnabled(number(0, 3) > 0);
 }
 
-void Play::setSearchRange()
+void TimelinePlay::setSearchRange()
 {
     const QDateTime from = time();
     const QDateTime to = time();
@@ -227,7 +135,7 @@ void Play::setSearchRange()
         ruler()->setSearchTimeRange(from, to, flag());
 }
 
-void Play::displaySearchRange()
+void TimelinePlay::displaySearchRange()
 {
     if (timeline())
         timeline()->onZoomTimeLineOperation({number(0, 8), time(), time(), flag(), flag()});
@@ -235,37 +143,37 @@ void Play::displaySearchRange()
         ruler()->displaySearchTimeRange(flag());
 }
 
-void Play::setResultRange()
+void TimelinePlay::setResultRange()
 {
     const QDateTime from = time();
     const QDateTime to = time();
     ruler()->setResultTimeRange(from, to, flag(), flag(), flag(), flag());
 }
 
-void Play::addMarkers()
+void TimelinePlay::addMarkers()
 {
     const QList<RulerMarker> added = m_values.markers();
     m_added += added;
     ruler()->onAddMarkers(added);
 }
 
-void Play::removeMarkers()
+void TimelinePlay::removeMarkers()
 {
     if (!m_added.isEmpty())
         ruler()->onRemoveMarkers({m_added.takeAt(number(0, int(m_added.size()) - 1))});
 }
 
-void Play::operateOnMarkers()
+void TimelinePlay::operateOnMarkers()
 {
     ruler()->onMarkerOperation({flag() ? m_values.markers() : QList<RulerMarker>(), number(0, 6)});
 }
 
-void Play::setIconSize()
+void TimelinePlay::setIconSize()
 {
     ruler()->setIconSize({number(-1, 80), number(-1, 80)});
 }
 
-void Play::setLook()
+void TimelinePlay::setLook()
 {
     ruler()->setHeaderColor(flag() ? Qt::white : Qt::black);
     ruler()->setBodyColor(flag() ? QColor() : Qt::gray);
@@ -282,7 +190,7 @@ void Play::setLook()
     m_stage.window()->setLayoutDirection(flag() ? Qt::RightToLeft : Qt::LeftToRight);
 }
 
-void Play::setFont()
+void TimelinePlay::setFont()
 {
     const int points = number(-1, 210);
     if (timeline())
@@ -291,7 +199,7 @@ void Play::setFont()
         ruler()->setFontSize(unsigned(points));
 }
 
-void Play::setModes()
+void TimelinePlay::setModes()
 {
     const bool result = flag();
     const bool play = flag();
@@ -304,13 +212,13 @@ void Play::setModes()
     }
 }
 
-void Play::setActive()
+void TimelinePlay::setActive()
 {
     const bool active = number(0, 3) > 0;
     m_stage.setActive(active, number(0, 3) == 0);
 }
 
-void Play::blockViewChanges()
+void TimelinePlay::blockViewChanges()
 {
     ruler()->blockSignalTimeLineViewChanged(true);
     perform();
@@ -320,12 +228,12 @@ void Play::blockViewChanges()
     ruler()->processTimeLineViewChanges();
 }
 
-void Play::askForView()
+void TimelinePlay::askForView()
 {
     ruler()->onTimeLineViewSettingsNeeded();
 }
 
-void Play::resize()
+void TimelinePlay::resize()
 {
     if (flag())
         m_stage.top()->setMinimumSize(0, 0);
@@ -334,13 +242,13 @@ void Play::resize()
     m_stage.window()->resize(number(0, 2200), number(0, 300));
 }
 
-void Play::setVisible()
+void TimelinePlay::setVisible()
 {
     QWidget* const widget = flag() ? ruler() : m_stage.top();
     widget->setVisible(flag());
 }
 
-void Play::armReaction()
+void TimelinePlay::armReaction()
 {
     const int before = number(0, 6);
     switch (number(0, 7)) {
@@ -357,98 +265,8 @@ void Play::armReaction()
     }
 }
 
-void Play::move()
-{
-    m_stage.mouse(QEvent::MouseMove, place());
-}
-
-void Play::press()
-{
-    const QPoint at = place();
-    m_stage.mouse(QEvent::MouseButtonPress, at, button(),
-                  flag() ? Qt::ShiftModifier : Qt::NoModifier);
-}
-
-void Play::release()
-{
-    const QPoint at = place();
-    m_stage.mouse(QEvent::MouseButtonRelease, at, button());
-}
-
-void Play::drag()
-{
-    const Qt::MouseButton held = button();
-    m_stage.mouse(QEvent::MouseButtonPress, place(), held);
-    for (int moves = number(0, 5); moves > 0; --moves)
-        m_stage.mouse(QEvent::MouseMove, place());
-    if (number(0, 3) > 0)
-        m_stage.mouse(QEvent::MouseButtonRelease, place(), held);
-    else if (flag())
-        m_stage.forgetButtons();
-}
-
-void Play::turnWheel()
-{
-    const QPoint at = place();
-    QWidget* const target = m_stage.window()->childAt(at);
-    if (!target)
-        return;
-    const QPoint angle(number(-240, 240), number(-240, 240));
-    QWheelEvent event(target->mapFrom(m_stage.window(), at), m_stage.window()->mapToGlobal(at),
-                      flag() ? angle : QPoint(), angle, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(target, &event);
-}
-
-void Play::pressKey()
-{
-    static constexpr std::array keys{
-        Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown,
-        Qt::Key_Plus,  Qt::Key_Minus,  Qt::Key_0,    Qt::Key_N,   Qt::Key_P,      Qt::Key_Tab,
-        Qt::Key_Space, Qt::Key_Escape, Qt::Key_I,    Qt::Key_O,   Qt::Key_Delete};
-    QWidget* const focused = QApplication::focusWidget();
-    QWidget* const target = focused && flag() ? focused : ruler();
-    const Qt::KeyboardModifiers modifiers = m_values.pick(std::array<Qt::KeyboardModifiers, 3>{
-        Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier});
-    const int key = m_values.pick(keys);
-    const QPointer<QWidget> alive(target);
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        if (QKeyEvent event(type, key, modifiers); alive)
-            QApplication::sendEvent(alive, &event);
-    }
-}
-
-void Play::loseFocus()
-{
-    static constexpr std::array types{QEvent::Leave, QEvent::WindowDeactivate, QEvent::FocusOut,
-                                      QEvent::LanguageChange, QEvent::PaletteChange};
-    switch (number(0, 2)) {
-    case 0: {
-        QEvent event(m_values.pick(types));
-        if (event.type() != QEvent::FocusOut)
-            QApplication::sendEvent(flag() ? ruler() : m_stage.top(), &event);
-        return;
-    }
-    case 1:
-        m_stage.window()->clearFocus();
-        return;
-    default:
-        m_stage.window()->hide();
-        m_stage.window()->show();
-    }
-}
-
-void Play::passTime()
-{
-    m_stage.fireTimers();
-    if (flag())
-        QApplication::processEvents();
-    if (flag() && m_stage.window()->isVisible())
-        m_stage.window()->grab();
-}
-
 /// What is off by default.
-void Play::setAdditions()
+void TimelinePlay::setAdditions()
 {
     // The client may delete the ruler in any of the signals.
     constexpr void (Ruler::*switches[])(bool) = {
@@ -474,7 +292,7 @@ void Play::setAdditions()
         timeline()->setLanesVisible(flag());
 }
 
-void Play::changeView()
+void TimelinePlay::changeView()
 {
     switch (number(0, 5)) {
     case 0:
@@ -490,19 +308,20 @@ void Play::changeView()
     default: {
         const qint64 from = qint64(instant());
         const qint64 length = number(-10, 100'000);
-        ruler()->setView(from, flag() && from < TimelineValues::base * 2 ? from + length
-                                                                         : qint64(instant()));
+        ruler()->setView(from, flag() && from < qint64(2 * TimelineValues::base)
+                                   ? from + length
+                                   : qint64(instant()));
     }
     }
 }
 
-void Play::perform()
+void TimelinePlay::perform()
 {
     if (ruler())
         (this->*operations[size_t(number(0, int(operations.size()) - 1))])();
 }
 
-void Play::run()
+void TimelinePlay::run()
 {
     m_stage.setActive(true, false);
     ruler()->setPreviewEnabled(true);
@@ -515,6 +334,8 @@ void Play::run()
     }
     m_stage.checkIdle();
 }
+
+namespace {
 
 void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
@@ -555,6 +376,6 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    Play(data, size).run();
+    TimelinePlay(data, size).run();
     return 0;
 }

@@ -110,6 +110,14 @@ void TimelineStage::watch()
                                  "new markers are told in order");
                          signalled();
                      });
+    watchChoices();
+}
+
+/// What the user chose, which is not of the view.
+void TimelineStage::watchChoices()
+{
+    Ruler* const ruler = m_ruler;
+    QWidget* const context = m_window.get();
     const auto jumped = [this](const QDateTime& time) {
         require(time.isValid(), "a jump leads somewhere");
         signalled();

@@ -47,6 +47,7 @@ public:
 
 private:
     void watch();
+    void watchChoices();
     void signalled();
     bool takesInput() const { return m_active && !m_blocked; }
 

@@ -159,16 +159,27 @@ QList<RulerMarker> lastingMarkers()
 
 } // namespace
 
-ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
+ZoomTimelinePage::ZoomTimelinePage(QWidget* parent)
+    : QWidget(parent), m_layout(new QVBoxLayout(this))
 {
-    auto* layout = new QVBoxLayout(this);
-    const auto add = [&](const QString& caption) {
-        layout->addWidget(new QLabel(caption, this));
-        ZoomTimeline* timeline = createTimeline(this);
-        layout->addWidget(timeline);
-        return timeline;
-    };
+    addMarkers();
+    addActivityAndLanes();
+    addRanges();
+    addFreeZoom();
+    addStates();
+    m_layout->addStretch();
+}
 
+ZoomTimeline* ZoomTimelinePage::add(const QString& caption)
+{
+    m_layout->addWidget(new QLabel(caption, this));
+    ZoomTimeline* timeline = createTimeline(this);
+    m_layout->addWidget(timeline);
+    return timeline;
+}
+
+void ZoomTimelinePage::addMarkers()
+{
     add(tr("Sparse markers"))->ruler()->onAddMarkers(markers(50 * minute));
     add(tr("Crowded markers"))->ruler()->onAddMarkers(markers(7 * minute));
 
@@ -176,7 +187,10 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     details->ruler()->setMarkerDetails(true);
     details->ruler()->setMergedClick(Ruler::MergedClick::List);
     details->ruler()->onAddMarkers(lastingMarkers());
+}
 
+void ZoomTimelinePage::addActivityAndLanes()
+{
     ZoomTimeline* busy = add(tr("Activity in the overview"));
     busy->setActivityVisible(true);
     busy->ruler()->onAddMarkers(busyMarkers());
@@ -189,13 +203,16 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     lanes->setActivityVisible(true);
     lanes->setCurrentTrack(u"2"_s);
 
-    ZoomTimeline* search = add(tr("Search range"));
-    search->setSearchTimeRange(at(middle - 2 * hour), at(middle + 3 * hour), false);
-
     ZoomTimeline* loading = add(tr("Part of it is loading"));
     loading->ruler()->setLoading(u"gate"_s, {middle + hour, middle + 3 * hour}, true);
     loading->ruler()->setLoading(u"gate"_s, {middle - 4 * hour, middle - 3 * hour}, true);
     loading->setLanesVisible(true);
+}
+
+void ZoomTimelinePage::addRanges()
+{
+    ZoomTimeline* search = add(tr("Search range"));
+    search->setSearchTimeRange(at(middle - 2 * hour), at(middle + 3 * hour), false);
 
     ZoomTimeline* selected = add(tr("A selected range; a drag selects another one"));
     selected->ruler()->onAddMarkers(markers(50 * minute));
@@ -216,7 +233,10 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     preview->ruler()->setPreviewEnabled(true);
     preview->onChangedPreviewIndicatorTime(quint64(middle - 3 * hour));
     preview->ruler()->onPreviewVisible(true, false);
+}
 
+void ZoomTimelinePage::addFreeZoom()
+{
     // The night in which the clocks go back.
     constexpr qint64 change = 1'792'890'000'000; // 2026-10-25T01:00Z
     ZoomTimeline* free = add(tr("Zoomed freely, with steps that people count in"));
@@ -228,7 +248,10 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     free->ruler()->setTouchGestures(true);
     free->ruler()->setView(change - 5 * hour, change + 5 * hour);
     free->setIndicatorPosition(quint64(change - 30 * minute));
+}
 
+void ZoomTimelinePage::addStates()
+{
     add(tr("Blocked"))->setActive(true, true);
     add(tr("Inactive"))->setActive(false, false);
 
@@ -241,11 +264,10 @@ ZoomTimelinePage::ZoomTimelinePage(QWidget* parent) : QWidget(parent)
     large->ruler()->changeLevel(2, 0.5);
     large->ruler()->onAddMarkers(markers(20 * minute));
 
-    layout->addWidget(new QLabel(tr("Without a period"), this));
+    m_layout->addWidget(new QLabel(tr("Without a period"), this));
     auto* empty = new ZoomTimeline(this);
     empty->setOrvaneGuiTheme(true);
-    layout->addWidget(empty);
-    layout->addStretch();
+    m_layout->addWidget(empty);
 }
 
 } // namespace Gallery

@@ -2,6 +2,12 @@
 
 #include <QWidget>
 
+class QVBoxLayout;
+
+namespace CorvelGui {
+class ZoomTimeline;
+}
+
 namespace Gallery {
 
 /// The whole timeline in the states that a user meets.
@@ -11,6 +17,16 @@ class ZoomTimelinePage : public QWidget
 
 public:
     explicit ZoomTimelinePage(QWidget* parent);
+
+private:
+    CorvelGui::ZoomTimeline* add(const QString& caption);
+    void addMarkers();
+    void addActivityAndLanes();
+    void addRanges();
+    void addFreeZoom();
+    void addStates();
+
+    QVBoxLayout* const m_layout;
 };
 
 } // namespace Gallery

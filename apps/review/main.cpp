@@ -12,6 +12,8 @@
 #include <QImage>
 #include <QPixmap>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 using namespace Review;
 
@@ -33,7 +35,32 @@ QString settingsFile(const Arguments& arguments)
     return SettingsStore::userFile();
 }
 
-int takePicture(QWidget& window, const QString& path)
+/// What ends the program before it has a window: an answer, or a refusal.
+std::optional<ExitCode> answer(CommandLine& commandLine, const QStringList& arguments)
+{
+    switch (commandLine.parse(arguments)) {
+    case CommandLine::Outcome::Answered:
+        Console::print(commandLine.message());
+        return Success;
+    case CommandLine::Outcome::Refused:
+        return ExitCode(fail(BadUsage, commandLine.message()));
+    case CommandLine::Outcome::Run:
+        break;
+    }
+    return {};
+}
+
+ReviewSettings settingsFor(const Arguments& arguments, SettingsStore& store)
+{
+    ReviewSettings settings = store.settings();
+    settings.zone = arguments.zone.value_or(settings.zone);
+    settings.dark = arguments.dark.value_or(settings.dark);
+    settings.language = arguments.language.value_or(settings.language);
+    store.assume(settings);
+    return settings;
+}
+
+int writePictureOf(QWidget& window, const QString& path)
 {
     // What is asked for only by now, such as the place for lanes that have just appeared.
     QCoreApplication::sendPostedEvents();
@@ -42,6 +69,44 @@ int takePicture(QWidget& window, const QString& path)
         return Success;
     return fail(Failure, QApplication::translate("Review", "Cannot write %1: %2")
                              .arg(QDir::toNativeSeparators(path), error));
+}
+
+/// Leaves a picture of the window, once it shows what it loaded, and ends the program.
+void takePicture(ReviewWindow& window, const Arguments& arguments)
+{
+    const auto finish = [&window, path = arguments.picture] {
+        QApplication::exit(writePictureOf(window, path));
+    };
+    // Layouts and markers come to rest in several steps.
+    const auto finishWhenIdle = [&window, finish] {
+        QObject::connect(QAbstractEventDispatcher::instance(),
+                         &QAbstractEventDispatcher::aboutToBlock, &window, finish,
+                         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    };
+    // The sample looks best from close by; of a user's own files everything is shown.
+    if (arguments.files.isEmpty())
+        window.showMiddleDay();
+    if (window.awaitsPictures())
+        QObject::connect(&window, &ReviewWindow::settled, &window, finishWhenIdle,
+                         Qt::SingleShotConnection);
+    else
+        finishWhenIdle();
+}
+
+void begin(ReviewWindow& window, const Arguments& arguments)
+{
+    QObject::connect(
+        &window, &ReviewWindow::loaded, &window,
+        [&window, &arguments](const QString& error) {
+            if (!error.isEmpty())
+                QApplication::exit(fail(BadUsage, error));
+            else if (!arguments.picture.isEmpty())
+                takePicture(window, arguments);
+            else if (arguments.files.isEmpty())
+                window.play();
+        },
+        Qt::SingleShotConnection);
+    window.load(arguments.files);
 }
 
 } // namespace
@@ -55,15 +120,8 @@ int main(int argc, char* argv[])
         // Help and refusals need no display.
         const QCoreApplication console(argc, argv);
         Languages::useForPrinting();
-        switch (commandLine.parse(QCoreApplication::arguments())) {
-        case CommandLine::Outcome::Answered:
-            Console::print(commandLine.message());
-            return Success;
-        case CommandLine::Outcome::Refused:
-            return fail(BadUsage, commandLine.message());
-        case CommandLine::Outcome::Run:
-            break;
-        }
+        if (const auto code = answer(commandLine, QCoreApplication::arguments()))
+            return *code;
     }
     const Arguments& arguments = commandLine.arguments();
 
@@ -71,11 +129,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
     const QApplication application(argc, argv);
     SettingsStore store(settingsFile(arguments));
-    ReviewSettings settings = store.settings();
-    settings.zone = arguments.zone.value_or(settings.zone);
-    settings.dark = arguments.dark.value_or(settings.dark);
-    settings.language = arguments.language.value_or(settings.language);
-    store.assume(settings);
+    const ReviewSettings settings = settingsFor(arguments, store);
 
     ReviewWindow window(settings.zone, settings.dark);
     window.setCenterPosAndResize();
@@ -85,35 +139,6 @@ int main(int argc, char* argv[])
     else if (!arguments.picture.isEmpty())
         window.resize(1200, 700);
     window.show();
-
-    const auto finish = [&] {
-        QApplication::exit(takePicture(window, arguments.picture));
-    };
-    // Layouts and markers come to rest in several steps.
-    const auto finishWhenIdle = [&] {
-        QObject::connect(QAbstractEventDispatcher::instance(),
-                         &QAbstractEventDispatcher::aboutToBlock, &window, finish,
-                         Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
-    };
-    QObject::connect(
-        &window, &ReviewWindow::loaded, &window,
-        [&](const QString& error) {
-            if (!error.isEmpty()) {
-                QApplication::exit(fail(BadUsage, error));
-            } else if (!arguments.picture.isEmpty()) {
-                // The sample looks best from close by; of a user's own files everything is shown.
-                if (arguments.files.isEmpty())
-                    window.showMiddleDay();
-                if (window.awaitsPictures())
-                    QObject::connect(&window, &ReviewWindow::settled, &window, finishWhenIdle,
-                                     Qt::SingleShotConnection);
-                else
-                    finishWhenIdle();
-            } else if (arguments.files.isEmpty()) {
-                window.play();
-            }
-        },
-        Qt::SingleShotConnection);
-    window.load(arguments.files);
+    begin(window, arguments);
     return QApplication::exec();
 }

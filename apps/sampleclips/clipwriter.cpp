@@ -30,7 +30,13 @@ struct ClipWriter::Private
 ClipWriter::ClipWriter(const QString& path, QSize size, const Format& format)
     : d(std::make_unique<Private>())
 {
-    openFile(path, size, format);
+    const QByteArray url = "file:" + path.toUtf8();
+    AVFormatContext* context = nullptr;
+    if (!check(avformat_alloc_output_context2(&context, nullptr, nullptr, url.constData())))
+        return;
+    d->format.reset(context);
+    if (openEncoder(size, format) && openFile(url, format.creationTime))
+        makeFrame();
 }
 
 ClipWriter::~ClipWriter() = default;
@@ -42,19 +48,11 @@ bool ClipWriter::check(int result)
     return m_fault.isEmpty();
 }
 
-void ClipWriter::openFile(const QString& path, QSize size, const Format& format)
+bool ClipWriter::openEncoder(QSize size, const Format& format)
 {
-    const QByteArray url = "file:" + path.toUtf8();
-    AVFormatContext* context = nullptr;
-    if (!check(avformat_alloc_output_context2(&context, nullptr, nullptr, url.constData())))
-        return;
-    d->format.reset(context);
     const AVCodec* encoder = avcodec_find_encoder_by_name(format.encoder.constData());
-    if (!encoder) {
-        check(AVERROR_ENCODER_NOT_FOUND);
-        return;
-    }
-
+    if (!encoder)
+        return check(AVERROR_ENCODER_NOT_FOUND);
     d->codec.reset(avcodec_alloc_context3(encoder));
     AVCodecContext& codec = *d->codec;
     const bool isJpeg = encoder->id == AV_CODEC_ID_MJPEG;
@@ -70,7 +68,7 @@ void ClipWriter::openFile(const QString& path, QSize size, const Format& format)
         codec.flags |= AV_CODEC_FLAG_QSCALE;
         codec.global_quality = FF_QP2LAMBDA * format.quantizer;
     }
-    if (context->oformat->flags & AVFMT_GLOBALHEADER)
+    if (d->format->oformat->flags & AVFMT_GLOBALHEADER)
         codec.flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     // Encoders that know presets work quickly, and say nothing.
     silenceFFmpeg();
@@ -79,27 +77,37 @@ void ClipWriter::openFile(const QString& path, QSize size, const Format& format)
     av_dict_set(&codecOptions, "x265-params", "log-level=none", 0);
     const int opened = avcodec_open2(&codec, encoder, &codecOptions);
     av_dict_free(&codecOptions);
-    if (!check(opened))
-        return;
+    return check(opened);
+}
 
-    d->stream = avformat_new_stream(context, nullptr);
+bool ClipWriter::openFile(const QByteArray& url, qint64 creationTime)
+{
+    AVFormatContext& file = *d->format;
+    const AVCodecContext& codec = *d->codec;
+    d->stream = avformat_new_stream(&file, nullptr);
     d->stream->time_base = codec.time_base;
     d->stream->avg_frame_rate = codec.framerate;
     if (!check(avcodec_parameters_from_context(d->stream->codecpar, &codec)))
-        return;
-    if (format.creationTime != 0)
-        av_dict_set(&context->metadata, "creation_time",
-                    QDateTime::fromMSecsSinceEpoch(format.creationTime, Qt::UTC)
+        return false;
+    if (creationTime != 0)
+        av_dict_set(&file.metadata, "creation_time",
+                    QDateTime::fromMSecsSinceEpoch(creationTime, Qt::UTC)
                         .toString(Qt::ISODateWithMs)
                         .toUtf8()
                         .constData(),
                     0);
     AVDictionary* options = nullptr;
     av_dict_set(&options, "movflags", "+faststart", 0);
-    if (check(avio_open(&context->pb, url.constData(), AVIO_FLAG_WRITE)))
-        check(avformat_write_header(context, &options));
+    if (check(avio_open(&file.pb, url.constData(), AVIO_FLAG_WRITE)))
+        check(avformat_write_header(&file, &options));
     av_dict_free(&options);
+    return m_fault.isEmpty();
+}
 
+void ClipWriter::makeFrame()
+{
+    const AVCodecContext& codec = *d->codec;
+    const bool isJpeg = codec.codec_id == AV_CODEC_ID_MJPEG;
     d->packet.reset(av_packet_alloc());
     d->frame.reset(av_frame_alloc());
     d->frame->format = codec.pix_fmt;

@@ -33,7 +33,9 @@ public:
     const QString& fault() const { return m_fault; }
 
 private:
-    void openFile(const QString& path, QSize size, const Format& format);
+    bool openEncoder(QSize size, const Format& format);
+    bool openFile(const QByteArray& url, qint64 creationTime);
+    void makeFrame();
     bool check(int result);
     void writePackets();
 

@@ -34,18 +34,13 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_showRanges = addAction(QString());
     m_showRanges->setCheckable(true);
     // In menus only.
-    m_dragSelects = new QAction(this);
-    m_dragSelects->setCheckable(true);
-    m_showActivity = new QAction(this);
-    m_showActivity->setCheckable(true);
-    m_showLanes = new QAction(this);
-    m_showLanes->setCheckable(true);
-    m_showEventDetails = new QAction(this);
-    m_showEventDetails->setCheckable(true);
     m_previous = new QAction(this);
     m_next = new QAction(this);
-    m_freeZoom = new QAction(this);
-    m_freeZoom->setCheckable(true);
+    for (QAction** action :
+         {&m_dragSelects, &m_showActivity, &m_showLanes, &m_showEventDetails, &m_freeZoom}) {
+        *action = new QAction(this);
+        (*action)->setCheckable(true);
+    }
 
     m_zoomIn->setShortcut(QKeySequence::ZoomIn);
     m_zoomOut->setShortcut(QKeySequence::ZoomOut);
