@@ -53,6 +53,13 @@ QByteArray jpegTakenAt(const QByteArray& order, const QByteArray& time, const QB
     return "\xFF\xD8" + segment('\xE0', "JFIF") + segment('\xE1', exif) + "\xFF\xDA";
 }
 
+bool ends(LoadJob& job)
+{
+    QSignalSpy loaded(&job, &LoadJob::loaded);
+    job.start();
+    return loaded.wait();
+}
+
 } // namespace
 
 class TestFootage : public WarningFreeTest
@@ -154,9 +161,7 @@ void TestFootage::foldersAreScanned()
     unknown.close();
 
     LoadJob job(ReviewFiles::named({folder.path()}), QTimeZone("Europe/Brussels"));
-    QSignalSpy loaded(&job, &LoadJob::loaded);
-    job.start();
-    QVERIFY(loaded.wait());
+    QVERIFY(ends(job));
     QCOMPARE(job.error(), QString());
     QStringList found;
     for (const CorvelGui::TrackDescription& track : job.data().tracks)
@@ -176,9 +181,7 @@ void TestFootage::foldersAreScanned()
     // Without reading a file: there is none any more.
     QVERIFY(QDir(folder).removeRecursively());
     LoadJob corrected(job.read(), {{u"Gate"_s, {u"UTC"_s, -500}}, {u"Yard"_s, {u"UTC"_s, 0}}});
-    QSignalSpy again(&corrected, &LoadJob::loaded);
-    corrected.start();
-    QVERIFY(again.wait());
+    QVERIFY(ends(corrected));
     QCOMPARE(corrected.data().files[u"Gate"_s][0].begin, 1'772'446'499'500);
     QCOMPARE(std::ranges::count(corrected.data().tracks, 1'772'446'499'500,
                                 &CorvelGui::TrackDescription::begin),
@@ -188,9 +191,7 @@ void TestFootage::foldersAreScanned()
     QCOMPARE(std::ranges::count(yard, created + 60'000, &VideoFile::begin), 1);
 
     LoadJob nothing(ReviewFiles::named({folder.filePath(u"none"_s)}), QTimeZone::utc());
-    QSignalSpy ended(&nothing, &LoadJob::loaded);
-    nothing.start();
-    QVERIFY(ended.wait());
+    QVERIFY(ends(nothing));
     QVERIFY(nothing.error().startsWith(u"There are neither recordings nor events in "_s));
 }
 
