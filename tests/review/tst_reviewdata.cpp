@@ -227,21 +227,28 @@ private Q_SLOTS:
         const QString path =
             write(u"events.jsonl"_s,
                   "\xEF\xBB\xBF"
-                  "{\"time\":\"2026-03-02T00:02Z\",\"kind\":\"person\",\"track\":7}\n\n"
+                  "{\"time\":\"2026-03-02T00:02Z\",\"kind\":\"person\",\"track\":7,"
+                  "\"duration\":2.5,\"severity\":\"Alarm\"}\n\n"
                   "{\"kind\":\"car\",\"time\":\"2026-03-02T00:01Z\",\"text\":\"\xC3\xBC\","
-                  "\"camera\":\"b\",\"box\":[1]}\r\n"
+                  "\"camera\":\"b\",\"box\":[1],\"severity\":1}\r\n"
                   "[1]\n{\"kind\":\"x\"}\n{\"time\":\"now\",\"kind\":\"x\"}\n"
-                  "{\"time\":\"2026-03-02T00:01Z\",\"kind\":[]}\n{\"time\":");
+                  "{\"time\":\"2026-03-02T00:01Z\",\"kind\":[]}\n{\"time\":\n"
+                  "{\"time\":\"2026-03-02T00:01Z\",\"kind\":\"x\",\"duration\":\"-1\"}\n"
+                  "{\"time\":\"2026-03-02T00:01Z\",\"kind\":\"x\",\"severity\":4}");
         ReviewLoader loader;
         QCOMPARE(loader.load(ReviewFiles::named({path})), QString());
         QCOMPARE(loader.progress().percent(), 100);
-        QCOMPARE(loader.data().events, (Events{{monday + minute, u"car"_s, u"ü"_s, u"b"_s},
-                                               {monday + 2 * minute, u"person"_s, {}, u"7"_s}}));
-        QCOMPARE(problemsOf(loader),
-                 (QStringList{u"4 the line is no JSON object"_s, u"5 the object has no “time”"_s,
-                              u"6 “now” is not an ISO 8601 date and time"_s,
-                              u"7 “kind” is neither a text nor a number"_s,
-                              u"8 the line is no JSON object"_s}));
+        QCOMPARE(loader.data().events,
+                 (Events{{monday + minute, u"car"_s, u"ü"_s, u"b"_s, 0, Severity::Information},
+                         {monday + 2 * minute, u"person"_s, {}, u"7"_s, 2'500, Severity::Alarm}}));
+        QCOMPARE(loader.data().period(), (TimeSpan{monday + minute, monday + 2 * minute + 2'500}));
+        QCOMPARE(
+            problemsOf(loader),
+            (QStringList{u"4 the line is no JSON object"_s, u"5 the object has no “time”"_s,
+                         u"6 “now” is not an ISO 8601 date and time"_s,
+                         u"7 “kind” is neither a text nor a number"_s,
+                         u"8 the line is no JSON object"_s, u"9 “-1” is not a number of seconds"_s,
+                         u"10 “4” is neither none nor information, warning or alarm"_s}));
     }
 
     void cameraTraps()
@@ -279,9 +286,10 @@ private Q_SLOTS:
     void writtenEventsComeBack()
     {
         const qint64 time = monday + 237 * day + 30 * minute + 7;
-        const Events events{{day, u"x"_s, {}, u"ü"_s},
-                            {time, u"person"_s, u"\"a\", b; c\td"_s, u"10,1"_s},
-                            {time + hour, u"Auto"_s, u"two\r\nlines"_s, {}}};
+        const Events events{
+            {day, u"x"_s, {}, u"ü"_s, 1'000'000'000'000 - 1, {}},
+            {time, u"person"_s, u"\"a\", b; c\td"_s, u"10,1"_s, 1, Severity::None},
+            {time + hour, u"Auto"_s, u"two\r\nlines"_s, {}, hour, Severity::Warning}};
         // An hour apart, and on the first clock the same. The offset of the last one was at first
         // not one of whole minutes.
         const std::tuple<const char*, char, QByteArray, QByteArray> rows[] = {

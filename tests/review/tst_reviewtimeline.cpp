@@ -33,7 +33,7 @@ ReviewData smallReview()
     return {.tracks = {{u"a"_s, u"<b>Gate</b>"_s, monday, monday + day, {{noon, noon + hour}}},
                        {u"b"_s, u"Fence"_s, monday, noon, {{monday, monday + hour}}}},
             .events = {{noon - 6 * hour, u" PERSON "_s, u"<i>thin</i>"_s, u"b"_s},
-                       {noon, u"car"_s, u"vehicle"_s, u"a"_s},
+                       {noon, u"car"_s, u"vehicle"_s, u"a"_s, minute, Severity::Warning},
                        {noon + 6 * hour, u"ghost"_s, u"boo"_s, QString()}}};
 }
 
@@ -88,8 +88,13 @@ private Q_SLOTS:
                 const qsizetype index = EventMarkers::indexOf(button->marker().identifier);
                 indexes.append(index);
                 // The marker is the event's in all that it says.
-                if (button->marker().time.toMSecsSinceEpoch() != data.events[index].time ||
-                    button->marker().iconIndex != int(EventKinds::parse(data.events[index].kind)))
+                const Event event = data.events[index];
+                const auto ofKind = index == 2 ? Severity::None : Severity::Information;
+                const CorvelGui::RulerMarker& marker = button->marker();
+                if (marker.time.toMSecsSinceEpoch() != event.time ||
+                    marker.iconIndex != int(EventKinds::parse(event.kind)) ||
+                    marker.duration != event.duration ||
+                    marker.severity != event.severity.value_or(ofKind))
                     indexes.append(-1);
             }
             return indexes;

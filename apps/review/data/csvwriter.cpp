@@ -50,4 +50,10 @@ QByteArray CsvWriter::timeText(qint64 msecs, const QTimeZone& zone)
         .toLatin1();
 }
 
+QByteArray CsvWriter::secondsText(qint64 msecs)
+{
+    constexpr int digits = 15; // all that a double has
+    return QByteArray::number(double(msecs) / 1'000, 'g', digits);
+}
+
 } // namespace Review

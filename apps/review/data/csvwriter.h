@@ -21,6 +21,8 @@ public:
 
     /// What the zone's clock shows, with its offset from UTC. @p msecs since the Unix epoch.
     static QByteArray timeText(qint64 msecs, const QTimeZone& zone);
+    /// Milliseconds as seconds, with as many decimals as it takes.
+    static QByteArray secondsText(qint64 msecs);
 
 private:
     const char m_separator;

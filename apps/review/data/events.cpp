@@ -36,7 +36,25 @@ Event Events::operator[](qsizetype index) const
     return {.time = timeAt(index),
             .kind = kinds()[kindAt(index)],
             .text = textAt(index),
-            .track = tracks()[trackAt(index)]};
+            .track = tracks()[trackAt(index)],
+            .duration = durationAt(index),
+            .severity = severityAt(index)};
+}
+
+qint64 Events::durationAt(qsizetype index) const
+{
+    const Record& record = m_records[index];
+    qint64 duration = 0;
+    if (record.lasts)
+        std::memcpy(&duration, m_texts.constData() + record.text - sizeof duration,
+                    sizeof duration);
+    return duration;
+}
+
+std::optional<Severity> Events::severityAt(qsizetype index) const
+{
+    const quint32 severity = m_records[index].severity;
+    return severity == noSeverity ? std::nullopt : std::optional(Severity(severity));
 }
 
 QByteArrayView Events::utf8At(qsizetype index) const
@@ -54,12 +72,19 @@ qsizetype Events::firstFrom(qint64 msecs) const
 
 void Events::append(const Event& event)
 {
-    append(event.time, event.kind, event.text.toUtf8(), event.track);
+    append(event, event.text.toUtf8());
 }
 
-void Events::append(qint64 time, const QString& kind, QByteArrayView text, const QString& track)
+void Events::append(const Event& event, QByteArrayView text)
 {
-    m_records.append({time, keep(text), m_kinds.numberOf(kind), m_tracks.numberOf(track)});
+    const bool lasts = event.duration != 0;
+    m_records.append({.time = event.time,
+                      .text = lasts ? keep(event.duration, text) : keep(text),
+                      .track = m_tracks.numberOf(event.track),
+                      .kind = quint32(m_kinds.numberOf(event.kind)),
+                      .lasts = lasts,
+                      .severity = event.severity ? quint32(*event.severity) : noSeverity});
+    m_end = std::max(m_end, event.time + event.duration);
 }
 
 qint64 Events::keep(QByteArrayView text)
@@ -69,12 +94,25 @@ qint64 Events::keep(QByteArrayView text)
     if (known != m_knownTexts.cend())
         return *known;
     const qint64 begin = m_texts.size();
-    const auto length = Length(text.size());
-    m_texts.append(reinterpret_cast<const char*>(&length), sizeof length);
-    m_texts.append(text.data(), text.size());
+    appendText(text);
     if (m_knownTexts.size() < mostKnownTexts)
         m_knownTexts.insert(QByteArray(text.data(), text.size()), begin);
     return begin;
+}
+
+qint64 Events::keep(qint64 duration, QByteArrayView text)
+{
+    m_texts.append(reinterpret_cast<const char*>(&duration), sizeof duration);
+    const qint64 begin = m_texts.size();
+    appendText(text);
+    return begin;
+}
+
+void Events::appendText(QByteArrayView text)
+{
+    const auto length = Length(text.size());
+    m_texts.append(reinterpret_cast<const char*>(&length), sizeof length);
+    m_texts.append(text.data(), text.size());
 }
 
 void Events::sort()

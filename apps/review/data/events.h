@@ -1,5 +1,7 @@
 #pragma once
 
+#include "severity.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QList>
@@ -7,10 +9,11 @@
 #include <QStringList>
 
 #include <initializer_list>
+#include <optional>
 
 namespace Review {
 
-/// Something that happened at one moment.
+/// Something that happened.
 struct Event
 {
     /// Milliseconds since the Unix epoch.
@@ -19,6 +22,10 @@ struct Event
     QString text;
     /// Identifier of the track that it belongs to; empty if it belongs to none.
     QString track;
+    /// Milliseconds from its time to its end; 0 for a moment.
+    qint64 duration = 0;
+    /// None for what is as bad as its kind says.
+    std::optional<Severity> severity = {};
 
     bool operator==(const Event&) const = default;
 };
@@ -48,10 +55,12 @@ public:
     bool isEmpty() const { return m_records.isEmpty(); }
     Event operator[](qsizetype index) const;
     qint64 timeAt(qsizetype index) const { return m_records[index].time; }
+    qint64 durationAt(qsizetype index) const;
+    std::optional<Severity> severityAt(qsizetype index) const;
     QString textAt(qsizetype index) const { return QString::fromUtf8(utf8At(index)); }
     QByteArrayView utf8At(qsizetype index) const;
     /// Number of the event's kind in kinds().
-    int kindAt(qsizetype index) const { return m_records[index].kind; }
+    int kindAt(qsizetype index) const { return int(m_records[index].kind); }
     const QStringList& kinds() const { return m_kinds.texts(); }
     /// Number of the event's track in tracks().
     int trackAt(qsizetype index) const { return m_records[index].track; }
@@ -59,10 +68,12 @@ public:
     const QStringList& tracks() const { return m_tracks.texts(); }
     /// The first event that did not happen before @p msecs, or size().
     qsizetype firstFrom(qint64 msecs) const;
+    /// When the last of them has ended; 0 without any.
+    qint64 end() const { return m_end; }
 
     void append(const Event& event);
-    /// @p text is UTF-8.
-    void append(qint64 time, const QString& kind, QByteArrayView text, const QString& track);
+    /// @p text is UTF-8, and stands for that of the event.
+    void append(const Event& event, QByteArrayView text);
     /// Brings them into the order of time, those of one time in that of their coming, and gives
     /// back the memory that further ones would have taken.
     void sort();
@@ -74,13 +85,20 @@ private:
     {
         qint64 time;
         qint64 text; ///< where it begins in m_texts, with its length in front
-        int kind;
         int track;
+        quint32 kind : 28;
+        quint32 lasts : 1;    ///< then its duration is in front of the text, too
+        quint32 severity : 3; ///< or noSeverity
     };
 
     qint64 keep(QByteArrayView text);
+    qint64 keep(qint64 duration, QByteArrayView text);
+    void appendText(QByteArrayView text);
+
+    static constexpr quint32 noSeverity = severityWords.size();
 
     QList<Record> m_records;
+    qint64 m_end = 0;
     QByteArray m_texts;
     Words m_kinds;
     Words m_tracks;

@@ -54,6 +54,21 @@ LineFault LineParser::parseSeconds(QByteArrayView text, qint64& msecs)
     return {};
 }
 
+LineFault LineParser::parseSeverity(QByteArrayView text, std::optional<Severity>& severity)
+{
+    severity.reset();
+    for (std::size_t i = 0; i < severityWords.size(); ++i) {
+        if (text.compare(severityWords[i], Qt::CaseInsensitive) == 0 ||
+            text == QByteArray::number(qulonglong(i)))
+            severity = Severity(i);
+    }
+    if (severity || text.isEmpty())
+        return {};
+    return {lineContext,
+            QT_TR_NOOP("“%1” is neither none nor information, warning or alarm"),
+            {excerpt(text)}};
+}
+
 LineFault LineParser::parseTrackSpan(const CsvTable::Values& values, QString& track, TimeSpan& span)
 {
     track = QString::fromUtf8(values[0]);

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "csvtable.h"
+#include "severity.h"
 
 #include <CorvelGui/TrackDescription>
 
 #include <QCoreApplication>
+
+#include <optional>
 
 namespace Review {
 
@@ -21,6 +24,9 @@ public:
                                     CorvelGui::TimeSpan& span);
     /// Reads a number of seconds, 0 or more, with decimals or without. Empty counts as 0.
     static LineFault parseSeconds(QByteArrayView text, qint64& msecs);
+    /// Reads one of severityWords, in upper or lower case, or its number from 0 on. Empty counts as
+    /// none.
+    static LineFault parseSeverity(QByteArrayView text, std::optional<Severity>& severity);
 };
 
 } // namespace Review

@@ -21,7 +21,7 @@ TimeSpan ReviewData::period() const
             include(span.begin, span.end);
     }
     if (!events.isEmpty())
-        include(events.timeAt(0), events.timeAt(events.size() - 1));
+        include(events.timeAt(0), events.end());
     if (period.begin > period.end)
         return {};
     // A timeline of a single instant needs some width.

@@ -175,20 +175,27 @@ QString ReviewLoader::loadEvents(const QString& path)
     if (isCameraTrapSet(path))
         return loadCameraTraps(path);
     const auto addEvent = [this](const CsvTable::Values& values) {
-        qint64 time = 0;
-        LineFault fault = LineParser::parseTime(values[0], time);
-        if (fault.isEmpty() && values[1].isEmpty())
+        Event event;
+        event.kind = QString::fromUtf8(values[1]);
+        event.track = QString::fromUtf8(values[3]);
+        LineFault fault = LineParser::parseTime(values[0], event.time);
+        if (fault.isEmpty() && event.kind.isEmpty())
             fault = {"Review::ReviewLoader", QT_TR_NOOP("the event has no kind")};
         if (fault.isEmpty())
-            m_data.events.append(time, QString::fromUtf8(values[1]), values[2],
-                                 QString::fromUtf8(values[3]));
+            fault = LineParser::parseSeconds(values[4], event.duration);
+        if (fault.isEmpty())
+            fault = LineParser::parseSeverity(values[5], event.severity);
+        if (fault.isEmpty())
+            m_data.events.append(event, values[2]);
         return fault;
     };
+    const QStringList needed{u"time"_s, u"kind"_s};
+    const QStringList text{u"text"_s};
+    const QStringList optional{u"camera"_s, u"duration"_s, u"severity"_s};
     const QString error =
-        isJsonLines(path) ? JsonLines::read(path, {u"time"_s, u"kind"_s}, {u"text"_s, u"camera"_s},
-                                            addEvent, m_problems, m_progress)
-                          : CsvTable::read(path, {u"time"_s, u"kind"_s, u"text"_s}, {u"camera"_s},
-                                           addEvent, m_problems, m_progress);
+        isJsonLines(path)
+            ? JsonLines::read(path, needed, text + optional, addEvent, m_problems, m_progress)
+            : CsvTable::read(path, needed + text, optional, addEvent, m_problems, m_progress);
     m_data.events.sort();
     return error;
 }

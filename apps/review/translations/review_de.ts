@@ -336,8 +336,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Ungültige Größe „%1“: BREITExHÖHE, von %2x%3 bis %4x%5.</translation>
     </message>
     <message>
-        <source>Events, in the columns time, kind, text and, if there is one, camera.</source>
-        <translation>Ereignisse in den Spalten time, kind, text und, falls vorhanden, camera.</translation>
+        <source>Events, in the columns time, kind, text and, if there are any, camera, duration in seconds and severity.</source>
+        <translation>Ereignisse in den Spalten time, kind, text und, falls vorhanden, camera, duration in Sekunden und severity.</translation>
     </message>
     <message>
         <source>Periods in which the cameras were in service, in the columns camera, begin, end. Without one, a camera was from its first to its last recording.</source>
@@ -833,6 +833,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>“%1” is not a number of seconds</source>
         <translation>„%1“ ist keine Anzahl von Sekunden</translation>
+    </message>
+    <message>
+        <source>“%1” is neither none nor information, warning or alarm</source>
+        <translation>„%1“ ist weder none noch information, warning oder alarm</translation>
     </message>
 </context>
 <context>

@@ -86,7 +86,9 @@ QList<QCommandLineOption> CommandLine::options()
             "and "
             "offset: seconds into the file at begin."),
          file},
-        {u"events"_s, tr("Events, in the columns time, kind, text and, if there is one, camera."),
+        {u"events"_s,
+         tr("Events, in the columns time, kind, text and, if there are any, camera, duration in "
+            "seconds and severity."),
          file},
         {u"deployments"_s,
          tr("Periods in which the cameras were in service, in the columns camera, begin, end. "

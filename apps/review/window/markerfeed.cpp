@@ -66,7 +66,8 @@ void MarkerFeed::feed()
                         .iconIndex = int(kind),
                         .text = {},
                         .iconProvider = this,
-                        .severity = severityOf(kind)});
+                        .duration = events.durationAt(m_next),
+                        .severity = events.severityAt(m_next).value_or(severityOf(kind))});
     }
     if (m_next >= events.size())
         m_timer.stop();
