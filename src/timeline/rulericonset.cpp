@@ -121,9 +121,10 @@ void RulerIconSet::provide(const QSize& size, qreal devicePixelRatio) const
         return;
     std::erase_if(m_source->pictures, [](const auto& pictures) { return pictures.expired(); });
     for (const std::weak_ptr<const Pictures>& known : m_source->pictures) {
-        m_pictures = known.lock();
-        if (fits(*m_pictures))
+        if (const auto shared = known.lock(); fits(*shared)) {
+            m_pictures = shared;
             return;
+        }
     }
     auto pictures = std::make_shared<Pictures>(Pictures{size, devicePixelRatio, {}, {}, {}});
     const QImage master = m_source->icon.pixmap(masterSize, 1.0, QIcon::Active, QIcon::Off)
