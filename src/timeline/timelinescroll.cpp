@@ -146,6 +146,38 @@ void TimelineScroll::displaySearchTimeRange(bool display)
         update();
 }
 
+void TimelineScroll::setSelectedRange(double begin, double end)
+{
+    const OverviewRange range{begin, end};
+    if (d->selected == range)
+        return;
+    d->selected = range;
+    update();
+}
+
+// As the ruler shows it. One that is too short for the strip still has its ends.
+void TimelineScroll::Private::drawSelectedRange(QPainter& painter) const
+{
+    if (!(selected.begin < selected.end))
+        return;
+    const DeviceGrid grid(painter);
+    const double begin = std::trunc(xAt(selected.begin));
+    const double end = std::trunc(xAt(selected.end));
+    const auto fill = [&](double left, double right, const QColor& color) {
+        left = std::max(left, 1.0);
+        right = std::min(right, q->width() - 1.0);
+        if (left < right)
+            painter.fillRect(grid.aligned({QPointF(left, 1), QPointF(right, q->height() - 1)}),
+                             color);
+    };
+    QColor tint = selectionColor;
+    tint.setAlpha(selectionTint);
+    fill(begin, end, tint);
+    constexpr double halfEnd = 1.0;
+    for (const double x : {begin, end})
+        fill(x - halfEnd, x + halfEnd, selectionColor);
+}
+
 void TimelineScroll::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
@@ -185,6 +217,8 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
         painter.fillRect(grid.aligned(pixelRect(left, 3 * height() / 4, right, height() - 1)),
                          d->searchColor);
     }
+
+    d->drawSelectedRange(painter);
 
     const double x = d->xAt(d->indicatorPosition);
     if (x >= 0.0 && x <= width()) {

@@ -11,7 +11,8 @@
 namespace CorvelGui {
 
 /// The overview strip below the ruler: its width stands for the whole recording period, a box shows
-/// which part of it is in view, a line the play indicator, and a band the search range.
+/// which part of it is in view, a line the play indicator, and bands the search range and the
+/// selected one.
 ///
 /// The user drags the box, clicks beside it to page, or uses the keyboard: Left and Right move by a
 /// tenth of the view, Page Up and Page Down by the view, Home and End to the ends of the period.
@@ -74,6 +75,9 @@ public:
     void setSearchTimeRange(double begin, double end);
     void resetSearchTimeRange();
     void displaySearchTimeRange(bool display);
+
+    /// The range that is selected; it is drawn while it ends after it begins. At first it does not.
+    void setSelectedRange(double begin, double end);
 
 public Q_SLOTS:
     /// As setIndicatorPosition(); the absolute time @p msecs is not needed.

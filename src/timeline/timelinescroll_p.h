@@ -4,6 +4,7 @@
 #include "activitypicture.h"
 #include "keyboardfocus.h"
 #include "overviewbox.h"
+#include "rulerpainter.h"
 #include "timelinescroll.h"
 #include "viewareabox.h"
 
@@ -76,10 +77,12 @@ struct TimelineScroll::Private
         return tr("%1 percent").arg(QLocale().toString(shownPosition() * 100, 'f', 1));
     }
 
+    void drawSelectedRange(QPainter& painter) const;
     void drawBoxOverActivity(QPainter& painter, const QColor& color) const;
 
     enum class Hold { None, Box, Edge, BesideBox };
 
+    static constexpr int selectionTint = 90; // of 255
     static constexpr int plainHeight = 15;
     static constexpr int activityHeight = 30;
     static constexpr double keyStepsPerView = 10.0;
@@ -99,11 +102,13 @@ struct TimelineScroll::Private
     QColor borderColor{180, 180, 180};
     QColor inactiveBorderColor{180, 180, 180};
     QColor searchColor{28, 187, 255};
+    QColor selectionColor = RulerColors().selection;
 
     double searchBegin = 0.0;
     double searchEnd = 0.0;
     bool searchValid = false;
     bool searchDisplayed = false;
+    OverviewRange selected = {};
 
     bool hover = false;
     std::optional<int> mouseX; // while the mouse is inside

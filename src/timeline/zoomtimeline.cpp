@@ -60,6 +60,9 @@ ZoomTimeline::ZoomTimeline(QWidget* parent)
     });
     connect(m_lanes, &TimelineLanes::currentTrackChanged, this, &ZoomTimeline::currentTrackChanged);
     connect(m_ruler, &Ruler::activityChanged, m_scroll, &TimelineScroll::renewActivity);
+    // The limits say where it is on the strip.
+    connect(m_ruler, &Ruler::activityChanged, this, &ZoomTimeline::updateSelectedRange);
+    connect(m_ruler, &Ruler::selectedRangeChanged, this, &ZoomTimeline::updateSelectedRange);
     connect(m_scroll, &TimelineScroll::viewAreaResized, this, &ZoomTimeline::onViewAreaResized);
     connect(m_scroll, &TimelineScroll::activityVisibleChanged, this, [this](bool visible) {
         arrange();
@@ -395,6 +398,19 @@ void ZoomTimeline::updateSearchTimeRange()
                                      m_ruler->getPosition(m_searchEnd));
     else
         m_scroll->resetSearchTimeRange();
+}
+
+void ZoomTimeline::updateSelectedRange()
+{
+    const TimeSpan range = m_ruler->selectedRange();
+    const auto positionOf = [from = qint64(m_ruler->getTimeLimits().first),
+                             duration = double(m_ruler->getTotalDuration())](qint64 msecs) {
+        return double(msecs - from) / duration;
+    };
+    if (range.isEmpty())
+        m_scroll->setSelectedRange(0.0, 0.0);
+    else
+        m_scroll->setSelectedRange(positionOf(range.begin), positionOf(range.end));
 }
 
 void ZoomTimeline::displaySearchTimeRange(bool display)

@@ -124,6 +124,7 @@ private:
     void turnWheelOnStrip(const QWheelEvent* event);
     void updateViewArea();
     void updateSearchTimeRange();
+    void updateSelectedRange();
     void displaySearchTimeRange(bool display);
     void updateSearchDisplay();
 

@@ -216,6 +216,23 @@ private Q_SLOTS:
         QVERIFY(timeline.stripIsMarkedAt(0.25) && !timeline.stripIsMarkedAt(0.45));
     }
 
+    void selectedRangeOnTheStrip()
+    {
+        TestedTimeline timeline;
+        timeline.ruler()->setSelectedRange({qint64(at(2 * day)), qint64(at(4 * day))});
+        const auto isShownAt = [&](double fraction) {
+            const QImage image = timeline.strip();
+            return image.pixel(int(image.width() * fraction), 3) !=
+                   image.pixel(image.width() - 5, 3);
+        };
+        for (const double fraction : {0.15, 0.25, 0.35, 0.45})
+            QCOMPARE(isShownAt(fraction), qAbs(fraction - 0.3) < 0.1);
+        timeline.setTimeLimits(at(0), at(20 * day));
+        QVERIFY(isShownAt(0.15) && !isShownAt(0.25));
+        timeline.ruler()->setSelectedRange({});
+        QVERIFY(!isShownAt(0.15));
+    }
+
     void activity()
     {
         for (const bool active : {true, false}) {
