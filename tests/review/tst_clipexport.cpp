@@ -9,6 +9,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QLockFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void listsBeside();
     void allOrNothing_data();
     void allOrNothing();
+    void leftoversGo();
 
 private:
     static Camera camera(const QList<VideoFile>& files)
@@ -268,6 +270,35 @@ void TestClipExport::allOrNothing()
     QCOMPARE(job.error().isEmpty(), fault == u"cancel"_s);
     QCOMPARE(QDir(target.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList());
+}
+
+void TestClipExport::leftoversGo()
+{
+    const QTemporaryDir target;
+    QLockFile alive(m_sources.filePath(u"lock"_s));
+    QVERIFY(alive.lock());
+    const QByteArray lock = readFile(m_sources.filePath(u"lock"_s));
+    const QByteArray process = QByteArray::number(QCoreApplication::applicationPid());
+    QVERIFY(lock.startsWith(process + '\n'));
+    const QByteArray dead = "99999999" + lock.sliced(process.size());
+    const std::tuple<QString, QByteArray, bool> rows[] = {
+        {u".export-0a1b2c3d-0000-4000-8000-000000000001"_s, dead, false},
+        {u".export-0a1b2c3d-0000-4000-8000-000000000002"_s, lock, true},
+        {u".export-0a1b2c3d-0000-4000-8000-000000000003"_s, {}, true},
+        {u".export-mine"_s, dead, true}};
+    for (const auto& [name, content, stays] : rows) {
+        QVERIFY(QDir(target.path()).mkdir(name));
+        writeFile(target.filePath(name + u"/clip.mp4"_s), "clip");
+        writeFile(target.filePath(name + u".lock"_s), content);
+    }
+    ClipPlan wanted = plan({}, 0, day);
+    wanted.folder = target.path();
+    ClipExport job(wanted);
+    run(job);
+    for (const auto& [name, content, stays] : rows) {
+        QCOMPARE(QFile::exists(target.filePath(name + u"/clip.mp4"_s)), stays);
+        QCOMPARE(QFile::exists(target.filePath(name + u".lock"_s)), stays);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestClipExport)

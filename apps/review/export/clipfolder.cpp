@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QUuid>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +34,27 @@ QByteArray sumOf(const QString& path, const JobProgress& progress, QString& erro
     return isRead ? hash.result().toHex() : QByteArray();
 }
 
+constexpr QLatin1StringView hiddenPrefix(".export-");
+constexpr QLatin1StringView lockEnding(".lock");
+
+/// Nothing goes but what an export of this machine made whose process is gone.
+void removeLeftovers(const QDir& parent)
+{
+    const QStringList locks =
+        parent.entryList({hiddenPrefix + u'*' + lockEnding}, QDir::Files | QDir::Hidden);
+    for (const QString& name : locks) {
+        const QString path = parent.filePath(name.chopped(lockEnding.size()));
+        const QString unique = QFileInfo(path).fileName().sliced(hiddenPrefix.size());
+        if (QUuid::fromString(unique).toString(QUuid::WithoutBraces) != unique)
+            continue;
+        QLockFile lock(path + lockEnding);
+        lock.setStaleLockTime(0); // a lock does not grow stale by its age
+        const QFileInfo folder(path);
+        if (lock.tryLock(0) && folder.isDir() && !folder.isSymLink())
+            QDir(path).removeRecursively();
+    }
+}
+
 } // namespace
 
 ClipFolder::ClipFolder(const QString& parent, qint64 begin, const QTimeZone& zone)
@@ -50,8 +72,13 @@ ClipFolder::~ClipFolder()
 
 QString ClipFolder::create()
 {
+    const QDir parent(m_parent);
+    removeLeftovers(parent);
     const QString path =
-        QDir(m_parent).filePath(u".export-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces));
+        parent.filePath(hiddenPrefix + QUuid::createUuid().toString(QUuid::WithoutBraces));
+    // On a share that takes no locks, what a crash leaves stays there.
+    m_lock = std::make_unique<QLockFile>(path + lockEnding);
+    m_lock->tryLock(0);
     if (!QDir().mkdir(path))
         return QCoreApplication::translate("Review::ClipFolder", "No folder can be made in %1.")
             .arg(QDir::toNativeSeparators(m_parent));
@@ -118,6 +145,7 @@ QString ClipFolder::publish()
             .arg(QDir::toNativeSeparators(path));
     m_path = path;
     m_isWhole = true;
+    m_lock.reset();
     return {};
 }
 

@@ -7,12 +7,17 @@
 #include <QStringList>
 #include <QTimeZone>
 
+#include <memory>
+
+class QLockFile;
+
 namespace Review {
 
 class JobProgress;
 
 /// The folder that an export makes. It has a name that is hidden until it is whole, and goes with
-/// all in it unless it becomes so.
+/// all in it unless it becomes so. A lock beside it tells whether its process still lives: what a
+/// crash left goes with the next export into the same place.
 class ClipFolder
 {
 public:
@@ -41,6 +46,7 @@ private:
     const QString m_name;
     const QTimeZone m_zone;
     QString m_path; ///< where it is at present
+    std::unique_ptr<QLockFile> m_lock;
     bool m_isWhole = false;
     QSet<QString> m_taken; ///< in small letters
     QStringList m_listed;
