@@ -174,17 +174,21 @@ private Q_SLOTS:
 
     void filesAreRead()
     {
+        // Nobody looks at what is named before it is located.
+        const ReviewFiles named = ReviewFiles::named({m_dir.filePath(u"later"_s)});
+        QVERIFY(QDir(m_dir.path()).mkdir(u"later"_s));
         // The columns stand in any order.
-        const QString recordings = write(
-            u"recordings.csv"_s, "\xEF\xBB\xBF\"end\", note ,begin,\"track\",file,offset\r\n"
-                                 "2026-03-02T00:08Z,x, 2026-03-02T00:05Z ,b, b/1.mp4 , 2.5 \r\n"
-                                 "2026-03-02T00:02Z,,2026-03-02T00:01Z,\"a,c\",,\r\n"
-                                 "2026-03-02T00:04Z,x,2026-03-02T00:02Z,b,/b/2.ts,\r\n"
-                                 "2026-03-02T00:04Z,x,2026-03-02T00:02Z,c,/c.ts,-1\r\n");
-        const QString deployments =
-            write(u"deployments.csv"_s, "camera,begin,end\na,2026-03-02T00:01Z,2026-03-02T00:02Z\n"
-                                        "b,2026-03-02T00:03Z,2026-03-02T00:04Z\n"
-                                        "b,2026-03-02T00:08Z,2026-03-02T00:09Z\n");
+        const QString recordings =
+            write(u"later/recordings.csv"_s,
+                  "\xEF\xBB\xBF\"end\", note ,begin,\"track\",file,offset\r\n"
+                  "2026-03-02T00:08Z,x, 2026-03-02T00:05Z ,b, b/1.mp4 , 2.5 \r\n"
+                  "2026-03-02T00:02Z,,2026-03-02T00:01Z,\"a,c\",,\r\n"
+                  "2026-03-02T00:04Z,x,2026-03-02T00:02Z,b,/b/2.ts,\r\n"
+                  "2026-03-02T00:04Z,x,2026-03-02T00:02Z,c,/c.ts,-1\r\n");
+        write(u"later/deployments.csv"_s,
+              "camera,begin,end\na,2026-03-02T00:01Z,2026-03-02T00:02Z\n"
+              "b,2026-03-02T00:03Z,2026-03-02T00:04Z\n"
+              "b,2026-03-02T00:08Z,2026-03-02T00:09Z\n");
         // As spreadsheets write Unicode text.
         const QString lines = u"\uFEFFtext\tkind\ttime\n"
                               "später\tperson\t2026-03-02T00:02Z\n"
@@ -192,11 +196,9 @@ private Q_SLOTS:
                               "none\t\t2026-03-02T00:01Z\n"
                               "also later\talarm\t2026-03-02T00:02Z\n"_s;
         const QString events =
-            write(u"events.csv"_s, QStringEncoder(QStringEncoder::Utf16BE).encode(lines));
+            write(u"later/events.csv"_s, QStringEncoder(QStringEncoder::Utf16BE).encode(lines));
         ReviewLoader loader;
-        QCOMPARE(
-            loader.load({.recordings = recordings, .events = events, .deployments = deployments}),
-            QString());
+        QCOMPARE(loader.load(named.located()), QString());
         QCOMPARE(loader.progress().percent(), 100);
         const ReviewData& data = loader.data();
         QCOMPARE(tracksOf(data),
@@ -236,7 +238,7 @@ private Q_SLOTS:
                   "{\"time\":\"2026-03-02T00:01Z\",\"kind\":\"x\",\"duration\":\"-1\"}\n"
                   "{\"time\":\"2026-03-02T00:01Z\",\"kind\":\"x\",\"severity\":4}");
         ReviewLoader loader;
-        QCOMPARE(loader.load(ReviewFiles::named({path})), QString());
+        QCOMPARE(loader.load(ReviewFiles::named({path}).located()), QString());
         QCOMPARE(loader.progress().percent(), 100);
         QCOMPARE(loader.data().events,
                  (Events{{monday + minute, u"car"_s, u"ü"_s, u"b"_s, 0, Severity::Information},
@@ -265,7 +267,8 @@ private Q_SLOTS:
                 {"id": 3, "image_id": "x", "category_id": 0}, {"id": 4, "image_id": 4, "category_id": 1},
                 {"id": 5, "image_id": 1, "category_id": 9}]})");
         ReviewLoader loader;
-        QCOMPARE(loader.load(ReviewFiles::named({path}), QTimeZone("Europe/Brussels")), QString());
+        QCOMPARE(loader.load(ReviewFiles::named({path}).located(), QTimeZone("Europe/Brussels")),
+                 QString());
         QCOMPARE(loader.data().events,
                  (Events{{monday, u"animal"_s, u"Vulpes vulpes"_s, u"7"_s},
                          {monday + 5 * minute, u"empty"_s, u"empty"_s, u"b"_s}}));
@@ -278,7 +281,7 @@ private Q_SLOTS:
                               u"0 the annotation “5” is of no category"_s}));
         for (const char* bad : {"{", "[]", R"({"images":[],"annotations":{}})"})
             QVERIFY2(ReviewLoader()
-                         .load(ReviewFiles::named({write(u"bad.json"_s, bad)}))
+                         .load(ReviewFiles::named({write(u"bad.json"_s, bad)}).located())
                          .startsWith(u"Cannot read "_s),
                      bad);
     }

@@ -33,6 +33,23 @@ bool isCameraTrapSet(const QString& path)
     return endingOf(path) == u"json"_s;
 }
 
+/// By their names and endings.
+ReviewFiles sorted(const QStringList& paths)
+{
+    ReviewFiles files;
+    for (const QString& path : paths) {
+        const bool isCsv = endingOf(path) == u"csv"_s;
+        const QString name = QFileInfo(path).completeBaseName().toLower();
+        if (isCameraTrapSet(path) || isJsonLines(path) || (isCsv && name == u"events"_s))
+            files.events = path;
+        else if (isCsv)
+            (name == u"deployments"_s ? files.deployments : files.recordings) = path;
+        else
+            files.footage.append(path);
+    }
+    return files;
+}
+
 // An empty period that every other one extends.
 constexpr TimeSpan notDescribed{.begin = std::numeric_limits<qint64>::max(), .end = 0};
 
@@ -61,18 +78,29 @@ ReviewFiles ReviewFiles::inFolder(const QString& folder)
 
 ReviewFiles ReviewFiles::named(const QStringList& paths)
 {
-    if (paths.size() == 1 && QFileInfo(paths[0]).isDir())
-        return inFolder(paths[0]);
+    if (paths.size() != 1)
+        return sorted(paths);
     ReviewFiles files;
-    for (const QString& path : paths) {
-        const bool isCsv = endingOf(path) == u"csv"_s;
-        const QString name = QFileInfo(path).completeBaseName().toLower();
-        if (isCameraTrapSet(path) || isJsonLines(path) || (isCsv && name == u"events"_s))
-            files.events = path;
-        else if (isCsv)
-            (name == u"deployments"_s ? files.deployments : files.recordings) = path;
-        else
-            files.footage.append(path);
+    files.unseen = paths.first();
+    return files;
+}
+
+ReviewFiles ReviewFiles::located() const
+{
+    ReviewFiles files = *this;
+    if (!unseen.isEmpty()) {
+        files = QFileInfo(unseen).isDir() ? inFolder(unseen) : sorted({unseen});
+        files.pattern = pattern;
+        // Lists that were named for what they are count for more.
+        for (const auto list :
+             {&ReviewFiles::recordings, &ReviewFiles::events, &ReviewFiles::deployments}) {
+            if (!(this->*list).isEmpty())
+                files.*list = this->*list;
+        }
+    }
+    if (!files.footage.isEmpty()) {
+        const QFileInfo first(files.footage.first());
+        files.footageFolder = first.isDir() ? first.absoluteFilePath() : first.absolutePath();
     }
     return files;
 }
@@ -85,14 +113,6 @@ QString ReviewFiles::name() const
     if (!footage.isEmpty())
         return QFileInfo(footage.first()).fileName();
     return first.isEmpty() ? QString() : QFileInfo(first).absoluteDir().dirName();
-}
-
-QString ReviewFiles::footageFolder() const
-{
-    const QFileInfo first(footage.value(0));
-    if (footage.isEmpty())
-        return {};
-    return first.isDir() ? first.absoluteFilePath() : first.absolutePath();
 }
 
 qint64 ReviewFiles::size() const

@@ -22,25 +22,30 @@ struct ReviewFiles
     QStringList footage = {};
     /// How their paths are built; empty for the common ways.
     QString pattern = {};
+    /// A file or a folder at which nobody has looked as yet.
+    QString unseen = {};
+    /// The folder with clips and pictures, or that of the first single one; once located.
+    QString footageFolder = {};
 
     /// Those of recordings.csv, deployments.csv and events.csv, .jsonl or .json that are in
     /// @p folder. Where they name no recordings, the clips and pictures are looked for.
     static ReviewFiles inFolder(const QString& folder);
     /// What somebody means who names files and folders: lists by their names and endings, and
-    /// footage.
+    /// footage. Looks at none of them.
     static ReviewFiles named(const QStringList& paths);
+    /// The same, with what is found where nobody has looked as yet. That takes as long as a share
+    /// takes to answer.
+    ReviewFiles located() const;
 
     /// Of all of them, in bytes.
     qint64 size() const;
     bool isEmpty() const
     {
         return recordings.isEmpty() && events.isEmpty() && deployments.isEmpty() &&
-               footage.isEmpty();
+               footage.isEmpty() && unseen.isEmpty();
     }
-    /// What the user calls them: the folder that they are in.
+    /// What the user calls them, once located: the folder that they are in.
     QString name() const;
-    /// The path of the folder with clips and pictures; empty without one.
-    QString footageFolder() const;
 };
 
 /// Loads recordings, events and deployments from files. Malformed lines are left out and noted.

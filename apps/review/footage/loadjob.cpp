@@ -18,9 +18,14 @@ namespace Review {
 class LoadJob::Work
 {
 public:
-    explicit Work(const LoadedFiles& begin, bool hasRead) : loaded(begin), isRead(hasRead) {}
+    Work(const LoadedFiles& begin, const FolderCorrections& corrections)
+        : loaded(begin), isRead(false), ofFolders(corrections)
+    {}
+    Work(const LoadedFiles& known, const TimeCorrections& corrections)
+        : loaded(known), isRead(true), ofCameras(corrections)
+    {}
 
-    void run(const TimeCorrections& corrections);
+    void run();
 
     LoadedFiles loaded;
     const bool isRead;
@@ -30,9 +35,12 @@ public:
 
 private:
     void read();
+
+    const FolderCorrections ofFolders = {};
+    TimeCorrections ofCameras = {};
 };
 
-void LoadJob::Work::run(const TimeCorrections& corrections)
+void LoadJob::Work::run()
 {
     if (loaded.files.isEmpty()) {
         data = SampleData::make();
@@ -42,7 +50,7 @@ void LoadJob::Work::run(const TimeCorrections& corrections)
         read();
     if (!error.isEmpty() || loader.progress().isCancelled())
         return;
-    data = loaded.footage.addTo(loaded.listed, corrections);
+    data = loaded.footage.addTo(loaded.listed, ofCameras);
     data.sort();
     if (data.tracks.isEmpty() && data.events.isEmpty() && !loaded.files.footage.isEmpty())
         error = LoadJob::tr("There are neither recordings nor events in %1.")
@@ -51,7 +59,9 @@ void LoadJob::Work::run(const TimeCorrections& corrections)
 
 void LoadJob::Work::read()
 {
+    loaded.files = loaded.files.located();
     const ReviewFiles& files = loaded.files;
+    ofCameras = ofFolders.folders.value(files.footageFolder);
     if (!files.footage.isEmpty()) {
         FootageIndex index(FootageIndex::userFile());
         FootageScan scan(PathPattern(files.pattern), index, loader.progress());
@@ -63,23 +73,22 @@ void LoadJob::Work::read()
 }
 
 LoadJob::LoadJob(const ReviewFiles& files, const QTimeZone& zone,
-                 const TimeCorrections& corrections, QObject* parent)
-    : LoadJob(std::make_shared<Work>(LoadedFiles{files, {}, Footage(zone)}, false), corrections,
-              false, parent)
+                 const FolderCorrections& corrections, QObject* parent)
+    : LoadJob(std::make_shared<Work>(LoadedFiles{files, {}, Footage(zone)}, corrections), {},
+              parent)
 {}
 
 LoadJob::LoadJob(const LoadedFiles& known, const TimeCorrections& corrections, QObject* parent)
-    : LoadJob(std::make_shared<Work>(known, true), corrections, true, parent)
+    : LoadJob(std::make_shared<Work>(known, corrections), corrections, parent)
 {}
 
-LoadJob::LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, bool isCorrection,
-                 QObject* parent)
+LoadJob::LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, QObject* parent)
     : QObject(parent)
     , m_work(std::move(work))
     , m_files(m_work->loaded.files)
     , m_corrections(corrections)
-    , m_isCorrection(isCorrection)
-    , m_thread(QThread::create([work = m_work, corrections] { work->run(corrections); }))
+    , m_isCorrection(m_work->isRead)
+    , m_thread(QThread::create([work = m_work] { work->run(); }))
 {
     connect(m_thread, &QThread::finished, this, &LoadJob::end);
 }

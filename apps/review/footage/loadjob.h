@@ -27,7 +27,7 @@ public:
     /// Loads the sample when no file is named. Recordings whose times are without an offset were
     /// made in @p zone.
     LoadJob(const ReviewFiles& files, const QTimeZone& zone,
-            const TimeCorrections& corrections = {}, QObject* parent = nullptr);
+            const FolderCorrections& corrections = {}, QObject* parent = nullptr);
     /// Corrects the times of what was read before.
     LoadJob(const LoadedFiles& known, const TimeCorrections& corrections,
             QObject* parent = nullptr);
@@ -47,7 +47,9 @@ public:
     const ProblemList& problems() const;
     /// Why a file could not be read, or an empty string.
     QString error() const;
+    /// As they were named; those of read() are located.
     const ReviewFiles& files() const { return m_files; }
+    /// Those that were wanted, if it is a correction.
     const TimeCorrections& corrections() const { return m_corrections; }
     /// Whether nothing is new but the times.
     bool isCorrection() const { return m_isCorrection; }
@@ -60,8 +62,7 @@ Q_SIGNALS:
 private:
     class Work;
 
-    LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, bool isCorrection,
-            QObject* parent);
+    LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, QObject* parent);
     void end();
 
     const std::shared_ptr<Work> m_work;

@@ -33,17 +33,12 @@ ReviewOpener::~ReviewOpener() = default;
 void ReviewOpener::load(const ReviewFiles& files)
 {
     m_pattern = files.pattern;
-    start(std::make_unique<LoadJob>(files, m_clock.times().zone(), correctionsOf(files)));
-}
-
-TimeCorrections ReviewOpener::correctionsOf(const ReviewFiles& files) const
-{
-    return m_corrections.folders.value(files.footageFolder());
+    start(std::make_unique<LoadJob>(files, m_clock.times().zone(), m_corrections));
 }
 
 void ReviewOpener::correct(const TimeCorrections& corrections)
 {
-    m_corrections.folders.insert(m_loaded.files.footageFolder(), corrections);
+    m_corrections.folders.insert(m_loaded.files.footageFolder, corrections);
     if (!isLoading())
         start(std::make_unique<LoadJob>(m_loaded, corrections));
 }
@@ -75,7 +70,7 @@ void ReviewOpener::finish()
     Q_EMIT loadingChanged(false);
     Q_EMIT ended(*job);
     // Corrected meanwhile.
-    const TimeCorrections wanted = correctionsOf(m_loaded.files);
+    const TimeCorrections wanted = m_corrections.folders.value(m_loaded.files.footageFolder);
     if (!isLoading() && job->isCorrection() && job->corrections() != wanted)
         correct(wanted);
 }

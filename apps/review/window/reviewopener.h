@@ -50,7 +50,6 @@ Q_SIGNALS:
 private:
     void start(std::unique_ptr<LoadJob> job);
     void finish();
-    TimeCorrections correctionsOf(const ReviewFiles& files) const;
 
     QMainWindow* m_window;
     const Clock& m_clock;

@@ -116,7 +116,7 @@ void ReviewWindow::showLoaded(const LoadJob& job)
     }
     setReview(job.data(), job.problems());
     m_showsSample = job.files().isEmpty();
-    m_name = job.files().name();
+    m_name = job.read().files.name();
     showTitle();
     tellTimeSources(job.read().footage);
     m_menus->cameraTimes()->setEnabled(!job.read().footage.isEmpty());
@@ -134,7 +134,7 @@ void ReviewWindow::tellTimeSources(const Footage& footage)
 void ReviewWindow::correctTimes()
 {
     const LoadedFiles& loaded = m_opener->loaded();
-    const QString folder = loaded.files.footageFolder();
+    const QString folder = loaded.files.footageFolder;
     const QPointer dialog = new CameraTimesDialog(
         loaded.footage, m_opener->corrections().folders.value(folder), m_clock.times(), this);
     connect(dialog, &CameraTimesDialog::applied, this, [this, dialog] {
