@@ -101,7 +101,8 @@ std::vector<MarkerRun> mergeMarkers(const MarkerRow& row, std::size_t first, std
 {
     std::vector<MarkerRun> runs;
     while (first < last) {
-        const std::size_t end = RunEnd(row, first, last).find();
+        const bool isAlone = first + 1 == last || !row.place(first + 1).overlaps(row.place(first));
+        const std::size_t end = isAlone ? first + 1 : RunEnd(row, first, last).find();
         runs.push_back({first, end - 1, (first + end - 1) / 2});
         first = end;
     }
