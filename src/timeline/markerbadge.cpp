@@ -51,11 +51,11 @@ QSize MarkerBadge::size(const QFont& font) const
     return {std::max(width + 2 * badgePadding, badgeHeight), badgeHeight};
 }
 
-void MarkerBadge::draw(QPainter& painter, const QRect& area) const
+void MarkerBadge::draw(QPainter& painter, const QFont& font, const QRect& area) const
 {
     if (isNull())
         return;
-    QRectF badge(QPointF(), size(painter.font()));
+    QRectF badge(QPointF(), size(font));
     badge.moveBottom(area.bottom() + 1);
     badge.moveLeft(area.left() + (area.width() - badge.width()) / 2);
     painter.save();
@@ -65,7 +65,7 @@ void MarkerBadge::draw(QPainter& painter, const QRect& area) const
     const double radius = badge.height() / 2;
     painter.drawRoundedRect(badge.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.setPen(POrvGuiTheme::colorBlack);
-    painter.setFont(badgeFont(painter.font()));
+    painter.setFont(badgeFont(font));
     painter.drawText(badge, Qt::AlignCenter, text());
     painter.restore();
 }

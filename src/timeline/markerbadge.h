@@ -30,7 +30,7 @@ struct CORVELGUI_INTERNAL_EXPORT MarkerBadge
     QString text() const;
     QSize size(const QFont& font) const;
     /// Draws it at the middle of the lower edge of @p area.
-    void draw(QPainter& painter, const QRect& area) const;
+    void draw(QPainter& painter, const QFont& font, const QRect& area) const;
 };
 
 } // namespace CorvelGui

@@ -45,7 +45,7 @@ void RulerMarkerButton::setMarker(const RulerMarker& marker, const RulerIconSet*
     m_alternativeHover = false;
     resetToolTip();
     setAccessibleName(marker.text);
-    update();
+    redraw();
 }
 
 void RulerMarkerButton::setMerge(Merge merge)
@@ -54,7 +54,7 @@ void RulerMarkerButton::setMerge(Merge merge)
         return;
     m_merge = merge;
     resetToolTip();
-    update();
+    redraw();
 }
 
 void RulerMarkerButton::setBadge(const MarkerBadge& badge)
@@ -63,7 +63,7 @@ void RulerMarkerButton::setBadge(const MarkerBadge& badge)
         return;
     *m_badge = badge;
     setAccessibleDescription(badge.count > 1 ? tr("Markers: %1").arg(badge.count) : QString());
-    update();
+    redraw();
 }
 
 QSize RulerMarkerButton::badgeSize() const
@@ -76,7 +76,7 @@ void RulerMarkerButton::setHovered(bool hovered)
     if (m_hovered == hovered)
         return;
     m_hovered = hovered;
-    update();
+    redraw();
 }
 
 void RulerMarkerButton::setAlternativeHover(bool on)
@@ -84,7 +84,7 @@ void RulerMarkerButton::setAlternativeHover(bool on)
     if (m_alternativeHover == on)
         return;
     m_alternativeHover = on;
-    update();
+    redraw();
 }
 
 void RulerMarkerButton::setOrvaneGuiTheme(bool on)
@@ -92,7 +92,7 @@ void RulerMarkerButton::setOrvaneGuiTheme(bool on)
     if (m_theme == on)
         return;
     m_theme = on;
-    update();
+    redraw();
 }
 
 void RulerMarkerButton::moveTo(int centerX, const QRect& markerArea)
@@ -106,17 +106,24 @@ void RulerMarkerButton::resetToolTip()
     setToolTip(plainToolTip(m_marker.text));
 }
 
-void RulerMarkerButton::paintEvent(QPaintEvent*)
+void RulerMarkerButton::redraw()
+{
+    if (parentWidget())
+        parentWidget()->update(geometry());
+}
+
+void RulerMarkerButton::draw(QPainter& painter) const
 {
     // Painted here and not by a style sheet, because there are many of these.
-    QPainter painter(this);
     if (m_hovered && m_theme) {
         QColor backdrop = POrvGuiTheme::colorPanther;
         backdrop.setAlpha(140);
+        painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(backdrop);
         painter.drawRoundedRect(rect(), 3, 3);
+        painter.restore();
     }
     const QPixmap picture = shownPicture();
     if (picture.isNull())
@@ -124,7 +131,13 @@ void RulerMarkerButton::paintEvent(QPaintEvent*)
     const QSize free = size() - picture.deviceIndependentSize().toSize();
     const int top = m_badge->isNull() ? free.height() / 2 : 0;
     painter.drawPixmap(free.width() / 2, top, picture);
-    m_badge->draw(painter, rect());
+    m_badge->draw(painter, font(), rect());
+}
+
+void RulerMarkerButton::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    draw(painter);
 }
 
 QPixmap RulerMarkerButton::shownPicture() const

@@ -56,10 +56,14 @@ public:
     void moveTo(int centerX, const QRect& markerArea);
     int centerX() const { return m_centerX; }
 
+    /// Paints the button with its upper left corner at the painter's origin.
+    void draw(QPainter& painter) const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void redraw();
     void resetToolTip();
     QPixmap shownPicture() const;
 

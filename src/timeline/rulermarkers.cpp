@@ -1,5 +1,6 @@
 #include "rulermarkers.h"
 
+#include "rulermarkerlayer.h"
 #include "timescale.h"
 
 #include <Hueloft/PIconHelper>
@@ -36,8 +37,13 @@ const QIcon& mergedIcon()
 } // namespace
 
 RulerMarkers::RulerMarkers(QWidget* ruler, QWidget* ceiling)
-    : QObject(ruler), m_ruler(ruler), m_ceiling(ceiling), m_mergedIcons(mergedIcon())
+    : QObject(ruler)
+    , m_ruler(ruler)
+    , m_ceiling(ceiling)
+    , m_layer(new RulerMarkerLayer(ruler))
+    , m_mergedIcons(mergedIcon())
 {
+    m_layer->stackUnder(ceiling);
     addIcon(ownIconKey, ownIcon());
 }
 
@@ -155,6 +161,8 @@ QList<QDateTime> RulerMarkers::update(const TimeScale& scale, const QRect& area)
         return {};
     m_view = view;
     m_changed = false;
+    if (m_layer)
+        m_layer->setGeometry(area);
 
     if (!m_shown || !scale.hasView()) {
         showSymbols({});
@@ -370,7 +378,8 @@ void RulerMarkers::showSymbols(std::vector<Symbol> symbols)
         if (symbol.button == m_hovered && symbol.first != symbol.last)
             symbol.button->setToolTip(mergedToolTip(symbol.button));
         symbol.button->moveTo(symbol.x, m_view.area);
-        symbol.button->show();
+        if (symbol.button->isHidden())
+            symbol.button->show();
     }
     hideReleased();
 }
@@ -414,6 +423,7 @@ RulerMarkerButton* RulerMarkers::createButton()
 {
     auto* button = new RulerMarkerButton(&m_mergedIcons, m_ruler);
     button->setOrvaneGuiTheme(m_theme);
+    button->setUpdatesEnabled(false); // the layer paints it
     button->installEventFilter(this);
     connect(button, &QAbstractButton::clicked, this, [this, button] {
         const RulerMarker marker = button->marker();

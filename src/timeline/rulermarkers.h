@@ -156,6 +156,7 @@ private:
 
     QWidget* const m_ruler;
     const QPointer<QWidget> m_ceiling;
+    const QPointer<QWidget> m_layer;
     MarkerStore m_store;
     std::deque<RulerIconSet> m_icons;     ///< the first is the ruler's own
     std::map<int, quint32> m_iconNumbers; ///< by key
