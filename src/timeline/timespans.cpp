@@ -26,15 +26,15 @@ TimeSpans joined(TimeSpans spans)
     if (!std::is_sorted(spans.begin(), spans.end(), byBegin))
         std::sort(spans.begin(), spans.end(), byBegin);
 
-    TimeSpans result;
-    result.reserve(spans.size());
+    auto end = spans.begin(); // of those that are joined
     for (const TimeSpan& span : spans) {
-        if (!result.empty() && span.begin <= result.back().end)
-            result.back().end = std::max(result.back().end, span.end);
+        if (end != spans.begin() && span.begin <= std::prev(end)->end)
+            std::prev(end)->end = std::max(std::prev(end)->end, span.end);
         else
-            result.push_back(span);
+            *end++ = span;
     }
-    return result;
+    spans.erase(end, spans.end());
+    return spans;
 }
 
 TimeSpans difference(const TimeSpans& spans, const TimeSpans& without)

@@ -53,8 +53,11 @@ void TrackSegments::setTracks(const QList<TrackDescription>& tracks)
         recorded.insert(recorded.end(), track.recorded.begin(), track.recorded.end());
     }
     m_recordedSpans = joined(std::move(recorded));
-    described.insert(described.end(), m_recordedSpans.begin(), m_recordedSpans.end());
     m_described = joined(std::move(described));
+    // Mostly none are.
+    const TimeSpans notDescribed = difference(m_recordedSpans, m_described);
+    m_described.insert(m_described.end(), notDescribed.begin(), notDescribed.end());
+    m_described = joined(std::move(m_described));
     m_gapSpans = difference(m_described, m_recordedSpans);
 }
 

@@ -8,21 +8,41 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
-TrackHistory::TrackHistory(const TrackDescription& track)
-    : m_known{.begin = track.begin, .end = track.end}
+namespace {
+
+/// Whether they are sorted, none empty, with a gap between any two.
+bool areApart(const QList<TimeSpan>& spans)
 {
-    QList<TimeSpan> spans = track.recorded;
-    // Mostly they are.
-    if (!std::ranges::is_sorted(std::as_const(spans), {}, &TimeSpan::begin))
-        std::ranges::sort(spans, {}, &TimeSpan::begin);
+    const TimeSpan* before = nullptr;
+    for (const TimeSpan& span : spans) {
+        if (span.isEmpty() || (before && span.begin <= before->end))
+            return false;
+        before = &span;
+    }
+    return true;
+}
+
+QList<TimeSpan> joinedSpans(QList<TimeSpan> spans)
+{
+    std::ranges::sort(spans, {}, &TimeSpan::begin);
+    QList<TimeSpan> joined;
     for (const TimeSpan& span : std::as_const(spans)) {
         if (span.isEmpty())
             continue;
-        if (m_recorded.isEmpty() || span.begin > m_recorded.last().end)
-            m_recorded.append(span);
+        if (joined.isEmpty() || span.begin > joined.last().end)
+            joined.append(span);
         else
-            m_recorded.last().end = std::max(m_recorded.last().end, span.end);
+            joined.last().end = std::max(joined.last().end, span.end);
     }
+    return joined;
+}
+
+} // namespace
+
+TrackHistory::TrackHistory(const TrackDescription& track)
+    : m_known{.begin = track.begin, .end = track.end} // Mostly they are, and shared then.
+    , m_recorded(areApart(track.recorded) ? track.recorded : joinedSpans(track.recorded))
+{
     if (!m_recorded.isEmpty()) {
         m_known.begin = std::min(m_known.begin, m_recorded.first().begin);
         m_known.end = std::max(m_known.end, m_recorded.last().end);
