@@ -2,6 +2,7 @@
 
 #include <QTimeZone>
 
+#include <cstring>
 #include <iterator>
 #include <limits>
 #include <utility>
@@ -217,9 +218,8 @@ QList<QDateTime> MarkerStore::takeUnseen(std::size_t first, std::size_t last)
         return times;
     const Position from = positionOf(first);
     const Position to = positionOf(last - 1);
-    for (std::size_t number = from.block; number <= to.block; ++number) {
-        if (m_unseen[number] == 0)
-            continue;
+    for (std::size_t number = nextUnseen(from.block); number <= to.block;
+         number = nextUnseen(number + 1)) {
         Block& block = m_blocks[number];
         const std::size_t end = number == to.block ? to.offset + 1 : block.times.size();
         for (std::size_t i = number == from.block ? from.offset : 0; i < end; ++i) {
@@ -230,9 +230,17 @@ QList<QDateTime> MarkerStore::takeUnseen(std::size_t first, std::size_t last)
             record.seen = 1;
             --block.unseen;
         }
-        m_unseen[number] = block.unseen;
+        m_unseen[number] = block.unseen > 0;
     }
     return times;
+}
+
+std::size_t MarkerStore::nextUnseen(std::size_t block) const
+{
+    const std::size_t rest = m_unseen.size() - block;
+    const void* found = rest > 0 ? std::memchr(&m_unseen[block], true, rest) : nullptr;
+    return found ? std::size_t(static_cast<const quint8*>(found) - m_unseen.data())
+                 : m_unseen.size();
 }
 
 MarkerStore::Position MarkerStore::positionOf(std::size_t index) const
@@ -357,7 +365,7 @@ void MarkerStore::indexFrom(std::size_t block)
     for (std::size_t i = block; i < m_blocks.size(); ++i) {
         m_firstIndices[i] = i == 0 ? 0 : endOf(i - 1);
         m_lastTimes[i] = m_blocks[i].times.back();
-        m_unseen[i] = m_blocks[i].unseen;
+        m_unseen[i] = m_blocks[i].unseen > 0;
     }
 }
 

@@ -160,13 +160,15 @@ private:
     void replaceBlocks(std::vector<Change> changes);
     void joinSmallBlocks();
     std::size_t endOf(std::size_t block) const;
+    /// The first block from @p block on with markers that were not seen; their number without one.
+    std::size_t nextUnseen(std::size_t block) const;
     void indexFrom(std::size_t block);
 
     Blocks m_blocks; ///< none of them empty
     // Of each block, close together for searches.
     std::vector<std::size_t> m_firstIndices;
     std::vector<qint64> m_lastTimes;
-    std::vector<quint32> m_unseen;
+    std::vector<quint8> m_unseen;   ///< whether there are any
     std::vector<QDateTime> m_zones; ///< for each zone any time in it
 };
 

@@ -18,6 +18,11 @@ int smallest(const std::vector<int>& numbers)
     return numbers.empty() ? 0 : *std::min_element(numbers.begin(), numbers.end());
 }
 
+int largest(const std::vector<int>& numbers)
+{
+    return numbers.empty() ? 0 : *std::max_element(numbers.begin(), numbers.end());
+}
+
 MarkerView::Indices markersWithin(const MarkerStore& store, const std::optional<TimeSpan>& range)
 {
     if (!range)
@@ -33,6 +38,7 @@ MarkerView::MarkerView(const MarkerStore& store, const Geometry& geometry, Icons
     , m_geometry(geometry)
     , m_icons(std::move(icons))
     , m_narrowest(smallest(m_icons.halfWidths))
+    , m_widest(largest(m_icons.halfWidths))
     , m_inRange(markersWithin(store, range))
 {}
 
@@ -76,6 +82,8 @@ std::optional<std::size_t> MarkerView::nearest(int x, int farthest) const
 
 MarkerPlace MarkerView::place(std::size_t marker) const
 {
+    if (m_narrowest == m_widest) // a marker's record is far from its time
+        return {xOf(marker), m_narrowest};
     const auto [time, icon] = m_store.timeAndIcon(marker);
     return {column(time), m_icons.halfWidths[icon]};
 }

@@ -69,6 +69,7 @@ private:
     const Geometry m_geometry;
     const Icons m_icons;
     const int m_narrowest;
+    const int m_widest;
     const Indices m_inRange;
 };
 
