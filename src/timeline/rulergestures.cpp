@@ -183,6 +183,7 @@ void RulerGestures::press(const QMouseEvent* event)
         return;
     m_pressPosition = event->position().toPoint();
     m_pressTime = d.scale.fineTimeAt(m_pressPosition.x());
+    m_pressMsecs = d.scale.msecsAt(m_pressPosition.x());
     m_selects = d.range->isSelecting(event->modifiers());
     begin(Gesture::Press);
 }
@@ -225,7 +226,7 @@ void RulerGestures::dragView(int x)
         return;
     if (d.continuousZoom)
         return moveViewSoThat(m_pressTime, x);
-    moveViewTo(m_pressTime.msecs - qint64((x - TimeScale::margin()) / pixelsPerMillisecond), true);
+    moveViewTo(m_pressMsecs - qint64((x - TimeScale::margin()) / pixelsPerMillisecond), true);
 }
 
 void RulerGestures::release(const QMouseEvent* event)

@@ -102,7 +102,8 @@ private:
     Gesture m_gesture = Gesture::None;
     QPoint m_pressPosition;
     FineTime m_pressTime;
-    bool m_selects = false; ///< if the press becomes a drag
+    qint64 m_pressMsecs = 0; ///< in the whole milliseconds in which a drag counts between levels
+    bool m_selects = false;  ///< if the press becomes a drag
     QTimer m_moveTimer;
     EdgeScroll m_edge;
     int m_direction = 0;

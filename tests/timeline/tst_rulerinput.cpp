@@ -178,6 +178,16 @@ private Q_SLOTS:
             comparePlay(expected);
     }
 
+    void dragFromBesideTheScale()
+    {
+        LoggedRuler ruler;
+        ruler.resize(1017, ruler.height()); // 3610.8 milliseconds a pixel
+        play(&ruler, u"offset 0.5"_s);
+        const quint64 begin = ruler.beginTime();
+        play(&ruler, u"press 5; drag 105; release 105"_s);
+        QCOMPARE(begin - ruler.beginTime(), quint64(18'054 + 343'029));
+    }
+
     void lostReleases()
     {
         const std::tuple<QString, QString, QString> gestures[] = {
