@@ -40,9 +40,9 @@ constexpr QLatin1StringView lockEnding(".lock");
 /// Nothing goes but what an export of this machine made whose process is gone.
 void removeLeftovers(const QDir& parent)
 {
-    const QStringList locks =
-        parent.entryList({hiddenPrefix + u'*' + lockEnding}, QDir::Files | QDir::Hidden);
-    for (const QString& name : locks) {
+    for (const QString& name : parent.entryList(QDir::Files | QDir::Hidden)) {
+        if (!name.startsWith(hiddenPrefix) || !name.endsWith(lockEnding))
+            continue;
         const QString path = parent.filePath(name.chopped(lockEnding.size()));
         const QString unique = QFileInfo(path).fileName().sliced(hiddenPrefix.size());
         if (QUuid::fromString(unique).toString(QUuid::WithoutBraces) != unique)
