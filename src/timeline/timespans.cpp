@@ -17,6 +17,18 @@ void replace(TimeSpans& spans, TimeSpans::iterator first, TimeSpans::iterator la
 
 } // namespace
 
+QList<TimeSpan> TimeSpan::joined(const QList<TimeSpan>& spans)
+{
+    const auto meets = [](const TimeSpan& span, const TimeSpan& next) {
+        return next.begin <= span.end;
+    };
+    if (std::ranges::none_of(spans, &TimeSpan::isEmpty) &&
+        std::ranges::adjacent_find(spans, meets) == spans.end())
+        return spans;
+    const TimeSpans all = CorvelGui::joined({spans.begin(), spans.end()});
+    return {all.begin(), all.end()};
+}
+
 TimeSpans joined(TimeSpans spans)
 {
     std::erase_if(spans, [](const TimeSpan& span) { return span.isEmpty(); });

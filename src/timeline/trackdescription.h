@@ -1,5 +1,7 @@
 #pragma once
 
+#include <CorvelGui/corvelgui_export.h>
+
 #include <QList>
 #include <QString>
 #include <QtGlobal>
@@ -13,6 +15,10 @@ struct TimeSpan
     qint64 end = 0;
 
     bool isEmpty() const { return end <= begin; }
+    /// All that @p spans cover, in order, none empty, with a gap between any two. Spans that are so
+    /// already are shared.
+    CORVELGUI_EXPORT static QList<TimeSpan> joined(const QList<TimeSpan>& spans);
+
     bool operator==(const TimeSpan&) const = default;
 };
 

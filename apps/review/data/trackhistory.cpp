@@ -8,40 +8,8 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
-namespace {
-
-/// Whether they are sorted, none empty, with a gap between any two.
-bool areApart(const QList<TimeSpan>& spans)
-{
-    const TimeSpan* before = nullptr;
-    for (const TimeSpan& span : spans) {
-        if (span.isEmpty() || (before && span.begin <= before->end))
-            return false;
-        before = &span;
-    }
-    return true;
-}
-
-QList<TimeSpan> joinedSpans(QList<TimeSpan> spans)
-{
-    std::ranges::sort(spans, {}, &TimeSpan::begin);
-    QList<TimeSpan> joined;
-    for (const TimeSpan& span : std::as_const(spans)) {
-        if (span.isEmpty())
-            continue;
-        if (joined.isEmpty() || span.begin > joined.last().end)
-            joined.append(span);
-        else
-            joined.last().end = std::max(joined.last().end, span.end);
-    }
-    return joined;
-}
-
-} // namespace
-
 TrackHistory::TrackHistory(const TrackDescription& track)
-    : m_known{.begin = track.begin, .end = track.end} // Mostly they are, and shared then.
-    , m_recorded(areApart(track.recorded) ? track.recorded : joinedSpans(track.recorded))
+    : m_known{.begin = track.begin, .end = track.end}, m_recorded(TimeSpan::joined(track.recorded))
 {
     if (!m_recorded.isEmpty()) {
         m_known.begin = std::min(m_known.begin, m_recorded.first().begin);
