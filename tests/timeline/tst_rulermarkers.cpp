@@ -4,6 +4,7 @@
 #include <CorvelGui/RulerMarkerButton>
 #include <Hueloft/POrvGuiTheme>
 
+#include <QAccessible>
 #include <QTextDocument>
 
 using namespace CorvelGui;
@@ -239,8 +240,13 @@ private Q_SLOTS:
         const QString markup = u"<b>bold</b> & <img>"_s;
         ruler.onAddMarkers({marker(20 * minute, markup)});
         QTextDocument document;
-        document.setHtml(visibleButtons(ruler).front()->toolTip());
+        QWidget* button = visibleButtons(ruler).front();
+        document.setHtml(button->toolTip());
         QCOMPARE(document.toPlainText(), markup);
+        // Assistive technology finds it, too.
+        const QPoint center = button->mapToGlobal(button->rect().center());
+        const auto* accessible = QAccessible::queryAccessibleInterface(&ruler);
+        QCOMPARE(accessible->childAt(center.x(), center.y())->object(), button);
     }
 
     void iconsOfTheProvider()
