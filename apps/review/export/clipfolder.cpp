@@ -76,12 +76,12 @@ QString ClipFolder::create()
     removeLeftovers(parent);
     const QString path =
         parent.filePath(hiddenPrefix + QUuid::createUuid().toString(QUuid::WithoutBraces));
-    // On a share that takes no locks, what a crash leaves stays there.
-    m_lock = std::make_unique<QLockFile>(path + lockEnding);
-    m_lock->tryLock(0);
     if (!QDir().mkdir(path))
         return QCoreApplication::translate("Review::ClipFolder", "No folder can be made in %1.")
             .arg(QDir::toNativeSeparators(m_parent));
+    // On a share that takes no locks, what a crash leaves stays there.
+    m_lock = std::make_unique<QLockFile>(path + lockEnding);
+    m_lock->tryLock(0);
     m_path = path;
     return {};
 }
