@@ -140,6 +140,18 @@ void RulerMarkerButton::paintEvent(QPaintEvent*)
     draw(painter);
 }
 
+void RulerMarkerButton::showEvent(QShowEvent* event)
+{
+    QPushButton::showEvent(event);
+    redraw();
+}
+
+void RulerMarkerButton::hideEvent(QHideEvent* event)
+{
+    QPushButton::hideEvent(event);
+    redraw();
+}
+
 QPixmap RulerMarkerButton::shownPicture() const
 {
     using State = RulerIconSet::State;

@@ -423,7 +423,9 @@ RulerMarkerButton* RulerMarkers::createButton()
 {
     auto* button = new RulerMarkerButton(&m_mergedIcons, m_ruler);
     button->setOrvaneGuiTheme(m_theme);
-    button->setUpdatesEnabled(false); // the layer paints it
+    // The layer paints it. Moving it costs half when Qt does not look for what it covers.
+    button->setUpdatesEnabled(false);
+    button->setAttribute(Qt::WA_DontShowOnScreen);
     button->installEventFilter(this);
     connect(button, &QAbstractButton::clicked, this, [this, button] {
         const RulerMarker marker = button->marker();

@@ -71,7 +71,7 @@ private:
         const QDateTime time = m_scale.viewStart().addMSecs(offset);
         Texts texts;
         if (m_showsTimes)
-            texts.time = m_scale.getTickerString(offset);
+            texts.time = m_scale.tickerText(time);
         if (m_lastDate != time.date())
             texts.date = time.toString(m_style.dateFormat);
         m_lastDate = time.date();

@@ -390,8 +390,12 @@ double TimeScale::getCurrentCenterPosition() const
 
 QString TimeScale::getTickerString(qint64 offsetMs) const
 {
-    const QString format = m_totalDuration < secondsLabelLimit ? u"hh:mm:ss"_s : u"hh:mm"_s;
-    return viewStart().addMSecs(offsetMs).toString(format);
+    return tickerText(viewStart().addMSecs(offsetMs));
+}
+
+QString TimeScale::tickerText(const QDateTime& time) const
+{
+    return time.toString(m_totalDuration < secondsLabelLimit ? u"hh:mm:ss"_s : u"hh:mm"_s);
 }
 
 void TimeScale::getNewStartDateTime(int level, double anchor)

@@ -176,6 +176,8 @@ public:
 
     /// Clock time of the tick @p offsetMs after the view start.
     QString getTickerString(qint64 offsetMs) const;
+    /// The same for a tick whose time is known.
+    QString tickerText(const QDateTime& time) const;
 
 private:
     /// A time with its distance from the epoch at hand, because QDateTime may have to ask the zone
