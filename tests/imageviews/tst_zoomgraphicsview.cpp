@@ -107,6 +107,7 @@ private Q_SLOTS:
         for (int i = 0; i < 400; ++i)
             whole.wheel({20, 350}, 120);
         QVERIFY(sceneRect.contains(whole.view->visibleRect().center()));
+        QVERIFY(whole.view->transform().mapRect(sceneRect).width() < 2e9);
     }
 
     void panning()

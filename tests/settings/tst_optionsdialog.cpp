@@ -313,7 +313,11 @@ private Q_SLOTS:
         add(u"b"_s, u"b1"_s);
         add(u"b"_s, u"b2"_s, u"Gate&way"_s);
         provide(u"p"_s, new Page(u"p"_s, u"p1"_s, u"Secret"_s));
-        const Parts parts(*open(u"a"_s));
+        OptionsDialog* dialog = open(u"a"_s);
+        const Parts parts(*dialog);
+        const auto* buttons = dialog->findChild<QDialogButtonBox*>();
+        dialog->layout()->activate();
+        QVERIFY(!parts.list->geometry().intersects(buttons->geometry()));
         // A text, the categories that have it, and which tabs of the one shown do. Of texts on
         // pages only the escaped form would be found. Where nothing is, the tabs stay.
         const char* const rows[][3] = {{"gateway", "Category b", "-x"},

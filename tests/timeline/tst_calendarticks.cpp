@@ -105,6 +105,7 @@ private Q_SLOTS:
             QCOMPARE(texts(scale, 0).first(3).join(u' '), upper);
             QCOMPARE(texts(scale, 1).value(0), lower);
         }
+        QVERIFY(layOut(QTimeZone::utc(), {0, 0.0, 10, 1010}).ticks.empty());
     }
 
     void clockChange()

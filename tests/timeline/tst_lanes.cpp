@@ -109,6 +109,11 @@ private Q_SLOTS:
         QCOMPARE(timeline.colorAt(2, 90 * minute), recorded);
         timeline.ruler()->setTrackDescriptions({{u"0"_s, {}, monday, monday + hour, {}}});
         QVERIFY(timeline.colorAt(0, 2 * hour) != timeline.colorAt(0, hour / 2));
+        const auto withName = [&timeline](const QString& name) {
+            timeline.ruler()->setTrackDescriptions({{u"0"_s, name, monday, monday + hour, {}}});
+            return timeline.lanes()->grab().toImage();
+        };
+        QVERIFY(withName(u"A"_s) != withName(u"B"_s));
         timeline.ruler()->setTrackDescriptions({});
         QVERIFY(!timeline.lanes()->isVisible());
     }

@@ -163,6 +163,10 @@ private Q_SLOTS:
         ruler.onTimeLineViewSettingsNeeded();
         QCOMPARE(ruler.log, QStringList());
         QTRY_COMPARE(ruler.log, QStringList{u"view 06 23:29 - 07 00:30"_s});
+        ruler.takeLog();
+        ruler.setTimeZone(u"Asia/Tokyo"_s);
+        ruler.applyTimeZone();
+        QCOMPARE(ruler.takeLog(), QStringList{u"view 07 08:29 - 07 09:30"_s});
     }
 
     void themeIsOneWay()

@@ -215,8 +215,15 @@ private Q_SLOTS:
             touch().release(0, {from - 100, 41}).stationary(1);
             touch().release(1, {to, 41});
         };
+        const auto pinchTouchpad = [&] {
+            QNativeGestureEvent event(Qt::ZoomNativeGesture,
+                                      QPointingDevice::primaryPointingDevice(), 2, {510, 40},
+                                      {510, 40}, {510, 40}, 1.0, {});
+            QApplication::sendEvent(&ruler, &event);
+        };
         // Off, a finger is the mouse, and a second one ends that.
         pinch(410, 610);
+        pinchTouchpad();
         QCOMPARE(viewOf(ruler), u"36000 - 46800"_s);
         QCOMPARE(ruler.getIndicatorMSecs(), at(0));
         touch().press(0, {410, 40});
@@ -241,6 +248,9 @@ private Q_SLOTS:
         QCOMPARE(ruler.takeLog().last(), u"view 02 10:40 - 02 12:05"_s);
         ruler.zoomBack();
         QCOMPARE(viewOf(ruler), u"36000 - 46000"_s);
+        pinchTouchpad();
+        QCOMPARE(viewOf(ruler), u"38500 - 43500"_s);
+        play(&ruler, u"view 36000 46000"_s);
 
         // One drags, and sets the indicator where it is lifted at once.
         touch().press(0, {410, 40});
