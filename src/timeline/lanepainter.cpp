@@ -101,33 +101,27 @@ void LanePainter::drawFrame(QPainter& painter, const QRectF& lane) const
 void LanePainter::drawRanges(QPainter& painter, double height, const RulerRanges& ranges,
                              const RulerColors& colors) const
 {
-    constexpr double lineWidth = 2.0;
-    constexpr int searchAlpha = 90;
-    constexpr int selectedAlpha = 55;
     const DeviceGrid grid(painter);
-    const auto tint = [&](const std::optional<TimeSpan>& range, QColor color, int alpha) {
-        if (!range)
-            return;
-        const double x1 = std::max(std::trunc(scale.xAt(range->begin)), TimeScale::halfMargin());
-        const double x2 = std::min(std::trunc(scale.xAt(range->end)), scale.sightEnd());
-        color.setAlpha(alpha);
+    if (ranges.search) {
+        const double x1 =
+            std::max(std::trunc(scale.xAt(ranges.search->begin)), TimeScale::halfMargin());
+        const double x2 = std::min(std::trunc(scale.xAt(ranges.search->end)), scale.sightEnd());
+        QColor tint = colors.search;
+        tint.setAlpha(90);
         if (x1 < x2)
-            painter.fillRect(grid.aligned(QRectF(rulerLeft + x1, 0, x2 - x1, height)), color);
-    };
+            painter.fillRect(grid.aligned(QRectF(rulerLeft + x1, 0, x2 - x1, height)), tint);
+    }
+    if (ranges.selected)
+        drawSelectedRange(painter, scale, QRectF(rulerLeft, 0, 0, height), *ranges.selected,
+                          colors.selection);
     const auto line = [&](qint64 time, const QColor& color, double width) {
         const double x = std::trunc(scale.xAt(time));
         const QRectF stroke(rulerLeft + x - std::floor(width / 2), 0, width, height);
         if (scale.isInSight(x))
             painter.fillRect(grid.aligned(stroke), color);
     };
-    tint(ranges.search, colors.search, searchAlpha);
-    tint(ranges.selected, colors.selection, selectedAlpha);
-    if (ranges.selected) {
-        line(ranges.selected->begin, colors.selection, lineWidth);
-        line(ranges.selected->end, colors.selection, lineWidth);
-    }
     for (const qint64 mark : ranges.resultMarks)
-        line(mark, colors.resultMark, lineWidth);
+        line(mark, colors.resultMark, 2.0);
     if (ranges.preview)
         line(*ranges.preview, colors.preview, 1.0);
 }

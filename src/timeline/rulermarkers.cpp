@@ -423,7 +423,7 @@ RulerMarkerButton* RulerMarkers::createButton()
 {
     auto* button = new RulerMarkerButton(&m_mergedIcons, m_ruler);
     button->setOrvaneGuiTheme(m_theme);
-    // The layer paints it. Moving it costs half when Qt does not look for what it covers.
+    // The layer paints it, and the ruler where it was; Qt need not look for that at each move.
     button->setUpdatesEnabled(false);
     button->setAttribute(Qt::WA_DontShowOnScreen);
     button->installEventFilter(this);

@@ -48,6 +48,28 @@ RulerColors RulerColors::ofTheme()
             .resultMark = POrvGuiTheme::colorOrange};
 }
 
+void drawSelectedRange(QPainter& painter, const TimeScale& scale, const QRectF& area,
+                       const TimeSpan& range, const QColor& color)
+{
+    constexpr double endWidth = 2.0;
+    const DeviceGrid grid(painter);
+    const auto fill = [&](double x, double width, const QColor& with) {
+        painter.fillRect(grid.aligned({area.left() + x, area.top(), width, area.height()}), with);
+    };
+    const double begin = std::trunc(scale.xAt(range.begin));
+    const double end = std::trunc(scale.xAt(range.end));
+    const double x1 = std::max(begin, TimeScale::halfMargin());
+    const double x2 = std::min(end, scale.sightEnd());
+    QColor tint = color;
+    tint.setAlpha(55);
+    if (x1 < x2)
+        fill(x1, x2 - x1, tint);
+    for (const double x : {begin, end}) {
+        if (scale.isInSight(x))
+            fill(x - endWidth / 2, endWidth, color);
+    }
+}
+
 void RulerPainter::createGradients(const QRect& rect, int headerHeight)
 {
     const auto headerGradient = [&](const QColor& top) {
@@ -88,7 +110,9 @@ void RulerPainter::paint(QPainter& painter, const RulerScene& scene) const
     if (scene.scale.totalDuration() == 0)
         return;
     shadeOutsideLimits(painter, scene, rect);
-    fillSelectedRange(painter, scene);
+    if (scene.ranges.selected)
+        drawSelectedRange(painter, scene.scale, scene.rect, *scene.ranges.selected,
+                          colors.selection);
     drawPreviewLine(painter, scene, rect);
     drawScaleRuler(painter, scene, rect, toMidnight);
     drawResultMarks(painter, scene);
@@ -167,28 +191,6 @@ void RulerPainter::drawPreviewLine(QPainter& painter, const RulerScene& scene,
     const QRectF line(inView, rect.top(), penWidth, rect.height());
     painter.fillRect(DeviceGrid(painter).aligned(line),
                      inView == x ? colors.preview : colors.previewClamped);
-}
-
-void RulerPainter::fillSelectedRange(QPainter& painter, const RulerScene& scene) const
-{
-    if (!scene.ranges.selected)
-        return;
-    const DeviceGrid grid(painter);
-    const double height = scene.rect.height();
-    const double begin = std::trunc(scene.scale.xAt(scene.ranges.selected->begin));
-    const double end = std::trunc(scene.scale.xAt(scene.ranges.selected->end));
-    const double x1 = std::max(begin, TimeScale::halfMargin());
-    const double x2 = std::min(end, scene.scale.sightEnd());
-    QColor tint = colors.selection;
-    tint.setAlpha(55);
-    if (x1 < x2)
-        painter.fillRect(grid.aligned({QPointF(x1, 0.0), QPointF(x2, height)}), tint);
-    constexpr double endWidth = 2.0;
-    for (const double x : {begin, end}) {
-        if (scene.scale.isInSight(x))
-            painter.fillRect(grid.aligned({x - endWidth / 2, 0.0, endWidth, height}),
-                             colors.selection);
-    }
 }
 
 void RulerPainter::drawResultMarks(QPainter& painter, const RulerScene& scene) const

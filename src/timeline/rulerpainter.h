@@ -38,6 +38,11 @@ struct CORVELGUI_INTERNAL_EXPORT RulerColors
     static RulerColors ofTheme();
 };
 
+/// Tints a range from end to end, and marks those ends that are in sight. The columns of the scale
+/// begin at the left of @p area.
+void drawSelectedRange(QPainter& painter, const TimeScale& scale, const QRectF& area,
+                       const TimeSpan& range, const QColor& color);
+
 /// What there is to paint.
 struct RulerScene
 {
@@ -69,7 +74,6 @@ private:
     void fillSearchRange(QPainter& painter, const RulerScene& scene) const;
     void fillTracks(QPainter& painter, const RulerScene& scene) const;
     void shadeOutsideLimits(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
-    void fillSelectedRange(QPainter& painter, const RulerScene& scene) const;
     void drawResultMarks(QPainter& painter, const RulerScene& scene) const;
     void drawPreviewLine(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
     void markClockChange(QPainter& painter, const QRectF& rect, const ClockMark& mark,

@@ -57,13 +57,16 @@ LineFault LineParser::parseSeconds(QByteArrayView text, qint64& msecs)
 LineFault LineParser::parseSeverity(QByteArrayView text, std::optional<Severity>& severity)
 {
     severity.reset();
-    for (std::size_t i = 0; i < severityWords.size(); ++i) {
-        if (text.compare(severityWords[i], Qt::CaseInsensitive) == 0 ||
-            text == QByteArray::number(qulonglong(i)))
-            severity = Severity(i);
-    }
-    if (severity || text.isEmpty())
+    if (text.isEmpty())
         return {};
+    for (std::size_t i = 0; i < severityWords.size(); ++i) {
+        const char number = char('0' + i);
+        if (text == QByteArrayView(&number, 1) ||
+            text.compare(severityWords[i], Qt::CaseInsensitive) == 0) {
+            severity = Severity(i);
+            return {};
+        }
+    }
     return {lineContext,
             QT_TR_NOOP("“%1” is neither none nor information, warning or alarm"),
             {excerpt(text)}};

@@ -1,7 +1,6 @@
 #include "trackhistory.h"
 
 #include <algorithm>
-#include <utility>
 
 using CorvelGui::TimeSpan;
 using CorvelGui::TrackDescription;

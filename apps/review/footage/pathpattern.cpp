@@ -41,10 +41,10 @@ bool matches(const PathPart* part, const PathPart* end, QStringView text, Values
     const auto belongs = [digits](QChar character) {
         return digits > 0 ? character >= u'0' && character <= u'9' : character != u'/';
     };
-    qsizetype length = std::ranges::find_if_not(text, belongs) - text.begin();
-    if (digits > 0)
-        length = length < digits ? 0 : digits;
-    for (; length > 0; length = digits > 0 ? 0 : length - 1) {
+    const qsizetype all = std::ranges::find_if_not(text, belongs) - text.begin();
+    const qsizetype longest = digits > 0 ? std::min(all, digits) : all;
+    const qsizetype shortest = digits > 0 ? digits : 1;
+    for (qsizetype length = longest; length >= shortest; --length) {
         values[size_t(part->field)] = text.first(length);
         if (matches(part + 1, end, text.sliced(length), values))
             return true;
