@@ -1,6 +1,6 @@
 #include "lanepainter.h"
 
-#include "devicegrid.h"
+#include "base/devicegrid.h"
 #include "loadinghatch.h"
 #include "rulerpainter.h"
 #include "timescale.h"

@@ -1,6 +1,6 @@
 #include "markerbars.h"
 
-#include "devicegrid.h"
+#include "base/devicegrid.h"
 #include "markerstore.h"
 #include "severitycolors.h"
 #include "timescale.h"

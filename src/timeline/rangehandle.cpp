@@ -1,6 +1,6 @@
 #include "rangehandle.h"
 
-#include "keyboardfocus.h"
+#include "base/keyboardfocus.h"
 #include "rulerpainter.h"
 
 #include <Hueloft/POrvGuiTheme>

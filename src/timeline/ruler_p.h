@@ -1,10 +1,10 @@
 #pragma once
 
-#include "accessiblerange.h"
+#include "base/accessiblerange.h"
+#include "base/keyboardfocus.h"
 #include "base/whilealive.h"
 #include "clockchanges.h"
 #include "indicator.h"
-#include "keyboardfocus.h"
 #include "ruler.h"
 #include "rulerarrows.h"
 #include "rulergestures.h"

@@ -1,7 +1,7 @@
 #include "rulerpainter.h"
 
-#include "devicegrid.h"
-#include "keyboardfocus.h"
+#include "base/devicegrid.h"
+#include "base/keyboardfocus.h"
 #include "loadinghatch.h"
 #include "timescale.h"
 #include "tracksegments.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/wheelturns.h"
 #include "ruler.h"
 #include "timescale.h"
-#include "wheelturns.h"
 
 #include <QObject>
 #include <QTimer>

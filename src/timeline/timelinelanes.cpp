@@ -1,8 +1,8 @@
 #include "timelinelanes.h"
 
 #include "accessiblelanes.h"
+#include "base/devicegrid.h"
 #include "base/whilealive.h"
-#include "devicegrid.h"
 #include "lanelayout.h"
 #include "lanepainter.h"
 #include "ruler_p.h"

@@ -1,5 +1,5 @@
+#include "base/devicegrid.h"
 #include "base/whilealive.h"
-#include "devicegrid.h"
 #include "timelinescroll_p.h"
 
 #include <Hueloft/POrvGuiTheme>

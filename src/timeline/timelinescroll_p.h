@@ -1,8 +1,8 @@
 #pragma once
 
-#include "accessiblerange.h"
 #include "activitypicture.h"
-#include "keyboardfocus.h"
+#include "base/accessiblerange.h"
+#include "base/keyboardfocus.h"
 #include "overviewbox.h"
 #include "rulerpainter.h"
 #include "timelinescroll.h"

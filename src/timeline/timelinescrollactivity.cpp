@@ -1,7 +1,7 @@
 // The strip while it shows the activity: a box whose edges can be moved, on the scale of a ruler.
 
+#include "base/devicegrid.h"
 #include "base/whilealive.h"
-#include "devicegrid.h"
 #include "timelinescroll_p.h"
 
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "devicegrid.h"
+#include "base/devicegrid.h"
 #include "rulerpainter.h"
 #include "testscale.h"
 #include "testsupport.h"
