@@ -65,8 +65,12 @@ set(CORVELGUI_PUBLIC_HEADERS
     itemviews/PTableWidgetItem
     itemviews/PTextWidgetItem
     playback/PPlaybar
+    playback/PSlider
+    playback/PopupSliderToolButton
+    playback/RangeSlider
     playback/TarvoDateTimeView
     playback/TarvoToolButton
+    playback/VideoSlider
     itemviews/PTreeWidget
     itemviews/PTreeWidgetItem
     imageviews/ZoomGraphicsView

@@ -18,6 +18,7 @@
 #include "playbarpage.h"
 #include "progresspage.h"
 #include "rulerpage.h"
+#include "sliderspage.h"
 #include "tableitemspage.h"
 #include "tablepage.h"
 #include "tabwidgetpage.h"
@@ -58,6 +59,7 @@ const std::vector<Page>& pages()
         // Playback
         {u"Playbar"_s, create<PlaybarPage>},
         {u"Date-time view"_s, create<DateTimeViewPage>},
+        {u"Sliders"_s, create<SlidersPage>},
         // Input
         {u"Line edits"_s, create<LineEditsPage>},
         {u"Fancy line edits"_s, create<FancyLineEditsPage>},

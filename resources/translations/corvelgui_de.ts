@@ -681,6 +681,28 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PopupSliderToolButton</name>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::RangeSlider</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::Ruler</name>
     <message>
         <source>Timeline</source>
@@ -795,6 +817,17 @@ Speicherort öffnen?</translation>
     <message>
         <source>%1 percent</source>
         <translation>%1 Prozent</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::VideoSlider</name>
+    <message>
+        <source>Position in the video</source>
+        <translation>Stelle im Video</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
