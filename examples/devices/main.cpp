@@ -1,4 +1,4 @@
-// A list of devices: filter it, select some rows, and export them as CSV.
+// Filter a list of devices, select some rows, and export them as CSV.
 #include <CorvelGui/FilterLineEdit>
 #include <CorvelGui/PCsvDialog>
 #include <CorvelGui/PTreeWidget>
@@ -62,7 +62,8 @@ int main(int argc, char** argv)
                             new Device("Roof", "10.0.0.11", "Disk full")});
     tree->resizeAllColumnToContentsWithOffset(20);
 
-    QObject::connect(filter, &FilterLineEdit::filterChanged, tree, &PTreeWidget::FilterTree);
+    QObject::connect(filter, &FilterLineEdit::filterChanged, tree,
+                     [=](const QString& text) { tree->FilterTree(text.toLower()); });
     const auto enable = [=] {
         exportButton->setEnabled(!tree->selectedItems().isEmpty());
     };
@@ -70,7 +71,6 @@ int main(int argc, char** argv)
     enable();
     QObject::connect(exportButton, &QPushButton::clicked, tree, [=] {
         PCsvDialog dialog(tree);
-        dialog.InitWithTreeWidget(tree);
         dialog.exec();
     });
 

@@ -61,7 +61,7 @@ int main(int argc, char** argv)
     QObject::connect(ruler, &Ruler::indicatorPositionChanged, moment, tell); // the user chose
 
     timeline->setTimeZone("Europe/Brussels");
-    timeline->setActive(true, false); // a new timeline takes no input
+    timeline->setActive(true, false); // a new timeline shows no markers
     ruler->setTrackDescriptions({camera("Gate", 6, 22, 45), camera("Car park", 8, 18, 20)});
     timeline->setTimeLimits(weekBegin, weekEnd);
     timeline->setIndicatorPosition(weekBegin + 3 * day + 10 * hour);

@@ -15,7 +15,8 @@ namespace CorvelGui {
 
 /// Writes the selected cells of a list into a file of comma-separated values. The user chooses the
 /// file, the delimiter, the quotes, the columns, whether a line of column names comes first, and
-/// whether the file is opened at once in the program that the system has for it.
+/// whether the file is opened at once in the program that the system has for it. Where nothing is
+/// selected the file has the column names at most: see that something is before you run the dialog.
 ///
 /// A file is written whole or not at all: when writing fails, a warning says why, the file is as it
 /// was before, and the dialog stays open.

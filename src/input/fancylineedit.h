@@ -63,7 +63,9 @@ public:
 Q_SIGNALS:
     /// Emitted at a click on a button that has no menu, before the signal of its side.
     void buttonClicked(CorvelGui::FancyLineEdit::Side side);
+    /// Emitted after buttonClicked(Left).
     void leftButtonClicked();
+    /// Emitted after buttonClicked(Right).
     void rightButtonClicked();
 
 protected:

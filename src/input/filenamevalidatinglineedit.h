@@ -9,8 +9,8 @@ namespace CorvelGui {
 
 /// A field for the path of a file to write, with a name that Windows can store.
 ///
-/// The directory must exist, and the path must begin with a drive, as in D:\data\report.csv, or be
-/// that of a server's share; on systems without drive letters it may begin with a slash. What
+/// The directory must exist, and the path must begin with a drive, as in `D:\data\report.csv`, or
+/// be that of a server's share; on systems without drive letters it may begin with a slash. What
 /// follows the drive must be free of forbidden characters and must not be a device of Windows. The
 /// file itself need not exist. The file system is asked on every judgement.
 class CORVELGUI_EXPORT FileNameValidatingLineEdit : public ValidateBaseLineEdit

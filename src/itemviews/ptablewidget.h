@@ -30,7 +30,7 @@ public:
     /// context menu and work; without it they are children of the table that nothing is connected
     /// to. Meant to be called once: a second call makes a second pair.
     void InitCopyMenus(bool withContextMenu);
-    /// Runs the CSV dialog for this table, until it is closed.
+    /// Runs the CSV dialog for what is selected in this table, until it is closed.
     void CsvExport();
     /// Copies the current column of the selected rows, from top to bottom, one line each without a
     /// line feed at the end. Without a current cell it is the first column.

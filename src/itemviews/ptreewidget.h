@@ -17,7 +17,9 @@ namespace CorvelGui {
 /// Tree order means depth first, parents before children. Operations on all items include hidden
 /// and collapsed ones. An item of another tree counts as null.
 ///
-/// Rows are of one height, and moves of the mouse reach QTreeWidget only while they drag.
+/// Rows are of one height, and moves of the mouse reach QTreeWidget only while they drag. A new
+/// tree selects one item at a time, as every QTreeWidget: to copy or export several rows, call
+/// setSelectionMode(QAbstractItemView::ExtendedSelection).
 class CORVELGUI_EXPORT PTreeWidget : public QTreeWidget
 {
     Q_OBJECT
@@ -30,7 +32,7 @@ public:
     /// context menu and work; without it they are children of the tree that nothing is connected
     /// to. Meant to be called once: a second call makes a second pair.
     void InitCopyMenus(bool withContextMenu);
-    /// Runs the CSV dialog for this tree, until it is closed.
+    /// Runs the CSV dialog for what is selected in this tree, until it is closed.
     void CsvExport();
     /// Copies the current column of the selected items, in tree order, one line each without a line
     /// feed at the end. Without a current cell it is the first column.
@@ -85,7 +87,8 @@ public:
     /// Shows the items for which @p isShown says so, with all above them, and hides the others.
     void FilterItems(const std::function<bool(const QTreeWidgetItem&)>& isShown);
 
-    /// Selects all rows that are shown: neither hidden ones nor those of collapsed items.
+    /// Selects all rows that are shown: neither hidden ones nor those of collapsed items. Does
+    /// nothing where the selection mode is for one item.
     void selectAll() override;
 
 protected:

@@ -18,6 +18,9 @@ namespace CorvelGui {
 ///
 /// The library never deletes a page, except through the provider that owns it. A page that is
 /// deleted takes itself out of SettingsManager::m_listPages; an open dialog gets along without it.
+///
+/// It is the page's widget that hears of another language, by QEvent::LanguageChange; names and
+/// captions are read once by each dialog.
 class CORVELGUI_EXPORT ISettingsPage : public QObject
 {
     Q_OBJECT
@@ -48,8 +51,9 @@ public:
     QIcon categoryIcon() const;
 
     /// Whether a text on the page contains @p text, in whatever case: labels, check boxes, push
-    /// buttons and the titles of group boxes, without their "&". False as long as there is no
-    /// widget. The texts are collected once, at the first call that finds a widget.
+    /// buttons and the titles of group boxes, without their "&", but not radio buttons. False as
+    /// long as there is no widget. The texts are collected once, at the first call that finds a
+    /// widget.
     bool matches(const QString& text) const;
 
 protected:

@@ -20,9 +20,11 @@ class ISettingsPageProvider;
 /// The one options dialog of an application, made of the pages and providers in SettingsManager: a
 /// searchable list of categories, and a tab for each page of the chosen one.
 ///
-/// A page is built when its category is first shown, or when the user searches. It is applied on OK
-/// only if the user has seen it. The dialog deletes the providers that it found, and the widgets of
-/// the pages; pages themselves only go with their providers.
+/// Tabs stand in the order of the ids of their pages, pages of providers behind the others. A page
+/// is built when its category is first shown, or when the user searches. It is applied on OK only
+/// if the user has seen it; accept() and done() by themselves apply nothing. The dialog deletes the
+/// providers that it found, and the widgets of the pages; pages themselves only go with their
+/// providers.
 class CORVELGUI_EXPORT OptionsDialog : public QDialog, public IUserSettings
 {
     Q_OBJECT

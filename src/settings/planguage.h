@@ -10,6 +10,10 @@ namespace CorvelGui {
 
 /// Switches the language of the running application. A language key is the name of a locale, such
 /// as "de" or "en_US"; a translation file is named prefix, "_", key, ".qm".
+///
+/// All files come from one folder. A program with texts of its own puts them there together with
+/// copies of the library's (corvelgui_de.qm) and of Qt's (qtbase_de.qm). A key without files brings
+/// back the texts of the sources, which are English in the library.
 class CORVELGUI_EXPORT PLanguage
 {
 public:

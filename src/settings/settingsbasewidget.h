@@ -9,7 +9,8 @@
 namespace CorvelGui {
 
 /// Optional base of the widget that a settings page shows. It can name the texts of its controls,
-/// as words to search for.
+/// as words to search for by a search of one's own: that of OptionsDialog asks
+/// ISettingsPage::matches().
 class CORVELGUI_EXPORT SettingsBaseWidget : public QWidget
 {
     Q_OBJECT

@@ -20,10 +20,16 @@ struct FineTime;
 /// The time ruler: a horizontal, zoomable scale over a recording period, with a play indicator and
 /// the recorded spans of the described tracks.
 ///
-/// Absolute times are milliseconds since the Unix epoch. A relative position is 0.0 at the begin
-/// limit of the period and 1.0 at its end limit. Until setTimeLimits() is called with a period
-/// there is no view, and only the bands are drawn. Setters are silent about what their caller set;
-/// signals say what that does to the view.
+/// Absolute times are milliseconds since the Unix epoch. Those of limits, indicator and preview are
+/// unsigned, and 0 stands for none; those of spans and of the view are signed, since a view may
+/// begin before 1970. They count alike: a cast turns one into the other, but a negative time
+/// becomes one far in the future. A relative position is 0.0 at the begin limit of the period and
+/// 1.0 at its end limit. Until setTimeLimits() is called with a period there is no view, and only
+/// the bands are drawn. Setters are silent about what their caller set; signals say what that does
+/// to the view.
+///
+/// A new ruler is inactive: until setActive(true, false) it shows neither markers nor indicator,
+/// and keys do nothing. Its minimum width is 800 pixels; a client may set another one.
 class CORVELGUI_EXPORT Ruler : public QWidget
 {
     Q_OBJECT
@@ -112,14 +118,25 @@ public:
 
     // The view
 
-    /// First instant in view.
+    /// First instant in view; view() has it with a sign.
     quint64 beginTime() const;
     /// First instant behind the view; may lie behind the end limit.
     quint64 endTime() const;
     /// Number of rows of the zoom table: levels go from 0 (closest) to this number, which shows the
-    /// whole period.
+    /// whole period, as does a level with more in view than the period is long.
+    ///
+    /// | level | in view    | labels every | ticks every |
+    /// |-------|------------|--------------|-------------|
+    /// | 0     | 20 minutes | 2 minutes    | 15 seconds  |
+    /// | 1     | 1 hour     | 5 minutes    | 1 minute    |
+    /// | 2     | 3 hours    | 10 minutes   | 2 minutes   |
+    /// | 3     | 12 hours   | 30 minutes   | 10 minutes  |
+    /// | 4     | 1 day      | 1 hour       | 12 minutes  |
+    /// | 5     | 3 days     | 3 hours      | 1 hour      |
+    /// | 6     | 7 days     | 8 hours      | 4 hours     |
+    /// | 7     | 14 days    | 1 day        | 12 hours    |
     int getNrOfZooomLevels() const;
-    /// With continuousZoom, the level that is the nearest to the view.
+    /// 1 at first. With continuousZoom, the level that is the nearest to the view.
     int level() const;
     /// Switches the zoom level. The instant at @p anchor (a fraction of the scale width, 0.0
     /// to 1.0) stays in place as far as the limits allow. An index outside the table shows the
@@ -268,7 +285,7 @@ public:
 
     // Markers
 
-    /// Adds markers; those without a valid time are left out.
+    /// Adds markers; those without a valid time are left out. They show on an active ruler.
     void onAddMarkers(const QList<RulerMarker>& markers);
     /// Removes, for each of @p markers, the first marker that has its time.
     void onRemoveMarkers(const QList<RulerMarker>& markers);

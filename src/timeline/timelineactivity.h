@@ -13,6 +13,7 @@ struct TimelineActivity
     /// The most that is known of some instant of a column.
     enum class Recording : quint8 { Unknown, Gap, Recorded };
 
+    /// What is known of one of these parts of the period.
     struct Column
     {
         Recording recording = Recording::Unknown;

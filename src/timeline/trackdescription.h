@@ -8,7 +8,8 @@
 
 namespace CorvelGui {
 
-/// A stretch of time, in milliseconds since the Unix epoch: begin belongs to it, end does not.
+/// A stretch of time, in milliseconds since the Unix epoch, before it negative: begin belongs to
+/// it, end does not.
 struct TimeSpan
 {
     qint64 begin = 0;

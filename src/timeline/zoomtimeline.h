@@ -17,7 +17,10 @@ class Zoomer;
 /// The timeline that applications embed: a ruler on top, and below it the zoomer and the overview
 /// strip, wired to each other. Clients connect to the signals of the parts.
 ///
-/// Absolute times are milliseconds since the Unix epoch.
+/// A new timeline is inactive: call setActive(true, false) for markers, indicator and strip. It
+/// is at least 804 pixels wide, for the ruler's minimum width and the margins around it.
+///
+/// Absolute times are milliseconds since the Unix epoch; Ruler says which have a sign.
 class CORVELGUI_EXPORT ZoomTimeline : public QWidget
 {
     Q_OBJECT
@@ -63,7 +66,8 @@ public:
     void setFontSize(int points);
     /// In result mode there is no indicator, and no search range is displayed.
     void setResultMode(bool on);
-    /// An inactive timeline is disabled. A blocked one shows everything but takes no input.
+    /// An inactive timeline is disabled, and shows neither markers nor indicator. A blocked one
+    /// shows everything but takes no input.
     void setActive(bool active, bool blocked);
     /// Selects the indicator's colour.
     void setPlayMode(bool on);
