@@ -5,6 +5,7 @@
 #include "footagescan.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTimer>
 
 #include <chrono>
@@ -59,6 +60,13 @@ void LoadJob::Work::run()
 
 void LoadJob::Work::read()
 {
+    const QStringList named = loaded.files.footage + QStringList{loaded.files.unseen};
+    for (const QString& path : named) {
+        if (path.isEmpty() || QFileInfo::exists(path))
+            continue;
+        error = LoadJob::tr("There is no file or folder “%1”.").arg(QDir::toNativeSeparators(path));
+        return;
+    }
     loaded.files = loaded.files.located();
     const ReviewFiles& files = loaded.files;
     ofCameras = ofFolders.folders.value(files.footageFolder);

@@ -360,10 +360,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Muster</translation>
     </message>
     <message>
-        <source>There is no file or folder “%1”.</source>
-        <translation>Es gibt keine Datei und keinen Ordner „%1“.</translation>
-    </message>
-    <message>
         <source>Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}, and {camera} at most once.</source>
         <translation>Falsches Muster „%1“: Es braucht {yyyy}, {MM} und {dd}, und {camera} höchstens einmal.</translation>
     </message>
@@ -844,6 +840,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>There are neither recordings nor events in %1.</source>
         <translation>In %1 gibt es weder Aufzeichnungen noch Ereignisse.</translation>
+    </message>
+    <message>
+        <source>There is no file or folder “%1”.</source>
+        <translation>Es gibt keine Datei und keinen Ordner „%1“.</translation>
     </message>
 </context>
 <context>

@@ -6,7 +6,6 @@
 #include <Corvel/TimeZoneHelper>
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -111,9 +110,6 @@ QList<QCommandLineOption> CommandLine::options()
 QString CommandLine::takeArguments(const QCommandLineParser& parser)
 {
     const QStringList paths = parser.positionalArguments();
-    for (const QString& path : paths)
-        if (!QFileInfo::exists(path))
-            return tr("There is no file or folder “%1”.").arg(path);
     for (const QString& option : parser.optionNames()) {
         if (parser.value(option).isEmpty())
             return tr("The option --%1 needs a value.").arg(option);
