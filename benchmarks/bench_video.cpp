@@ -1,14 +1,12 @@
 // What a picture of a clip costs: one after the other, back, at random, and for several cameras at
 // once.
 
-#include "clipwriter.h"
 #include "measure.h"
+#include "movingclip.h"
 #include "video/clip.h"
 
 #include <QElapsedTimer>
-#include <QPainter>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <thread>
@@ -17,48 +15,22 @@ using namespace Review;
 
 namespace {
 
-constexpr QSize size(640, 360);
-constexpr int count = 1'000;
-constexpr int frameLength = 40; // milliseconds
-/// Of 64 pictures, as the decoder makes them.
-constexpr qint64 cacheBytes = qint64(64) * size.width() * size.height() * 3 / 2;
-
+constexpr int frameLength = MovingClip::frameLength;
+/// Of decoded pictures, for all cameras together, as in the client.
+constexpr qint64 shownBytes = qint64(256) << 20;
 const std::atomic<bool> goesOn = false;
 
-/// H.264 where there is an encoder, with a key frame every 50 pictures.
-QString clipPath()
+const MovingClip& clipOf(std::int64_t height)
 {
-    static const QTemporaryDir folder;
-    static const QString path = [] {
-        QString name = folder.filePath(QStringLiteral("clip.mp4"));
-        for (const QByteArray& encoder : {QByteArray("libx264"), QByteArray("mpeg4")}) {
-            ClipWriter writer(name, size,
-                              {.encoder = encoder,
-                               .framesPerSecond = 1'000 / frameLength,
-                               .quantizer = encoder == "mpeg4" ? 4 : 0});
-            QImage image(size, QImage::Format_RGB32);
-            for (int i = 0; i < count && writer.fault().isEmpty(); ++i) {
-                image.fill(QColor::fromHsv(i % 360, 90, 150));
-                QPainter painter(&image);
-                for (int x = 0; x < 40; ++x)
-                    painter.fillRect(x * 16, (x * 53 + i * 3) % size.height(), 14, 60,
-                                     QColor::fromHsv(x * 9, 200, 200));
-                painter.end();
-                writer.add(image);
-            }
-            writer.finish();
-            if (writer.fault().isEmpty())
-                break;
-        }
-        return name;
-    }();
-    return path;
+    static const MovingClip small(QSize(640, 360), 1'000);
+    static const MovingClip large(QSize(1920, 1080), 300);
+    return height == large.size().height() ? large : small;
 }
 
-std::unique_ptr<Clip> openClip()
+std::unique_ptr<Clip> openClip(const MovingClip& clip, qint64 cacheBytes)
 {
     QString fault;
-    return Clip::open(clipPath(), cacheBytes, goesOn, fault);
+    return Clip::open(clip.path(), cacheBytes, goesOn, fault);
 }
 
 qint64 instantOf(int number)
@@ -68,10 +40,15 @@ qint64 instantOf(int number)
 
 enum Way { Sequential, Back, Random };
 
-/// @p state's argument is a Way. The ratio is that to sequential decoding.
+/// @p state's arguments are a Way and the height of the pictures. The ratio is that to sequential
+/// decoding of the same clip. One step back after the other is what plays in reverse.
 void picture(benchmark::State& state)
 {
-    const std::unique_ptr<Clip> clip = openClip();
+    const MovingClip& written = clipOf(state.range(1));
+    const int count = written.count();
+    // Of 64 pictures, as the decoder makes them.
+    const qint64 cacheBytes = qint64(64) * written.size().width() * written.size().height() * 3 / 2;
+    const std::unique_ptr<Clip> clip = openClip(written, cacheBytes);
     if (!clip)
         return state.SkipWithError("The clip cannot be opened.");
     QRandomGenerator random(7);
@@ -94,17 +71,18 @@ void picture(benchmark::State& state)
     state.counters["p95_ms"] = times[times.size() * 95 / 100];
 }
 
-/// So many cameras at once, a thread each, 250 pictures forwards of each; the ratio is that of the
-/// processor time.
+/// So many cameras at once, a thread each, 250 pictures forwards of each; they share a cache of the
+/// client's size. The ratio is that of the processor time.
 void cameras(benchmark::State& state)
 {
     constexpr int pictures = 250;
-    const auto play = [] {
-        const std::unique_ptr<Clip> clip = openClip();
+    const MovingClip& written = clipOf(state.range(1));
+    const qint64 cacheBytes = shownBytes / state.range(0);
+    const auto play = [&written, cacheBytes] {
+        const std::unique_ptr<Clip> clip = openClip(written, cacheBytes);
         for (int i = 0; i < pictures; ++i)
             benchmark::DoNotOptimize(clip->pictureAt(instantOf(i)));
     };
-    clipPath();
     const MemoryGrowth memory;
     RatioTimer ratio(state, 1);
     for (auto _ : state) {
@@ -122,15 +100,15 @@ void cameras(benchmark::State& state)
 }
 
 BENCHMARK(picture)
-    ->Arg(Sequential)
-    ->Arg(Back)
-    ->Arg(Random)
+    ->ArgsProduct({{Sequential, Back, Random}, {360}})
     ->Unit(benchmark::kMillisecond)
-    ->Iterations(count);
+    ->Iterations(1'000);
+BENCHMARK(picture)
+    ->ArgsProduct({{Sequential, Back, Random}, {1080}})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(300);
 BENCHMARK(cameras)
-    ->Arg(1)
-    ->Arg(4)
-    ->Arg(16)
+    ->ArgsProduct({{1, 4, 16}, {360, 1080}})
     ->Unit(benchmark::kMillisecond)
     ->Iterations(3)
     ->UseRealTime();

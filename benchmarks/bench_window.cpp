@@ -1,0 +1,162 @@
+// How long the client's window keeps an event waiting while it shows cameras.
+
+#include "movingclip.h"
+#include "playback/cameraview.h"
+#include "playback/playbackpane.h"
+#include "window/reviewwindow.h"
+
+#include <CorvelGui/Ruler>
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QMouseEvent>
+#include <QTimer>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+using namespace Review;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr qint64 begin = 1'795'000'000'000;
+constexpr qint64 clipLength = qint64(400) * MovingClip::frameLength;
+constexpr int cameraCount = 16;
+
+/// Sixteen cameras that recorded the same clip over and over, with breaks between them.
+ReviewData recordings(const QString& clip)
+{
+    ReviewData data;
+    for (int i = 0; i < cameraCount; ++i) {
+        const QString name = QStringLiteral("Camera %1").arg(i + 1);
+        CorvelGui::TrackDescription track{name, name, begin, begin + 100 * clipLength};
+        for (int part = 0; part < 100; ++part) {
+            const qint64 from = begin + part * clipLength;
+            track.recorded.append({from, from + clipLength});
+            data.files[name].append({clip, from, from + clipLength});
+        }
+        data.tracks.append(track);
+    }
+    data.sort();
+    return data;
+}
+
+/// Asks the event loop of the window every few milliseconds, from a thread of its own, and keeps
+/// how long it took to answer.
+class Waits
+{
+public:
+    Waits() : m_thread([this] { ask(); }) {}
+    ~Waits() { stop(); }
+
+    /// Milliseconds, the shortest first.
+    const std::vector<double>& stop()
+    {
+        m_goesOn = false;
+        if (m_thread.joinable())
+            m_thread.join();
+        QCoreApplication::processEvents(); // answers that are under way
+        std::ranges::sort(m_waits);
+        return m_waits;
+    }
+
+private:
+    void ask()
+    {
+        while (m_goesOn) {
+            QElapsedTimer timer;
+            timer.start();
+            QMetaObject::invokeMethod(qApp, [this, timer] {
+                m_waits.push_back(double(timer.nsecsElapsed()) / 1e6);
+            });
+            std::this_thread::sleep_for(3ms);
+        }
+    }
+
+    std::atomic<bool> m_goesOn = true;
+    std::vector<double> m_waits; ///< of the thread of the window
+    std::thread m_thread;
+};
+
+enum Doing { Rests, Plays, PlaysWhileHovered, Scrubs };
+
+void runFor(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void sendMouse(QEvent::Type type, QWidget* target, const QPoint& place, Qt::MouseButton held)
+{
+    const Qt::MouseButton button = type == QEvent::MouseButtonPress ? held : Qt::NoButton;
+    QMouseEvent event(type, place, target->mapToGlobal(place), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &event);
+}
+
+/// The next place of a mouse that goes to and fro over the middle of the timeline. It moves over
+/// the ruler, or holds the child that it drags.
+void moveMouse(CorvelGui::Ruler* ruler, QWidget* dragged, int step)
+{
+    const int way = ruler->width() / 2;
+    const QPoint place(ruler->width() / 4 + std::abs(step * 7 % (2 * way) - way), 8);
+    if (dragged)
+        sendMouse(QEvent::MouseMove, dragged, dragged->mapFrom(ruler, place), Qt::LeftButton);
+    else
+        sendMouse(QEvent::MouseMove, ruler, place, Qt::NoButton);
+}
+
+/// @p state's arguments are a Doing and the height of the pictures.
+void eventLatency(benchmark::State& state)
+{
+    const bool large = state.range(1) == 1080;
+    const MovingClip clip(large ? QSize(1920, 1080) : QSize(640, 360), 400);
+    ReviewWindow window(QStringLiteral("UTC"), true);
+    window.setReview(recordings(clip.path()));
+    window.resize(1600, 1000);
+    window.show();
+    window.findChild<PlaybackPane*>()->setShownCameras(cameraCount);
+    auto* ruler = window.findChild<CorvelGui::Ruler*>();
+    ruler->setView(begin, begin + 20 * clipLength);
+    runFor(2s);
+    if (state.range(0) == Plays || state.range(0) == PlaysWhileHovered)
+        window.play();
+    QWidget* dragged = nullptr;
+    if (state.range(0) == Scrubs) {
+        dragged = ruler->childAt(int(ruler->xAt(qint64(ruler->getIndicatorMSecs()))), 8);
+        sendMouse(QEvent::MouseButtonPress, dragged, dragged->rect().center(), Qt::LeftButton);
+    }
+    for (auto _ : state) {
+        Waits waits;
+        for (int step = 0; step < 500; ++step) {
+            if (state.range(0) >= PlaysWhileHovered)
+                moveMouse(ruler, dragged, step);
+            runFor(16ms);
+        }
+        const std::vector<double>& times = waits.stop();
+        state.counters["median_ms"] = times[times.size() / 2];
+        state.counters["p99_ms"] = times[times.size() * 99 / 100];
+        state.counters["longest_ms"] = times.back();
+    }
+}
+
+BENCHMARK(eventLatency)
+    ->ArgsProduct({{Rests, Plays, PlaysWhileHovered, Scrubs}, {360, 1080}})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
