@@ -10,13 +10,15 @@ if(NOT CORVELGUI_LRELEASE)
     message(FATAL_ERROR "Qt's lrelease is missing (Debian: qt6-l10n-tools); CORVELGUI_LRELEASE may name it")
 endif()
 
-# corvelgui_add_translations(<target> DESTINATION <folder> [COMPONENT <name>] SOURCES <file.ts>...)
+# corvelgui_add_translations(<target> DESTINATION <folder> [COMPONENT <name>] [RESOURCE <prefix>] SOURCES <file.ts>...)
 #
-# Compiles the translations with <target>, and installs them if there is a component. The build tree has them at the same place as an
+# Compiles the translations with <target>, installs them if there is a component, and builds them in below the prefix
+# if there is one. The build tree has them at the same place as an
 # installation, so that programs find them from their own folder in both.
 function(corvelgui_add_translations target)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION;COMPONENT" "SOURCES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION;COMPONENT;RESOURCE" "SOURCES")
     set(folder "${PROJECT_BINARY_DIR}/${arg_DESTINATION}")
+    set(files)
     foreach(source IN LISTS arg_SOURCES)
         get_filename_component(source "${source}" ABSOLUTE)
         get_filename_component(name "${source}" NAME_WE)
@@ -28,10 +30,14 @@ function(corvelgui_add_translations target)
             COMMENT "Compiling the translation ${name}"
             VERBATIM)
         target_sources(${target} PRIVATE "${compiled}")
+        list(APPEND files "${compiled}")
         if(arg_COMPONENT)
             install(FILES "${compiled}" DESTINATION "${arg_DESTINATION}" COMPONENT ${arg_COMPONENT})
         endif()
     endforeach()
+    if(arg_RESOURCE)
+        qt_add_resources(${target} ${target}_translations PREFIX "${arg_RESOURCE}" BASE "${folder}" FILES ${files})
+    endif()
 endfunction()
 
 # corvelgui_update_translations(<file.ts> [ONLY_PLURALS] FROM <folder>...)

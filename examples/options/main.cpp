@@ -65,7 +65,7 @@ int main(int argc, char** argv)
     ChoicePage look("Look", {"Dark", "Light"},
                     [&](int index) { window.createDarkFusionStyle(index == 0); });
     ChoicePage language("Language", {"English", "Deutsch"}, [&](int index) {
-        PLanguage::SetLanguage(&window, index == 0 ? "en" : "de", TRANSLATIONS);
+        PLanguage::useLanguage(&window, index == 0 ? "en" : "de");
     });
     SettingsManager::m_listPages = {&look, &language};
 

@@ -65,6 +65,32 @@ private Q_SLOTS:
         QCOMPARE(texts(), untranslated);
     }
 
+    // With nothing named, Qt and the library speak it; with folders, the last one counts most.
+    void wholeLanguage()
+    {
+        const QString other = m_folder->filePath(u"other"_s);
+        QVERIFY(QDir().mkdir(other));
+        QVERIFY(QFile::rename(m_folder->filePath(u"app_de.qm"_s), other + u"/app_de.qm"_s));
+        const std::tuple<QString, QStringList, QStringList> rows[] = {
+            {u"de"_s, {}, {u"Colour"_s, u"Optionen"_s, u"Abbrechen"_s, u"und 1 weiterer"_s}},
+            {u"de_AT"_s,
+             {other},
+             {u"Farbe"_s, u"from app_de"_s, u"Abbrechen"_s, u"und 1 weiterer"_s}},
+            {u"de"_s,
+             {other, m_folder->path()},
+             {u"Farbe"_s, u"Optionen"_s, u"Abbrechen"_s, u"und 1 weiterer"_s}},
+            {u"en"_s, {other}, untranslated + QStringList{u"Cancel"_s, u"and 1 more"_s}},
+        };
+        for (const auto& [key, folders, expected] : rows) {
+            PLanguage::useLanguage(nullptr, key, folders);
+            QCOMPARE(texts() +
+                         QStringList({QCoreApplication::translate("QPlatformTheme", "Cancel"),
+                                      QCoreApplication::translate("CorvelGui::MarkerList",
+                                                                  "and %n more", nullptr, 1)}),
+                     expected);
+        }
+    }
+
     void unreadableFilesAreReported()
     {
         provide(u"broken_de.qm"_s);
