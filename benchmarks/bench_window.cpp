@@ -72,9 +72,8 @@ private:
         while (m_goesOn) {
             QElapsedTimer timer;
             timer.start();
-            QMetaObject::invokeMethod(qApp, [this, timer] {
-                m_waits.push_back(double(timer.nsecsElapsed()) / 1e6);
-            });
+            QMetaObject::invokeMethod(
+                qApp, [this, timer] { m_waits.push_back(double(timer.nsecsElapsed()) / 1e6); });
             std::this_thread::sleep_for(3ms);
         }
     }
