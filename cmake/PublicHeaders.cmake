@@ -64,6 +64,9 @@ set(CORVELGUI_PUBLIC_HEADERS
     itemviews/PTableWidget
     itemviews/PTableWidgetItem
     itemviews/PTextWidgetItem
+    playback/PDateEdit
+    playback/PDateTimeSelectionDialog
+    playback/PInputDateTimeWithRange
     playback/PPlaybar
     playback/PSlider
     playback/PopupSliderToolButton

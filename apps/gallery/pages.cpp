@@ -3,6 +3,7 @@
 #include "busyindicatorpage.h"
 #include "colourspage.h"
 #include "csvdialogpage.h"
+#include "datespage.h"
 #include "datetimeviewpage.h"
 #include "dialogspage.h"
 #include "fancylineeditspage.h"
@@ -60,6 +61,7 @@ const std::vector<Page>& pages()
         {u"Playbar"_s, create<PlaybarPage>},
         {u"Date-time view"_s, create<DateTimeViewPage>},
         {u"Sliders"_s, create<SlidersPage>},
+        {u"Dates and times"_s, create<DatesPage>},
         // Input
         {u"Line edits"_s, create<LineEditsPage>},
         {u"Fancy line edits"_s, create<FancyLineEditsPage>},

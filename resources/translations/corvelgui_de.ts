@@ -152,6 +152,17 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::DateCalendar</name>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>No date</source>
+        <translation>Kein Datum</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::DurationText</name>
     <message>
         <source>%1 s</source>
@@ -242,6 +253,23 @@ Speicherort öffnen?</translation>
         <source>Next Day</source>
         <translation>Nächster Tag</translation>
     </message>
+</context>
+<context>
+    <name>CorvelGui::MarkerList</name>
+    <message>
+        <source>Markers of this symbol</source>
+        <translation>Marker dieses Symbols</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::MomentEntry</name>
     <message>
         <source>The clocks are put back here, so this time comes twice. Choose one:</source>
         <translation>Hier werden die Uhren zurückgestellt, daher gibt es diese Uhrzeit zweimal. Wählen Sie eine aus:</translation>
@@ -261,20 +289,6 @@ Speicherort öffnen?</translation>
     <message>
         <source>There is nothing at this time. Choose one from %1 to %2.</source>
         <translation>Zu dieser Zeit gibt es nichts. Wählen Sie eine von %1 bis %2.</translation>
-    </message>
-</context>
-<context>
-    <name>CorvelGui::MarkerList</name>
-    <message>
-        <source>Markers of this symbol</source>
-        <translation>Marker dieses Symbols</translation>
-    </message>
-    <message numerus="yes">
-        <source>and %n more</source>
-        <translation>
-            <numerusform>und %n weiterer</numerusform>
-            <numerusform>und %n weitere</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -497,6 +511,33 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PDateTimeSelectionDialog</name>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>&amp;Date</source>
+        <translation>&amp;Datum</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>Which of the two times</source>
+        <translation>Welche der beiden Uhrzeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Now</source>
+        <translation>&amp;Jetzt</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::PDeviceItem</name>
     <message>
         <source>Device</source>
@@ -515,6 +556,65 @@ Speicherort öffnen?</translation>
     <message>
         <source>Column %1</source>
         <translation>Spalte %1</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::PInputDateTimeWithRange</name>
+    <message>
+        <source>Range</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>Own range</source>
+        <translation>Eigener Zeitraum</translation>
+    </message>
+    <message>
+        <source>Last hour</source>
+        <translation>Letzte Stunde</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Gestern</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Letzte 7 Tage</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>From, date</source>
+        <translation>Von, Datum</translation>
+    </message>
+    <message>
+        <source>From, time</source>
+        <translation>Von, Uhrzeit</translation>
+    </message>
+    <message>
+        <source>From, which of the two times</source>
+        <translation>Von, welche der beiden Uhrzeiten</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>To, date</source>
+        <translation>Bis, Datum</translation>
+    </message>
+    <message>
+        <source>To, time</source>
+        <translation>Bis, Uhrzeit</translation>
+    </message>
+    <message>
+        <source>To, which of the two times</source>
+        <translation>Bis, welche der beiden Uhrzeiten</translation>
     </message>
 </context>
 <context>

@@ -46,10 +46,7 @@ protected:
 
 private:
     void moveDate(int days);
-    void findMoments();
-    bool isWithinLimits() const;
-    QString explanation() const;
-    void explainMoments();
+    void enableApply();
     void rejectWhenLeft();
     void retranslate();
 

@@ -1,5 +1,10 @@
 #include "localmoments.h"
 
+#include <QLocale>
+#include <QTimeZone>
+
+using namespace Qt::StringLiterals;
+
 namespace CorvelGui {
 
 QList<QDateTime> localMoments(QDate date, QTime time, const QDateTime& zone)
@@ -29,6 +34,28 @@ QList<QDateTime> localMoments(QDate date, QTime time, const QDateTime& zone)
     if (after != before)
         addIfShown(after);
     return moments;
+}
+
+QString clockOffset(const QDateTime& moment)
+{
+    return moment.toOffsetFromUtc(moment.offsetFromUtc()).timeZoneAbbreviation();
+}
+
+QString zoneText(const QDateTime& moment)
+{
+    const QString offset = clockOffset(moment);
+    const QString name = QString::fromUtf8(moment.timeZone().id());
+    if (moment.timeSpec() == Qt::OffsetFromUTC || name.endsWith(u"UTC"_s))
+        return offset;
+    return u"%1 (%2)"_s.arg(name, offset);
+}
+
+QString shortDateFormat()
+{
+    QString format = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!format.contains(u"yyyy"_s))
+        format.replace(u"yy"_s, u"yyyy"_s);
+    return format;
 }
 
 } // namespace CorvelGui

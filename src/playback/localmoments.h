@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QList>
+#include <QString>
 
 namespace CorvelGui {
 
@@ -12,5 +13,14 @@ namespace CorvelGui {
 /// over it. They keep the zone, also a fixed offset.
 CORVELGUI_INTERNAL_EXPORT QList<QDateTime> localMoments(QDate date, QTime time,
                                                         const QDateTime& zone);
+
+/// How far the clock of its zone is from UTC at @p moment, as in "UTC+02:00".
+QString clockOffset(const QDateTime& moment);
+
+/// The zone that @p moment is in, and its clock then, as in "Europe/Brussels (UTC+02:00)".
+QString zoneText(const QDateTime& moment);
+
+/// The short date of the locale, with all digits of the year.
+QString shortDateFormat();
 
 } // namespace CorvelGui

@@ -1,0 +1,139 @@
+#include "momententry.h"
+
+#include "localmoments.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+
+#include <initializer_list>
+
+namespace CorvelGui {
+
+namespace {
+
+/// A part that is full moves on to the next by itself: the separator behind it has been passed
+/// then.
+bool isPassedSeparator(const QDateTimeEdit& edit, const QKeyEvent& event)
+{
+    const auto* line = edit.findChild<QLineEdit*>();
+    const int place = line->hasSelectedText() ? line->selectionStart() : line->cursorPosition();
+    return event.text().size() == 1 && !event.text()[0].isLetterOrNumber() && place > 0 &&
+           line->text()[place - 1] == event.text()[0];
+}
+
+} // namespace
+
+MomentEntry::MomentEntry(const Controls& controls, QObject* parent)
+    : QObject(parent), m_controls(controls)
+{
+    for (QDateTimeEdit* edit :
+         std::initializer_list<QDateTimeEdit*>{controls.date, controls.time}) {
+        edit->installEventFilter(this);
+        connect(edit, &QDateTimeEdit::dateTimeChanged, this, &MomentEntry::findMoments);
+    }
+    connect(controls.occurrence, &QComboBox::activated, this, &MomentEntry::edited);
+}
+
+void MomentEntry::setMoment(const QDateTime& moment)
+{
+    const QScopedValueRollback setting(m_isSetting, true);
+    m_zone = moment;
+    m_moments.clear();
+    // The edits count in UTC, where every date and time exists.
+    m_controls.date->setDate(moment.date());
+    m_controls.time->setTime(moment.time());
+    findMoments();
+}
+
+QDateTime MomentEntry::moment() const
+{
+    if (!isWithinLimits())
+        return {};
+    if (m_moments.size() < 2)
+        return m_moments.value(0);
+    return m_moments.value(m_controls.occurrence->currentIndex());
+}
+
+void MomentEntry::setLimits(const QDateTime& earliest, const QDateTime& latest)
+{
+    const QScopedValueRollback setting(m_isSetting, true);
+    m_earliest = earliest;
+    m_latest = latest;
+    findMoments();
+}
+
+void MomentEntry::explain()
+{
+    const bool isTwice = m_moments.size() == 2 && isWithinLimits();
+    const QString text = explanation();
+    QLabel* note = m_controls.note;
+    note->setText(text);
+    note->setVisible(!text.isEmpty());
+
+    QComboBox* occurrence = m_controls.occurrence;
+    const int chosen = occurrence->currentIndex();
+    occurrence->clear();
+    if (isTwice) {
+        occurrence->addItem(tr("The first (%1)").arg(clockOffset(m_moments.at(0))));
+        occurrence->addItem(tr("The second (%1)").arg(clockOffset(m_moments.at(1))));
+        occurrence->setCurrentIndex(chosen);
+    }
+    occurrence->setVisible(isTwice);
+    if (!text.isEmpty() && note->isVisible()) {
+        QAccessibleEvent alert(note, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+bool MomentEntry::eventFilter(QObject* watched, QEvent* event)
+{
+    return event->type() == QEvent::KeyPress &&
+           isPassedSeparator(*static_cast<QDateTimeEdit*>(watched),
+                             *static_cast<QKeyEvent*>(event));
+}
+
+void MomentEntry::findMoments()
+{
+    const bool chosenBefore = m_moments.size() == 2;
+    m_moments = localMoments(m_controls.date->date(), m_controls.time->time(), m_zone);
+    const int chosen = chosenBefore ? m_controls.occurrence->currentIndex()
+                                    : int(m_moments.size() == 2 && m_moments.at(1) == m_zone);
+    explain();
+    m_controls.occurrence->setCurrentIndex(chosen);
+    if (!m_isSetting)
+        Q_EMIT edited();
+}
+
+bool MomentEntry::isWithinLimits() const
+{
+    return m_moments.isEmpty() || ((!m_earliest.isValid() || m_moments.last() >= m_earliest) &&
+                                   (!m_latest.isValid() || m_moments.first() <= m_latest));
+}
+
+// Empty for what needs no explanation.
+QString MomentEntry::explanation() const
+{
+    if (!isWithinLimits()) {
+        const QString format =
+            m_controls.date->displayFormat() + u' ' + m_controls.time->displayFormat();
+        const auto text = [&](const QDateTime& moment) {
+            QDateTime onClock = m_zone;
+            onClock.setMSecsSinceEpoch(moment.toMSecsSinceEpoch());
+            return moment.isValid() ? onClock.toString(format) : QString();
+        };
+        return tr("There is nothing at this time. Choose one from %1 to %2.")
+            .arg(text(m_earliest), text(m_latest));
+    }
+    if (m_moments.isEmpty())
+        return tr("The clocks are put forward here, so this time does not exist.");
+    if (m_moments.size() == 2)
+        return tr("The clocks are put back here, so this time comes twice. Choose one:");
+    return {};
+}
+
+} // namespace CorvelGui
