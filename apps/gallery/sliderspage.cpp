@@ -175,8 +175,7 @@ void addButtons(QLayout* page)
     volume->slider()->setValueText(percent);
     auto* speed = new PopupSliderToolButton;
     speed->setLimits(1, 16);
-    speed->slider()->setOrientation(Qt::Horizontal);
-    speed->slider()->setMinimumWidth(160);
+    speed->setOrientation(Qt::Horizontal);
     speed->slider()->setValueText([](int factor) { return u"× %1"_s.arg(factor); });
     for (PopupSliderToolButton* button : {volume, speed}) {
         const auto showValue = [button] {

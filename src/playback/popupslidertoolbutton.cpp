@@ -44,7 +44,7 @@ PopupSliderToolButton::PopupSliderToolButton(QWidget* parent)
     d->menu = new QMenu(this);
     auto* panel = new QWidget;
     d->slider = new PSlider(Qt::Vertical, panel);
-    d->slider->setMinimumSize(d->slider->sizeHint().width(), sliderLength);
+    d->slider->setMinimumHeight(sliderLength);
     d->slider->setValueTip(false);
     d->valueLabel = new QLabel(panel);
     d->valueLabel->setAlignment(Qt::AlignCenter);
@@ -116,6 +116,21 @@ void PopupSliderToolButton::setLimits(int minimum, int maximum)
 int PopupSliderToolButton::value() const
 {
     return d->slider->value();
+}
+
+Qt::Orientation PopupSliderToolButton::orientation() const
+{
+    return d->slider->orientation();
+}
+
+void PopupSliderToolButton::setOrientation(Qt::Orientation orientation)
+{
+    if (orientation == d->slider->orientation())
+        return;
+    const bool isUpright = orientation == Qt::Vertical;
+    d->slider->setOrientation(orientation);
+    d->slider->setMinimumSize(isUpright ? 0 : sliderLength, isUpright ? sliderLength : 0);
+    Q_EMIT orientationChanged(orientation);
 }
 
 PSlider* PopupSliderToolButton::slider() const

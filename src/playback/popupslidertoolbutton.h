@@ -22,6 +22,8 @@ class CORVELGUI_EXPORT PopupSliderToolButton : public QToolButton
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum NOTIFY limitsChanged)
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum NOTIFY limitsChanged)
     Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged)
+    Q_PROPERTY(
+        Qt::Orientation orientation READ orientation WRITE setOrientation NOTIFY orientationChanged)
 
 public:
     /// With an upright slider from 0 to 99, at 0.
@@ -37,7 +39,11 @@ public:
 
     int value() const;
 
-    /// The slider in the pop-up, for its steps, orientation and texts; stays ours. What
+    /// Of the slider; upright at first.
+    Qt::Orientation orientation() const;
+    void setOrientation(Qt::Orientation orientation);
+
+    /// The slider in the pop-up, for its steps and texts; stays ours. What
     /// PSlider::setValueText() gives is what the button shows and speaks.
     PSlider* slider() const;
 
@@ -49,6 +55,8 @@ Q_SIGNALS:
     void limitsChanged(int minimum, int maximum);
     /// Emitted when the value changes, whoever changed it.
     void valueChanged(int value);
+    /// Emitted when setOrientation() changed it.
+    void orientationChanged(Qt::Orientation orientation);
 
 protected:
     void wheelEvent(QWheelEvent* event) override;

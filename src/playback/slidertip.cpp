@@ -3,7 +3,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QScreen>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -23,12 +22,12 @@ SliderTip::SliderTip(QWidget* slider)
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     setFocusPolicy(Qt::NoFocus);
     setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
+    setBackgroundRole(QPalette::Base);
     for (QLabel* label : {m_picture, m_text}) {
-        label->setForegroundRole(QPalette::ToolTipText);
+        label->setForegroundRole(QPalette::Text);
         label->setAlignment(Qt::AlignCenter);
         label->setTextFormat(Qt::PlainText);
     }
@@ -38,7 +37,6 @@ SliderTip::SliderTip(QWidget* slider)
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(m_picture);
     layout->addWidget(m_text);
-    takeColors();
     slider->installEventFilter(this);
 }
 
@@ -74,20 +72,6 @@ bool SliderTip::eventFilter(QObject*, QEvent* event)
     if (event->type() == QEvent::Hide || event->type() == QEvent::WindowDeactivate)
         hide();
     return false;
-}
-
-void SliderTip::changeEvent(QEvent* event)
-{
-    QFrame::changeEvent(event);
-    if (event->type() == QEvent::StyleChange)
-        takeColors();
-}
-
-// Those of tooltips are a palette of their own.
-void SliderTip::takeColors()
-{
-    if (palette() != QToolTip::palette())
-        setPalette(QToolTip::palette());
 }
 
 } // namespace CorvelGui

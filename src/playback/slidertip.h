@@ -24,11 +24,8 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
-    void takeColors();
-
     QLabel* m_picture;
     QLabel* m_text;
 };
