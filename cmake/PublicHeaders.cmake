@@ -9,6 +9,7 @@ set(CORVEL_PUBLIC_HEADERS
     ProxyUserSettings
     RequestLimits
     SubNetMask
+    SystemInformation
     TimeZoneHelper
     UrlChecker)
 
@@ -102,8 +103,12 @@ set(CORVELGUI_PUBLIC_HEADERS
     timeline/ZoomTimeline
     timeline/ZoomTimelineOperation
     timeline/Zoomer
+    update/AboutInfo7
     update/AppUpdater
     update/AppUpdaterDialog
+    update/Info3rdLicences
     update/PChangeLogDialog
     update/PCheckVersionUpdate
-    update/PCheckVersionUpdateDialog)
+    update/PCheckVersionUpdateDialog
+    update/PSystemInfoWidget
+    update/RSSFeedDialog)

@@ -33,6 +33,7 @@ int main(int argc, char** argv)
     const QString base = server.address({}).toString();
     Console::printError(u"Version file channel: %1/\n"
                         "Internal channel:     %1/internal/\n"
+                        "News feed:            %1/feed.xml\n"
                         "Update queries:       %1\n"_s.arg(base));
     return QCoreApplication::exec();
 }

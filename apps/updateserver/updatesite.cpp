@@ -26,7 +26,7 @@ const QByteArray changeLog =
 
 QStringList contentNames()
 {
-    return {u"version"_s, u"notes"_s, u"installer"_s, u"query"_s};
+    return {u"version"_s, u"notes"_s, u"installer"_s, u"query"_s, u"feed"_s};
 }
 
 UpdateSite::UpdateSite(const Offer& offer, const QString& base) : m_offer(offer), m_base(base) {}
@@ -50,6 +50,8 @@ QString UpdateSite::contentFor(const QUrl& address) const
         return u"version"_s;
     if (path == "/notes.html"_L1)
         return u"notes"_s;
+    if (path == "/feed.xml"_L1)
+        return u"feed"_s;
     if (path == u'/' + installerName())
         return u"installer"_s;
     if (path == "/software"_L1 && address.query() == u"id=%1"_s.arg(softwareId))
@@ -65,6 +67,8 @@ Answer UpdateSite::goodAnswer(const QString& content) const
         return Answer::ok(changeLog, "text/html; charset=utf-8");
     if (content == "query"_L1)
         return Answer::ok(queryAnswer(), "application/json");
+    if (content == "feed"_L1)
+        return Answer::ok(feed(), "application/rss+xml");
     return Answer::ok(installer(), "application/octet-stream");
 }
 
@@ -85,6 +89,21 @@ QByteArray UpdateSite::queryAnswer() const
                                      {u"size"_s, m_offer.installerSize},
                                      {u"releaseDate"_s, releaseDate}})
         .toJson();
+}
+
+QByteArray UpdateSite::feed() const
+{
+    return u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<rss version=\"2.0\"><channel><title>Corvel Review</title>\n"
+           "<item><guid>%1</guid><title>Version %1 is there</title>\n"
+           "<pubDate>Mon, 02 Mar 2026 10:00:00 GMT</pubDate><link>%2/notes.html</link>\n"
+           "<description><![CDATA[<p>The timeline opens <b>where it was left</b>.</p>]]>"
+           "</description></item>\n"
+           "<item><guid>clocks</guid><title>Summer time begins on 29 March</title>\n"
+           "<pubDate>Sun, 01 Mar 2026 08:30:00 +0100</pubDate>\n"
+           "<description>Cameras whose clocks follow it skip an hour.</description></item>\n"
+           "</channel></rss>\n"_s.arg(m_offer.version.toString(), m_base)
+               .toUtf8();
 }
 
 QByteArray UpdateSite::installer() const

@@ -22,8 +22,8 @@ struct Offer
 /// The names of the contents that a server has.
 QStringList contentNames();
 
-/// The pages of an update server: the version file with its change log and installer, and the
-/// update query with its download.
+/// The pages of an update server: the version file with its change log and installer, the update
+/// query with its download, and a feed of news.
 class UpdateSite
 {
     Q_DECLARE_TR_FUNCTIONS(UpdateServer::UpdateSite)
@@ -39,6 +39,7 @@ private:
     LocalHttp::Answer goodAnswer(const QString& content) const;
     QByteArray versionFile() const;
     QByteArray queryAnswer() const;
+    QByteArray feed() const;
     QByteArray installer() const;
     QString installerName() const;
 

@@ -67,6 +67,29 @@
     </message>
 </context>
 <context>
+    <name>CorvelGui::AboutInfo7</name>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Version:</source>
+        <translation>Version:</translation>
+    </message>
+    <message>
+        <source>Build:</source>
+        <translation>Stand:</translation>
+    </message>
+    <message>
+        <source>Look:</source>
+        <translation>Aussehen:</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::AppUpdater</name>
     <message>
         <source>Error</source>
@@ -217,6 +240,33 @@ Speicherort öffnen?</translation>
     <message>
         <source>Clear text</source>
         <translation>Text löschen</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::Info3rdLicences</name>
+    <message>
+        <source>Licence: %1</source>
+        <translation>Lizenz: %1</translation>
+    </message>
+    <message>
+        <source>The text of the licence is missing: %1</source>
+        <translation>Der Text der Lizenz fehlt: %1</translation>
+    </message>
+    <message>
+        <source>Filter components</source>
+        <translation>Bestandteile filtern</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>Bestandteile</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
     </message>
 </context>
 <context>
@@ -762,6 +812,117 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PSystemInfoWidget</name>
+    <message>
+        <source>%1, of which %2 are available</source>
+        <translation>%1, davon %2 verfügbar</translation>
+    </message>
+    <message>
+        <source>%1 × %2 at (%3, %4)</source>
+        <translation>%1 × %2 bei (%3, %4)</translation>
+    </message>
+    <message>
+        <source>scale %1 %</source>
+        <translation>Skalierung %1 %</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>primary</source>
+        <translation>Hauptbildschirm</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Platform</source>
+        <translation>Plattform</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>Kern</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Rechner</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Prozessor</translation>
+    </message>
+    <message>
+        <source>Threads</source>
+        <translation>Threads</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Screens and graphics</source>
+        <translation>Bildschirme und Grafik</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Software: no graphics adapter was found</source>
+        <translation>Software: keine Grafikkarte gefunden</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Interfaces</source>
+        <translation>Schnittstellen</translation>
+    </message>
+    <message>
+        <source>None that is up</source>
+        <translation>Keine, die aktiv ist</translation>
+    </message>
+    <message>
+        <source>System information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::PTreeWidget</name>
     <message>
         <source>Copy</source>
@@ -785,6 +946,77 @@ Speicherort öffnen?</translation>
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::RSSFeedDialog</name>
+    <message>
+        <source>%1, not read</source>
+        <translation>%1, nicht gelesen</translation>
+    </message>
+    <message>
+        <source>Read more on the web</source>
+        <translation>Im Web weiterlesen</translation>
+    </message>
+    <message>
+        <source>What this address has is no feed of news.</source>
+        <translation>An dieser Adresse stehen keine Nachrichten.</translation>
+    </message>
+    <message>
+        <source>The feed is damaged.</source>
+        <translation>Die Nachrichten sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>The feed is not safe to read.</source>
+        <translation>Die Nachrichten können nicht gefahrlos gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Without a title</source>
+        <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>Fetching the news…</source>
+        <translation>Die Nachrichten werden geholt …</translation>
+    </message>
+    <message>
+        <source>The news cannot be fetched: %1</source>
+        <translation>Die Nachrichten können nicht geholt werden: %1</translation>
+    </message>
+    <message>
+        <source>There is no news.</source>
+        <translation>Es gibt keine Nachrichten.</translation>
+    </message>
+    <message>
+        <source>News: %1, not read: %2</source>
+        <translation>Nachrichten: %1, nicht gelesen: %2</translation>
+    </message>
+    <message>
+        <source>News</source>
+        <translation>Nachrichten</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Text of the chosen entry</source>
+        <translation>Text der gewählten Nachricht</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Fetch the news again (%1)</source>
+        <translation>Die Nachrichten neu holen (%1)</translation>
+    </message>
+    <message>
+        <source>Mark &amp;all as read</source>
+        <translation>A&amp;lle als gelesen markieren</translation>
     </message>
 </context>
 <context>

@@ -29,7 +29,6 @@ protected:
 
 private:
     void retranslate();
-    void showLog();
 
     struct Private;
     const std::unique_ptr<Private> d;
