@@ -39,6 +39,7 @@ class CORVELGUI_EXPORT VideoSlider : public QWidget
     Q_PROPERTY(bool seeking READ isSeeking NOTIFY seekingChanged)
 
 public:
+    /// A place of the recording that stands out, with a text for the tip.
     struct Mark
     {
         qint64 position = 0;
