@@ -16,6 +16,9 @@ namespace CorvelGui {
 /// actions "Copy" and "Copy (Cell)" with their context menu, and the export as CSV. The header menu
 /// is PHeaderCheckMenu.
 ///
+/// The keys of the actions, Ctrl+Shift+C and Ctrl+C, count while the context menu is open, and
+/// always where the actions are added to the view: QWidget::addAction().
+///
 /// A row counts as selected when one of its cells is. Rows come in tree order: from top to bottom,
 /// parents before children, whether they can be seen or not.
 class CORVELGUI_EXPORT PListActions : public QObject
