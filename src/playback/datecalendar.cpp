@@ -36,7 +36,7 @@ DateCalendar::DateCalendar(QWidget* parent)
     layout()->addWidget(m_foot);
     setEmptyAllowed(false);
     connect(m_today, &QPushButton::clicked, this, [this] {
-        setSelectedDate(QDate::currentDate());
+        setSelectedDate(m_todayDate);
         Q_EMIT activated(selectedDate());
     });
     connect(m_empty, &QPushButton::clicked, this, &DateCalendar::emptyChosen);
@@ -46,6 +46,12 @@ DateCalendar::DateCalendar(QWidget* parent)
 void DateCalendar::setEmptyAllowed(bool allowed)
 {
     m_empty->setVisible(allowed);
+}
+
+void DateCalendar::setToday(QDate today)
+{
+    m_todayDate = today;
+    m_today->setEnabled(today >= minimumDate() && today <= maximumDate());
 }
 
 // QCalendarWidget knows nothing of the foot.
@@ -58,8 +64,6 @@ QSize DateCalendar::minimumSizeHint() const
 
 void DateCalendar::showEvent(QShowEvent* event)
 {
-    const QDate today = QDate::currentDate();
-    m_today->setEnabled(today >= minimumDate() && today <= maximumDate());
     // Readable in the look of this moment.
     QTextCharFormat weekend;
     weekend.setForeground(POrvGuiTheme::statusRed());

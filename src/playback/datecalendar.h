@@ -16,6 +16,8 @@ public:
     explicit DateCalendar(QWidget* parent = nullptr);
 
     void setEmptyAllowed(bool allowed);
+    /// What the button for today chooses, as far as it is within the limits.
+    void setToday(QDate today);
 
     QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override;
@@ -35,6 +37,7 @@ protected:
 private:
     void retranslate();
 
+    QDate m_todayDate;
     QWidget* m_foot;
     QPushButton* m_today;
     QPushButton* m_empty;

@@ -54,7 +54,6 @@ JumpToTimepointDialog::JumpToTimepointDialog(QWidget* parent)
     d->ui.line->setStyleSheet(
         u"QFrame[frameShape=\"4\"]\n\t\t\t{ \n\t\t\t\tborder: none; \n\t\t\t\tbackground-color: %1; \n\t\t\t}"_s
             .arg(POrvGuiTheme::colorBlue.name()));
-    d->ui.dateEdit->setDisplayFormat(shortDateFormat());
     d->entry = new MomentEntry({.date = d->ui.dateEdit,
                                 .time = d->ui.timeEdit,
                                 .note = d->ui.labelClockChange,

@@ -1,6 +1,7 @@
 #include "momententry.h"
 
 #include "localmoments.h"
+#include "pdateedit.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -44,6 +45,7 @@ void MomentEntry::setMoment(const QDateTime& moment)
     const QScopedValueRollback setting(m_isSetting, true);
     m_zone = moment;
     m_moments.clear();
+    m_controls.date->setTodayZone(moment.timeZone());
     // The edits count in UTC, where every date and time exists.
     m_controls.date->setDate(moment.date());
     m_controls.time->setTime(moment.time());

@@ -7,12 +7,13 @@
 #include <QObject>
 
 class QComboBox;
-class QDateEdit;
 class QDateTimeEdit;
 class QLabel;
 class QTimeEdit;
 
 namespace CorvelGui {
+
+class PDateEdit;
 
 /// Makes a moment of what is in a date and a time edit, on the clock of a zone. Where the clock
 /// skips that time it says so, where it shows it twice it lets the user choose, and it tells the
@@ -24,7 +25,7 @@ class CORVELGUI_INTERNAL_EXPORT MomentEntry : public QObject
 public:
     struct Controls
     {
-        QDateEdit* date;
+        PDateEdit* date;
         QTimeEdit* time;
         QLabel* note;
         QComboBox* occurrence; ///< which of two moments

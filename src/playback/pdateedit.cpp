@@ -22,11 +22,14 @@ struct PDateEdit::Private
     bool isEmpty = false;
     bool wasEmpty = false; ///< when the calendar opened, and no date has been chosen since
     QDate reported;
+    QTimeZone todayZone;
 };
 
-PDateEdit::PDateEdit(QWidget* parent)
-    : QDateEdit(QDate::currentDate(), parent), d(std::make_unique<Private>())
+PDateEdit::PDateEdit(QWidget* parent) : QDateEdit(parent), d(std::make_unique<Private>())
 {
+    // Where every date exists: some clocks skip a midnight.
+    setTimeSpec(Qt::UTC);
+    setDate(QDate::currentDate());
     d->reported = date();
     d->calendar = new DateCalendar(this);
     setDisplayFormat(shortDateFormat());
@@ -38,7 +41,10 @@ PDateEdit::PDateEdit(QWidget* parent)
         if (d->isEmpty && !isDashes(text) && hasAcceptableInput())
             setEmpty(false);
     });
-    connect(d->calendar, &DateCalendar::shown, this, [this] { d->wasEmpty = d->isEmpty; });
+    connect(d->calendar, &DateCalendar::shown, this, [this] {
+        d->wasEmpty = d->isEmpty;
+        d->calendar->setToday(today());
+    });
     for (const auto chosen : {&QCalendarWidget::clicked, &QCalendarWidget::activated})
         connect(d->calendar, chosen, this, [this](QDate date) {
             d->wasEmpty = false;
@@ -92,6 +98,11 @@ void PDateEdit::setChosenDate(QDate date)
     setDate(std::clamp(date, minimumDate(), maximumDate()));
     if (alive)
         setEmpty(false); // also when that was its date already
+}
+
+void PDateEdit::setTodayZone(const QTimeZone& zone)
+{
+    d->todayZone = zone;
 }
 
 void PDateEdit::stepBy(int steps)
@@ -189,9 +200,15 @@ void PDateEdit::showText()
     update();
 }
 
+QDate PDateEdit::today() const
+{
+    return d->todayZone.isValid() ? QDateTime::currentDateTimeUtc().toTimeZone(d->todayZone).date()
+                                  : QDate::currentDate();
+}
+
 void PDateEdit::beginWithToday()
 {
-    setChosenDate(QDate::currentDate());
+    setChosenDate(today());
 }
 
 void PDateEdit::report()

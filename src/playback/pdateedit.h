@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QDateEdit>
+#include <QTimeZone>
 
 #include <memory>
 
@@ -38,6 +39,9 @@ public:
     /// Invalid while it is empty.
     QDate chosenDate() const;
 
+    /// The zone whose date is today; that of this machine at first, and for an invalid one.
+    void setTodayZone(const QTimeZone& zone);
+
     void stepBy(int steps) override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -48,6 +52,8 @@ public Q_SLOTS:
     void setChosenDate(QDate date);
 
 Q_SIGNALS:
+    /// Emitted when setEmptyAllowed() changed it, after chosenDateChanged() if that follows from
+    /// it.
     void emptyAllowedChanged(bool allowed);
     /// Emitted when chosenDate() changes, whoever changed it.
     void chosenDateChanged(QDate date);
@@ -65,6 +71,7 @@ private:
     bool isDashes(const QString& text) const;
     void setEmpty(bool empty);
     void showText();
+    QDate today() const;
     void beginWithToday();
     void report();
     void openCalendar();

@@ -156,8 +156,7 @@ void PDateTimeSelectionDialog::createLayout()
     d->time = new QTimeEdit(this);
     d->time->setDisplayFormat(u"HH:mm:ss"_s);
     d->timeLabel->setBuddy(d->time);
-    for (QDateTimeEdit* edit : d->edits())
-        edit->setTimeSpec(Qt::UTC);
+    d->time->setTimeSpec(Qt::UTC);
     d->zoneLabel = new QLabel(this);
     d->zoneName = new QLabel(this);
     d->zoneName->setTextFormat(Qt::PlainText);

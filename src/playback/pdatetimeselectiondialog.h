@@ -52,6 +52,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Emitted when dateTime() changes, whoever changed it.
     void dateTimeChanged(const QDateTime& dateTime);
+    /// Emitted when setMillisecondsVisible() changed it.
     void millisecondsVisibleChanged(bool visible);
 
 protected:

@@ -210,11 +210,10 @@ void PInputDateTimeWithRange::createEnd(End& end, int row)
     end.label->setBuddy(end.date);
     end.time = new QTimeEdit(this);
     end.time->setDisplayFormat(u"HH:mm:ss"_s);
-    for (QDateTimeEdit* edit : std::initializer_list<QDateTimeEdit*>{end.date, end.time}) {
-        edit->setTimeSpec(Qt::UTC);
-        // What is half typed must not move the other end.
-        edit->setKeyboardTracking(false);
-    }
+    end.time->setTimeSpec(Qt::UTC);
+    // What is half typed must not move the other end.
+    end.date->setKeyboardTracking(false);
+    end.time->setKeyboardTracking(false);
     end.occurrence = new QComboBox(this);
     end.note = new QLabel(this);
     end.note->setTextFormat(Qt::PlainText);

@@ -73,7 +73,10 @@ Q_SIGNALS:
     void rangeChanged(const QDateTime& from, const QDateTime& to);
     /// Emitted after rangeChanged() when the user changed it, by an end or by a preset.
     void rangeEdited(const QDateTime& from, const QDateTime& to);
+    /// Emitted when the preset changes: by setPreset(), setRange() or the user, who makes it
+    /// OwnRange by an end.
     void presetChanged(CorvelGui::PInputDateTimeWithRange::Preset preset);
+    /// Emitted when hasAcceptableInput() changes.
     void acceptableInputChanged(bool acceptable);
 
 protected:

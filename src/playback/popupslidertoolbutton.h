@@ -52,6 +52,7 @@ public Q_SLOTS:
     void setValue(int value);
 
 Q_SIGNALS:
+    /// Emitted when the minimum or the maximum changes.
     void limitsChanged(int minimum, int maximum);
     /// Emitted when the value changes, whoever changed it.
     void valueChanged(int value);

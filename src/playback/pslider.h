@@ -24,7 +24,9 @@ class CORVELGUI_EXPORT PSlider : public QSlider
                    tickTextsChanged)
 
 public:
+    /// Texts by their values.
     using TickTexts = QMap<int, QString>;
+    /// Says how a value is written.
     using ValueText = std::function<QString(int)>;
 
     /// A horizontal slider.

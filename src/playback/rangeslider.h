@@ -32,6 +32,7 @@ class CORVELGUI_EXPORT RangeSlider : public QWidget
     Q_PROPERTY(int pageStep READ pageStep WRITE setPageStep NOTIFY pageStepChanged)
 
 public:
+    /// Says how a value is written.
     using ValueText = std::function<QString(int)>;
 
     /// From 0 to 100, all of it selected, by steps of 1 and 10.
@@ -77,9 +78,13 @@ public Q_SLOTS:
     void setValues(int lower, int upper);
 
 Q_SIGNALS:
+    /// Emitted when the minimum or the maximum changes.
     void limitsChanged(int minimum, int maximum);
+    /// Emitted when it changes, also by limits that leave less room.
     void minimumDistanceChanged(int distance);
+    /// Emitted when setSingleStep() changed it.
     void singleStepChanged(int step);
+    /// Emitted when setPageStep() changed it.
     void pageStepChanged(int step);
     /// Emitted when one of the values changes, whoever changed it.
     void valuesChanged(int lower, int upper);

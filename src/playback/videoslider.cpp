@@ -6,6 +6,7 @@
 #include "base/whilealive.h"
 #include "seekgate.h"
 #include "slidertip.h"
+#include "videotrack.h"
 
 #include <Hueloft/POrvGuiTheme>
 
@@ -28,25 +29,13 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr int barHeight = 6;
+constexpr int trackThickness = 6;
 constexpr int markHeight = 12;
 constexpr int markWidth = 3;
 constexpr int handleSize = 14;
-constexpr int sideMargin = handleSize / 2 + 1;
 constexpr int markReach = 4;    ///< how near the mouse must be to a mark, in pixels
 constexpr int previewReach = 6; ///< how far a preview may be from the mouse, in pixels
 constexpr auto restBeforePreview = 100ms;
-
-QString clockText(qint64 msecs, bool hasHours)
-{
-    const qint64 seconds = msecs / 1000;
-    const auto padded = [](qint64 number) {
-        return u"%1"_s.arg(number, 2, 10, QLatin1Char('0'));
-    };
-    if (!hasHours)
-        return u"%1:%2"_s.arg(seconds / 60).arg(padded(seconds % 60));
-    return u"%1:%2:%3"_s.arg(seconds / 3600).arg(padded(seconds / 60 % 60), padded(seconds % 60));
-}
 
 } // namespace
 
@@ -88,7 +77,7 @@ VideoSlider::VideoSlider(QWidget* parent) : QWidget(parent), d(std::make_unique<
     d->rest.setInterval(restBeforePreview);
     connect(&d->rest, &QTimer::timeout, this, [this] {
         if (d->mouseX >= 0 && d->duration > 0)
-            Q_EMIT previewRequested(positionAt(d->mouseX));
+            Q_EMIT previewRequested(track().positionAt(d->mouseX));
     });
     d->accessible = std::make_unique<AccessibleRange>(
         this,
@@ -174,8 +163,7 @@ bool VideoSlider::isSeeking() const
 
 QString VideoSlider::textOf(qint64 position) const
 {
-    constexpr qint64 hour = 3'600'000;
-    return d->positionText ? d->positionText(position) : clockText(position, d->duration >= hour);
+    return d->positionText ? d->positionText(position) : track().textOf(position);
 }
 
 void VideoSlider::setPositionText(PositionText text)
@@ -266,15 +254,17 @@ void VideoSlider::paintEvent(QPaintEvent*)
         color.setAlphaF(share);
         return color;
     };
-    const QRectF bar(sideMargin, (height() - barHeight) / 2.0, width() - 2 * sideMargin, barHeight);
+    const QRectF bar(VideoTrack::margin, (height() - trackThickness) / 2.0,
+                     width() - 2 * VideoTrack::margin, trackThickness);
     const auto fill = [&](qint64 begin, qint64 end, const QColor& color) {
-        painter.setClipRect(QRectF(QPointF(xAt(begin), 0), QPointF(xAt(end), height())));
+        painter.setClipRect(
+            QRectF(QPointF(track().xAt(begin), 0), QPointF(track().xAt(end), height())));
         painter.setBrush(color);
-        painter.drawRoundedRect(bar, barHeight / 2.0, barHeight / 2.0);
+        painter.drawRoundedRect(bar, trackThickness / 2.0, trackThickness / 2.0);
         painter.setClipping(false);
     };
     painter.setBrush(faint(0.22F));
-    painter.drawRoundedRect(bar, barHeight / 2.0, barHeight / 2.0);
+    painter.drawRoundedRect(bar, trackThickness / 2.0, trackThickness / 2.0);
     if (d->duration == 0)
         return;
     const QColor accent = isEnabled() ? POrvGuiTheme::colorBlue : faint(0.5F);
@@ -286,7 +276,7 @@ void VideoSlider::paintEvent(QPaintEvent*)
             continue;
         const QColor color = mark.color.isValid() ? mark.color : POrvGuiTheme::colorOrange;
         painter.setBrush(isEnabled() ? color : accent);
-        painter.drawRoundedRect(QRectF(xAt(mark.position) - markWidth / 2.0,
+        painter.drawRoundedRect(QRectF(track().xAt(mark.position) - markWidth / 2.0,
                                        (height() - markHeight) / 2.0, markWidth, markHeight),
                                 1, 1);
     }
@@ -295,7 +285,7 @@ void VideoSlider::paintEvent(QPaintEvent*)
     painter.setBrush(palette().color(isEnabled() ? QPalette::Base : QPalette::Window));
     painter.setPen(QPen(accent, 2));
     constexpr double radius = handleSize / 2.0 - 1;
-    painter.drawEllipse(QPointF(xAt(d->position), height() / 2.0), radius, radius);
+    painter.drawEllipse(QPointF(track().xAt(d->position), height() / 2.0), radius, radius);
 }
 
 void VideoSlider::mousePressEvent(QMouseEvent* event)
@@ -310,7 +300,7 @@ void VideoSlider::mousePressEvent(QMouseEvent* event)
         this, [&] { setDragging(true); },
         [&] {
             if (d->isDragging)
-                seek(positionAt(x));
+                seek(track().positionAt(x));
         },
         [&] { hover(x); });
 }
@@ -326,7 +316,7 @@ void VideoSlider::mouseMoveEvent(QMouseEvent* event)
         },
         [&] {
             if (d->isDragging)
-                seek(positionAt(x));
+                seek(track().positionAt(x));
         },
         [&] { hover(x); });
 }
@@ -399,18 +389,9 @@ void VideoSlider::changeEvent(QEvent* event)
     }
 }
 
-int VideoSlider::xAt(qint64 position) const
+VideoTrack VideoSlider::track() const
 {
-    const double share =
-        d->duration > 0 ? std::clamp(double(position) / double(d->duration), 0.0, 1.0) : 0.0;
-    return sideMargin + qRound(share * std::max(width() - 2 * sideMargin, 0));
-}
-
-qint64 VideoSlider::positionAt(int x) const
-{
-    const int length = std::max(width() - 2 * sideMargin, 1);
-    const double share = std::clamp(double(x - sideMargin) / length, 0.0, 1.0);
-    return std::min(qint64(share * double(d->duration) + 0.5), d->duration);
+    return {d->duration, width()};
 }
 
 const VideoSlider::Mark* VideoSlider::markAt(int x) const
@@ -418,7 +399,7 @@ const VideoSlider::Mark* VideoSlider::markAt(int x) const
     const Mark* nearest = nullptr;
     int reach = markReach + 1;
     for (const Mark& mark : std::as_const(d->marks)) {
-        const int distance = qAbs(xAt(mark.position) - x);
+        const int distance = qAbs(track().xAt(mark.position) - x);
         if (mark.position < 0 || mark.position > d->duration || distance >= reach)
             continue;
         nearest = &mark;
@@ -497,12 +478,14 @@ void VideoSlider::hover(int x)
 
 void VideoSlider::showTip()
 {
-    const qint64 position = positionAt(d->mouseX);
+    const qint64 position = track().positionAt(d->mouseX);
     QString text = textOf(position);
     if (const Mark* mark = markAt(d->mouseX); mark && !mark->text.isEmpty())
         text += u'\n' + mark->text;
-    const bool isNear = qAbs(xAt(d->previewPosition) - xAt(position)) <= previewReach;
-    d->tip->say(QRect(xAt(position), 0, 1, height()), text, isNear ? d->preview : QPixmap());
+    const bool isNear =
+        qAbs(track().xAt(d->previewPosition) - track().xAt(position)) <= previewReach;
+    d->tip->say(QRect(track().xAt(position), 0, 1, height()), text,
+                isNear ? d->preview : QPixmap());
 }
 
 } // namespace CorvelGui

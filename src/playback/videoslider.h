@@ -14,6 +14,8 @@ class QPixmap;
 
 namespace CorvelGui {
 
+class VideoTrack;
+
 /// The position bar of a video: how far it is played, what of it is buffered, and marks in it. All
 /// places are in milliseconds from the begin of the video. Time runs to the right in every
 /// language, as on the timeline.
@@ -48,6 +50,7 @@ public:
 
         bool operator==(const Mark&) const = default;
     };
+    /// Says how a position, in milliseconds, is written.
     using PositionText = std::function<QString(qint64)>;
 
     explicit VideoSlider(QWidget* parent = nullptr);
@@ -103,11 +106,15 @@ public Q_SLOTS:
     void setPreview(qint64 position, const QPixmap& picture);
 
 Q_SIGNALS:
+    /// Emitted when setDuration() changed it.
     void durationChanged(qint64 msecs);
     /// Emitted when what is shown changes, whoever changed it.
     void positionChanged(qint64 msecs);
+    /// Emitted when setBuffered() changed it.
     void bufferedChanged();
+    /// Emitted when setSingleStep() changed it.
     void singleStepChanged(qint64 step);
+    /// Emitted when setPageStep() changed it.
     void pageStepChanged(qint64 step);
     /// Emitted when the user takes and when he leaves the handle.
     void draggingChanged(bool isDragging);
@@ -134,8 +141,7 @@ protected:
 private:
     struct Private;
 
-    int xAt(qint64 position) const;
-    qint64 positionAt(int x) const;
+    VideoTrack track() const;
     const Mark* markAt(int x) const;
     void showPosition(qint64 position);
     void seek(qint64 position);

@@ -141,6 +141,14 @@ private Q_SLOTS:
         QVERIFY(!edit.chosenDate().isValid());
         openAnd(pressButton(0));
         QCOMPARE(edit.chosenDate(), today);
+        QList<QDate> todays; // more than a day apart
+        for (const char* zone : {"Pacific/Kiritimati", "Pacific/Pago_Pago"}) {
+            edit.setTodayZone(QTimeZone(zone));
+            openAnd(pressButton(0));
+            todays << edit.chosenDate();
+        }
+        QVERIFY(todays[0] > todays[1]);
+        edit.setTodayZone({});
         edit.setMaximumDate(today.addDays(-1));
         openAnd([](QCalendarWidget& calendar) {
             QVERIFY(!calendar.findChildren<QPushButton*>().at(0)->isEnabled());
