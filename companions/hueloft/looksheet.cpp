@@ -76,7 +76,9 @@ QString lookSheet(const LookColors& look)
     };
     for (const auto& entry : tokens)
         sheet.replace(entry.token, entry.color.name());
-    return sheet;
+    // The pictures of a look are those for text of its colour.
+    const bool isDark = look.text.lightness() > look.window.lightness();
+    return sheet.replace("$look$"_L1, isDark ? "dark"_L1 : "light"_L1);
 }
 
 } // namespace Hueloft

@@ -28,6 +28,17 @@ public:
         return QAccessibleWidget::interface_cast(type);
     }
 
+    // Only what is shown: handles, markers and the like come and go.
+    int childCount() const override { return int(shownChildren().size()); }
+    QAccessibleInterface* child(int index) const override
+    {
+        return QAccessible::queryAccessibleInterface(shownChildren().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return child ? int(shownChildren().indexOf(child->object())) : -1;
+    }
+
     QString text(QAccessible::Text kind) const override
     {
         if (kind == QAccessible::Value && m_range)
@@ -58,6 +69,17 @@ public:
 
 private:
     using Description = AccessibleRange::Description;
+
+    QObjectList shownChildren() const
+    {
+        QObjectList shown;
+        for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
+            QObject* child = QAccessibleWidget::child(i)->object();
+            if (!static_cast<QWidget*>(child)->isHidden())
+                shown.append(child);
+        }
+        return shown;
+    }
 
     QVariant read(std::function<double()> Description::*number) const
     {

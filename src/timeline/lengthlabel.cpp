@@ -18,9 +18,8 @@ constexpr int edgePadding = 1;
 
 } // namespace
 
-LengthLabel::LengthLabel(QWidget* ruler) : QWidget(ruler)
+LengthLabel::LengthLabel(QWidget* ruler) : QFocusFrame(ruler)
 {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
 }
 

@@ -2,13 +2,14 @@
 
 #include "base/internalexport.h"
 
+#include <QFocusFrame>
 #include <QFont>
-#include <QWidget>
 
 namespace CorvelGui {
 
-/// Says how long something is while it is dragged on a ruler; the mouse goes through it.
-class CORVELGUI_INTERNAL_EXPORT LengthLabel : public QWidget
+/// Says how long something is while it is dragged on a ruler. A focus frame, because those take no
+/// mouse events, and assistive technology, which has the handles, does not come upon them.
+class CORVELGUI_INTERNAL_EXPORT LengthLabel : public QFocusFrame
 {
     Q_OBJECT
 

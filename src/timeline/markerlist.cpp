@@ -21,6 +21,7 @@ constexpr int mostListLines = 12;
 constexpr int widestList = 480;
 constexpr int signSize = 10;
 
+/// The same where it is selected, which would tint it.
 QIcon severitySign(RulerMarker::Severity severity)
 {
     QPixmap sign(4 * signSize, 4 * signSize);
@@ -30,7 +31,9 @@ QIcon severitySign(RulerMarker::Severity severity)
     painter.setPen(Qt::NoPen);
     painter.setBrush(severityColor(severity));
     painter.drawEllipse(sign.rect());
-    return sign;
+    QIcon icon(sign);
+    icon.addPixmap(sign, QIcon::Selected);
+    return icon;
 }
 
 } // namespace

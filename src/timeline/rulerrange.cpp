@@ -29,8 +29,8 @@ RulerRange::RulerRange(Ruler* ruler, Ruler::Private& rulerState)
     : QObject(ruler)
     , m_ruler(ruler)
     , d(rulerState)
-    , m_length(new LengthLabel(ruler))
     , m_handles{new RangeHandle(End::Begin, ruler), new RangeHandle(End::End, ruler)}
+    , m_length(new LengthLabel(ruler))
 {
     for (RangeHandle* handle : m_handles) {
         handle->installEventFilter(this);
@@ -42,7 +42,7 @@ RulerRange::~RulerRange() = default;
 
 QWidget* RulerRange::lowestWidget() const
 {
-    return m_length;
+    return m_handles.front();
 }
 
 // For assistive technology a handle is a slider.

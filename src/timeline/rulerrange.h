@@ -98,8 +98,9 @@ private:
     std::optional<Drag> m_drag;
     bool m_told = false;             ///< the begin of a change, and not yet its end
     std::optional<bool> m_untoldEnd; ///< whether it was cancelled
-    LengthLabel* const m_length;
+    // The label is made last, to stand above the lines of the handles.
     const std::array<RangeHandle*, 2> m_handles;
+    LengthLabel* const m_length;
     std::array<std::unique_ptr<AccessibleRange>, 2> m_accessible;
 };
 

@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 #include <vector>
 
 using Hueloft::POrvGuiTheme;
@@ -35,6 +36,17 @@ constexpr int widestNames = 240;
 constexpr int narrowestNames = 60;
 constexpr int largestFont = 200;
 constexpr int wheelNotch = 120;
+
+int widestName(const TimelineLanes& lanes)
+{
+    QFont bold = lanes.font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    int widest = 0;
+    for (int lane = 0; lane < lanes.laneCount(); ++lane)
+        widest = std::max(widest, metrics.horizontalAdvance(lanes.laneName(lane)));
+    return widest;
+}
 
 } // namespace
 
@@ -73,6 +85,7 @@ struct TimelineLanes::Private
     {
         return ruler->mapTo(q->window(), QPoint()).x() - q->mapTo(q->window(), QPoint()).x();
     }
+    QRect columns() const { return q->rect().adjusted(rulerLeft(), 0, 0, 0); }
     int barWidth() const { return scrollBar->isVisibleTo(q) ? scrollBar->width() : 0; }
 
     ShownView shownView() const
@@ -97,6 +110,8 @@ struct TimelineLanes::Private
     QString currentTrack;
     int maximumLanes = 8;
     int laneHeight = 1;
+    int widestName = 0; ///< in pixels
+    int namesWidth = 0; ///< when it was told last
     int wheelRest = 0;
     ShownView shown{};
 };
@@ -221,14 +236,9 @@ void TimelineLanes::setFontSize(int points)
 
 int TimelineLanes::namesWidth() const
 {
-    QFont bold = font();
-    bold.setBold(true);
-    const QFontMetrics metrics(bold);
-    int widest = 0;
-    for (int lane = 0; lane < laneCount(); ++lane)
-        widest = std::max(widest, metrics.horizontalAdvance(laneName(lane)));
     const int bar = laneCount() > d->maximumLanes ? d->scrollBar->sizeHint().width() : 0;
-    return std::clamp(widest + namePadding, narrowestNames, widestNames) + bar;
+    const int most = std::clamp(width() / 3, narrowestNames, widestNames);
+    return std::clamp(d->widestName + namePadding, narrowestNames, most) + bar;
 }
 
 void TimelineLanes::followTracks()
@@ -240,6 +250,7 @@ void TimelineLanes::followTracks()
 void TimelineLanes::updateGeometryOfLanes()
 {
     d->laneHeight = fontMetrics().height() + lanePadding;
+    d->widestName = widestName(*this);
     setFixedHeight(std::max(std::min(laneCount(), d->maximumLanes), 1) * d->laneHeight);
     updateScrollBar();
     showCurrentLane();
@@ -279,28 +290,32 @@ void TimelineLanes::reportCurrentLane()
     }
 }
 
-void TimelineLanes::paintEvent(QPaintEvent*)
+void TimelineLanes::paintEvent(QPaintEvent* event)
 {
-    d->shown = d->shownView();
+    const Private::ShownView shown = d->shownView();
+    if (event->rect().contains(d->columns()))
+        d->shown = shown;
     QPainter painter(this);
     painter.fillRect(rect(), POrvGuiTheme::colorBlack);
     const LaneLayout layout = d->layout();
     const int left = d->rulerLeft();
     const LanePainter lanes{d->scale, double(left), double(left - d->barWidth())};
     const int current = currentLane();
+    const bool paintsNames = event->rect().left() < left;
     for (int lane = layout.first(); lane < layout.end(); ++lane) {
         const QRectF area = laneRect(lane);
         lanes.drawLane(painter, area, d->tracks.spans(lane));
-        lanes.drawName(painter, area, laneName(lane), lane == current);
+        if (paintsNames)
+            lanes.drawName(painter, area, laneName(lane), lane == current);
     }
     if (current >= layout.first() && current < layout.end())
         lanes.drawFrame(painter, laneRect(current));
     if (d->scale.hasView())
-        lanes.drawRanges(painter, height(), d->shown.ranges, d->ruler->d->painter.colors);
-    if (d->shown.indicator >= 0) {
+        lanes.drawRanges(painter, height(), shown.ranges, d->ruler->d->painter.colors);
+    if (shown.indicator >= 0) {
         const DeviceGrid grid(painter);
-        painter.fillRect(grid.aligned(QRectF(left + d->shown.indicator - 1, 0, 2, height())),
-                         QColor(d->shown.indicatorColor));
+        painter.fillRect(grid.aligned(QRectF(left + shown.indicator - 1, 0, 2, height())),
+                         QColor(shown.indicatorColor));
     }
     d->focus->draw(painter);
 }
@@ -308,6 +323,9 @@ void TimelineLanes::paintEvent(QPaintEvent*)
 void TimelineLanes::resizeEvent(QResizeEvent*)
 {
     updateScrollBar();
+    // Later, because whoever lays this out may be just about it.
+    if (std::exchange(d->namesWidth, namesWidth()) != namesWidth())
+        QMetaObject::invokeMethod(this, &TimelineLanes::lanesChanged, Qt::QueuedConnection);
 }
 
 void TimelineLanes::mousePressEvent(QMouseEvent* event)
@@ -381,6 +399,8 @@ void TimelineLanes::changeEvent(QEvent* event)
 
 bool TimelineLanes::event(QEvent* event)
 {
+    if (event->type() == QEvent::Show)
+        window()->installEventFilter(this); // as often as it likes
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
@@ -393,13 +413,20 @@ bool TimelineLanes::event(QEvent* event)
     return true;
 }
 
-// Whatever moves the ruler's view or indicator has it painted anew.
-bool TimelineLanes::eventFilter(QObject*, QEvent* event)
+// Whatever moves the ruler's view or indicator has it painted anew. The lanes are to be painted
+// with it, not a frame later, so they look at it when the window is about to paint; only what the
+// ruler paints at once comes before that. The names stay.
+bool TimelineLanes::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Paint && !(d->shown == d->shownView()))
-        update();
-    else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+    const bool isPainted = event->type() == QEvent::Paint && watched == d->ruler;
+    if ((isPainted || event->type() == QEvent::UpdateRequest) && !(d->shown == d->shownView()))
+        update(d->columns());
+    if (watched != d->ruler)
+        return false;
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize) {
         updateScrollBar();
+        update();
+    }
     return false;
 }
 

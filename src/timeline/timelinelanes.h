@@ -62,7 +62,7 @@ public:
     /// Point size of the names, from 1 to 200.
     void setFontSize(int points);
 
-    /// The width that the names want left of the ruler's columns.
+    /// The width that the names want left of the ruler's columns: up to a third of this widget's.
     int namesWidth() const;
 
 Q_SIGNALS:

@@ -7,6 +7,24 @@
 
 namespace CorvelGui {
 
+namespace {
+
+/// As std::partition_point(), for a point that is mostly close to @p first.
+template <typename Predicate>
+TimeSpans::const_iterator nearbyPartitionPoint(TimeSpans::const_iterator first,
+                                               TimeSpans::const_iterator last,
+                                               const Predicate& isBefore)
+{
+    for (std::ptrdiff_t step = 1; step < last - first; step *= 2) {
+        if (!isBefore(*(first + step - 1)))
+            return std::partition_point(first, first + step - 1, isBefore);
+        first += step;
+    }
+    return std::partition_point(first, last, isBefore);
+}
+
+} // namespace
+
 TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
 {
     const double left = TimeScale::halfMargin();
@@ -37,7 +55,7 @@ TrackSegmentList visibleSegments(const TimeSpans& spans, const TimeScale& scale)
             segments.push_back({start, end});
         // What ends within the last column is covered already.
         const double covered = std::floor(segments.back().end);
-        span = std::partition_point(std::next(span), spans.end(), endsUpTo(covered));
+        span = nearbyPartitionPoint(std::next(span), spans.end(), endsUpTo(covered));
     }
     return segments;
 }

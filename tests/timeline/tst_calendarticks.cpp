@@ -146,7 +146,7 @@ private Q_SLOTS:
               "Australia/Lord_Howe", "Africa/Cairo", "Pacific/Apia", "America/Sao_Paulo"}) {
             const QTimeZone zone(id);
             const ClockChanges clock = clockOf(zone);
-            for (int round = 0; round < 160; ++round) {
+            for (int round = 0; round < 1'112; ++round) {
                 CalendarView view;
                 view.from = msecs("1990-01-01T00:00:00Z") +
                             qint64(random.generateDouble() * 50 * 365 * day);

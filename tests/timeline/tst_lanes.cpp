@@ -114,6 +114,11 @@ private Q_SLOTS:
             return timeline.lanes()->grab().toImage();
         };
         QVERIFY(withName(u"A"_s) != withName(u"B"_s));
+        // Long names leave most of a narrow timeline to the ruler.
+        withName(QString(80, u'M'));
+        timeline.ruler()->setMinimumWidth(100);
+        timeline.resize(600, timeline.height());
+        QTRY_COMPARE_GT(timeline.ruler()->width(), 380);
         timeline.ruler()->setTrackDescriptions({});
         QVERIFY(!timeline.lanes()->isVisible());
     }
@@ -170,6 +175,33 @@ private Q_SLOTS:
         QCOMPARE(timeline.lanes()->currentLane(), -1);
         timeline.ruler()->setTrackDescriptions(tracks(12));
         QCOMPARE(timeline.lanes()->currentLane(), 11);
+    }
+
+    // Painted with the ruler, not a frame later.
+    void lanesFollowAtOnce()
+    {
+        struct Log : QObject
+        {
+            bool eventFilter(QObject* watched, QEvent* event) override
+            {
+                if (event->type() == QEvent::UpdateRequest)
+                    text += u"update "_s;
+                else if (event->type() == QEvent::Paint)
+                    text += watched->inherits("CorvelGui::Ruler") ? u"ruler "_s : u"lanes "_s;
+                return false;
+            }
+            QString text;
+        };
+        LaneTimeline timeline(2);
+        QVERIFY(QTest::qWaitForWindowExposed(&timeline));
+        QCoreApplication::processEvents();
+        Log log;
+        timeline.installEventFilter(&log);
+        timeline.ruler()->installEventFilter(&log);
+        timeline.lanes()->installEventFilter(&log);
+        timeline.ruler()->onTimelineOffsetChanged(0.4);
+        QTRY_VERIFY(log.text.contains(u"lanes"_s));
+        QCOMPARE(log.text.count(u"update"_s), 1);
     }
 
     void lanesScroll()
