@@ -86,7 +86,7 @@ void takePicture(ReviewWindow& window, const Arguments& arguments)
     // The sample looks best from close by; of a user's own files everything is shown.
     if (arguments.files.isEmpty())
         window.showMiddleDay();
-    if (window.awaitsPictures())
+    if (window.isBusy())
         QObject::connect(&window, &ReviewWindow::settled, &window, finishWhenIdle,
                          Qt::SingleShotConnection);
     else

@@ -21,7 +21,8 @@ using CorvelGui::PIpRangeDialog;
 
 namespace {
 
-/// Texts of times do not sort as instants do, and the kinds not as their names.
+/// Texts of times do not sort as instants do, the kinds not as their names, and durations and
+/// severities not as their texts.
 ReviewData review()
 {
     const auto time = [](const char* text) {
@@ -30,9 +31,10 @@ ReviewData review()
     return {.tracks = {{u"a"_s, u"<b>Gate</b>"_s, monday, monday + day, {{monday, monday + hour}}},
                        {u"b"_s, u"Fence"_s, monday, monday + hour, {}},
                        {u"10.0.0.2"_s, u"Roof"_s, monday, monday + day, {{monday, monday + day}}}},
-            .events = {{time("2026-02-28T12:00:00Z"), u"person"_s, u"No 10"_s, u"a"_s},
-                       {time("2026-03-01T12:00:00Z"), u"car"_s, u"no 9"_s, u"b"_s},
-                       {time("2026-03-02T06:00:00Z"), u"alarm"_s, u"Älter"_s, u"a"_s}}};
+            .events = {
+                {time("2026-02-28T12:00:00Z"), u"person"_s, u"No 10"_s, u"a"_s, 11 * hour},
+                {time("2026-03-01T12:00:00Z"), u"car"_s, u"no 9"_s, u"b"_s, 2'500, Severity::None},
+                {time("2026-03-02T06:00:00Z"), u"alarm"_s, u"Älter"_s, u"a"_s}}};
 }
 
 FilterLineEdit* filter(const SampleWindow& sample, const QString& accessibleName)
@@ -60,7 +62,9 @@ private Q_SLOTS:
              {std::pair(EventTexts::Time, QStringList{person, vehicle, alarm}),
               {EventTexts::Kind, {alarm, person, vehicle}},
               {EventTexts::Text, {alarm, vehicle, person}},
-              {EventTexts::Track, {person, alarm, vehicle}}}) {
+              {EventTexts::Track, {person, alarm, vehicle}},
+              {EventTexts::Duration, {alarm, vehicle, person}},
+              {EventTexts::Severity, {vehicle, person, alarm}}}) {
             const SampleWindow sample(u"UTC"_s, {}, review());
             sample.events()->sortByColumn(column, Qt::AscendingOrder);
             QCOMPARE(sample.shownEvents(EventTexts::Text), texts);
@@ -94,6 +98,8 @@ private Q_SLOTS:
         QCOMPARE(shown(u"vehicle"_s), u"no 9"_s); // not "car", as in the file
         QCOMPARE(shown(u"<B>"_s), u"No 10, Älter"_s);
         QCOMPARE(shown(u"01.03"_s), u"no 9"_s);
+        QCOMPARE(shown(u"0:00:02.500"_s), u"no 9"_s);
+        QCOMPARE(shown(u"informa"_s), u"No 10"_s);
         QCOMPARE(sample.ruler()->grab().toImage(), timeline);
 
         // The rows follow what the cells say in another zone.
@@ -103,6 +109,24 @@ private Q_SLOTS:
         QCOMPARE(shown(u"12:00"_s), QString());
         QCOMPARE(shown(u"21:30"_s), u"No 10, no 9"_s);
         QCOMPARE(shown({}), u"No 10, no 9, Älter"_s);
+    }
+
+    void optionalColumns()
+    {
+        SampleWindow sample(u"UTC"_s, {}, review());
+        const auto areShown = [&] {
+            return std::pair(!sample.events()->isColumnHidden(EventTexts::Duration),
+                             !sample.events()->isColumnHidden(EventTexts::Severity));
+        };
+        QCOMPARE(areShown(), std::pair(true, true));
+        ReviewData other = review();
+        other.events = {{monday, {}, {}, {}, 0, Severity::Warning}};
+        sample.window.setReview(other);
+        QCOMPARE(areShown(), std::pair(false, true));
+        // The user's choice stays while it can.
+        sample.events()->hideColumn(EventTexts::Severity);
+        sample.window.setReview(other);
+        QCOMPARE(areShown(), std::pair(false, false));
     }
 
     void stateFollowsTheIndicator()

@@ -153,6 +153,21 @@ private Q_SLOTS:
         QCOMPARE(shownEvents(), QList<qsizetype>({0, 1, 2}));
     }
 
+    void manyMarkersComeInSlices()
+    {
+        constexpr int count = 50'000;
+        ReviewData data = smallReview();
+        data.events = {};
+        for (int i = 0; i < count; ++i)
+            data.events.append({monday + i * second, {}, {}, {}});
+        SampleWindow sample(u"UTC"_s, {}, data);
+        QSignalSpy settled(&sample.window, &ReviewWindow::settled);
+        sample.window.setReview(data);
+        QVERIFY(sample.window.isBusy());
+        QVERIFY(settled.wait());
+        QCOMPARE(sample.ruler()->activity(1).columns[0].events[0], quint32(count));
+    }
+
     void previewSaysWhatIsKnown()
     {
         const SampleWindow sample(u"Europe/Brussels"_s, {}, smallReview());

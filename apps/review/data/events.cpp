@@ -85,6 +85,8 @@ void Events::append(const Event& event, QByteArrayView text)
                       .lasts = lasts,
                       .severity = event.severity ? quint32(*event.severity) : noSeverity});
     m_end = std::max(m_end, event.time + event.duration);
+    m_haveDurations |= lasts;
+    m_haveSeverities |= event.severity.has_value();
 }
 
 qint64 Events::keep(QByteArrayView text)

@@ -70,6 +70,9 @@ public:
     qsizetype firstFrom(qint64 msecs) const;
     /// When the last of them has ended; 0 without any.
     qint64 end() const { return m_end; }
+    /// Whether any of them lasts, and whether any says how bad it is.
+    bool haveDurations() const { return m_haveDurations; }
+    bool haveSeverities() const { return m_haveSeverities; }
 
     void append(const Event& event);
     /// @p text is UTF-8, and stands for that of the event.
@@ -99,6 +102,8 @@ private:
 
     QList<Record> m_records;
     qint64 m_end = 0;
+    bool m_haveDurations = false;
+    bool m_haveSeverities = false;
     QByteArray m_texts;
     Words m_kinds;
     Words m_tracks;

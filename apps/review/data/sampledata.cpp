@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <optional>
 #include <vector>
 
 using CorvelGui::TimeSpan;
@@ -225,31 +226,53 @@ ReviewData SampleData::make()
         Footage footage(clips, int(data.tracks.size()) + 1, data.files[track.identifier]);
         for (const TimeSpan& recording : recordingsOf(camera, dice)) {
             track.recorded.append(recording);
-            const auto note = [&](const QString& kind, const QString& text) {
-                const qint64 time = dice.roll(recording.begin, recording.end - 1);
-                data.events.append(
-                    {.time = time, .kind = kind, .text = text, .track = camera.identifier});
-                return time;
+            // An event that is over when the recording is.
+            const auto note = [&](Event event) {
+                event.time = dice.roll(recording.begin, recording.end - 1);
+                event.duration = std::min(event.duration, recording.end - event.time);
+                event.track = camera.identifier;
+                data.events.append(event);
+                return event.time;
+            };
+            const auto noteVisitor = [&](const QString& kind, const QString& text,
+                                         std::optional<Severity> severity = {}) {
+                return note({.kind = kind,
+                             .text = text,
+                             .track = {},
+                             .duration = SampleClips::visit / 2,
+                             .severity = severity});
             };
             const int hour = int((recording.begin - sampleBegin) / sampleHour % 24);
+            const bool atNight = isNight(hour);
             const qint64 seen = dice.roll(1, 100);
             EventKind visitor = EventKind::Other;
             qint64 time = recording.begin;
             if (seen <= camera.persons) {
                 visitor = EventKind::Person;
-                time = isNight(hour) ? note(u"alarm"_s, tr("Person outside working hours"))
-                                     : note(u"person"_s, tr("Person"));
+                time = atNight ? note({.kind = u"alarm"_s,
+                                       .text = tr("Person outside working hours"),
+                                       .track = {},
+                                       .duration = recording.end - recording.begin})
+                               : noteVisitor(u"person"_s, tr("Person"));
             } else if (seen <= camera.persons + camera.vehicles) {
                 visitor = EventKind::Vehicle;
-                time = note(u"vehicle"_s, tr("Vehicle"));
+                time = noteVisitor(u"vehicle"_s, tr("Vehicle"),
+                                   atNight ? std::optional(Severity::Warning) : std::nullopt);
             } else if (seen <= camera.persons + camera.vehicles + camera.animals) {
                 visitor = EventKind::Animal;
-                time = note(u"animal"_s, tr("Animal"));
+                time = noteVisitor(u"animal"_s, tr("Animal"));
             }
             if (dice.roll(1, 300) == 1)
-                note(u"bookmark"_s, tr("Marked by an operator"));
-            footage.add(recording, isNight(hour), visitor, time);
+                note({.kind = u"bookmark"_s, .text = tr("Marked by an operator"), .track = {}});
+            footage.add(recording, atNight, visitor, time);
         }
+        if (!camera.outage.isEmpty())
+            data.events.append({.time = camera.outage.begin,
+                                .kind = tr("Fault"),
+                                .text = tr("No signal"),
+                                .track = camera.identifier,
+                                .duration = camera.outage.end - camera.outage.begin,
+                                .severity = Severity::Warning});
         data.tracks.append(track);
     }
     data.events.sort();

@@ -62,6 +62,10 @@ QVariant EventModel::headerData(int section, Qt::Orientation orientation, int ro
         return tr("Event");
     case EventTexts::Track:
         return tr("Camera");
+    case EventTexts::Duration:
+        return tr("Duration");
+    case EventTexts::Severity:
+        return tr("Severity");
     case EventTexts::ColumnCount:
         break;
     }

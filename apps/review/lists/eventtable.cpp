@@ -35,6 +35,8 @@ EventTable::EventTable(QWidget* parent)
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(ListLook::rowHeight(this));
+    for (const int column : {EventTexts::Duration, EventTexts::Severity})
+        setColumnHidden(column, true);
     setShowGrid(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
@@ -48,7 +50,21 @@ void EventTable::setEvents(const EventList& events, const TimeTexts& times)
     m_current = -1;
     m_rows->setFilter({}); // it knows the events before
     m_events->setEvents(events, times);
+    showOptional(EventTexts::Duration, events.events().haveDurations());
+    showOptional(EventTexts::Severity, events.events().haveSeverities());
     fitColumns();
+}
+
+// It goes and comes with what it says, and stays as the user wants it until then.
+void EventTable::showOptional(int column, bool needed)
+{
+    if (m_needed.contains(column) == needed)
+        return;
+    if (needed)
+        m_needed.insert(column);
+    else
+        m_needed.remove(column);
+    setColumnHidden(column, !needed);
 }
 
 void EventTable::renewTexts(const EventList& events, const TimeTexts& times)
@@ -68,8 +84,8 @@ void EventTable::showRows(const EventList& events, const QString& filter)
 
 void EventTable::fitColumns()
 {
-    for (const int column : {EventTexts::Time, EventTexts::Kind, EventTexts::Track}) {
-        if (!isColumnHidden(column))
+    for (int column = 0; column < EventTexts::ColumnCount; ++column) {
+        if (column != EventTexts::Text && !isColumnHidden(column))
             resizeColumnToContents(column);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "eventlist.h"
 
+#include <QSet>
 #include <QTableView>
 
 namespace CorvelGui {
@@ -41,11 +42,13 @@ protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void showOptional(int column, bool needed);
     void fitColumns();
     void restoreCurrent();
 
     CorvelGui::PRowFilterModel* m_rows;
     EventModel* m_events;
+    QSet<int> m_needed; ///< the columns that say anything, of those that may say nothing
     qsizetype m_current = -1;
 };
 

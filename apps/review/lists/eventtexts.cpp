@@ -1,12 +1,11 @@
 #include "eventtexts.h"
 
-#include "data/eventkind.h"
-
 #include <QBitArray>
 
 #include <algorithm>
 #include <numeric>
 
+using CorvelGui::RulerMarker;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -44,6 +43,20 @@ QBitArray found(const QStringList& texts, const QString& text)
     return found;
 }
 
+/// Nothing for a moment.
+QString durationText(qint64 msecs)
+{
+    return msecs > 0 ? TimeTexts::exactDuration(msecs) : QString();
+}
+
+QStringList severityTexts()
+{
+    QStringList texts;
+    for (std::size_t severity = 0; severity < RulerMarker::severityCount; ++severity)
+        texts.append(Severities::text(Severity(severity)));
+    return texts;
+}
+
 /// Writing a time takes longer than all else that is searched.
 bool mayBeInATime(const QString& text)
 {
@@ -55,10 +68,17 @@ bool mayBeInATime(const QString& text)
 EventTexts::EventTexts(const EventList& events, const TimeTexts& times)
     : m_events(events.events()), m_times(times), m_order(userOrder()), m_tracks(events.trackNames())
 {
-    for (const QString& kind : m_events.kinds())
+    for (const QString& kind : m_events.kinds()) {
         m_kinds.append(EventKinds::text(kind));
+        m_kindSeverities.append(Severities::ofKind(EventKinds::parse(kind)));
+    }
     m_kindRanks = ranks(m_kinds, m_order);
     m_trackRanks = ranks(m_tracks, m_order);
+}
+
+Severity EventTexts::severityOf(qsizetype event) const
+{
+    return m_events.severityAt(event).value_or(m_kindSeverities[m_events.kindAt(event)]);
 }
 
 QString EventTexts::text(qsizetype event, Column column) const
@@ -72,6 +92,10 @@ QString EventTexts::text(qsizetype event, Column column) const
         return m_events.textAt(event);
     case Track:
         return m_tracks[m_events.trackAt(event)];
+    case Duration:
+        return durationText(m_events.durationAt(event));
+    case Severity:
+        return Severities::text(severityOf(event));
     case ColumnCount:
         break;
     }
@@ -92,6 +116,12 @@ int EventTexts::compare(qsizetype event, qsizetype other, Column column) const
         return m_order.compare(m_events.textAt(event), m_events.textAt(other));
     case Track:
         return m_trackRanks[m_events.trackAt(event)] - m_trackRanks[m_events.trackAt(other)];
+    case Duration: {
+        const qint64 longer = m_events.durationAt(event) - m_events.durationAt(other);
+        return longer == 0 ? 0 : longer < 0 ? -1 : 1;
+    }
+    case Severity:
+        return int(severityOf(event)) - int(severityOf(other));
     case ColumnCount:
         break;
     }
@@ -100,11 +130,15 @@ int EventTexts::compare(qsizetype event, qsizetype other, Column column) const
 
 std::function<bool(qsizetype)> EventTexts::finder(const QString& text) const
 {
-    return [events = m_events, times = m_times, kinds = found(m_kinds, text),
-            tracks = found(m_tracks, text), inTime = mayBeInATime(text), text](qsizetype event) {
-        return kinds.testBit(events.kindAt(event)) || tracks.testBit(events.trackAt(event)) ||
-               events.textAt(event).contains(text, Qt::CaseInsensitive) ||
-               (inTime && times.dateTime(events.timeAt(event)).contains(text));
+    return [all = *this, kinds = found(m_kinds, text), tracks = found(m_tracks, text),
+            severities = found(severityTexts(), text), inTime = mayBeInATime(text),
+            text](qsizetype event) {
+        return kinds.testBit(all.m_events.kindAt(event)) ||
+               tracks.testBit(all.m_events.trackAt(event)) ||
+               severities.testBit(int(all.severityOf(event))) ||
+               all.m_events.textAt(event).contains(text, Qt::CaseInsensitive) ||
+               (inTime &&
+                (all.text(event, Time).contains(text) || all.text(event, Duration).contains(text)));
     };
 }
 

@@ -60,6 +60,12 @@ QString TimeTexts::duration(qint64 msecs)
         .arg(seconds % 60, 2, 10, QChar(u'0'));
 }
 
+QString TimeTexts::exactDuration(qint64 msecs)
+{
+    const QString fraction = u".%1"_s.arg(msecs % 1'000, 3, 10, QChar(u'0'));
+    return msecs % 1'000 == 0 ? duration(msecs) : duration(msecs) + fraction;
+}
+
 QDateTime TimeTexts::wallClock(qint64 msecs) const
 {
     const QDateTime utc = QDateTime::fromMSecsSinceEpoch(msecs, Qt::UTC);

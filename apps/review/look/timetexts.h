@@ -38,6 +38,8 @@ public:
     QString exactDateTime(qint64 msecs) const;
     /// Hours, minutes and seconds, with as many hours as it takes.
     static QString duration(qint64 msecs);
+    /// And milliseconds, if there are any.
+    static QString exactDuration(qint64 msecs);
 
     /// What the zone's clock shows, as a time that claims to be UTC: without gaps or repetitions.
     QDateTime wallClock(qint64 msecs) const;

@@ -45,8 +45,9 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_zoomIn->setShortcut(QKeySequence::ZoomIn);
     m_zoomOut->setShortcut(QKeySequence::ZoomOut);
     m_wholePeriod->setShortcut(Qt::CTRL | Qt::Key_0);
-    m_previous->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_Left);
-    m_next->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_Right);
+    // Some desktops keep Ctrl+Alt with arrows to themselves.
+    m_previous->setShortcut(Qt::CTRL | Qt::Key_Backspace);
+    m_next->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Backspace);
     m_earlier->setShortcut(Qt::ALT | Qt::Key_Left);
     m_later->setShortcut(Qt::ALT | Qt::Key_Right);
     m_moment->setShortcut(Qt::CTRL | Qt::Key_T);

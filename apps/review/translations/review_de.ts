@@ -555,6 +555,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Camera</source>
         <translation>Kamera</translation>
     </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schwere</translation>
+    </message>
 </context>
 <context>
     <name>Review::EventPane</name>
@@ -1296,6 +1304,29 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Marked by an operator</source>
         <translation>Vom Bediener markiert</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Störung</translation>
+    </message>
+    <message>
+        <source>No signal</source>
+        <translation>Kein Signal</translation>
+    </message>
+</context>
+<context>
+    <name>Review::Severities</name>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Alarm</source>
+        <translation>Alarm</translation>
     </message>
 </context>
 <context>

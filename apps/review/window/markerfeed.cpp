@@ -16,20 +16,6 @@ namespace {
 constexpr std::chrono::milliseconds slice(8);
 constexpr qsizetype markersBetweenLooks = 256;
 
-RulerMarker::Severity severityOf(EventKind kind)
-{
-    switch (kind) {
-    case EventKind::Alarm:
-        return RulerMarker::Severity::Alarm;
-    case EventKind::Person:
-    case EventKind::Vehicle:
-    case EventKind::Animal:
-        return RulerMarker::Severity::Information;
-    default:
-        return RulerMarker::Severity::None;
-    }
-}
-
 } // namespace
 
 MarkerFeed::MarkerFeed(TimelinePane* timeline) : QObject(timeline), m_timeline(timeline)
@@ -67,11 +53,13 @@ void MarkerFeed::feed()
                         .text = {},
                         .iconProvider = this,
                         .duration = events.durationAt(m_next),
-                        .severity = events.severityAt(m_next).value_or(severityOf(kind))});
+                        .severity = events.severityAt(m_next).value_or(Severities::ofKind(kind))});
     }
-    if (m_next >= events.size())
-        m_timer.stop();
     m_timeline->addMarkers(markers);
+    if (m_next < events.size())
+        return;
+    m_timer.stop();
+    Q_EMIT finished();
 }
 
 QString MarkerFeed::text(const RulerMarker& marker) const

@@ -22,6 +22,12 @@ public:
 
     /// Replaces all markers by those of the events that are not left out.
     void show(const EventList& events);
+    /// Whether there are markers still to come.
+    bool isBusy() const { return m_timer.isActive(); }
+
+Q_SIGNALS:
+    /// Emitted when all of the markers are there.
+    void finished();
 
 private:
     QString text(const CorvelGui::RulerMarker& marker) const override;

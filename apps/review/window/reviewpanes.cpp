@@ -74,6 +74,7 @@ void ReviewPanes::connectLists()
 
 void ReviewPanes::connectTimeline()
 {
+    connect(m_markers, &MarkerFeed::finished, this, &ReviewPanes::tellSettled);
     connect(m_timeline, &TimelinePane::viewChanged, this,
             [this] { m_transport->setView(m_timeline->view()); });
     connect(m_timeline, &TimelinePane::markerChosen, this, [this](const QUuid& marker) {
@@ -108,6 +109,7 @@ void ReviewPanes::connectPlayer()
         m_transport->timeView()->setDeviceName(camera ? camera->name : QString());
         m_hover->setFiles(camera ? camera->files : QList<VideoFile>());
     });
+    connect(m_playback, &PlaybackPane::settled, this, &ReviewPanes::tellSettled);
     connect(m_player, &Player::fastChanged, m_playback, &PlaybackPane::setOnlyKeyFrames);
     connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
     connect(m_player, &Player::playingChanged, m_transport->timeView(),
@@ -174,6 +176,17 @@ void ReviewPanes::showMiddleDay()
         openEvent(event);
         m_events->select(event);
     }
+}
+
+bool ReviewPanes::isBusy() const
+{
+    return m_playback->isBusy() || m_markers->isBusy();
+}
+
+void ReviewPanes::tellSettled()
+{
+    if (!isBusy())
+        Q_EMIT settled();
 }
 
 QByteArray ReviewPanes::saveWidths() const

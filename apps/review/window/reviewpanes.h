@@ -49,6 +49,9 @@ public:
     TimelinePane* timeline() const { return m_timeline; }
     Player* player() const { return m_player; }
 
+    /// Whether pictures of cameras or markers are still to come.
+    bool isBusy() const;
+
     /// The widths of the panes in the upper row.
     QByteArray saveWidths() const;
     /// They hold from the moment on at which the panes are shown.
@@ -57,6 +60,8 @@ public:
 Q_SIGNALS:
     /// Tells the user in a sentence what has happened.
     void told(const QString& sentence);
+    /// Emitted when isBusy() became false.
+    void settled();
 
 protected:
     void retranslate() final;
@@ -68,6 +73,7 @@ private:
     void connectLists();
     void connectTimeline();
     void connectPlayer();
+    void tellSettled();
 
     void showCheckedTracks();
     void openEvent(qsizetype event);

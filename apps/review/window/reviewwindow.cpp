@@ -172,9 +172,9 @@ void ReviewWindow::play()
     m_panes->player()->setSpeed(CorvelGui::PPlaybar::Speed1);
 }
 
-bool ReviewWindow::awaitsPictures() const
+bool ReviewWindow::isBusy() const
 {
-    return m_panes->playback().isBusy();
+    return m_panes->isBusy();
 }
 
 void ReviewWindow::createToolBar(bool dark)
@@ -206,7 +206,7 @@ void ReviewWindow::connectParts()
     connect(m_status->exportPanel(), &ExportPanel::exportingChanged, this,
             &ReviewWindow::enableExport);
     connect(&m_panes->playback(), &PlaybackPane::cameraChanged, this, &ReviewWindow::enableExport);
-    connect(&m_panes->playback(), &PlaybackPane::settled, this, &ReviewWindow::settled);
+    connect(m_panes, &ReviewPanes::settled, this, &ReviewWindow::settled);
     connect(m_menus->quit(), &QAction::triggered, this, &QWidget::close);
     connect(m_panes, &ReviewPanes::told, m_status, &ReviewStatusBar::tell);
     connect(m_toolBar->showRanges(), &QAction::toggled, m_panes->ranges(), &QWidget::setVisible);

@@ -47,8 +47,8 @@ public:
 
     void play();
 
-    /// Whether pictures of cameras are still to come.
-    bool awaitsPictures() const;
+    /// Whether pictures of cameras or markers are still to come.
+    bool isBusy() const;
 
     /// For what belongs to the whole program; hidden as long as it is empty.
     QMenu* toolsMenu() const;
@@ -65,7 +65,7 @@ public:
 Q_SIGNALS:
     /// Emitted when the user changed something that takeSettings() takes.
     void settingsTouched();
-    /// Emitted when awaitsPictures() became false because the last picture came.
+    /// Emitted when isBusy() became false.
     void settled();
     /// Emitted when load() has come to its end. With an @p error, which tells the user why a file
     /// cannot be read, the window shows what it did before.
