@@ -83,9 +83,6 @@ void takePicture(ReviewWindow& window, const Arguments& arguments)
                          &QAbstractEventDispatcher::aboutToBlock, &window, finish,
                          Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     };
-    // The sample looks best from close by; of a user's own files everything is shown.
-    if (arguments.files.isEmpty())
-        window.showMiddleDay();
     if (window.isBusy())
         QObject::connect(&window, &ReviewWindow::settled, &window, finishWhenIdle,
                          Qt::SingleShotConnection);
@@ -99,10 +96,14 @@ void begin(ReviewWindow& window, const Arguments& arguments)
         &window, &ReviewWindow::loaded, &window,
         [&window, &arguments](const QString& error) {
             if (!error.isEmpty())
-                QApplication::exit(fail(BadUsage, error));
-            else if (!arguments.picture.isEmpty())
+                return QApplication::exit(fail(BadUsage, error));
+            // The sample looks best from close by; of a user's own files everything is shown.
+            const bool isSample = arguments.files.isEmpty();
+            if (isSample)
+                window.showMiddleDay();
+            if (!arguments.picture.isEmpty())
                 takePicture(window, arguments);
-            else if (arguments.files.isEmpty())
+            else if (isSample)
                 window.play();
         },
         Qt::SingleShotConnection);
