@@ -33,8 +33,9 @@ constexpr int trackThickness = 6;
 constexpr int markHeight = 12;
 constexpr int markWidth = 3;
 constexpr int handleSize = 14;
-constexpr int markReach = 4;    ///< how near the mouse must be to a mark, in pixels
-constexpr int previewReach = 6; ///< how far a preview may be from the mouse, in pixels
+constexpr int markReach = 4;                ///< how near the mouse must be to a mark, in pixels
+constexpr int previewReach = 6;             ///< how far a preview may be from the mouse, in pixels
+constexpr qint64 longest = qint64(1) << 53; ///< what a double counts exactly
 constexpr auto restBeforePreview = 100ms;
 
 } // namespace
@@ -124,7 +125,7 @@ qint64 VideoSlider::singleStep() const
 
 void VideoSlider::setSingleStep(qint64 step)
 {
-    if (std::exchange(d->singleStep, std::max<qint64>(step, 1)) != d->singleStep)
+    if (std::exchange(d->singleStep, std::clamp<qint64>(step, 1, longest)) != d->singleStep)
         Q_EMIT singleStepChanged(d->singleStep);
 }
 
@@ -135,7 +136,7 @@ qint64 VideoSlider::pageStep() const
 
 void VideoSlider::setPageStep(qint64 step)
 {
-    if (std::exchange(d->pageStep, std::max<qint64>(step, 1)) != d->pageStep)
+    if (std::exchange(d->pageStep, std::clamp<qint64>(step, 1, longest)) != d->pageStep)
         Q_EMIT pageStepChanged(d->pageStep);
 }
 
@@ -183,7 +184,7 @@ QSize VideoSlider::minimumSizeHint() const
 
 void VideoSlider::setDuration(qint64 msecs)
 {
-    const qint64 duration = std::max<qint64>(msecs, 0);
+    const qint64 duration = std::clamp<qint64>(msecs, 0, longest);
     if (duration == d->duration)
         return;
     d->duration = duration;

@@ -56,7 +56,7 @@ public:
     explicit VideoSlider(QWidget* parent = nullptr);
     ~VideoSlider() override;
 
-    /// 0 at first: there is nothing to seek in. Negative ones count as 0.
+    /// 0 at first: there is nothing to seek in. From 0 to 2^53, as are the steps.
     qint64 duration() const;
     /// What the bar shows, from 0 to duration(): where the user wants to be while dragging or
     /// seeking, otherwise where the player is.

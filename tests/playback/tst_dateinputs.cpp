@@ -270,6 +270,7 @@ private Q_SLOTS:
             QTest::keyClick(input->findChildren<QTimeEdit*>().at(0), Qt::Key_Up);
             QVERIFY(!input);
             QPointer<PDateTimeSelectionDialog> dialog = new Shown<PDateTimeSelectionDialog>;
+            dialog->setDateTime(second); // not the last day of a month, where keys end
             connect(dialog.data(), &PDateTimeSelectionDialog::dateTimeChanged, this,
                     [&] { deleteWithin(dialog, nested); });
             QTest::keyClick(dialog->findChild<PDateEdit*>(), Qt::Key_Up);

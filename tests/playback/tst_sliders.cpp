@@ -189,6 +189,13 @@ private Q_SLOTS:
         press(slider, {9, 9});
         slider.hide();
         QTRY_VERIFY(!slider.isDragging());
+        constexpr qint64 endless = std::numeric_limits<qint64>::max();
+        slider.setDuration(endless);
+        slider.setSingleStep(endless);
+        press(slider, {298, 9});
+        QCOMPARE(slider.position(), slider.duration());
+        QTest::keyClick(&slider, Qt::Key_Right);
+        QCOMPARE(slider.position(), slider.duration());
         slider.setDuration(-5);
         QCOMPARE(slider.position(), 0);
     }
