@@ -78,6 +78,7 @@ set(CORVELGUI_PUBLIC_HEADERS
     itemviews/PTreeWidget
     itemviews/PTreeWidgetItem
     imageviews/ZoomGraphicsView
+    printing/TextCursor
     progress/BusyIndicator
     progress/PFractionalProgressBar
     progress/TaskbarProgress

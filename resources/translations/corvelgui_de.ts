@@ -1134,6 +1134,21 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::TextCursor</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>The printer does not accept the report.</source>
+        <translation>Der Drucker nimmt den Bericht nicht an.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept all pages.</source>
+        <translation>Der Drucker nimmt nicht alle Seiten an.</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::TimelineLanes</name>
     <message>
         <source>Tracks</source>
