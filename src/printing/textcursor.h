@@ -63,6 +63,7 @@ public:
         QImage picture = {};
     };
 
+    /// A table that is inserted row by row.
     struct Table
     {
         QStringList header; ///< repeated on each page; its size is the number of columns
