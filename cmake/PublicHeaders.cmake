@@ -31,7 +31,9 @@ set(CORVELGUI_PUBLIC_HEADERS
     frame/PBaseDialog
     frame/PMainWindow
     frame/PWidget
+    frame/StringHelper
     frame/ToolBarWithLabel
+    frame/ToolShellHelper
     frame/ToolTipHelper
     input/CheckDirLineEdit
     input/CheckFileNameLineEdit

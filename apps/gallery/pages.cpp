@@ -8,6 +8,7 @@
 #include "dialogspage.h"
 #include "fancylineeditspage.h"
 #include "graphicsviewpage.h"
+#include "helperspage.h"
 #include "iconspage.h"
 #include "languagespage.h"
 #include "lineeditspage.h"
@@ -53,6 +54,7 @@ const std::vector<Page>& pages()
         {u"Icons"_s, create<IconsPage>},
         // Frame
         {u"Tooltips"_s, create<ToolTipsPage>},
+        {u"Helpers"_s, create<HelpersPage>},
         // Timeline
         {u"Ruler"_s, create<RulerPage>},
         {u"Overview"_s, create<OverviewPage>},

@@ -186,25 +186,6 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
-    <name>CorvelGui::DurationText</name>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-    <message>
-        <source>%1 d</source>
-        <translation>%1 Tg.</translation>
-    </message>
-    <message>
-        <source>%1 h</source>
-        <translation>%1 Std.</translation>
-    </message>
-    <message>
-        <source>%1 min</source>
-        <translation>%1 min</translation>
-    </message>
-</context>
-<context>
     <name>CorvelGui::FileNameValidatingLineEdit</name>
     <message>
         <source>Name is empty.</source>
@@ -1086,6 +1067,25 @@ Speicherort öffnen?</translation>
     <message>
         <source>%1, selected: %2</source>
         <translation>%1, gewählt: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::StringHelper</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <translation>%1 Tg.</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 Std.</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,7 @@
 #include "base/whilealive.h"
 #include "base/wholefile.h"
 #include "csvbody.h"
-#include "documentopener.h"
+#include "frame/toolshellhelper.h"
 #include "ui_pcsvdialog.h"
 
 #include <Hueloft/PIconHelper>
@@ -104,7 +104,7 @@ bool PCsvDialog::AddColumnsAtTop() const
 
 bool PCsvDialog::openFile(const QString& fileName)
 {
-    return openWithSystem(fileName);
+    return ToolShellHelper::openDocument(fileName);
 }
 
 void PCsvDialog::changeEvent(QEvent* event)

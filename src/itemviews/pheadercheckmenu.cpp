@@ -1,12 +1,12 @@
 #include "pheadercheckmenu.h"
 
+#include "frame/stringhelper.h"
+
 #include <QAbstractItemModel>
 #include <QAction>
 #include <QHeaderView>
 #include <QPointer>
 #include <QSettings>
-
-using namespace Qt::StringLiterals;
 
 namespace CorvelGui {
 
@@ -45,7 +45,7 @@ void PHeaderCheckMenu::fill()
     const int columns = d->header ? d->header->count() : 0;
     for (int place = 0; place < columns; ++place) {
         const int column = d->header->logicalIndex(place);
-        QAction* action = addAction(columnTitle(column).replace(u'&', u"&&"_s));
+        QAction* action = addAction(StringHelper::plainLabel(columnTitle(column)));
         action->setCheckable(true);
         action->setChecked(!d->header->isSectionHidden(column));
         action->setEnabled(!isLastVisible(*d->header, column));

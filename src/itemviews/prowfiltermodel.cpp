@@ -1,8 +1,8 @@
 #include "prowfiltermodel.h"
 
+#include "frame/stringhelper.h"
 #include "slicedsort.h"
 
-#include <QCollator>
 #include <QDeadlineTimer>
 #include <QTimer>
 
@@ -24,14 +24,6 @@ std::vector<int> firstNumbers(int count)
     std::vector<int> numbers(size_t(std::max(count, 0)));
     std::iota(numbers.begin(), numbers.end(), 0);
     return numbers;
-}
-
-QCollator textOrder()
-{
-    QCollator collator;
-    collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    return collator;
 }
 
 } // namespace
@@ -250,7 +242,7 @@ void PRowFilterModel::startSort()
         adoptOrder(firstNumbers(int(d->order.size())));
         return d->filtering ? startFilter() : void();
     }
-    d->collator = textOrder();
+    d->collator = StringHelper::naturalOrder();
     d->sorting = std::make_unique<SlicedSort>(
         d->order, [this](int row, int other) { return standsBefore(row, other); });
 }

@@ -1,6 +1,7 @@
 #include "ptabwidget.h"
 
 #include "base/whilealive.h"
+#include "frame/stringhelper.h"
 #include "tabnameeditor.h"
 
 #include <QEvent>
@@ -10,6 +11,7 @@
 
 #include <utility>
 
+using CorvelGui::StringHelper;
 using CorvelGui::TabNameEditor;
 using namespace Qt::StringLiterals;
 
@@ -74,9 +76,9 @@ QString PTabWidget::tabName(int index) const
 
 void PTabWidget::setTabName(int index, const QString& name)
 {
-    QString text = name.trimmed();
+    const QString text = name.trimmed();
     if (!text.isEmpty())
-        setTabText(index, text.replace(u'&', u"&&"_s));
+        setTabText(index, StringHelper::plainLabel(text));
 }
 
 void PTabWidget::editTabName(int index)

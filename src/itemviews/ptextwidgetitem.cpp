@@ -1,6 +1,6 @@
 #include "ptextwidgetitem.h"
 
-#include <QTextDocument>
+#include "frame/stringhelper.h"
 
 namespace CorvelGui {
 
@@ -15,9 +15,7 @@ bool PTextWidgetItem::operator<(const QTableWidgetItem& other) const
 
 QVariant PTextWidgetItem::ToolTipRequested() const
 {
-    // A tooltip takes for markup what looks like it.
-    const QString own = text();
-    return Qt::mightBeRichText(own) ? Qt::convertFromPlainText(own) : own;
+    return StringHelper::plainToolTip(text());
 }
 
 } // namespace CorvelGui

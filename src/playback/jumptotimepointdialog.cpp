@@ -1,5 +1,6 @@
 #include "jumptotimepointdialog.h"
 
+#include "frame/stringhelper.h"
 #include "localmoments.h"
 #include "momententry.h"
 #include "ui_jumptotimepointdialog.h"
@@ -87,7 +88,7 @@ void JumpToTimepointDialog::setDeviceName(const QString& name)
 {
     const QFontMetrics metrics(d->ui.labelName->font());
     d->ui.labelName->setText(
-        metrics.elidedText(name, Qt::ElideMiddle, longestZoneName * metrics.averageCharWidth()));
+        StringHelper::elidedInMiddle(name, metrics, longestZoneName * metrics.averageCharWidth()));
 }
 
 void JumpToTimepointDialog::setDateFormat(const QString& format)

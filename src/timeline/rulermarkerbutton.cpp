@@ -1,12 +1,12 @@
 #include "rulermarkerbutton.h"
 
+#include "frame/stringhelper.h"
 #include "markerbadge.h"
 #include "rulericonset.h"
 
 #include <Hueloft/POrvGuiTheme>
 
 #include <QPainter>
-#include <QTextDocument>
 
 using Hueloft::POrvGuiTheme;
 
@@ -31,11 +31,6 @@ RulerMarkerButton::RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* r
 }
 
 RulerMarkerButton::~RulerMarkerButton() = default;
-
-QString RulerMarkerButton::plainToolTip(const QString& text)
-{
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}
 
 void RulerMarkerButton::setMarker(const RulerMarker& marker, const RulerIconSet* icons)
 {
@@ -103,7 +98,7 @@ void RulerMarkerButton::moveTo(int centerX, const QRect& markerArea)
 
 void RulerMarkerButton::resetToolTip()
 {
-    setToolTip(plainToolTip(m_marker.text));
+    setToolTip(StringHelper::plainToolTip(m_marker.text));
 }
 
 void RulerMarkerButton::redraw()

@@ -30,9 +30,6 @@ public:
     RulerMarkerButton(const RulerIconSet* mergedIcons, QWidget* ruler);
     ~RulerMarkerButton() override;
 
-    /// A tooltip that shows @p text as it is, also where it looks like markup.
-    static QString plainToolTip(const QString& text);
-
     /// Shows another marker. The icon set is not owned and must outlive the button or its next
     /// marker.
     void setMarker(const RulerMarker& marker, const RulerIconSet* icons);

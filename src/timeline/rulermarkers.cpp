@@ -1,5 +1,6 @@
 #include "rulermarkers.h"
 
+#include "frame/stringhelper.h"
 #include "rulermarkerlayer.h"
 #include "timescale.h"
 
@@ -486,7 +487,7 @@ QString RulerMarkers::mergedToolTip(const RulerMarkerButton* button) const
         lines << m_store.marker(marker).text;
     if (last < symbol->last)
         lines << tr("and %n more", nullptr, int(symbol->last - last));
-    return RulerMarkerButton::plainToolTip(lines.join(u'\n'));
+    return StringHelper::plainToolTip(lines.join(u'\n'));
 }
 
 } // namespace CorvelGui

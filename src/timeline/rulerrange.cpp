@@ -1,6 +1,6 @@
 #include "rulerrange.h"
 
-#include "durationtext.h"
+#include "frame/stringhelper.h"
 #include "lengthlabel.h"
 #include "ruler_p.h"
 
@@ -65,7 +65,7 @@ void RulerRange::describe(RangeHandle* handle)
                         [this, end] {
                             return tr("%1, selected: %2")
                                 .arg(QLocale().toString(d.scale.inZone(timeOf(end))),
-                                     DurationText::of(m_range.end - m_range.begin));
+                                     StringHelper::duration(m_range.end - m_range.begin));
                         },
                     .move =
                         [this, end](double msecs) {
@@ -158,7 +158,7 @@ void RulerRange::showLength()
     const double left = std::max(d.scale.xAt(range.begin), TimeScale::margin());
     const double right = std::min(d.scale.xAt(range.end), d.scale.width() - TimeScale::margin());
     constexpr int distance = 3;
-    m_length->say(DurationText::of(range.end - range.begin), (left + right) / 2,
+    m_length->say(StringHelper::duration(range.end - range.begin), (left + right) / 2,
                   2 * d.headerHeight + distance, int(d.fontSize));
 }
 

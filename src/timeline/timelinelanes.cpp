@@ -3,6 +3,7 @@
 #include "accessiblelanes.h"
 #include "base/devicegrid.h"
 #include "base/whilealive.h"
+#include "frame/stringhelper.h"
 #include "lanelayout.h"
 #include "lanepainter.h"
 #include "ruler_p.h"
@@ -406,8 +407,7 @@ bool TimelineLanes::event(QEvent* event)
     const auto* help = static_cast<QHelpEvent*>(event);
     const int lane = help->x() < d->rulerLeft() ? laneAt(help->pos()) : -1;
     if (lane >= 0)
-        QToolTip::showText(help->globalPos(), RulerMarkerButton::plainToolTip(laneName(lane)),
-                           this);
+        QToolTip::showText(help->globalPos(), StringHelper::plainToolTip(laneName(lane)), this);
     else
         QToolTip::hideText();
     return true;

@@ -8,12 +8,11 @@ class QWidget;
 
 namespace CorvelGui {
 
-/// A file name that can be suggested to the user, made of a name that a server sent: without
-/// folders, without characters that a file system or a reader could take for something else, not
-/// the name of a device, and of a sensible length.
-CORVELGUI_INTERNAL_EXPORT QString safeFileName(const QString& serverName);
+/// A file name that can be suggested to the user, made of a name that a server sent: without the
+/// folders, safe by StringHelper::safeFileName(), never empty.
+CORVELGUI_INTERNAL_EXPORT QString installerName(const QString& serverName);
 
-/// Where an installer is suggested to be saved: safeFileName() in the user's download folder, with
+/// Where an installer is suggested to be saved: installerName() in the user's download folder, with
 /// the separators of the system.
 CORVELGUI_INTERNAL_EXPORT QString suggestedInstallerPath(const QString& serverName);
 

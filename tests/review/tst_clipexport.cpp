@@ -195,10 +195,10 @@ void TestClipExport::clipsAreJoined()
                          .arg(file.begin - monday)
                          .arg(file.end - monday)
                          .arg(file.offset));
-    QCOMPARE(found, (QStringList{u"Gate__1___2026-03-02T000000Z.mp4 0-12000 0"_s,
-                                 u"Gate__1___2026-03-02T000000Z.mp4 12500-24500 12500"_s,
-                                 u"Gate__1___2026-03-02T000059Z.mp4 59000-61000 0"_s,
-                                 u"Gate__1___2026-03-02T000101Z.mp4 61000-62000 0"_s}));
+    QCOMPARE(found, (QStringList{u"Gate_(1)__2026-03-02T000000Z.mp4 0-12000 0"_s,
+                                 u"Gate_(1)__2026-03-02T000000Z.mp4 12500-24500 12500"_s,
+                                 u"Gate_(1)__2026-03-02T000059Z.mp4 59000-61000 0"_s,
+                                 u"Gate_(1)__2026-03-02T000101Z.mp4 61000-62000 0"_s}));
     compare(copies, files, 0, 50'000);
     compare(copies, files, 60'000, 62'000);
 }
@@ -225,7 +225,7 @@ void TestClipExport::listsBeside()
     const QDir folder(job.folder());
     QCOMPARE(exported(job).size(), 2);
     QCOMPARE(readFile(folder.filePath(u"events.csv"_s)), wanted.events);
-    QCOMPARE(readFile(folder.filePath(u"Gate__1___2026-03-02T000100Z.jpg"_s)), readFile(picture));
+    QCOMPARE(readFile(folder.filePath(u"Gate_(1)__2026-03-02T000100Z.jpg"_s)), readFile(picture));
     QByteArrayList sums = readFile(folder.filePath(u"SHA256SUMS"_s)).split('\n');
     QCOMPARE(sums.takeLast(), QByteArray());
     QCOMPARE(sums.size(), folder.count() - 2 - 1);

@@ -49,7 +49,7 @@ private Q_SLOTS:
     void exportEnds()
     {
         using enum PictureExport::Outcome;
-        const QString existing = u"Gate__1___2026-03-02T000004Z.png"_s;
+        const QString existing = u"Gate_(1)__2026-03-02T000004Z.png"_s;
         // What is in the way, after how many pictures the user cancels, and how many files there
         // are at the end.
         const std::tuple<QString, int, PictureExport::Outcome, int> rows[] = {

@@ -1,4 +1,3 @@
-#include "durationtext.h"
 #include "lengthlabel.h"
 #include "rangehandle.h"
 #include "rulerscript.h"
@@ -31,31 +30,10 @@ class TestRangeSelection : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void durations();
     void edgesScroll();
     void handlesForAssistiveTechnology();
     void handlesAndLengthStayInSight();
 };
-
-void TestRangeSelection::durations()
-{
-    const struct
-    {
-        qint64 length;
-        QString english, german;
-    } cases[] = {{-5, u"0 s"_s, u"0 s"_s},
-                 {1'250, u"1.250 s"_s, u"1,250 s"_s},
-                 {59'000, u"59 s"_s, u"59 s"_s},
-                 {hour - 1, u"1 h"_s, u"1 h"_s},
-                 {1'500 * day + 61 * minute + 2 * second, u"1,500 d 1 h 1 min 2 s"_s,
-                  u"1.500 d 1 h 1 min 2 s"_s}};
-    for (const auto& [length, english, german] : cases) {
-        QLocale::setDefault(QLocale(u"en_US"_s));
-        QCOMPARE(DurationText::of(length), english);
-        QLocale::setDefault(QLocale(u"de_DE"_s));
-        QCOMPARE(DurationText::of(length), german);
-    }
-}
 
 void TestRangeSelection::edgesScroll()
 {

@@ -1,11 +1,14 @@
 #include "textfile.h"
 
+#include <CorvelGui/StringHelper>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 #include <QStringConverter>
+
+using CorvelGui::StringHelper;
 
 namespace Review {
 
@@ -29,7 +32,7 @@ QString unfitness(const QString& path)
         return fileText(QT_TRANSLATE_NOOP("Review::TextFile", "it is not a file"));
     if (file.size() > largestFile)
         return fileText(QT_TRANSLATE_NOOP("Review::TextFile", "it is larger than %1"))
-            .arg(QLocale().formattedDataSize(largestFile));
+            .arg(StringHelper::size(largestFile));
     return {};
 }
 

@@ -5,6 +5,8 @@
 #include "look/roomydelegate.h"
 #include "rangechoice.h"
 
+#include <CorvelGui/StringHelper>
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -15,6 +17,7 @@
 
 #include <algorithm>
 
+using CorvelGui::StringHelper;
 using CorvelGui::TimeSpan;
 
 namespace Review {
@@ -105,7 +108,7 @@ void ClipDialog::checkPlan()
     else if (length == 0)
         m_message->setText(tr("No files show this range."));
     else
-        m_message->setText(tr("Recorded time: %1").arg(TimeTexts::duration(length)));
+        m_message->setText(tr("Recorded time: %1").arg(StringHelper::duration(length)));
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(length > 0 && m_folder->exists());
 }
 

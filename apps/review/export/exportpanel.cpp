@@ -9,10 +9,11 @@
 #include "video/camerapicture.h"
 
 #include <CorvelGui/PFractionalProgressBar>
+#include <CorvelGui/StringHelper>
 #include <CorvelGui/TaskbarProgress>
+#include <CorvelGui/ToolShellHelper>
 #include <Hueloft/PMessageBox>
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -22,14 +23,15 @@
 #include <QPointer>
 #include <QStandardPaths>
 #include <QToolButton>
-#include <QUrl>
 #include <QWindow>
 
 #include <algorithm>
 
 using CorvelGui::PFractionalProgressBar;
+using CorvelGui::StringHelper;
 using CorvelGui::TaskbarProgress;
 using CorvelGui::TimeSpan;
+using CorvelGui::ToolShellHelper;
 using Hueloft::PMessageBox;
 using namespace Qt::StringLiterals;
 
@@ -77,7 +79,7 @@ ExportPanel::ExportPanel(QWidget* parent)
         if (m_export)
             m_export->cancel();
     });
-    connect(m_open, &QToolButton::clicked, this, &ExportPanel::openFolder);
+    connect(m_open, &QToolButton::clicked, this, &ExportPanel::openReported);
     connect(m_close, &QToolButton::clicked, m_report, &QWidget::hide);
     retranslate();
 }
@@ -152,7 +154,7 @@ void ExportPanel::askForPicture(const CameraPicture& shown)
         tellUnwritten(tr("Save picture"), path, error);
         return;
     }
-    report(m_pictureFolder, [] { return tr("Picture saved"); });
+    report(path, [] { return tr("Picture saved"); });
 }
 
 void ExportPanel::tellUnwritten(const QString& title, const QString& path, const QString& error)
@@ -176,8 +178,7 @@ void ExportPanel::askForEvents(const EventWriter& events)
         tellUnwritten(tr("Export events"), path, error);
         return;
     }
-    report(m_eventFolder,
-           [count] { return tr("Events exported: %1").arg(QLocale().toString(count)); });
+    report(path, [count] { return tr("Events exported: %1").arg(QLocale().toString(count)); });
 }
 
 bool ExportPanel::mayQuit()
@@ -253,22 +254,34 @@ bool ExportPanel::tellFaults(ExportJob::Outcome outcome)
     return alive;
 }
 
-void ExportPanel::report(const QString& folder, const std::function<QString()>& text)
+void ExportPanel::report(const QString& path, const std::function<QString()>& text)
 {
-    m_reportFolder = folder;
+    m_reportPath = path;
     m_reportText = text;
-    m_outcome->setText(text());
-    m_open->setToolTip(QDir::toNativeSeparators(folder).toHtmlEscaped());
-    m_open->setVisible(!folder.isEmpty());
+    m_open->setToolTip(StringHelper::plainToolTip(QDir::toNativeSeparators(path)));
+    m_open->setVisible(!path.isEmpty());
+    showReport();
     m_report->show();
 }
 
-void ExportPanel::openFolder()
+void ExportPanel::showReport()
 {
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(m_reportFolder)))
-        PMessageBox::Information(
-            window(), tr("Open folder"),
-            tr("No program shows %1.").arg(QDir::toNativeSeparators(m_reportFolder)));
+    m_outcome->setText(m_reportText());
+    m_open->setText(QFileInfo(m_reportPath).isDir() ? tr("Open folder") : tr("Show in folder"));
+}
+
+void ExportPanel::openReported()
+{
+    const auto tell = [this, path = m_reportPath](bool shown) {
+        if (!shown)
+            PMessageBox::Information(
+                window(), tr("Open folder"),
+                tr("No program shows %1.").arg(QDir::toNativeSeparators(path)));
+    };
+    if (QFileInfo(m_reportPath).isDir())
+        tell(ToolShellHelper::openDocument(m_reportPath));
+    else
+        ToolShellHelper::showInFolder(m_reportPath, this, tell);
 }
 
 void ExportPanel::showActivity()
@@ -283,11 +296,10 @@ void ExportPanel::retranslate()
 {
     showActivity();
     m_cancel->setText(tr("Cancel"));
-    m_open->setText(tr("Open folder"));
     m_close->setText(tr("Close"));
     m_close->setToolTip(tr("Close this message"));
     if (m_reportText)
-        m_outcome->setText(m_reportText());
+        showReport();
 }
 
 } // namespace Review

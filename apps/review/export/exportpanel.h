@@ -65,9 +65,11 @@ private:
     void finish(ExportJob::Outcome outcome);
     bool tellFaults(ExportJob::Outcome outcome);
     void showActivity();
-    void report(const QString& folder, const std::function<QString()>& text);
+    /// The file or folder at @p path is what was exported; it may be empty.
+    void report(const QString& path, const std::function<QString()>& text);
+    void showReport();
     void tellUnwritten(const QString& title, const QString& path, const QString& error);
-    void openFolder();
+    void openReported();
 
     QLabel* m_label;
     CorvelGui::PFractionalProgressBar* m_progress;
@@ -82,7 +84,7 @@ private:
     PictureForm m_pictureForm = PictureForm::Jpeg;
     QString m_clipFolder;
     QString m_eventFolder;
-    QString m_reportFolder;
+    QString m_reportPath;
     /// In the language of the moment.
     std::function<QString()> m_reportText;
     std::unique_ptr<CorvelGui::TaskbarProgress> m_taskbar;

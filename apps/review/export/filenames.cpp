@@ -1,7 +1,10 @@
 #include "filenames.h"
 
+#include <CorvelGui/StringHelper>
+
 #include <QDateTime>
 
+using CorvelGui::StringHelper;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -9,12 +12,7 @@ namespace Review {
 QString FileNames::cameraPart(const QString& camera)
 {
     constexpr qsizetype longest = 40;
-    QString part = camera.simplified().left(longest);
-    for (QChar& character : part) {
-        if (!character.isLetterOrNumber() && character != u'-')
-            character = u'_';
-    }
-    return part.isEmpty() ? u"camera"_s : part;
+    return StringHelper::safeFileName(camera, u"camera"_s, longest).replace(u' ', u'_');
 }
 
 QString FileNames::timePart(qint64 msecs, const QTimeZone& zone)

@@ -1,24 +1,19 @@
 #include "eventtexts.h"
 
+#include <CorvelGui/StringHelper>
+
 #include <QBitArray>
 
 #include <algorithm>
 #include <numeric>
 
 using CorvelGui::RulerMarker;
+using CorvelGui::StringHelper;
 using namespace Qt::StringLiterals;
 
 namespace Review {
 
 namespace {
-
-QCollator userOrder()
-{
-    QCollator order;
-    order.setNumericMode(true);
-    order.setCaseSensitivity(Qt::CaseInsensitive);
-    return order;
-}
 
 /// The place of each text among all. Those that are alike have the same.
 QList<int> ranks(const QStringList& texts, const QCollator& order)
@@ -66,7 +61,10 @@ bool mayBeInATime(const QString& text)
 } // namespace
 
 EventTexts::EventTexts(const EventList& events, const TimeTexts& times)
-    : m_events(events.events()), m_times(times), m_order(userOrder()), m_tracks(events.trackNames())
+    : m_events(events.events())
+    , m_times(times)
+    , m_order(StringHelper::naturalOrder())
+    , m_tracks(events.trackNames())
 {
     for (const QString& kind : m_events.kinds()) {
         m_kinds.append(EventKinds::text(kind));

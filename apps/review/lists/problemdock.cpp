@@ -2,12 +2,15 @@
 
 #include "look/roomydelegate.h"
 
+#include <CorvelGui/StringHelper>
+
 #include <QAction>
 #include <QDir>
 #include <QFileInfo>
 #include <QListWidget>
 #include <QLocale>
 
+using CorvelGui::StringHelper;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -43,7 +46,7 @@ void ProblemDock::retranslate()
         const QString line = problem.line > 0 ? u':' + QString::number(problem.line) : QString();
         auto* item = new QListWidgetItem(
             QFileInfo(problem.file).fileName() + line + u": "_s + problem.text.text(), m_list);
-        item->setToolTip(QDir::toNativeSeparators(problem.file).toHtmlEscaped());
+        item->setToolTip(StringHelper::plainToolTip(QDir::toNativeSeparators(problem.file)));
     }
     if (m_problems.unlisted() > 0)
         m_list->addItem(tr("and %1 more").arg(QLocale().toString(m_problems.unlisted())));

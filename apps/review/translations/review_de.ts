@@ -669,6 +669,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Ordner öffnen</translation>
     </message>
     <message>
+        <source>Show in folder</source>
+        <translation>Im Ordner anzeigen</translation>
+    </message>
+    <message>
         <source>No program shows %1.</source>
         <translation>Kein Programm zeigt %1 an.</translation>
     </message>

@@ -1,9 +1,12 @@
-#include "dialogs/documentopener.h"
 #include "testsupport.h"
+
+#include <CorvelGui/ToolShellHelper>
+
+using CorvelGui::ToolShellHelper;
 
 /// The shell starts this program, as the handler of an ending of the test's own: it then writes the
 /// name of the file that it was given into the file "opened" beside it.
-class TestDocumentOpener : public WarningFreeTest
+class TestToolShellHelper : public WarningFreeTest
 {
     Q_OBJECT
 
@@ -16,7 +19,7 @@ private Q_SLOTS:
         QFile document(file);
         QVERIFY(document.open(QIODevice::WriteOnly));
         document.close();
-        QVERIFY(!CorvelGui::openWithSystem(file)); // nobody opens it yet
+        QVERIFY(!ToolShellHelper::openDocument(file)); // nobody opens it yet
 
         QSettings classes(u"HKEY_CLASSES_ROOT"_s, QSettings::NativeFormat);
         classes.setValue(u".corvelguitest/."_s, u"CorvelGuiTest"_s);
@@ -25,7 +28,7 @@ private Q_SLOTS:
             u"\"%1\" --opened \"%2\""_s.arg(
                 QDir::toNativeSeparators(QCoreApplication::applicationFilePath()), u"%1"_s));
         classes.sync();
-        const bool opened = CorvelGui::openWithSystem(file);
+        const bool opened = ToolShellHelper::openDocument(file);
         QFile record(directory.filePath(u"opened"_s));
         QTRY_VERIFY_WITH_TIMEOUT(!opened || record.size() > 0, 20'000);
         classes.remove(u".corvelguitest"_s);
@@ -46,8 +49,8 @@ int main(int argc, char** argv)
                    ? 0
                    : 1;
     }
-    TestDocumentOpener test;
+    TestToolShellHelper test;
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "tst_documentopener_win.moc"
+#include "tst_toolshellhelper_win.moc"
