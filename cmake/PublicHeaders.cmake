@@ -79,6 +79,10 @@ set(CORVELGUI_PUBLIC_HEADERS
     playback/VideoSlider
     itemviews/PTreeWidget
     itemviews/PTreeWidgetItem
+    imageviews/ImageFromRequestDescriptor
+    imageviews/ImageHelper
+    imageviews/PImageAndLabelWidget
+    imageviews/PImageWidget
     imageviews/ZoomGraphicsView
     printing/TextCursor
     progress/BusyIndicator

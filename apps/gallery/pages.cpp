@@ -10,6 +10,7 @@
 #include "graphicsviewpage.h"
 #include "helperspage.h"
 #include "iconspage.h"
+#include "imagespage.h"
 #include "languagespage.h"
 #include "lineeditspage.h"
 #include "longlistpage.h"
@@ -78,6 +79,7 @@ const std::vector<Page>& pages()
         {u"Table items"_s, create<TableItemsPage>},
         {u"Tab widget"_s, create<TabWidgetPage>},
         // Image views
+        {u"Images"_s, create<ImagesPage>},
         {u"Graphics view"_s, create<GraphicsViewPage>},
         // Progress
         {u"Busy indicator"_s, create<BusyIndicatorPage>},

@@ -224,6 +224,29 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::ImageHelper</name>
+    <message>
+        <source>This is not a picture that can be shown.</source>
+        <translation>Das ist kein Bild, das angezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>The picture is damaged or not complete.</source>
+        <translation>Das Bild ist beschädigt oder unvollständig.</translation>
+    </message>
+    <message>
+        <source>The picture is too large: %1 × %2 pixels.</source>
+        <translation>Das Bild ist zu groß: %1 × %2 Pixel.</translation>
+    </message>
+    <message>
+        <source>This is not a file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file is larger than %1.</source>
+        <translation>Die Datei ist größer als %1.</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::Info3rdLicences</name>
     <message>
         <source>Licence: %1</source>
@@ -587,6 +610,21 @@ Speicherort öffnen?</translation>
     <message>
         <source>Column %1</source>
         <translation>Spalte %1</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::PImageWidget</name>
+    <message>
+        <source>Loading…</source>
+        <translation>Wird geladen …</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
     </message>
 </context>
 <context>

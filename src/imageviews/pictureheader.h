@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace CorvelGui {
+
+/// The format of a picture as Qt names it, by how its data begins: "bmp", "gif", "jpeg" or "png".
+/// Empty for anything else.
+QByteArray pictureFormat(const QByteArray& data);
+
+/// Whether all of a picture in @p format seems to be there and it takes a sensible time to read, as
+/// far as that can be told without reading it. Qt's readers show pictures that were cut off with
+/// the rest in black or grey, and take for every scan of a JPEG picture as long as for the first.
+bool isWholePicture(const QByteArray& data, const QByteArray& format);
+
+} // namespace CorvelGui
