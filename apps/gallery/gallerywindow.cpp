@@ -28,7 +28,7 @@ GalleryWindow::GalleryWindow()
         scroll->setWidget(page.create(nullptr));
         m_stack->addWidget(scroll);
     }
-    m_list->setFixedWidth(150);
+    m_list->setFixedWidth(200);
     m_list->setSpacing(3);
     m_list->setAccessibleName(tr("Pages"));
     connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);

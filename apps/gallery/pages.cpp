@@ -16,9 +16,11 @@
 #include "longlistpage.h"
 #include "lookspage.h"
 #include "networkboxespage.h"
+#include "newspage.h"
 #include "optionspage.h"
 #include "overviewpage.h"
 #include "playbarpage.h"
+#include "printingpage.h"
 #include "progresspage.h"
 #include "rulerpage.h"
 #include "sliderspage.h"
@@ -89,6 +91,9 @@ const std::vector<Page>& pages()
         {u"Languages"_s, create<LanguagesPage>},
         // Updates
         {u"Updates"_s, create<UpdatesPage>},
+        {u"News and product information"_s, create<NewsPage>},
+        // Printing
+        {u"Printing"_s, create<PrintingPage>},
     };
     return all;
 }

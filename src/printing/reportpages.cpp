@@ -14,7 +14,7 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr qreal footHeight = 10; // mm
+constexpr qreal pageFootHeight = 10; // mm
 constexpr qreal footPoints = 7.5;
 
 } // namespace
@@ -28,7 +28,7 @@ QSizeF ReportPages::textSize(const QPageLayout& layout)
         constexpr qreal leastSide = 30;
         return std::floor(ReportDocument::dotsOfMillimetres(std::max(side, leastSide)));
     };
-    return {dots(page.width()), dots(page.height() - footHeight)};
+    return {dots(page.width()), dots(page.height() - pageFootHeight)};
 }
 
 ReportPages::ReportPages(const QTextDocument& document, const QString& title, const QString& date)
@@ -56,7 +56,7 @@ void ReportPages::paint(QPainter& painter, int page) const
 void ReportPages::paintFoot(QPainter& painter, int page) const
 {
     const QSizeF size = m_document.pageSize();
-    const qreal height = ReportDocument::dotsOfMillimetres(footHeight);
+    const qreal height = ReportDocument::dotsOfMillimetres(pageFootHeight);
     const QRectF foot(0, size.height() + height / 2, size.width(), height / 2);
     painter.save();
     QFont font = m_document.defaultFont();

@@ -3,6 +3,7 @@
 #include "export/exportdialog.h"
 #include "export/folderchoice.h"
 #include "export/pictureexport.h"
+#include "export/reportdialog.h"
 #include "footage/exiftime.h"
 #include "playback/playbackpane.h"
 #include "samplewindow.h"
@@ -169,6 +170,31 @@ private Q_SLOTS:
                 expected.append(all[i]);
         QVERIFY(!expected.isEmpty());
         QCOMPARE(loader.data().events, expected);
+    }
+
+    void aReportIsSaved()
+    {
+        const QTemporaryDir folder;
+        const SampleWindow sample(u"UTC"_s);
+        UserAnswers user;
+        user.savePath = folder.filePath(u"events.pdf"_s);
+        sample.events()->selectionModel()->select(
+            QItemSelection(sample.events()->model()->index(0, 0),
+                           sample.events()->model()->index(3, 3)),
+            QItemSelectionModel::ClearAndSelect);
+        const auto sizeOfReport = [&](bool withPictures) {
+            whenShown<ReportDialog>(this, [&](ReportDialog& dialog) {
+                dialog.findChild<QCheckBox*>()->setChecked(withPictures);
+                dialog.saveAsPdf();
+            });
+            sample.action(u"Report of events…"_s)->trigger();
+            const QByteArray pdf = readFile(user.savePath);
+            return pdf.startsWith("%PDF") ? pdf.size() : 0;
+        };
+        const qsizetype plain = sizeOfReport(false);
+        QVERIFY(plain > 0);
+        QVERIFY(sizeOfReport(true) > plain + 10'000);
+        QVERIFY(sample.says(u"Report saved"_s));
     }
 
     void quittingIsAsked()

@@ -76,6 +76,7 @@ void fill(const OptionsDialog& dialog)
     field<QLineEdit>(dialog, u"Internal server:"_s).setText(u"http://updates.example/in"_s);
     field<QLineEdit>(dialog, u"Public server:"_s).setText(u"http://not an address"_s);
     field<QLineEdit>(dialog, u"Update server:"_s).clear();
+    field<QLineEdit>(dialog, u"News feed:"_s).setText(u"http://news.example/feed"_s);
     visit(u"network"_s, u"proxy"_s);
     field<QComboBox>(dialog, u"Connection:"_s).setCurrentText(u"SOCKS5 proxy"_s);
     field<QLineEdit>(dialog, u"Host:"_s).setText(u"proxy.example"_s);
@@ -93,6 +94,7 @@ ReviewSettings filled()
     settings.shortcuts[CorvelGui::PPlaybar::FrameForwardButton] = Qt::Key_F7;
     settings.servers.internalChannel = u"http://updates.example/in/"_s;
     settings.servers.queryServer.clear();
+    settings.servers.news = u"http://news.example/feed"_s;
     settings.proxy = {.mode = ProxyUserSettings::Mode::Socks5,
                       .host = u"proxy.example"_s,
                       .port = 1080,

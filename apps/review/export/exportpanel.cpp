@@ -6,6 +6,7 @@
 #include "exportdialog.h"
 #include "filenames.h"
 #include "pictureexport.h"
+#include "reportdialog.h"
 #include "video/camerapicture.h"
 
 #include <CorvelGui/PFractionalProgressBar>
@@ -179,6 +180,21 @@ void ExportPanel::askForEvents(const EventWriter& events)
         return;
     }
     report(path, [count] { return tr("Events exported: %1").arg(QLocale().toString(count)); });
+}
+
+void ExportPanel::askForReport(const ReportPlan& plan)
+{
+    const QPointer<ExportPanel> alive(this);
+    const QPointer dialog = new ReportDialog(plan, m_eventFolder, window());
+    dialog->exec();
+    if (!alive || !dialog)
+        return;
+    const QString path = dialog->savedFile();
+    dialog->deleteLater();
+    if (path.isEmpty())
+        return;
+    m_eventFolder = QFileInfo(path).absolutePath();
+    report(m_eventFolder, [] { return tr("Report saved"); });
 }
 
 bool ExportPanel::mayQuit()

@@ -22,6 +22,7 @@ namespace Review {
 struct CameraPicture;
 class Events;
 class EventWriter;
+struct ReportPlan;
 class PictureExport;
 
 /// Exports pictures, clips and events. Shows how far that is, in a status bar and on the taskbar,
@@ -46,6 +47,9 @@ public:
     void askForPicture(const CameraPicture& picture);
     /// Asks where to put the events.
     void askForEvents(const EventWriter& events);
+
+    /// Lets the user save or print a report of events.
+    void askForReport(const ReportPlan& plan);
 
     /// Whether pictures or clips are exported.
     bool isExporting() const { return m_export != nullptr; }

@@ -2,6 +2,7 @@
 
 #include "data/eventwriter.h"
 #include "eventtable.h"
+#include "eventtexts.h"
 #include "look/listlook.h"
 #include "session/clock.h"
 
@@ -22,9 +23,11 @@ EventPane::EventPane(const Clock& clock, QWidget* parent)
     , m_filter(new FilterLineEdit)
     , m_table(new EventTable)
     , m_export(new QAction(m_table))
+    , m_reportAction(new QAction(m_table))
 {
     new CorvelGui::PHeaderCheckMenu(m_table->horizontalHeader());
-    m_table->addAction(m_export);
+    m_table->addActions({m_export, m_reportAction});
+    m_reportAction->setShortcut(QKeySequence::Print);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
@@ -33,6 +36,7 @@ EventPane::EventPane(const Clock& clock, QWidget* parent)
 
     connect(m_filter, &FilterLineEdit::filterChanged, this, &EventPane::showRows);
     connect(m_export, &QAction::triggered, this, &EventPane::exportEvents);
+    connect(m_reportAction, &QAction::triggered, this, &EventPane::reportEvents);
     connect(m_table, &QAbstractItemView::activated, this,
             [this](const QModelIndex& index) { Q_EMIT eventOpened(m_table->eventOf(index)); });
     connect(&clock, &Clock::changed, this, &EventPane::renewTexts);
@@ -65,6 +69,25 @@ void EventPane::exportEvents()
     Q_EMIT exportWanted(writer);
 }
 
+void EventPane::reportEvents()
+{
+    const EventTexts texts(m_list, m_clock.times());
+    QList<EventLine> events;
+    for (const qsizetype event : m_table->chosenEvents()) {
+        if (events.size() > mostReportedEvents)
+            break;
+        EventLine line{.time = m_list.events().timeAt(event),
+                       .track = m_list.events().tracks()[m_list.events().trackAt(event)]};
+        for (int column = 0; column < EventTexts::ColumnCount; ++column)
+            line.texts.append(texts.text(event, EventTexts::Column(column)));
+        events.append(line);
+    }
+    QStringList columns;
+    for (int column = 0; column < EventTexts::ColumnCount; ++column)
+        columns.append(m_table->model()->headerData(column, Qt::Horizontal).toString());
+    Q_EMIT reportWanted(events, columns);
+}
+
 void EventPane::select(qsizetype index)
 {
     m_table->goTo(index);
@@ -82,6 +105,9 @@ void EventPane::retranslate()
     m_filter->setAccessibleName(tr("Filter events"));
     m_table->setAccessibleName(tr("Events"));
     m_export->setText(tr("Export events…"));
+    m_reportAction->setText(tr("Report of events…"));
+    m_reportAction->setStatusTip(
+        tr("Print the events in the table, or several selected ones, or save them as PDF"));
     m_export->setStatusTip(
         tr("Write the events in the table, or several selected ones, to a file"));
     renewTexts();

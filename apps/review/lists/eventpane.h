@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/eventline.h"
 #include "eventlist.h"
 #include "look/translated.h"
 
@@ -37,11 +38,16 @@ public:
     void select(qsizetype index);
     /// Asks for an export of the events that are in the table, or of several selected ones.
     QAction* exportAction() const { return m_export; }
+    /// Asks for a report of the same events.
+    QAction* reportAction() const { return m_reportAction; }
 
 Q_SIGNALS:
     /// Emitted when the user opens an event: with a double click, or with Return.
     void eventOpened(qsizetype index);
     void exportWanted(const Review::EventWriter& events);
+    /// @p columns are what the texts of the events stand for. Of more than mostReportedEvents there
+    /// is one more than that.
+    void reportWanted(const QList<Review::EventLine>& events, const QStringList& columns);
 
 protected:
     void retranslate() final;
@@ -50,12 +56,14 @@ private:
     void renewTexts();
     void showRows();
     void exportEvents();
+    void reportEvents();
 
     const Clock& m_clock;
     EventList m_list;
     CorvelGui::FilterLineEdit* m_filter;
     EventTable* m_table;
     QAction* m_export;
+    QAction* m_reportAction;
 };
 
 } // namespace Review

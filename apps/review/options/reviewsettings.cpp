@@ -149,6 +149,7 @@ void forEachValue(Settings& settings, const Use& use)
     use(u"Updates/InternalChannel"_s, settings.servers.internalChannel);
     use(u"Updates/PublicServer"_s, settings.servers.publicServer);
     use(u"Updates/QueryServer"_s, settings.servers.queryServer);
+    use(u"Updates/News"_s, settings.servers.news);
     use(u"Proxy/Mode"_s, settings.proxy.mode);
     use(u"Proxy/Host"_s, settings.proxy.host);
     use(u"Proxy/Port"_s, settings.proxy.port);

@@ -4,7 +4,7 @@
 
 namespace Review {
 
-/// Where newer versions of the client are looked for.
+/// Where newer versions of the client are looked for, and the news of its maker.
 struct UpdateServers
 {
     /// Folders with a version file each, with a slash at their end.
@@ -12,6 +12,8 @@ struct UpdateServers
     QString publicServer = QStringLiteral("http://127.0.0.1:8480/");
     /// Answers update queries.
     QString queryServer = QStringLiteral("http://127.0.0.1:8480");
+    /// A feed of news; empty for none.
+    QString news = {};
 
     bool operator==(const UpdateServers&) const = default;
 };

@@ -33,6 +33,7 @@ void UpdatesPage::build(QFormLayout& form)
     m_internal = addServer(form, m_internalLabel);
     m_public = addServer(form, m_publicLabel);
     m_update = addServer(form, m_updateLabel);
+    m_news = addServer(form, m_newsLabel);
     m_note = addNote(form);
 }
 
@@ -41,6 +42,7 @@ void UpdatesPage::show(const ReviewSettings& settings)
     m_internal->setText(settings.servers.internalChannel);
     m_public->setText(settings.servers.publicServer);
     m_update->setText(settings.servers.queryServer);
+    m_news->setText(settings.servers.news);
 }
 
 void UpdatesPage::take(ReviewSettings& settings) const
@@ -52,6 +54,7 @@ void UpdatesPage::take(ReviewSettings& settings) const
             folder->append(u'/');
     }
     takeServer(settings.servers.queryServer, *m_update);
+    takeServer(settings.servers.news, *m_news);
 }
 
 QString UpdatesPage::pageName() const
@@ -69,6 +72,7 @@ void UpdatesPage::retranslateFields()
     m_internalLabel->setText(tr("&Internal server:"));
     m_publicLabel->setText(tr("&Public server:"));
     m_updateLabel->setText(tr("&Update server:"));
+    m_newsLabel->setText(tr("&News feed:"));
     m_note->setText(tr("An empty field stands for no server. What is marked red is not an address "
                        "and will not be taken over."));
 }

@@ -8,7 +8,7 @@ class UrlLineEdit;
 
 namespace Review {
 
-/// Where the program looks for a newer version.
+/// Where the program looks for a newer version, and for news.
 class UpdatesPage : public ClientPage
 {
     Q_OBJECT
@@ -33,6 +33,8 @@ private:
     CorvelGui::UrlLineEdit* m_public = nullptr;
     QLabel* m_updateLabel = nullptr;
     CorvelGui::UrlLineEdit* m_update = nullptr;
+    QLabel* m_newsLabel = nullptr;
+    CorvelGui::UrlLineEdit* m_news = nullptr;
     QLabel* m_note = nullptr;
 };
 

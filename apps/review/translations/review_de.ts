@@ -13,6 +13,57 @@
     </message>
 </context>
 <context>
+    <name>Review::AboutDialog</name>
+    <message>
+        <source>Windows, texts, pictures and network. Copyright The Qt Company Ltd. and other contributors.</source>
+        <translation>Fenster, Texte, Bilder und Netzwerk. Copyright The Qt Company Ltd. und andere Mitwirkende.</translation>
+    </message>
+    <message>
+        <source>Reads and writes recordings. Copyright the FFmpeg developers.</source>
+        <translation>Liest und schreibt Aufzeichnungen. Copyright die Entwickler von FFmpeg.</translation>
+    </message>
+    <message>
+        <source>GCC runtime library</source>
+        <translation>GCC-Laufzeitbibliothek</translation>
+    </message>
+    <message>
+        <source>GPL version 3 with the GCC Runtime Library Exception</source>
+        <translation>GPL Version 3 mit der GCC Runtime Library Exception</translation>
+    </message>
+    <message>
+        <source>The C++ standard library. Copyright Free Software Foundation, Inc.</source>
+        <translation>Die Standardbibliothek von C++. Copyright Free Software Foundation, Inc.</translation>
+    </message>
+    <message>
+        <source>GNU C library</source>
+        <translation>GNU-C-Bibliothek</translation>
+    </message>
+    <message>
+        <source>Copyright Free Software Foundation, Inc.</source>
+        <translation>Copyright Free Software Foundation, Inc.</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 the CorvelGui authors, under the MIT licence.</source>
+        <translation>Copyright © 2026 die Autoren von CorvelGui, unter der MIT-Lizenz.</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>Lizenzen</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+</context>
+<context>
     <name>Review::CameraPicture</name>
     <message>
         <source>No recording at this time</source>
@@ -582,6 +633,41 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Write the events in the table, or several selected ones, to a file</source>
         <translation>Schreibt die Ereignisse der Tabelle oder mehrere ausgewählte in eine Datei</translation>
     </message>
+    <message>
+        <source>Report of events…</source>
+        <translation>Bericht über Ereignisse …</translation>
+    </message>
+    <message>
+        <source>Print the events in the table, or several selected ones, or save them as PDF</source>
+        <translation>Die Ereignisse der Tabelle oder mehrere ausgewählte drucken oder als PDF speichern</translation>
+    </message>
+</context>
+<context>
+    <name>Review::EventReport</name>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
 </context>
 <context>
     <name>Review::ExportDialog</name>
@@ -712,6 +798,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Some recordings could not be exported.</source>
         <translation>Einige Aufnahmen konnten nicht exportiert werden.</translation>
     </message>
+    <message>
+        <source>Report saved</source>
+        <translation>Bericht gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>Review::FolderChoice</name>
@@ -745,6 +835,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>&amp;Smoothly</source>
         <translation>&amp;Fließend</translation>
+    </message>
+</context>
+<context>
+    <name>Review::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;News…</source>
+        <translation>&amp;Nachrichten …</translation>
+    </message>
+    <message>
+        <source>&amp;About %1…</source>
+        <translation>&amp;Über %1 …</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1248,69 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Nothing is known of %1. Choose a time from %2 to %3.</source>
         <translation>Über %1 ist nichts bekannt. Wählen Sie eine Zeit von %2 bis %3.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::ReportDialog</name>
+    <message>
+        <source>Save report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Collecting pictures…</source>
+        <translation>Bilder werden gesammelt …</translation>
+    </message>
+    <message>
+        <source>Writing the report…</source>
+        <translation>Der Bericht wird geschrieben …</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Report of events</source>
+        <translation>Bericht über Ereignisse</translation>
+    </message>
+    <message>
+        <source>Events: %1</source>
+        <translation>Ereignisse: %1</translation>
+    </message>
+    <message>
+        <source>A report has %1 events at most. Filter the list of events, or select some of them.</source>
+        <translation>Ein Bericht hat höchstens %1 Ereignisse. Filtern Sie die Liste der Ereignisse, oder wählen Sie einige davon aus.</translation>
+    </message>
+    <message>
+        <source>Pictures are for %1 events at most.</source>
+        <translation>Bilder gibt es für höchstens %1 Ereignisse.</translation>
+    </message>
+    <message>
+        <source>With a &amp;picture of the camera for each event</source>
+        <translation>Mit einem &amp;Bild der Kamera zu jedem Ereignis</translation>
+    </message>
+    <message>
+        <source>Progress of the report</source>
+        <translation>Fortschritt des Berichts</translation>
+    </message>
+    <message>
+        <source>&amp;Save as PDF…</source>
+        <translation>Als PDF &amp;speichern …</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view and print…</source>
+        <translation>&amp;Vorschau und Druck …</translation>
     </message>
 </context>
 <context>
@@ -1601,6 +1769,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>An empty field stands for no server. What is marked red is not an address and will not be taken over.</source>
         <translation>Ein leeres Feld steht für keinen Server. Was rot markiert ist, ist keine Adresse und wird nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>&amp;News feed:</source>
+        <translation>&amp;Nachrichten:</translation>
     </message>
 </context>
 <context>

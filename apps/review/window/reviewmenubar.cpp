@@ -12,7 +12,7 @@ namespace Review {
 
 ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
                              const TimelineToolBar& toolBar, QAction* darkLook, QMenu* speeds,
-                             QMenu* updates, QWidget* parent)
+                             QMenu* updates, QMenu* help, QWidget* parent)
     : Translated(parent)
 {
     m_file = addMenu(QString());
@@ -33,6 +33,7 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     m_exportPictures = m_file->addAction(QString());
     m_exportPictures->setShortcut(Qt::CTRL | Qt::Key_E);
     m_file->addAction(events.exportAction());
+    m_file->addAction(events.reportAction());
     m_file->addSeparator();
     m_quit = m_file->addAction(QString());
     m_quit->setShortcut(QKeySequence::Quit);
@@ -55,6 +56,7 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     m_tools->menuAction()->setVisible(false);
 
     addMenu(updates);
+    addMenu(help);
     retranslate();
 }
 

@@ -18,7 +18,7 @@ class ReviewMenuBar : public Translated<QMenuBar>
 public:
     ReviewMenuBar(const EventPane& events, const DevicePane& devices,
                   const TimelineToolBar& toolBar, QAction* darkLook, QMenu* speeds, QMenu* updates,
-                  QWidget* parent = nullptr);
+                  QMenu* help, QWidget* parent = nullptr);
 
     QAction* open() const { return m_open; }
     QAction* openFiles() const { return m_openFiles; }

@@ -2,8 +2,10 @@
 
 #include "cameratimesdialog.h"
 #include "data/sampledata.h"
+#include "export/eventreport.h"
 #include "export/exportpanel.h"
 #include "footage/loadjob.h"
+#include "helpmenu.h"
 #include "lists/devicepane.h"
 #include "lists/eventpane.h"
 #include "lists/problemdock.h"
@@ -22,6 +24,8 @@
 #include "timeline/timelinetoolbar.h"
 #include "updatemenu.h"
 #include "video/camerapicture.h"
+
+#include <CorvelGui/RSSFeedDialog>
 
 #include <QAction>
 #include <QCheckBox>
@@ -58,6 +62,7 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
     , m_toolBar(new TimelineToolBar(m_panes->timeline(), this))
     , m_problems(new ProblemDock(this))
     , m_updates(new UpdateMenu(this, m_status))
+    , m_help(new HelpMenu(this))
     , m_opener(new ReviewOpener(this, m_clock))
 {
     createDarkFusionStyle(dark);
@@ -67,7 +72,7 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
     createToolBar(dark);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     m_menus = new ReviewMenuBar(m_panes->events(), m_panes->devices(), *m_toolBar, m_darkLook,
-                                new SpeedMenu(*m_panes->player(), this), m_updates, this);
+                                new SpeedMenu(*m_panes->player(), this), m_updates, m_help, this);
     setMenuBar(m_menus);
     connectParts();
     m_menus->cameraTimes()->setEnabled(false);
@@ -203,6 +208,7 @@ void ReviewWindow::connectParts()
     connect(m_menus->copyPicture(), &QAction::triggered, this, &ReviewWindow::copyPicture);
     connect(&m_panes->events(), &EventPane::exportWanted, m_status->exportPanel(),
             &ExportPanel::askForEvents);
+    connect(&m_panes->events(), &EventPane::reportWanted, this, &ReviewWindow::reportEvents);
     connect(m_status->exportPanel(), &ExportPanel::exportingChanged, this,
             &ReviewWindow::enableExport);
     connect(&m_panes->playback(), &PlaybackPane::cameraChanged, this, &ReviewWindow::enableExport);
@@ -253,6 +259,15 @@ void ReviewWindow::exportClips()
         m_status->exportPanel()->askForClips(cameras, m_selection.camera(),
                                              m_panes->events().events().events(), timeline->view(),
                                              timeline->chosenRange());
+}
+
+void ReviewWindow::reportEvents(const QList<EventLine>& events, const QStringList& columns)
+{
+    m_status->exportPanel()->askForReport({.subject = m_showsSample ? tr("Sample") : m_name,
+                                           .columns = columns,
+                                           .events = events,
+                                           .cameras = m_panes->playback().cameras(),
+                                           .times = m_clock.times()});
 }
 
 const CameraPicture* ReviewWindow::shownPicture()
@@ -311,6 +326,7 @@ void ReviewWindow::applySettings(const ReviewSettings& settings)
     m_toolBar->followMenu()->setMode(settings.followMode);
     m_panes->player()->setShortcuts(settings.shortcuts);
     m_updates->setServers(settings.servers);
+    m_help->setNewsAddress(QUrl(settings.servers.news));
     m_opener->setCorrections(settings.corrections);
 }
 
@@ -333,6 +349,7 @@ void ReviewWindow::writeUserSettings(QSettings& settings) const
     settings.setValue(geometryKey, saveGeometry());
     settings.setValue(stateKey, saveState());
     settings.setValue(tablesKey, m_panes->saveWidths());
+    m_help->news()->writeUserSettings(settings);
 }
 
 void ReviewWindow::readUserSettings(QSettings& settings)
@@ -340,6 +357,7 @@ void ReviewWindow::readUserSettings(QSettings& settings)
     restoreGeometry(settings.value(geometryKey).toByteArray());
     restoreState(settings.value(stateKey).toByteArray());
     m_panes->restoreWidths(settings.value(tablesKey).toByteArray());
+    m_help->news()->readUserSettings(settings);
 }
 
 } // namespace Review

@@ -14,7 +14,9 @@ class QMenu;
 namespace Review {
 
 struct CameraPicture;
+struct EventLine;
 class Footage;
+class HelpMenu;
 class LoadJob;
 class ProblemDock;
 class ReviewMenuBar;
@@ -58,7 +60,7 @@ public:
     /// Takes what the user can set in the window itself into @p settings.
     void takeSettings(ReviewSettings& settings) const;
 
-    /// Place and size, docks and tool bars, and the widths of the panes.
+    /// Place and size, docks and tool bars, the widths of the panes, and the dialog for news.
     void writeUserSettings(QSettings& settings) const override;
     void readUserSettings(QSettings& settings) override;
 
@@ -88,6 +90,7 @@ private:
     void showTitle();
     void exportPictures();
     void exportClips();
+    void reportEvents(const QList<EventLine>& events, const QStringList& columns);
     /// Null, and the user is told, where none is shown.
     const CameraPicture* shownPicture();
     void savePicture();
@@ -105,6 +108,7 @@ private:
     TimelineToolBar* m_toolBar;
     ProblemDock* m_problems;
     UpdateMenu* m_updates;
+    HelpMenu* m_help;
     QAction* m_darkLook;
     ReviewMenuBar* m_menus;
     ReviewOpener* m_opener;
