@@ -153,7 +153,8 @@ QWidget* ImagesPage::createLabels()
         labelled->setOrientation(orientation);
         labelled->imageWidget()->setImage(scene());
         labelled->imageWidget()->setAspectRatio(16.0 / 9);
-        labelled->imageWidget()->setMinimumWidth(96);
+        if (orientation == Qt::Horizontal)
+            labelled->imageWidget()->setFixedWidth(106);
         labelled->setFixedSize(orientation == Qt::Vertical ? QSize(150, 110) : QSize(220, 60));
         row->addWidget(labelled);
     }
