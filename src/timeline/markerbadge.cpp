@@ -6,6 +6,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QPixmapCache>
 
 #include <algorithm>
 
@@ -51,23 +52,40 @@ QSize MarkerBadge::size(const QFont& font) const
     return {std::max(width + 2 * badgePadding, badgeHeight), badgeHeight};
 }
 
+// There are few that look different, and hundreds in a frame.
 void MarkerBadge::draw(QPainter& painter, const QFont& font, const QRect& area) const
 {
     if (isNull())
         return;
-    QRectF badge(QPointF(), size(font));
-    badge.moveBottom(area.bottom() + 1);
-    badge.moveLeft(area.left() + (area.width() - badge.width()) / 2);
-    painter.save();
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const QString key =
+        u"corvelgui-badge-%1-%2-%3-%4"_s.arg(text(), font.family()).arg(int(severity)).arg(ratio);
+    const QSize badge = size(font);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(QSizeF(badge * ratio).toSize());
+        picture.setDevicePixelRatio(ratio);
+        picture.fill(Qt::transparent);
+        QPainter drawing(&picture);
+        drawOn(drawing, font, badge);
+        drawing.end();
+        QPixmapCache::insert(key, picture);
+    }
+    painter.drawPixmap(area.left() + (area.width() - badge.width()) / 2,
+                       area.bottom() + 1 - badge.height(), picture);
+}
+
+void MarkerBadge::drawOn(QPainter& painter, const QFont& font, const QSize& badge) const
+{
+    const QRectF area(QPointF(), badge);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(POrvGuiTheme::colorPanther, 1));
     painter.setBrush(severityColor(severity));
-    const double radius = badge.height() / 2;
-    painter.drawRoundedRect(badge.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    const double radius = area.height() / 2;
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.setPen(POrvGuiTheme::colorBlack);
     painter.setFont(badgeFont(font));
-    painter.drawText(badge, Qt::AlignCenter, text());
-    painter.restore();
+    painter.drawText(area, Qt::AlignCenter, text());
 }
 
 } // namespace CorvelGui

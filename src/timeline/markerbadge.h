@@ -31,6 +31,9 @@ struct CORVELGUI_INTERNAL_EXPORT MarkerBadge
     QSize size(const QFont& font) const;
     /// Draws it at the middle of the lower edge of @p area.
     void draw(QPainter& painter, const QFont& font, const QRect& area) const;
+
+private:
+    void drawOn(QPainter& painter, const QFont& font, const QSize& badge) const;
 };
 
 } // namespace CorvelGui

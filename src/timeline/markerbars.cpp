@@ -15,7 +15,7 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr double barHeight = 4.0;
+constexpr double markerBarHeight = 4.0;
 
 } // namespace
 
@@ -48,7 +48,7 @@ void drawMarkerBars(QPainter& painter, const MarkerBars& bars, const TimeScale& 
     for (std::size_t severity = 0; severity < bars.size(); ++severity) {
         const QColor color = severityColor(RulerMarker::Severity(severity));
         for (const TrackSegment& segment : visibleSegments(bars[severity], scale)) {
-            const QRectF bar(QPointF(segment.start, bottom - barHeight),
+            const QRectF bar(QPointF(segment.start, bottom - markerBarHeight),
                              QPointF(segment.end, bottom));
             painter.fillRect(grid.aligned(bar), color);
         }

@@ -32,12 +32,18 @@ void MarkerStore::Block::reserve(std::size_t count)
 
 void MarkerStore::Block::append(qint64 time, Record record)
 {
+    if (times.size() % groupSize == 0)
+        groupEnds.push_back({});
     times.push_back(time);
     icons.insert(record.icon);
     unseen += record.seen ? 0 : 1;
     worst = std::max<quint32>(worst, record.severity);
-    if (record.duration > 0)
-        ends[record.severity] = std::max(ends[record.severity], time + record.duration);
+    if (record.duration > 0) {
+        for (Ends* last : {&ends, &groupEnds.back()}) {
+            qint64& end = (*last)[record.severity];
+            end = std::max(end, time + record.duration);
+        }
+    }
     records.push_back(std::move(record));
 }
 

@@ -115,8 +115,11 @@ private:
         Icons icons;
         quint32 unseen = 0;
         quint32 worst = 0; ///< severity
-        /// Of those markers of each severity that last; 0 without one.
-        std::array<qint64, RulerMarker::severityCount> ends = {};
+        /// When the last of those markers of each severity that last has ended; 0 without one.
+        using Ends = std::array<qint64, RulerMarker::severityCount>;
+        Ends ends = {};
+        static constexpr std::size_t groupSize = 32;
+        std::vector<Ends> groupEnds; ///< for so many neighbours each
 
         qint64 lastEnd() const { return *std::max_element(ends.begin(), ends.end()); }
         template <typename Visit>
@@ -176,17 +179,30 @@ template <typename Visit>
 void MarkerStore::Block::forEachLasting(const TimeSpan& view, qint64 resolution,
                                         const Visit& visit) const
 {
-    if (times.back() - times.front() <= resolution) {
-        for (std::size_t severity = 0; severity < ends.size(); ++severity) {
-            if (ends[severity] > view.begin)
-                visit(TimeSpan{times.front(), ends[severity]}, RulerMarker::Severity(severity));
+    const auto visitAll = [&](qint64 begin, const Ends& last) {
+        for (std::size_t severity = 0; severity < last.size(); ++severity) {
+            if (last[severity] > view.begin)
+                visit(TimeSpan{begin, last[severity]}, RulerMarker::Severity(severity));
         }
-        return;
-    }
-    for (std::size_t i = 0; i < times.size() && times[i] < view.end; ++i) {
-        const qint64 end = times[i] + records[i].duration;
-        if (records[i].duration > 0 && end > view.begin)
-            visit(TimeSpan{times[i], end}, RulerMarker::Severity(records[i].severity));
+    };
+    if (times.back() - times.front() <= resolution)
+        return visitAll(times.front(), ends);
+    for (std::size_t first = 0; first < times.size(); first += groupSize) {
+        if (times[first] >= view.end)
+            break;
+        const std::size_t behind = std::min(first + groupSize, times.size());
+        const Ends& last = groupEnds[first / groupSize];
+        if (std::ranges::max(last) <= view.begin)
+            continue;
+        if (times[behind - 1] - times[first] <= resolution) {
+            visitAll(times[first], last);
+            continue;
+        }
+        for (std::size_t i = first; i < behind && times[i] < view.end; ++i) {
+            const qint64 end = times[i] + records[i].duration;
+            if (records[i].duration > 0 && end > view.begin)
+                visit(TimeSpan{times[i], end}, RulerMarker::Severity(records[i].severity));
+        }
     }
 }
 
