@@ -33,6 +33,7 @@ public:
 
     using Limits = ImageLimits;
 
+    /// What came of reading: a picture, or why there is none.
     struct Picture
     {
         QImage image = {};   ///< upright; null if there is none
