@@ -28,6 +28,7 @@ set(CORVELGUI_PUBLIC_HEADERS
     dialogs/PCsvDialog
     dialogs/PIpRangeDialog
     dialogs/PPasswordInputDialog
+    frame/IUserSettings
     frame/PBaseDialog
     frame/PMainWindow
     frame/PWidget
@@ -47,8 +48,17 @@ set(CORVELGUI_PUBLIC_HEADERS
     input/IpLineEdit
     input/NetworkInterfaceComboBox
     input/NotEmptyLineEdit
+    input/PClickableLabel
+    input/PColorButton
+    input/PColorComboBox
+    input/PErrorLabel
     input/PFileCheckLineEdit
+    input/PFilterButton
     input/PIpLineEdit
+    input/PLastActionToolButton
+    input/PRecentComboBox
+    input/PStringComboBox
+    input/PTextEdit
     input/SubNetMaskComboBox
     input/UrlLineEdit
     input/ValidateBaseLineEdit
@@ -90,7 +100,6 @@ set(CORVELGUI_PUBLIC_HEADERS
     progress/TaskbarProgress
     settings/ISettingsPage
     settings/ISettingsPageProvider
-    settings/IUserSettings
     settings/OptionPageProvider
     settings/OptionsDialog
     settings/PLanguage

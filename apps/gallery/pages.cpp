@@ -24,6 +24,7 @@
 #include "progresspage.h"
 #include "rulerpage.h"
 #include "sliderspage.h"
+#include "smallinputspage.h"
 #include "tableitemspage.h"
 #include "tablepage.h"
 #include "tabwidgetpage.h"
@@ -71,6 +72,7 @@ const std::vector<Page>& pages()
         {u"Line edits"_s, create<LineEditsPage>},
         {u"Fancy line edits"_s, create<FancyLineEditsPage>},
         {u"Network boxes"_s, create<NetworkBoxesPage>},
+        {u"Small inputs"_s, create<SmallInputsPage>},
         // Dialogs
         {u"Dialogs"_s, create<DialogsPage>},
         {u"CSV dialog"_s, create<CsvDialogPage>},

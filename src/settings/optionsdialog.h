@@ -1,7 +1,6 @@
 #pragma once
 
-#include "iusersettings.h"
-
+#include <CorvelGui/IUserSettings>
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QDialog>

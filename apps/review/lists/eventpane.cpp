@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 using CorvelGui::FilterLineEdit;
+using namespace Qt::StringLiterals;
 
 namespace Review {
 
@@ -26,6 +27,8 @@ EventPane::EventPane(const Clock& clock, QWidget* parent)
     , m_reportAction(new QAction(m_table))
 {
     new CorvelGui::PHeaderCheckMenu(m_table->horizontalHeader());
+    m_export->setObjectName(u"exportEvents"_s);
+    m_reportAction->setObjectName(u"reportEvents"_s);
     m_table->addActions({m_export, m_reportAction});
     m_reportAction->setShortcut(QKeySequence::Print);
     auto* layout = new QVBoxLayout(this);

@@ -4,10 +4,11 @@
 #include "look/zonecombo.h"
 #include "offsetedit.h"
 
+#include <CorvelGui/PErrorLabel>
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLocale>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -36,7 +37,7 @@ CameraTimesDialog::CameraTimesDialog(const Footage& footage, const TimeCorrectio
     , m_list(new QTreeWidget(this))
     , m_zone(new ZoneCombo(QString::fromUtf8(footage.zone().id()), this))
     , m_offset(new OffsetEdit(this))
-    , m_message(new QLabel(this))
+    , m_message(new CorvelGui::PErrorLabel(this))
     , m_buttons(new QDialogButtonBox(
           QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel, this))
 {
@@ -58,7 +59,7 @@ CameraTimesDialog::CameraTimesDialog(const Footage& footage, const TimeCorrectio
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &CameraTimesDialog::showSelection);
     connect(m_zone, &ZoneCombo::zoneChanged, this, &CameraTimesDialog::takeZone);
     connect(m_zone, &ZoneCombo::zoneRefused, this, [this](const QString& text) {
-        m_message->setText(tr("There is no time zone “%1”.").arg(text));
+        m_message->setError(tr("There is no time zone “%1”.").arg(text));
     });
     connect(m_offset, &QLineEdit::textEdited, this, &CameraTimesDialog::takeOffset);
     connect(m_buttons, &QDialogButtonBox::accepted, this, [this] {
@@ -75,7 +76,6 @@ void CameraTimesDialog::createLayout()
 {
     constexpr QSize size(760, 420);
     m_offset->setAccessibleName(tr("Offset"));
-    m_message->setWordWrap(true);
     auto* form = new QFormLayout;
     form->setVerticalSpacing(10);
     form->addRow(tr("Zone of the camera's clock"), m_zone);
@@ -130,7 +130,7 @@ void CameraTimesDialog::showSelection()
     m_zone->setZone(correction.zone.isEmpty() ? QString::fromUtf8(m_footage.zone().id())
                                               : correction.zone);
     m_offset->setText(TimeCorrection::offsetText(correction.offset));
-    m_message->clear();
+    m_message->clearError();
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(true);
     m_buttons->button(QDialogButtonBox::Apply)->setEnabled(true);
 }
@@ -148,7 +148,7 @@ void CameraTimesDialog::changeSelected(const std::function<void(TimeCorrection&)
 void CameraTimesDialog::takeZone(const QString& name)
 {
     const QByteArray id = name.isEmpty() ? QTimeZone::systemTimeZoneId() : name.toUtf8();
-    m_message->clear();
+    m_message->clearError();
     changeSelected([&](TimeCorrection& correction) {
         correction.zone = id == m_footage.zone().id() ? QString() : QString::fromUtf8(id);
     });
@@ -159,7 +159,7 @@ void CameraTimesDialog::takeOffset()
     const auto offset = TimeCorrection::parseOffset(m_offset->text());
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(offset.has_value());
     m_buttons->button(QDialogButtonBox::Apply)->setEnabled(offset.has_value());
-    m_message->setText(
+    m_message->setError(
         offset ? QString()
                : tr("Write hours, minutes and seconds, such as %1, or seconds, such as %2.")
                      .arg(u"+1:00:00"_s, u"-2.5"_s));

@@ -8,8 +8,11 @@
 #include <functional>
 
 class QDialogButtonBox;
-class QLabel;
 class QTreeWidget;
+
+namespace CorvelGui {
+class PErrorLabel;
+} // namespace CorvelGui
 
 namespace Review {
 
@@ -50,7 +53,7 @@ private:
     QTreeWidget* m_list;
     ZoneCombo* m_zone;
     OffsetEdit* m_offset;
-    QLabel* m_message;
+    CorvelGui::PErrorLabel* m_message;
     QDialogButtonBox* m_buttons;
 };
 

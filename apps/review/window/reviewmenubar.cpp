@@ -24,16 +24,20 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     m_cameraTimes->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_T);
     m_file->addSeparator();
     m_savePicture = m_file->addAction(QString());
+    m_savePicture->setObjectName(u"savePicture"_s);
     m_savePicture->setShortcut(QKeySequence::Save);
     m_copyPicture = m_file->addAction(QString());
     m_copyPicture->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     m_file->addSeparator();
     m_exportClips = m_file->addAction(QString());
+    m_exportClips->setObjectName(u"exportClips"_s);
     m_exportClips->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_E);
     m_exportPictures = m_file->addAction(QString());
+    m_exportPictures->setObjectName(u"exportPictures"_s);
     m_exportPictures->setShortcut(Qt::CTRL | Qt::Key_E);
-    m_file->addAction(events.exportAction());
-    m_file->addAction(events.reportAction());
+    m_exportEvents = events.exportAction();
+    m_reportEvents = events.reportAction();
+    m_file->addActions({m_exportEvents, m_reportEvents});
     m_file->addSeparator();
     m_quit = m_file->addAction(QString());
     m_quit->setShortcut(QKeySequence::Quit);
@@ -58,6 +62,11 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     addMenu(updates);
     addMenu(help);
     retranslate();
+}
+
+QList<QAction*> ReviewMenuBar::exports() const
+{
+    return {m_exportClips, m_exportPictures, m_exportEvents, m_reportEvents, m_savePicture};
 }
 
 void ReviewMenuBar::retranslate()

@@ -28,6 +28,8 @@ public:
     QAction* savePicture() const { return m_savePicture; }
     QAction* copyPicture() const { return m_copyPicture; }
     QAction* quit() const { return m_quit; }
+    /// All that exports something, by the names of the objects.
+    QList<QAction*> exports() const;
     /// For what belongs to the whole program; hidden as long as it is empty.
     QMenu* tools() const { return m_tools; }
 
@@ -41,6 +43,8 @@ private:
     QAction* m_cameraTimes;
     QAction* m_exportClips;
     QAction* m_exportPictures;
+    QAction* m_exportEvents;
+    QAction* m_reportEvents;
     QAction* m_savePicture;
     QAction* m_copyPicture;
     QAction* m_quit;

@@ -25,6 +25,7 @@
 #include "updatemenu.h"
 #include "video/camerapicture.h"
 
+#include <CorvelGui/PLastActionToolButton>
 #include <CorvelGui/RSSFeedDialog>
 
 #include <QAction>
@@ -33,6 +34,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QMenu>
 #include <QMimeData>
 #include <QPointer>
 #include <QSettings>
@@ -40,6 +42,7 @@
 
 #include <algorithm>
 
+using CorvelGui::PLastActionToolButton;
 using namespace Qt::StringLiterals;
 
 namespace Review {
@@ -51,6 +54,7 @@ constexpr int problemDockHeight = 150;
 const QString geometryKey = u"Window/Geometry"_s;
 const QString stateKey = u"Window/State"_s;
 const QString tablesKey = u"Window/Tables"_s;
+const QString exportGroup = u"Export"_s;
 
 } // namespace
 
@@ -74,6 +78,7 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
     m_menus = new ReviewMenuBar(m_panes->events(), m_panes->devices(), *m_toolBar, m_darkLook,
                                 new SpeedMenu(*m_panes->player(), this), m_updates, m_help, this);
     setMenuBar(m_menus);
+    m_export->menu()->addActions(m_menus->exports());
     connectParts();
     m_menus->cameraTimes()->setEnabled(false);
     enableExport();
@@ -188,6 +193,8 @@ void ReviewWindow::createToolBar(bool dark)
     auto* spacer = new QWidget(m_toolBar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_toolBar->addWidget(spacer);
+    m_export = new PLastActionToolButton(m_toolBar);
+    m_toolBar->addWidget(m_export);
     m_toolBar->addAction(m_problems->toggleViewAction());
     m_darkLook = m_toolBar->addAction(QString());
     m_darkLook->setCheckable(true);
@@ -350,6 +357,9 @@ void ReviewWindow::writeUserSettings(QSettings& settings) const
     settings.setValue(stateKey, saveState());
     settings.setValue(tablesKey, m_panes->saveWidths());
     m_help->news()->writeUserSettings(settings);
+    settings.beginGroup(exportGroup);
+    m_export->writeUserSettings(settings);
+    settings.endGroup();
 }
 
 void ReviewWindow::readUserSettings(QSettings& settings)
@@ -358,6 +368,9 @@ void ReviewWindow::readUserSettings(QSettings& settings)
     restoreState(settings.value(stateKey).toByteArray());
     m_panes->restoreWidths(settings.value(tablesKey).toByteArray());
     m_help->news()->readUserSettings(settings);
+    settings.beginGroup(exportGroup);
+    m_export->readUserSettings(settings);
+    settings.endGroup();
 }
 
 } // namespace Review

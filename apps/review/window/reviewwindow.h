@@ -11,6 +11,10 @@
 class QAction;
 class QMenu;
 
+namespace CorvelGui {
+class PLastActionToolButton;
+} // namespace CorvelGui
+
 namespace Review {
 
 struct CameraPicture;
@@ -109,6 +113,7 @@ private:
     ProblemDock* m_problems;
     UpdateMenu* m_updates;
     HelpMenu* m_help;
+    CorvelGui::PLastActionToolButton* m_export;
     QAction* m_darkLook;
     ReviewMenuBar* m_menus;
     ReviewOpener* m_opener;
