@@ -28,6 +28,7 @@ else()
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "libcorvelgui${PROJECT_VERSION_MAJOR}")
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "libsecret-1-0") # opened at run time, for passwords
     set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
     set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The shared libraries CorvelGui, Corvel and Hueloft.")
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libcorvelgui-dev)

@@ -98,12 +98,14 @@ set(CORVELGUI_PUBLIC_HEADERS
     progress/BusyIndicator
     progress/PFractionalProgressBar
     progress/TaskbarProgress
+    settings/IPasswordStore
     settings/ISettingsPage
     settings/ISettingsPageProvider
     settings/OptionPageProvider
     settings/OptionsDialog
     settings/PLanguage
     settings/PLanguageDialog
+    settings/ProxySettingsWidget
     settings/SettingsBaseWidget
     settings/SettingsManager
     settings/TranslatorList

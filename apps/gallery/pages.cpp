@@ -22,6 +22,7 @@
 #include "playbarpage.h"
 #include "printingpage.h"
 #include "progresspage.h"
+#include "proxysettingspage.h"
 #include "rulerpage.h"
 #include "sliderspage.h"
 #include "smallinputspage.h"
@@ -91,6 +92,7 @@ const std::vector<Page>& pages()
         // Settings
         {u"Options dialog"_s, create<OptionsPage>},
         {u"Languages"_s, create<LanguagesPage>},
+        {u"Proxy settings"_s, create<ProxySettingsPage>},
         // Updates
         {u"Updates"_s, create<UpdatesPage>},
         {u"News and product information"_s, create<NewsPage>},

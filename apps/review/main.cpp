@@ -6,6 +6,8 @@
 #include "window/commandline.h"
 #include "window/reviewwindow.h"
 
+#include <CorvelGui/IPasswordStore>
+
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDir>
@@ -134,7 +136,8 @@ int main(int argc, char* argv[])
 
     ReviewWindow window(settings.zone, settings.dark);
     window.setCenterPosAndResize();
-    const ClientOptions options(store, window);
+    const auto passwords = CorvelGui::IPasswordStore::ofSystem(QCoreApplication::applicationName());
+    const ClientOptions options(store, window, *passwords);
     if (!arguments.size.isEmpty())
         window.resize(arguments.size);
     else if (!arguments.picture.isEmpty())

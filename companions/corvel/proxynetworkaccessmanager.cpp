@@ -35,6 +35,25 @@ private:
     const QString m_password;
 };
 
+class NamedProxy : public QNetworkProxyFactory
+{
+public:
+    NamedProxy(QNetworkProxy::ProxyType type, const ProxyUserSettings& settings)
+        : m_settings(settings)
+        , m_proxy(type, settings.host, settings.port, settings.user, settings.password)
+    {}
+
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override
+    {
+        const bool direct = m_settings.excludes(query.peerHostName());
+        return {direct ? QNetworkProxy(QNetworkProxy::NoProxy) : m_proxy};
+    }
+
+private:
+    const ProxyUserSettings m_settings;
+    const QNetworkProxy m_proxy;
+};
+
 } // namespace
 
 ProxyNetworkAccessManager::ProxyNetworkAccessManager(QObject* parent)
@@ -48,9 +67,6 @@ ProxyNetworkAccessManager::~ProxyNetworkAccessManager() = default;
 void ProxyNetworkAccessManager::Init(const ProxyUserSettings& settings)
 {
     clearAccessCache(); // which clears the connections as well
-    const auto useProxy = [&](QNetworkProxy::ProxyType type) {
-        setProxy({type, settings.host, settings.port, settings.user, settings.password});
-    };
     switch (settings.mode) {
     case ProxyUserSettings::Mode::None:
         setProxy(QNetworkProxy::NoProxy);
@@ -59,10 +75,10 @@ void ProxyNetworkAccessManager::Init(const ProxyUserSettings& settings)
         setProxyFactory(new SystemProxies(settings.user, settings.password));
         break;
     case ProxyUserSettings::Mode::Http:
-        useProxy(QNetworkProxy::HttpProxy);
+        setProxyFactory(new NamedProxy(QNetworkProxy::HttpProxy, settings));
         break;
     case ProxyUserSettings::Mode::Socks5:
-        useProxy(QNetworkProxy::Socks5Proxy);
+        setProxyFactory(new NamedProxy(QNetworkProxy::Socks5Proxy, settings));
         break;
     }
 }

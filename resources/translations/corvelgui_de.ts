@@ -492,6 +492,60 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PColorButton</name>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Farbe %1</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::PColorComboBox</name>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Other colour…</source>
+        <translation>Andere Farbe …</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::PCsvDialog</name>
     <message>
         <source>Csv Export Dialog</source>
@@ -596,6 +650,25 @@ Speicherort öffnen?</translation>
     <message>
         <source>Device</source>
         <translation>Gerät</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::PFilterButton</name>
+    <message>
+        <source>Nothing is filtered</source>
+        <translation>Nichts wird gefiltert</translation>
+    </message>
+    <message>
+        <source>Only: %1</source>
+        <translation>Nur: %1</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
     </message>
 </context>
 <context>
@@ -805,6 +878,17 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PRecentComboBox</name>
+    <message>
+        <source>Forget recent entries</source>
+        <translation>Letzte Einträge vergessen</translation>
+    </message>
+    <message>
+        <source>Delete forgets an entry</source>
+        <translation>Entf vergisst einen Eintrag</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::PSerialNumberItem</name>
     <message>
         <source>Serial Number</source>
@@ -942,6 +1026,25 @@ Speicherort öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>CorvelGui::PTextEdit</name>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 characters</source>
+        <translation>%1 von %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>Click opens the address</source>
+        <translation>Ein Klick öffnet die Adresse</translation>
+    </message>
+    <message>
+        <source>Ctrl+click opens the address</source>
+        <translation>Strg+Klick öffnet die Adresse</translation>
+    </message>
+</context>
+<context>
     <name>CorvelGui::PTreeWidget</name>
     <message>
         <source>Copy</source>
@@ -965,6 +1068,140 @@ Speicherort öffnen?</translation>
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::ProxySettingsWidget</name>
+    <message>
+        <source>Without a proxy</source>
+        <translation>Ohne Proxy</translation>
+    </message>
+    <message>
+        <source>As set for this computer</source>
+        <translation>Wie für diesen Computer eingestellt</translation>
+    </message>
+    <message>
+        <source>HTTP proxy</source>
+        <translation>HTTP-Proxy</translation>
+    </message>
+    <message>
+        <source>SOCKS5 proxy</source>
+        <translation>SOCKS5-Proxy</translation>
+    </message>
+    <message>
+        <source>The proxy needs a host.</source>
+        <translation>Der Proxy braucht einen Rechner.</translation>
+    </message>
+    <message>
+        <source>This is not the name or address of a host.</source>
+        <translation>Das ist weder Name noch Adresse eines Rechners.</translation>
+    </message>
+    <message>
+        <source>The proxy needs a port.</source>
+        <translation>Der Proxy braucht einen Port.</translation>
+    </message>
+    <message>
+        <source>Not a server: %1</source>
+        <translation>Kein Server: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>Trying…</source>
+        <translation>Wird geprüft …</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>Kennwort zeigen</translation>
+    </message>
+    <message>
+        <source>Hide the password</source>
+        <translation>Kennwort verbergen</translation>
+    </message>
+    <message>
+        <source>A remembered password is kept in the password store of this computer. Otherwise it is forgotten when the program ends.</source>
+        <translation>Ein gemerktes Kennwort steht im Kennwortspeicher dieses Computers. Andernfalls wird es vergessen, wenn das Programm endet.</translation>
+    </message>
+    <message>
+        <source>The password store of this computer has not answered yet.</source>
+        <translation>Der Kennwortspeicher dieses Computers hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>There is no password store on this computer that works. The password is forgotten when the program ends.</source>
+        <translation>Auf diesem Computer gibt es keinen Kennwortspeicher, der funktioniert. Das Kennwort wird vergessen, wenn das Programm endet.</translation>
+    </message>
+    <message>
+        <source>The store says: %1</source>
+        <translation>Der Speicher meldet: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Verbindung:</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>&amp;Rechner:</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>P&amp;ort:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Benutzer:</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>&amp;Remember the password</source>
+        <translation>Kennwort &amp;merken</translation>
+    </message>
+    <message>
+        <source>&amp;Not for:</source>
+        <translation>&amp;Nicht für:</translation>
+    </message>
+    <message>
+        <source>Servers that are reached without the proxy, such as %1.</source>
+        <translation>Server, die ohne den Proxy erreicht werden, etwa %1.</translation>
+    </message>
+    <message>
+        <source>Test &amp;address:</source>
+        <translation>&amp;Adresse zum Prüfen:</translation>
+    </message>
+</context>
+<context>
+    <name>CorvelGui::ProxyTest</name>
+    <message>
+        <source>Connected: %1 answered after %2 ms.</source>
+        <translation>Verbunden: %1 hat nach %2 ms geantwortet.</translation>
+    </message>
+    <message>
+        <source>The proxy asks for a user and a password.</source>
+        <translation>Der Proxy fragt nach Benutzer und Kennwort.</translation>
+    </message>
+    <message>
+        <source>The proxy refuses this user or password.</source>
+        <translation>Der Proxy weist diesen Benutzer oder dieses Kennwort ab.</translation>
+    </message>
+    <message>
+        <source>There is no proxy of the name %1.</source>
+        <translation>Es gibt keinen Proxy mit dem Namen %1.</translation>
+    </message>
+    <message>
+        <source>The proxy does not answer.</source>
+        <translation>Der Proxy antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>No connection: %1</source>
+        <translation>Keine Verbindung: %1</translation>
     </message>
 </context>
 <context>

@@ -45,8 +45,9 @@ void PErrorLabel::setError(const QString& error)
 
 bool PErrorLabel::event(QEvent* event)
 {
+    // In the midst of it the label must not be shown.
     if (event->type() == QEvent::ParentChange)
-        appear();
+        QMetaObject::invokeMethod(this, &PErrorLabel::appear, Qt::QueuedConnection);
     return QLabel::event(event);
 }
 

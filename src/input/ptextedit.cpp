@@ -156,14 +156,14 @@ void PTextEdit::keepLimit()
     Q_EMIT textCut();
 }
 
-/// As much of @p text as may be inserted at the cursor.
-QString PTextEdit::cutToRoom(const QString& text)
+/// As much of @p text as may be inserted at the cursor in place of some more characters.
+QString PTextEdit::cutToRoom(const QString& text, int replaced)
 {
     if (d->maximumLength == 0)
         return text;
     const QTextCursor cursor = textCursor();
     const qsizetype kept = toPlainText().size() - (cursor.selectionEnd() - cursor.selectionStart());
-    return fitting(text, d->maximumLength - kept);
+    return fitting(text, d->maximumLength - kept + replaced);
 }
 
 void PTextEdit::showCount()
@@ -245,7 +245,7 @@ void PTextEdit::keyPressEvent(QKeyEvent* event)
 void PTextEdit::inputMethodEvent(QInputMethodEvent* event)
 {
     const QString committed = event->commitString();
-    const QString taken = cutToRoom(committed);
+    const QString taken = cutToRoom(committed, event->replacementLength());
     if (taken != committed)
         event->setCommitString(taken, event->replacementStart(), event->replacementLength());
     QTextEdit::inputMethodEvent(event);

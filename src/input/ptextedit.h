@@ -59,7 +59,7 @@ protected:
 
 private:
     void keepLimit();
-    QString cutToRoom(const QString& text);
+    QString cutToRoom(const QString& text, int replaced = 0);
     void showCount();
     void placeCounter();
     QUrl linkAt(QPoint position) const;

@@ -45,6 +45,41 @@ private Q_SLOTS:
         }
     }
 
+    void excludedHosts()
+    {
+        struct Row
+        {
+            QString entry;
+            QStringList direct;
+            QStringList proxied;
+        };
+        const Row rows[] = {
+            {u"Files.example"_s, {u"files.EXAMPLE"_s, u"files.example."_s}, {u"a.files.example"_s}},
+            {u"*.example"_s, {u"a.b.example"_s}, {u"example"_s, u"anexample"_s}},
+            {u".bücher.example"_s, {u"a.xn--bcher-kva.example"_s}, {u"bücher.example"_s}},
+            {u"10.0.0.0/8"_s, {u"10.9.8.7"_s}, {u"11.0.0.1"_s, u"ten"_s, u"::1"_s}},
+            {u"fe80::/10"_s, {u"fe80::1"_s}, {u"fd00::1"_s, u"10.0.0.1"_s}},
+            {u"<local>"_s, {u"nas"_s}, {u"nas.example"_s, u"10.0.0.1"_s, {}}},
+        };
+        for (const auto& [entry, direct, proxied] : rows) {
+            QVERIFY2(ProxyUserSettings::isHostEntry(entry), qPrintable(entry));
+            ProxyNetworkAccessManager manager;
+            manager.Init({.mode = Mode::Http,
+                          .host = u"10.0.0.1"_s,
+                          .port = 8080,
+                          .excludedHosts = {u"other"_s, entry}});
+            for (const QString& host : direct + proxied) {
+                const QNetworkProxyQuery query(host, 80);
+                QVERIFY2((manager.proxyFactory()->queryProxy(query).first().type() ==
+                          QNetworkProxy::NoProxy) == direct.contains(host),
+                         qPrintable(entry + u' ' + host));
+            }
+        }
+        for (const auto& wrong : {u"http://a.example"_s, u"a.example:80"_s, u"a b"_s, u"*"_s,
+                                  u"10.0.0.0/33"_s, u"a*.example"_s, u""_s})
+            QVERIFY2(!ProxyUserSettings::isHostEntry(wrong), qPrintable(wrong));
+    }
+
     void redirectRule()
     {
         const QUrl http(u"http://a.example/"_s);

@@ -264,7 +264,7 @@ private Q_SLOTS:
         error->setError(u"<i>No</i> address"_s);
         QVERIFY(!error->isVisible());
         error->setParent(&window);
-        QVERIFY(error->isVisible());
+        QTRY_VERIFY(error->isVisible());
         QAccessibleInterface* alert = QAccessible::queryAccessibleInterface(error);
         QCOMPARE(alert->role(), QAccessible::AlertMessage);
         QCOMPARE(alert->text(QAccessible::Name), u"<i>No</i> address"_s);

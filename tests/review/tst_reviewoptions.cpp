@@ -1,4 +1,5 @@
 #include "look/languages.h"
+#include "memorypasswordstore.h"
 #include "options/settingsstore.h"
 #include "testsupport.h"
 #include "visibletexts.h"
@@ -21,7 +22,8 @@ namespace {
 
 struct Client
 {
-    explicit Client(const QString& path) : store(path), window({}, true), options(store, window)
+    explicit Client(const QString& path, MemoryPasswordStore* shared = nullptr)
+        : store(path), window({}, true), options(store, window, shared ? *shared : passwords)
     {
         QSignalSpy loaded(&window, &ReviewWindow::loaded);
         window.load({});
@@ -38,6 +40,7 @@ struct Client
     }
 
     SettingsStore store;
+    MemoryPasswordStore passwords;
     ReviewWindow window;
     ClientOptions options;
 };
@@ -153,17 +156,64 @@ private Q_SLOTS:
         }
     }
 
-    void passwordIsStoredOnRequest()
+    void passwordIsKeptOnRequest()
     {
-        Client client(m_path);
+        MemoryPasswordStore passwords;
+        Client client(m_path, &passwords);
         ReviewSettings settings = client.store.settings();
-        settings.proxy.password = u"secret"_s;
-        settings.rememberPassword = true;
-        client.store.change(settings);
-        QCOMPARE(SettingsStore(m_path).settings().proxy.password, u"secret"_s);
-        settings.rememberPassword = false;
-        client.store.change(settings);
-        QVERIFY(!content().contains("secret"));
+        const auto change = [&](const QString& password, bool remember) {
+            settings.proxy.password = password;
+            settings.rememberPassword = remember;
+            client.store.change(settings);
+        };
+        change(u"secret"_s, true);
+        QTRY_COMPARE(passwords.passwords.values(), QStringList{u"secret"_s});
+        {
+            const Client next(m_path, &passwords);
+            QTRY_COMPARE(next.store.settings().proxy.password, u"secret"_s);
+            QCOMPARE(ProxyUserSettings::m_Settings.password, u"secret"_s);
+        }
+        {
+            // An answer that comes late does not replace what was typed meanwhile.
+            passwords.isSlow = true;
+            Client next(m_path, &passwords);
+            ReviewSettings typed = next.store.settings();
+            typed.proxy.password = u"typed"_s;
+            next.store.change(typed);
+            passwords.answerAll();
+            QCOMPARE(next.store.settings().proxy.password, u"typed"_s);
+        }
+        change(u"secret"_s, false);
+        QTRY_VERIFY(passwords.passwords.isEmpty());
+        QVERIFY(!content().contains("secret") && !content().contains("typed"));
+    }
+
+    void passwordLeavesTheFile()
+    {
+        for (const bool works : {true, false}) {
+            for (const bool remember : {true, false}) {
+                init();
+                writeFile(m_path, QByteArray("[Proxy]\nPassword=old\nUser=me\nRememberPassword=") +
+                                      (remember ? "true" : "false"));
+                MemoryPasswordStore passwords;
+                passwords.isSlow = true;
+                if (!works)
+                    passwords.refusal = {MemoryPasswordStore::Status::Unavailable, {}, u"<none>"_s};
+                Client client(m_path, &passwords);
+                QCOMPARE(content().contains("old"), remember);
+                QStringList told;
+                whenShown<QMessageBox>(&client.window, [&](QMessageBox& box) {
+                    told.append(box.text());
+                    box.accept();
+                });
+                passwords.answerAll();
+                QTRY_COMPARE(told.size(), remember && !works ? 1 : 0);
+                QVERIFY(told.isEmpty() || told.first().contains(u"&lt;none&gt;"_s));
+                QVERIFY(!content().contains("old") && content().contains("User=me"));
+                QCOMPARE(client.store.settings().proxy.password, remember ? u"old"_s : QString());
+                QCOMPARE(passwords.passwords.size(), remember && works ? 1 : 0);
+            }
+        }
     }
 
     void windowItselfSets()
@@ -285,6 +335,7 @@ private Q_SLOTS:
             search->setText(u"a"_s);
             search->clear();
             visit(u"playback"_s, u"keyboard"_s);
+            QCoreApplication::processEvents(); // the store of passwords has answered
             english = visibleTexts();
             client.speak(u"de"_s);
             german = visibleTexts();

@@ -9,11 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace Review {
 
-NetworkProvider::NetworkProvider(SettingsStore& store)
+NetworkProvider::NetworkProvider(SettingsStore& store, CorvelGui::IPasswordStore& passwords)
 {
     setCategory(u"network"_s);
     setCategoryIcon(Hueloft::PIconHelper::GetRefreshIcon_256x256(true));
-    m_pages = {new UpdatesPage(store), new ProxyPage(store)};
+    m_pages = {new UpdatesPage(store), new ProxyPage(store, passwords)};
     retranslate();
 }
 

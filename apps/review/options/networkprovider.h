@@ -2,6 +2,10 @@
 
 #include <CorvelGui/OptionPageProvider>
 
+namespace CorvelGui {
+class IPasswordStore;
+} // namespace CorvelGui
+
 namespace Review {
 
 class SettingsStore;
@@ -12,7 +16,8 @@ class NetworkProvider : public CorvelGui::OptionPageProvider
     Q_OBJECT
 
 public:
-    explicit NetworkProvider(SettingsStore& store);
+    /// Owns neither; both must live longer.
+    NetworkProvider(SettingsStore& store, CorvelGui::IPasswordStore& passwords);
 
     /// Applies all translated texts again, those of the pages included.
     void retranslate();

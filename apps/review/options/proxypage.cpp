@@ -1,66 +1,53 @@
 #include "proxypage.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QFormLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QSpinBox>
+#include "settingsstore.h"
 
-using Corvel::ProxyUserSettings;
+#include <CorvelGui/ProxySettingsWidget>
+
+#include <QFormLayout>
+
+using CorvelGui::ProxySettingsWidget;
 
 using namespace Qt::StringLiterals;
 
 namespace Review {
 
-ProxyPage::ProxyPage(SettingsStore& store) : ClientPage(store, u"network"_s, u"proxy"_s)
+ProxyPage::ProxyPage(SettingsStore& store, CorvelGui::IPasswordStore& passwords)
+    : ClientPage(store, u"network"_s, u"proxy"_s), m_settings(store), m_passwords(passwords)
 {
     retranslate();
 }
 
 void ProxyPage::build(QFormLayout& form)
 {
-    m_mode = new QComboBox;
-    for (const auto mode : {ProxyUserSettings::Mode::None, ProxyUserSettings::Mode::System,
-                            ProxyUserSettings::Mode::Http, ProxyUserSettings::Mode::Socks5})
-        m_mode->addItem(QString(), int(mode));
-    m_modeLabel = addRow(form, m_mode);
-    m_host = new QLineEdit;
-    m_hostLabel = addRow(form, m_host);
-    m_port = new QSpinBox;
-    m_port->setRange(0, 65'535);
-    m_portLabel = addRow(form, m_port);
-    m_user = new QLineEdit;
-    m_userLabel = addRow(form, m_user);
-    m_password = new QLineEdit;
-    m_password->setEchoMode(QLineEdit::Password);
-    m_passwordLabel = addRow(form, m_password);
-    m_remember = new QCheckBox;
-    form.addRow(QString(), m_remember);
-    m_note = addNote(form);
-    connect(m_mode, &QComboBox::currentIndexChanged, this, &ProxyPage::enableFields);
+    m_proxy = new ProxySettingsWidget;
+    m_proxy->layout()->setContentsMargins({});
+    m_proxy->setPasswordStore(&m_passwords);
+    form.addRow(m_proxy);
+    // The store of passwords may answer while the page is open.
+    connect(&m_settings, &SettingsStore::changed, m_proxy,
+            [this] { m_proxy->fetchedPassword(m_settings.settings().proxy.password); });
 }
 
 void ProxyPage::show(const ReviewSettings& settings)
 {
-    const ProxyUserSettings& proxy = settings.proxy;
-    m_mode->setCurrentIndex(m_mode->findData(int(proxy.mode)));
-    m_host->setText(proxy.host);
-    m_port->setValue(proxy.port);
-    m_user->setText(proxy.user);
-    m_password->setText(proxy.password);
-    m_remember->setChecked(settings.rememberPassword);
-    enableFields();
+    m_proxy->setSettings(settings.proxy);
+    m_proxy->setRememberPassword(settings.rememberPassword);
+    const UpdateServers& servers = settings.servers;
+    m_proxy->setTestAddress(
+        QUrl(servers.publicServer.isEmpty() ? servers.internalChannel : servers.publicServer));
 }
 
+// An entry with a typing error must not replace one that works.
 void ProxyPage::take(ReviewSettings& settings) const
 {
-    settings.proxy = {.mode = ProxyUserSettings::Mode(m_mode->currentData().toInt()),
-                      .host = m_host->text().trimmed(),
-                      .port = quint16(m_port->value()),
-                      .user = m_user->text(),
-                      .password = m_password->text()};
-    settings.rememberPassword = m_remember->isChecked();
+    if (!m_proxy->isValid())
+        return;
+    const QString known = settings.proxy.password;
+    settings.proxy = m_proxy->settings();
+    if (!m_proxy->isPasswordEdited())
+        settings.proxy.password = known;
+    settings.rememberPassword = m_proxy->rememberPassword();
 }
 
 QString ProxyPage::pageName() const
@@ -71,35 +58,6 @@ QString ProxyPage::pageName() const
 QString ProxyPage::categoryName() const
 {
     return tr("Network");
-}
-
-void ProxyPage::retranslateFields()
-{
-    m_modeLabel->setText(tr("&Connection:"));
-    const QStringList modes{tr("Without a proxy"), tr("As set for this computer"), tr("HTTP proxy"),
-                            tr("SOCKS5 proxy")};
-    for (int i = 0; i < modes.size(); ++i)
-        m_mode->setItemText(i, modes[i]);
-    m_hostLabel->setText(tr("&Host:"));
-    m_portLabel->setText(tr("P&ort:"));
-    m_userLabel->setText(tr("&User:"));
-    m_passwordLabel->setText(tr("Pass&word:"));
-    m_remember->setText(tr("&Remember the password"));
-    m_note->setText(tr("A remembered password is stored in the settings file, where everybody who "
-                       "may read the file can read it. Otherwise it is forgotten when the program "
-                       "ends."));
-}
-
-void ProxyPage::enableFields()
-{
-    const auto mode = ProxyUserSettings::Mode(m_mode->currentData().toInt());
-    const bool named =
-        mode == ProxyUserSettings::Mode::Http || mode == ProxyUserSettings::Mode::Socks5;
-    for (QWidget* field : {static_cast<QWidget*>(m_host), static_cast<QWidget*>(m_port)})
-        field->setEnabled(named);
-    for (QWidget* field : {static_cast<QWidget*>(m_user), static_cast<QWidget*>(m_password),
-                           static_cast<QWidget*>(m_remember)})
-        field->setEnabled(mode != ProxyUserSettings::Mode::None);
 }
 
 } // namespace Review

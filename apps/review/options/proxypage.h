@@ -2,10 +2,10 @@
 
 #include "clientpage.h"
 
-class QCheckBox;
-class QComboBox;
-class QLineEdit;
-class QSpinBox;
+namespace CorvelGui {
+class IPasswordStore;
+class ProxySettingsWidget;
+} // namespace CorvelGui
 
 namespace Review {
 
@@ -15,7 +15,8 @@ class ProxyPage : public ClientPage
     Q_OBJECT
 
 public:
-    explicit ProxyPage(SettingsStore& store);
+    /// Owns neither; both must live longer.
+    ProxyPage(SettingsStore& store, CorvelGui::IPasswordStore& passwords);
 
 protected:
     void build(QFormLayout& form) override;
@@ -23,23 +24,12 @@ protected:
     void take(ReviewSettings& settings) const override;
     QString pageName() const override;
     QString categoryName() const override;
-    void retranslateFields() override;
+    void retranslateFields() override {}
 
 private:
-    void enableFields();
-
-    QLabel* m_modeLabel = nullptr;
-    QComboBox* m_mode = nullptr;
-    QLabel* m_hostLabel = nullptr;
-    QLineEdit* m_host = nullptr;
-    QLabel* m_portLabel = nullptr;
-    QSpinBox* m_port = nullptr;
-    QLabel* m_userLabel = nullptr;
-    QLineEdit* m_user = nullptr;
-    QLabel* m_passwordLabel = nullptr;
-    QLineEdit* m_password = nullptr;
-    QCheckBox* m_remember = nullptr;
-    QLabel* m_note = nullptr;
+    SettingsStore& m_settings;
+    CorvelGui::IPasswordStore& m_passwords;
+    CorvelGui::ProxySettingsWidget* m_proxy = nullptr;
 };
 
 } // namespace Review

@@ -20,8 +20,6 @@ namespace Review {
 
 namespace {
 
-const QString passwordKey = u"Proxy/Password"_s;
-
 constexpr std::pair<ProxyUserSettings::Mode, QLatin1StringView> modeNames[] = {
     {ProxyUserSettings::Mode::None, "none"_L1},
     {ProxyUserSettings::Mode::System, "system"_L1},
@@ -45,6 +43,11 @@ constexpr std::pair<Ruler::FollowMode, QLatin1StringView> followNames[] = {
 QString textOf(const QString& value)
 {
     return value;
+}
+
+QString textOf(const QStringList& value)
+{
+    return value.join(u' ');
 }
 
 QString textOf(bool value)
@@ -87,6 +90,11 @@ QString textOf(Ruler::FollowMode value)
 void take(QString& value, const QString& text)
 {
     value = text;
+}
+
+void take(QStringList& value, const QString& text)
+{
+    value = text.split(u' ', Qt::SkipEmptyParts);
 }
 
 void take(bool& value, const QString& text)
@@ -154,8 +162,8 @@ void forEachValue(Settings& settings, const Use& use)
     use(u"Proxy/Host"_s, settings.proxy.host);
     use(u"Proxy/Port"_s, settings.proxy.port);
     use(u"Proxy/User"_s, settings.proxy.user);
+    use(u"Proxy/Excluded"_s, settings.proxy.excludedHosts);
     use(u"Proxy/RememberPassword"_s, settings.rememberPassword);
-    use(passwordKey, settings.proxy.password);
 }
 
 /// What may be written down, by keys.
@@ -165,8 +173,6 @@ QMap<QString, QString> textsOf(const ReviewSettings& settings)
     forEachValue(settings, [&texts](const QString& key, const auto& value) {
         texts.insert(key, textOf(value));
     });
-    if (!settings.rememberPassword)
-        texts[passwordKey].clear();
     return texts;
 }
 
@@ -189,8 +195,6 @@ ReviewSettings ReviewSettings::read(const QSettings& file)
         settings.language.clear();
     if (!settings.zone.isEmpty())
         settings.zone = Corvel::TimeZoneHelper::getTimeZone(settings.zone);
-    if (!settings.rememberPassword)
-        settings.proxy.password.clear();
     for (const PPlaybar::PlaybackButton button : PPlaybar::buttons()) {
         const QVariant value = file.value(shortcutKey(button));
         if (!value.isValid())
@@ -209,11 +213,7 @@ void ReviewSettings::write(QSettings& file, const ReviewSettings& before) const
     const QMap<QString, QString> texts = textsOf(*this);
     const QMap<QString, QString> textsBefore = textsOf(before);
     for (const auto& [key, text] : texts.asKeyValueRange()) {
-        if (text == textsBefore[key])
-            continue;
-        if (text.isEmpty() && key == passwordKey)
-            file.remove(key);
-        else
+        if (text != textsBefore[key])
             file.setValue(key, text);
     }
     for (const PPlaybar::PlaybackButton button : PPlaybar::buttons()) {

@@ -41,7 +41,8 @@ struct ReviewSettings
 
     UpdateServers servers = {};
     Corvel::ProxyUserSettings proxy = {};
-    /// Whether the password of the proxy may be written down.
+    /// Whether the password of the proxy is kept in the password store of the computer. The file
+    /// never has it.
     bool rememberPassword = false;
 
     bool operator==(const ReviewSettings&) const = default;

@@ -10,6 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace Review {
 
+namespace {
+
+const QString passwordKey = u"Proxy/Password"_s;
+
+} // namespace
+
 SettingsStore::SettingsStore(const QString& path, QObject* parent)
     : QObject(parent)
     , m_file(path.isEmpty() ? nullptr : std::make_unique<QSettings>(path, QSettings::IniFormat))
@@ -40,6 +46,27 @@ void SettingsStore::change(const ReviewSettings& settings)
     if (!m_file || save(before) || std::exchange(m_failureTold, true))
         return;
     Q_EMIT saveFailed(m_file->fileName());
+}
+
+QString SettingsStore::passwordInFile() const
+{
+    return m_file ? m_file->value(passwordKey).toString() : QString();
+}
+
+void SettingsStore::dropPasswordInFile()
+{
+    if (!m_file || m_damaged || !m_file->contains(passwordKey))
+        return;
+    m_file->remove(passwordKey);
+    m_file->sync();
+}
+
+void SettingsStore::learnPassword(const QString& password)
+{
+    if (password == m_settings.proxy.password)
+        return;
+    m_settings.proxy.password = password;
+    Q_EMIT changed();
 }
 
 void SettingsStore::keep(const IUserSettings& window)

@@ -34,6 +34,14 @@ public:
     /// Takes over and writes what is different.
     void change(const ReviewSettings& settings);
 
+    /// A password of the proxy that the file has had since earlier versions wrote it there; empty
+    /// without one.
+    QString passwordInFile() const;
+    /// Removes it from the file.
+    void dropPasswordInFile();
+    /// Takes over the password of the proxy, which is not written.
+    void learnPassword(const QString& password);
+
     /// Writes or reads the state of a window. A file that cannot be written loses no more than
     /// that state, and nobody is told.
     void keep(const IUserSettings& window);

@@ -217,6 +217,10 @@
         <source>The settings cannot be written to %1. They hold until the program ends.</source>
         <translation>Die Einstellungen können nicht nach %1 geschrieben werden. Sie gelten, bis das Programm endet.</translation>
     </message>
+    <message>
+        <source>The password of the proxy cannot be kept in the password store of this computer. It holds until the program ends.</source>
+        <translation>Das Kennwort des Proxys kann im Kennwortspeicher dieses Computers nicht aufbewahrt werden. Es gilt, bis das Programm endet.</translation>
+    </message>
 </context>
 <context>
     <name>Review::ClipCopy</name>
@@ -1138,50 +1142,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Network</source>
         <translation>Netzwerk</translation>
-    </message>
-    <message>
-        <source>&amp;Connection:</source>
-        <translation>&amp;Verbindung:</translation>
-    </message>
-    <message>
-        <source>Without a proxy</source>
-        <translation>Ohne Proxy</translation>
-    </message>
-    <message>
-        <source>As set for this computer</source>
-        <translation>Wie für diesen Computer eingestellt</translation>
-    </message>
-    <message>
-        <source>HTTP proxy</source>
-        <translation>HTTP-Proxy</translation>
-    </message>
-    <message>
-        <source>SOCKS5 proxy</source>
-        <translation>SOCKS5-Proxy</translation>
-    </message>
-    <message>
-        <source>&amp;Host:</source>
-        <translation>&amp;Rechner:</translation>
-    </message>
-    <message>
-        <source>P&amp;ort:</source>
-        <translation>P&amp;ort:</translation>
-    </message>
-    <message>
-        <source>&amp;User:</source>
-        <translation>&amp;Benutzer:</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word:</source>
-        <translation>&amp;Kennwort:</translation>
-    </message>
-    <message>
-        <source>&amp;Remember the password</source>
-        <translation>Kennwort &amp;speichern</translation>
-    </message>
-    <message>
-        <source>A remembered password is stored in the settings file, where everybody who may read the file can read it. Otherwise it is forgotten when the program ends.</source>
-        <translation>Ein gespeichertes Kennwort steht lesbar in der Datei mit den Einstellungen: Wer die Datei lesen darf, kann auch das Kennwort lesen. Andernfalls wird es vergessen, wenn das Programm endet.</translation>
     </message>
 </context>
 <context>

@@ -40,8 +40,14 @@ QMap<QKeySequence, QString> shortcutsOf(const QWidget& window)
 
 } // namespace
 
-ClientOptions::ClientOptions(SettingsStore& store, ReviewWindow& window)
-    : m_store(store), m_window(window), m_options(new QAction(this)), m_language(new QAction(this))
+ClientOptions::ClientOptions(SettingsStore& store, ReviewWindow& window,
+                             CorvelGui::IPasswordStore& passwords)
+    : m_store(store)
+    , m_window(window)
+    , m_passwords(passwords)
+    , m_password(store, passwords)
+    , m_options(new QAction(this))
+    , m_language(new QAction(this))
 {
     m_options->setMenuRole(QAction::PreferencesRole);
     window.toolsMenu()->addActions({m_options, m_language});
@@ -52,6 +58,8 @@ ClientOptions::ClientOptions(SettingsStore& store, ReviewWindow& window)
     connect(&store, &SettingsStore::changed, this, &ClientOptions::putIntoEffect);
     // Not in the middle of what changes the settings.
     connect(&store, &SettingsStore::saveFailed, this, &ClientOptions::tellUnsaved,
+            Qt::QueuedConnection);
+    connect(&m_password, &ProxyPassword::notKept, this, &ClientOptions::tellForgotten,
             Qt::QueuedConnection);
     connect(&window, &ReviewWindow::settingsTouched, this, [this] {
         ReviewSettings settings = m_store.settings();
@@ -98,7 +106,7 @@ void ClientOptions::makePages()
         std::make_unique<KeyboardPage>(m_store, [this] { return shortcutsOf(m_window); }));
     for (const std::unique_ptr<ClientPage>& page : m_pages)
         SettingsManager::m_listPages.append(page.get());
-    m_provider = new NetworkProvider(m_store);
+    m_provider = new NetworkProvider(m_store, m_passwords);
     SettingsManager::m_listProvider.append(m_provider);
 }
 
@@ -148,6 +156,15 @@ void ClientOptions::tellUnsaved(const QString& path)
         &m_window, tr("Options"),
         tr("The settings cannot be written to %1. They hold until the program ends.")
             .arg(QDir::toNativeSeparators(path)));
+}
+
+void ClientOptions::tellForgotten(const QString& reason)
+{
+    QString text = tr("The password of the proxy cannot be kept in the password store of this "
+                      "computer. It holds until the program ends.");
+    if (!reason.isEmpty())
+        text += u"\n\n"_s + reason.toHtmlEscaped();
+    Hueloft::PMessageBox::Warning(&m_window, tr("Options"), text);
 }
 
 bool ClientOptions::eventFilter(QObject* watched, QEvent* event)

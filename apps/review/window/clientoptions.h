@@ -1,5 +1,7 @@
 #pragma once
 
+#include "options/proxypassword.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -25,8 +27,8 @@ class ClientOptions : public QObject
     Q_OBJECT
 
 public:
-    /// Owns neither; both must live longer.
-    ClientOptions(SettingsStore& store, ReviewWindow& window);
+    /// Owns none; all must live longer.
+    ClientOptions(SettingsStore& store, ReviewWindow& window, CorvelGui::IPasswordStore& passwords);
     ~ClientOptions() override;
 
     /// Runs the options dialog at a page, or with empty ids at the one that was shown last.
@@ -40,9 +42,12 @@ private:
     void retranslate();
     void chooseLanguage();
     void tellUnsaved(const QString& path);
+    void tellForgotten(const QString& reason);
 
     SettingsStore& m_store;
     ReviewWindow& m_window;
+    CorvelGui::IPasswordStore& m_passwords;
+    ProxyPassword m_password;
     QAction* m_options;
     QAction* m_language;
     QString m_languageKey;

@@ -1,0 +1,7 @@
+#include "ipasswordstore.h"
+
+namespace CorvelGui {
+
+IPasswordStore::~IPasswordStore() = default;
+
+} // namespace CorvelGui

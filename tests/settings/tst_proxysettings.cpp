@@ -1,0 +1,217 @@
+#include "memorypasswordstore.h"
+#include "scriptedserver.h"
+#include "testsupport.h"
+
+#include <CorvelGui/PErrorLabel>
+#include <CorvelGui/ProxySettingsWidget>
+
+using namespace CorvelGui;
+using Corvel::ProxyUserSettings;
+using Mode = Corvel::ProxyUserSettings::Mode;
+
+namespace {
+
+template <typename Field>
+Field& field(const QWidget& widget, const QString& label)
+{
+    for (const QLabel* candidate : widget.findChildren<QLabel*>()) {
+        if (candidate->text().remove(u'&') == label)
+            return *qobject_cast<Field*>(candidate->buddy());
+    }
+    qFatal("No label: %s", qPrintable(label));
+}
+
+QStringList errorsOf(const QWidget& widget)
+{
+    QStringList errors;
+    for (const PErrorLabel* label : widget.findChildren<PErrorLabel*>())
+        errors.append(label->error());
+    errors.removeAll(QString());
+    return errors;
+}
+
+QPushButton& tryButton(const ProxySettingsWidget& widget)
+{
+    return *widget.findChild<QPushButton*>();
+}
+
+} // namespace
+
+class TestProxySettings : public WarningFreeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void valuesPassThrough()
+    {
+        const ProxyUserSettings given{.mode = Mode::Socks5,
+                                      .host = u"proxy.example"_s,
+                                      .port = 4711,
+                                      .user = u" me "_s,
+                                      .password = u" p,w "_s,
+                                      .excludedHosts = {u"*.example"_s, u"10.0.0.0/8"_s}};
+        ProxySettingsWidget widget;
+        QSignalSpy changed(&widget, &ProxySettingsWidget::settingsChanged);
+        widget.setSettings(given);
+        QVERIFY(widget.settings() == given);
+        widget.setSettings(given);
+        QCOMPARE(changed.count(), 1);
+        field<QComboBox>(widget, u"Connection:"_s).setCurrentIndex(0);
+        QVERIFY(!field<QLineEdit>(widget, u"User:"_s).isEnabled());
+        QCOMPARE(widget.settings().host, given.host);
+        QCOMPARE(changed.count(), 2);
+    }
+
+    void entriesAreJudged()
+    {
+        struct Row
+        {
+            Mode mode;
+            QString host;
+            int port;
+            QString excluded;
+            QString error; // what it begins with
+        };
+        const QString notHost = u"This is not the name or address of a host."_s;
+        const Row rows[] = {
+            {Mode::System, u"?"_s, 0, u"?"_s, {}},
+            {Mode::None, {}, 0, {}, {}},
+            {Mode::Http, u" proxy "_s, 1, u"a.example; *.b.example,10.0.0.0/8 <local>"_s, {}},
+            {Mode::Http, u"fd00::1"_s, 1, {}, {}},
+            {Mode::Http, {}, 1, {}, u"The proxy needs a host."_s},
+            {Mode::Socks5, u"a b"_s, 1, {}, notHost},
+            {Mode::Socks5, u"10.0.0.300"_s, 1, {}, notHost},
+            {Mode::Socks5, u"proxy"_s, 0, {}, u"The proxy needs a port."_s},
+            {Mode::Http, u"proxy"_s, 1, u"a, b:80, http://c"_s, u"Not a server: b:80, http://c"_s},
+        };
+        for (const auto& [mode, host, port, excluded, error] : rows) {
+            ProxySettingsWidget widget;
+            widget.setSettings(
+                {.mode = mode, .host = host, .port = quint16(port), .excludedHosts = {excluded}});
+            QCOMPARE(errorsOf(widget).join(u'\n'), error);
+            QCOMPARE(widget.isValid(), error.isEmpty());
+        }
+    }
+
+    void addressesAreTakenApart()
+    {
+        struct Row
+        {
+            QString typed;
+            QString host;
+            int port;
+        };
+        const Row rows[] = {{u"http://me@proxy.example:3128/"_s, u"proxy.example"_s, 3128},
+                            {u"proxy.example:81"_s, u"proxy.example"_s, 81},
+                            {u"[fd00::1]:81"_s, u"fd00::1"_s, 81},
+                            {u"https://proxy.example"_s, u"proxy.example"_s, 8080},
+                            {u"a b:1"_s, u"a b:1"_s, 8080}};
+        for (const auto& [typed, host, port] : rows) {
+            ProxySettingsWidget widget;
+            field<QComboBox>(widget, u"Connection:"_s).setCurrentText(u"SOCKS5 proxy"_s);
+            QCOMPARE(widget.settings().port, 1080);
+            field<QComboBox>(widget, u"Connection:"_s).setCurrentText(u"HTTP proxy"_s);
+            auto& edit = field<QLineEdit>(widget, u"Host:"_s);
+            edit.setText(typed);
+            Q_EMIT edit.editingFinished();
+            QCOMPARE(widget.settings().host, host);
+            QCOMPARE(widget.settings().port, port);
+        }
+    }
+
+    void passwordStore()
+    {
+        const auto noteAbout = [](const ProxySettingsWidget& widget) {
+            QString note;
+            for (const QLabel* label : widget.findChildren<QLabel*>())
+                note += label->text().contains(u"password store"_s) ? label->text() : QString();
+            return note;
+        };
+        MemoryPasswordStore store;
+        store.isSlow = true;
+        ProxySettingsWidget widget;
+        auto& remember = *widget.findChild<QCheckBox*>();
+        QVERIFY(noteAbout(widget).startsWith(u"There is no password store"_s));
+        widget.setPasswordStore(&store);
+        QVERIFY(noteAbout(widget).contains(u"has not answered"_s) && !remember.isEnabled());
+        store.answerAll();
+        QVERIFY(noteAbout(widget).contains(u"is kept in"_s) && remember.isEnabled());
+        store.refusal = {IPasswordStore::Status::Unavailable, {}, u"no\nservice"_s};
+        widget.setPasswordStore(&store);
+        QTRY_VERIFY(noteAbout(widget).endsWith(u"The store says: no service"_s));
+        QVERIFY(!remember.isEnabled());
+        {
+            store.isSlow = true;
+            ProxySettingsWidget gone;
+            gone.setPasswordStore(&store);
+        }
+        store.answerAll();
+
+        // What comes late does not replace what was typed.
+        auto& password = field<QLineEdit>(widget, u"Password:"_s);
+        widget.fetchedPassword(u"fetched"_s);
+        QVERIFY(!widget.isPasswordEdited());
+        password.setText(u"typed"_s);
+        widget.fetchedPassword(u"late"_s);
+        QVERIFY(widget.isPasswordEdited());
+        QCOMPARE(widget.settings().password, u"typed"_s);
+    }
+
+    void trial()
+    {
+        ScriptedServer proxy;
+        proxy.script("/good", "hello");
+        proxy.script("/slow", "hello", LocalHttp::Misbehaviour::Never);
+        LocalHttp::Answer denied = LocalHttp::Answer::error(407, "Who are you");
+        denied.headers.append(LocalHttp::Header{"Proxy-Authenticate", "Basic realm=\"proxy\""});
+        proxy.script("/denied", denied);
+        ProxySettingsWidget widget;
+        widget.setSettings({.mode = Mode::Http,
+                            .host = u"127.0.0.1"_s,
+                            .port = quint16(QUrl(proxy.base()).port())});
+        QSignalSpy ended(&widget, &ProxySettingsWidget::testEnded);
+        QSignalSpy testing(&widget, &ProxySettingsWidget::testingChanged);
+        for (const auto& address : {u""_s, u"rtsp://server.example"_s, u"http://a b"_s}) {
+            field<QLineEdit>(widget, u"Test address:"_s).setText(address);
+            QVERIFY(!tryButton(widget).isEnabled());
+            widget.startTest();
+        }
+        QCOMPARE(testing.count(), 0);
+
+        // Only the proxy knows this server.
+        const std::pair<QString, QString> rows[] = {
+            {u"good"_s, u"Connected: server.example answered after "_s},
+            {u"missing"_s, u"No connection: The server answered with status 404."_s},
+            {u"denied"_s, u"The proxy asks for a user and a password."_s}};
+        for (const auto& [path, result] : rows) {
+            widget.setTestAddress(QUrl(u"http://server.example/"_s + path));
+            QCOMPARE(widget.testResult(), QString());
+            tryButton(widget).click();
+            QTRY_VERIFY(!widget.isTesting());
+            QVERIFY2(widget.testResult().startsWith(result), qPrintable(widget.testResult()));
+            QCOMPARE(ended.takeFirst(), QVariantList{path == u"good"_s});
+        }
+        // Cancelled by the button, by an edit and by the end of the widget.
+        widget.setTestAddress(QUrl(u"http://server.example/slow"_s));
+        tryButton(widget).click();
+        QCOMPARE(tryButton(widget).text(), u"Cancel"_s);
+        tryButton(widget).click();
+        QVERIFY(!widget.isTesting());
+        widget.startTest();
+        field<QSpinBox>(widget, u"Port:"_s).setValue(1);
+        QVERIFY(!widget.isTesting());
+        QCOMPARE(testing.count(), 10);
+        widget.startTest();
+        QTRY_COMPARE(widget.testResult(), u"The proxy does not answer."_s);
+        QVERIFY(isDeletedBy<ProxySettingsWidget>(
+            [](ProxySettingsWidget& gone) {
+                gone.setSettings({.mode = Mode::None});
+                gone.setTestAddress(QUrl(u"http://127.0.0.1:1/"_s));
+                gone.startTest();
+            },
+            &ProxySettingsWidget::testEnded));
+    }
+};
+
+QTEST_MAIN(TestProxySettings)
+#include "tst_proxysettings.moc"
