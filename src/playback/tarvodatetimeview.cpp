@@ -35,7 +35,7 @@ enum Field { Day, Hour, Minute, Second, Millisecond, FieldCount };
 
 // Column 1 stays empty: it sets the day apart.
 constexpr int emptyColumn = 1;
-constexpr std::array<int, FieldCount> columns{0, 2, 3, 4, 5};
+constexpr std::array<int, FieldCount> columnOfField{0, 2, 3, 4, 5};
 constexpr int margin = 4;
 
 QDateTime nothing()
@@ -101,12 +101,12 @@ TarvoDateTimeView::TarvoDateTimeView(QWidget* parent)
         auto* value = new QLabel(this);
         value->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
         value->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(value, 0, columns[field]);
+        layout->addWidget(value, 0, columnOfField[field]);
         d->values[field] = value;
 
         auto* caption = new QLabel(this);
         caption->setAlignment(Qt::AlignCenter);
-        layout->addWidget(caption, 1, columns[field]);
+        layout->addWidget(caption, 1, columnOfField[field]);
         d->captions[field] = caption;
     }
     retranslate();
@@ -304,10 +304,10 @@ void TarvoDateTimeView::updateMinimumWidth()
     auto* grid = static_cast<QGridLayout*>(layout());
     grid->setColumnMinimumWidth(emptyColumn, metrics.horizontalAdvance(u"  "_s));
     for (const Field field : {Hour, Minute})
-        grid->setColumnMinimumWidth(columns[field], metrics.horizontalAdvance(u"00:"_s));
-    grid->setColumnMinimumWidth(columns[Second], metrics.horizontalAdvance(u"00"_s));
+        grid->setColumnMinimumWidth(columnOfField[field], metrics.horizontalAdvance(u"00:"_s));
+    grid->setColumnMinimumWidth(columnOfField[Second], metrics.horizontalAdvance(u"00"_s));
     grid->setColumnMinimumWidth(
-        columns[Millisecond],
+        columnOfField[Millisecond],
         d->showMilliseconds ? QFontMetrics(smallDigits).horizontalAdvance(u"000"_s) : 0);
 
     const QString sample =
