@@ -151,7 +151,7 @@ bool TimeScale::centerRange(qint64 from, qint64 to, bool exactly)
         setSpan(double(range));
     } else {
         const int level = closestLevel(quint64(range));
-        m_level = spanOfLevel(level) < m_totalDuration ? level : wholeRangeLevel;
+        m_level = isEffective(level) ? level : wholeRangeLevel;
         m_span.reset();
     }
     const qint64 span = qint64(millisecondsPerLevel());

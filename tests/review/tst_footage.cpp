@@ -190,6 +190,7 @@ void TestFootage::foldersAreScanned()
     QCOMPARE(std::ranges::count(yard, created, &VideoFile::begin), 2);
     QCOMPARE(std::ranges::count(yard, created + 60'000, &VideoFile::begin), 1);
 
+    QVERIFY(QDir(folder).mkpath(u"none"_s));
     LoadJob nothing(ReviewFiles::named({folder.filePath(u"none"_s)}), QTimeZone::utc());
     QVERIFY(ends(nothing));
     QVERIFY(nothing.error().startsWith(u"There are neither recordings nor events in "_s));

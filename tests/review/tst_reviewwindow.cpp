@@ -32,7 +32,7 @@ private Q_SLOTS:
     {
         const SampleWindow sample(u"UTC"_s);
         QVERIFY(sample.says(u"02.03.2026 00:00:00 – 16.03.2026 00:00:00 (UTC)"_s));
-        QVERIFY(sample.says(u"Cameras: 4    Recordings: 2,721    Events: 1,631"_s));
+        QVERIFY(sample.says(u"Cameras: 4    Recordings: 2,721    Events: 1,632"_s));
         QCOMPARE(enabledActions(sample), u"Zoom in"_s);
 
         // The level of fourteen days would show the same as the whole period.

@@ -225,10 +225,6 @@ private Q_SLOTS:
             QCOMPARE(again.viewStartMs(), scale.viewStartMs());
             QCOMPARE(again.level(), scale.level());
         }
-        // As long as the view at a level, the period is the whole period nevertheless.
-        TimeScale fortnight = scaleOf(14 * day);
-        QVERIFY(fortnight.setView(monday, monday + 14 * day));
-        QCOMPARE(fortnight.level(), TimeScale::wholeRangeLevel);
     }
 
     void paging()
