@@ -101,6 +101,7 @@ PTextEdit::PTextEdit(QWidget* parent) : QTextEdit(parent), d(std::make_unique<Pr
     d->counter = new QLabel(this);
     d->counter->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     d->counter->setBackgroundRole(QPalette::Base);
+    d->counter->setForegroundRole(QPalette::PlaceholderText);
     d->counter->setAutoFillBackground(true);
     d->counter->setContentsMargins(4, 0, 6, 2);
     d->counter->hide();
@@ -176,10 +177,9 @@ void PTextEdit::showCount()
     const QString most = locale.toString(d->maximumLength);
     d->counter->setText(tr("%1 / %2").arg(used, most));
     setAccessibleDescription(tr("%1 of %2 characters").arg(used, most));
-    QPalette colors;
-    colors.setColor(d->counter->foregroundRole(), length < d->maximumLength
-                                                      ? palette().color(QPalette::PlaceholderText)
-                                                      : Hueloft::POrvGuiTheme::statusRed());
+    QPalette colors; // otherwise those of the look
+    if (length >= d->maximumLength)
+        colors.setColor(d->counter->foregroundRole(), Hueloft::POrvGuiTheme::statusRed());
     d->counter->setPalette(colors);
 }
 
