@@ -23,6 +23,7 @@ public:
         Unavailable, ///< there is no store, or none that works
     };
 
+    /// What came of a request.
     struct Answer
     {
         Status status = Status::Unavailable;
