@@ -278,7 +278,10 @@ private:
         return count;
     }
 
-    QStringList files() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+    QStringList files() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::Files);
+    }
 
     QTemporaryDir m_folder;
 };
