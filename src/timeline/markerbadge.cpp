@@ -60,9 +60,9 @@ void MarkerBadge::draw(QPainter& painter, const QFont& font, const QRect& area) 
     const qreal ratio = painter.device()->devicePixelRatioF();
     const QString key =
         u"corvelgui-badge-%1-%2-%3-%4"_s.arg(text(), font.family()).arg(int(severity)).arg(ratio);
-    const QSize badge = size(font);
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
+        const QSize badge = size(font);
         picture = QPixmap(QSizeF(badge * ratio).toSize());
         picture.setDevicePixelRatio(ratio);
         picture.fill(Qt::transparent);
@@ -71,6 +71,7 @@ void MarkerBadge::draw(QPainter& painter, const QFont& font, const QRect& area) 
         drawing.end();
         QPixmapCache::insert(key, picture);
     }
+    const QSize badge = picture.deviceIndependentSize().toSize();
     painter.drawPixmap(area.left() + (area.width() - badge.width()) / 2,
                        area.bottom() + 1 - badge.height(), picture);
 }

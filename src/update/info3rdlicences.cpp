@@ -3,6 +3,7 @@
 #include "licencetext.h"
 
 #include <CorvelGui/FilterLineEdit>
+#include <CorvelGui/StringHelper>
 #include <Hueloft/PIconHelper>
 
 #include <QClipboard>
@@ -73,8 +74,7 @@ Info3rdLicences::~Info3rdLicences() = default;
 void Info3rdLicences::setComponents(const QList<Component>& components)
 {
     const QSignalBlocker quiet(d->list);
-    QCollator order;
-    order.setCaseSensitivity(Qt::CaseInsensitive);
+    const QCollator order = StringHelper::naturalOrder();
     d->components = components;
     std::ranges::stable_sort(d->components, [&order](const Component& one, const Component& two) {
         return order.compare(one.name, two.name) < 0;

@@ -1,5 +1,7 @@
 #include "psysteminfowidget.h"
 
+#include <CorvelGui/StringHelper>
+
 #include <Corvel/SystemInformation>
 #include <Hueloft/PIconHelper>
 
@@ -34,14 +36,11 @@ struct InfoSection
 
 QString memoryText(const SystemInformation& system)
 {
-    const QLocale locale;
-    if (system.memory < 0)
-        return {};
-    const QString all = locale.formattedDataSize(system.memory);
-    return system.availableMemory < 0
+    const QString all = StringHelper::size(system.memory);
+    return all.isEmpty() || system.availableMemory < 0
                ? all
                : PSystemInfoWidget::tr("%1, of which %2 are available")
-                     .arg(all, locale.formattedDataSize(system.availableMemory));
+                     .arg(all, StringHelper::size(system.availableMemory));
 }
 
 QString zoneText(const QString& zone)

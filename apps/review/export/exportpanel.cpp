@@ -194,7 +194,7 @@ void ExportPanel::askForReport(const ReportPlan& plan)
     if (path.isEmpty())
         return;
     m_eventFolder = QFileInfo(path).absolutePath();
-    report(m_eventFolder, [] { return tr("Report saved"); });
+    report(path, [] { return tr("Report saved"); });
 }
 
 bool ExportPanel::mayQuit()
