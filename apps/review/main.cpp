@@ -103,6 +103,8 @@ void begin(ReviewWindow& window, const Arguments& arguments)
             const bool isSample = arguments.files.isEmpty();
             if (isSample)
                 window.showMiddleDay();
+            if (arguments.follow)
+                window.follow();
             if (!arguments.picture.isEmpty())
                 takePicture(window, arguments);
             else if (isSample)

@@ -3,10 +3,13 @@
 #include "options/reviewsettings.h"
 #include "playback/playbackpane.h"
 #include "testsupport.h"
+#include "timeline/timelinepane.h"
 #include "times.h"
 #include "window/cameratimesdialog.h"
 #include "window/offsetedit.h"
 #include "window/reviewwindow.h"
+
+#include <CorvelGui/Ruler>
 
 #include <QAction>
 #include <QDialogButtonBox>
@@ -22,6 +25,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace Review;
+using CorvelGui::Ruler;
 
 class TestCameraTimes : public WarningFreeTest
 {
@@ -103,6 +107,50 @@ private Q_SLOTS:
         QVERIFY(again.wait());
         QCOMPARE(next.findChild<PlaybackPane*>()->camera()->files[0].begin - monday,
                  -4 * hour - 45 * minute);
+    }
+
+    void recordingsAreFollowed()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"Gate"_s));
+        const auto record = [&folder](qint64 time) {
+            return QImage(16, 16, QImage::Format_RGB32)
+                .save(folder.filePath(u"Gate/%1.jpg"_s.arg(time / 1'000)));
+        };
+        const auto endOf = [](qint64 time) {
+            return time + 1'000;
+        };
+        QVERIFY(record(monday) && record(monday + day));
+        ReviewWindow window(u"UTC"_s, true);
+        const Ruler* ruler = window.findChild<Ruler*>();
+        const auto end = [ruler] {
+            return qint64(ruler->getTimeLimits().second);
+        };
+        const auto moment = [ruler] {
+            return qint64(ruler->exactIndicatorMSecs());
+        };
+        QSignalSpy loaded(&window, &ReviewWindow::loaded);
+        window.load(ReviewFiles::named({folder.path()}));
+        QVERIFY(loaded.wait());
+        window.follow();
+        QCOMPARE(moment(), endOf(monday + day) - 1);
+        auto* timeline = window.findChild<TimelinePane*>();
+        timeline->showAround(monday + day, hour);
+
+        constexpr int patience = 30'000;
+        QVERIFY(record(monday + 2 * day));
+        QTRY_COMPARE_WITH_TIMEOUT(end(), endOf(monday + 2 * day), patience);
+        QCOMPARE(moment(), endOf(monday + 2 * day) - 1);
+        QVERIFY(timeline->view().end >= moment());
+        // Not under the user's hand.
+        timeline->showAround(monday + day, hour);
+        const CorvelGui::TimeSpan view = timeline->view();
+        QVERIFY(record(monday + 3 * day));
+        QTRY_COMPARE_WITH_TIMEOUT(end(), endOf(monday + 3 * day), patience);
+        QCOMPARE(timeline->view(), view);
+        window.findChild<QAction*>(u"newestRecording"_s)->trigger();
+        QVERIFY(timeline->view().end >= endOf(monday + 3 * day) - 1);
+        QVERIFY(timeline->isFollowing());
     }
 };
 

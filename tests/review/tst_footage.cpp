@@ -15,6 +15,7 @@
 
 using namespace Review;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -75,6 +76,7 @@ private Q_SLOTS:
     void foldersAreScanned();
     void offsets();
     void whatIsKnownIsKept();
+    void secondLooks();
 };
 
 void TestFootage::paths_data()
@@ -241,6 +243,68 @@ void TestFootage::whatIsKnownIsKept()
     QVERIFY(saved.resize(saved.size() - 1));
     QVERIFY(file.resize(0));
     QVERIFY(!FootageIndex(path).find(QFileInfo(file.fileName())));
+}
+
+void TestFootage::secondLooks()
+{
+    const QTemporaryDir temporary;
+    const QDir folder(temporary.path());
+    QVERIFY(folder.mkpath(u"Gate"_s));
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    const auto pathOf = [&](qint64 secondsAgo) {
+        return folder.filePath(u"Gate/%1.mp4"_s.arg(now - secondsAgo));
+    };
+    const auto touch = [&](qint64 secondsAgo, qint64 changedAgo) {
+        QFile file(pathOf(secondsAgo));
+        return file.open(QIODevice::Append) &&
+               file.setFileTime(QDateTime::fromSecsSinceEpoch(now - changedAgo),
+                                QFileDevice::FileModificationTime);
+    };
+    QCOMPARE(NumberedClip::write(pathOf(600), 50), QString());
+    QCOMPARE(NumberedClip::write(pathOf(300), 25), QString());
+    QVERIFY(touch(600, 500));
+    // Still being written, also on a slow machine.
+    QVERIFY(touch(60, -3'600));
+
+    const auto told = [now](const LoadJob& job) {
+        const CorvelGui::TrackDescription track = job.data().tracks.value(0);
+        QStringList texts;
+        for (const auto& [spans, sign] : {std::pair(track.recorded, u'='), {track.loading, u'?'}})
+            for (const CorvelGui::TimeSpan& span : spans)
+                texts += QString::number(now - span.begin / 1'000) + sign;
+        return texts.join(u' ') + (job.hasNews() ? u" news"_s : QString()) +
+               (job.hasNewLists() ? u" lists"_s : QString());
+    };
+    const CorvelGui::TimeSpan view{(now - 299) * 1'000, (now - 298) * 1'000};
+    LoadJob first(ReviewFiles::named({folder.path()}), QTimeZone::utc(), {},
+                  {.first = view, .patience = 0ms});
+    QVERIFY(ends(first));
+    QCOMPARE(told(first), u"300= 600? 60? news lists"_s);
+    QCOMPARE(first.read().footage.unread(), 2);
+
+    LoadJob second(first.read(), FolderCorrections(), {});
+    QVERIFY(ends(second));
+    QCOMPARE(told(second), u"600= 300= 60? news"_s);
+    LoadJob third(second.read(), FolderCorrections(), {});
+    QVERIFY(ends(third));
+    QCOMPARE(told(third), u"600= 300= 60?"_s);
+
+    QCOMPARE(NumberedClip::write(pathOf(60), 25), QString());
+    QFile events(folder.filePath(u"events.csv"_s));
+    QVERIFY(events.open(QIODevice::WriteOnly));
+    events.write("time,kind,text\n1970-01-02T00:00Z,person,one\n");
+    events.close();
+    LoadJob fourth(third.read(), FolderCorrections(), {});
+    QVERIFY(ends(fourth));
+    QCOMPARE(told(fourth), u"600= 300= 60= news lists"_s);
+    QCOMPARE(fourth.data().events.size(), 1);
+    QVERIFY(events.open(QIODevice::Append));
+    events.write("1970-01-01T00:00Z,person,before\n");
+    events.close();
+    LoadJob fifth(fourth.read(), FolderCorrections(), {});
+    QVERIFY(ends(fifth));
+    QCOMPARE(fifth.data().events.size(), 2);
+    QVERIFY(!fifth.data().events.startsWith(fourth.data().events));
 }
 
 QTEST_GUILESS_MAIN(TestFootage)

@@ -315,18 +315,19 @@ private Q_SLOTS:
         }
     }
 
-    void historyKnowsThreeStates()
+    void historyKnowsFourStates()
     {
         // The last span reaches beyond the described period.
         const TrackHistory history({.identifier = u"a"_s,
                                     .name = u"a"_s,
                                     .begin = 100,
                                     .end = 200,
-                                    .recorded = {{190, 220}, {120, 130}, {125, 140}, {122, 124}}});
+                                    .recorded = {{190, 220}, {120, 130}, {125, 140}, {122, 124}},
+                                    .loading = {{130, 150}, {145, 160}}});
         QString states;
-        for (const qint64 time : {99, 100, 119, 120, 130, 139, 140, 189, 190, 219, 220})
-            states += u"rg-"_s[int(history.stateAt(time))];
-        QCOMPARE(states, u"-ggrrrggrr-"_s);
+        for (const qint64 time : {99, 100, 119, 120, 130, 139, 140, 159, 189, 190, 219, 220})
+            states += u"rgl-"_s[int(history.stateAt(time))];
+        QCOMPARE(states, u"-ggrrrllgrr-"_s);
         QCOMPARE(history.recordedTime(), 50); // overlaps count once
         QCOMPARE(int(TrackHistory({}).stateAt(0)), int(TrackState::NothingKnown));
     }

@@ -137,4 +137,26 @@ bool Events::operator==(const Events& other) const
     return true;
 }
 
+bool Events::startsWith(const Events& other) const
+{
+    const auto beginsLike = [](const QStringList& texts, const QStringList& before) {
+        return texts.size() >= before.size() &&
+               std::ranges::equal(texts.first(before.size()), before);
+    };
+    if (m_records.constData() == other.m_records.constData() && size() == other.size())
+        return true;
+    if (size() < other.size() || !beginsLike(kinds(), other.kinds()) ||
+        !beginsLike(tracks(), other.tracks()))
+        return false;
+    for (qsizetype index = 0; index < other.size(); ++index) {
+        const Record& record = m_records[index];
+        const Record& before = other.m_records[index];
+        if (record.time != before.time || record.track != before.track ||
+            record.kind != before.kind || record.severity != before.severity ||
+            durationAt(index) != other.durationAt(index) || utf8At(index) != other.utf8At(index))
+            return false;
+    }
+    return true;
+}
+
 } // namespace Review

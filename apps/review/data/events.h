@@ -82,6 +82,8 @@ public:
     void sort();
 
     bool operator==(const Events& other) const;
+    /// Whether those of @p other come first, with the same numbers, also of kinds and tracks.
+    bool startsWith(const Events& other) const;
 
 private:
     struct Record

@@ -54,8 +54,10 @@ qsizetype ReviewData::recordingCount() const
 
 void ReviewData::sort()
 {
-    for (TrackDescription& track : tracks)
+    for (TrackDescription& track : tracks) {
         std::ranges::sort(track.recorded, {}, &TimeSpan::begin);
+        std::ranges::sort(track.loading, {}, &TimeSpan::begin);
+    }
     for (QList<VideoFile>& ofTrack : files)
         std::ranges::stable_sort(ofTrack, {}, &VideoFile::begin);
 }

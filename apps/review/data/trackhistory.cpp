@@ -7,8 +7,21 @@ using CorvelGui::TrackDescription;
 
 namespace Review {
 
+namespace {
+
+/// @p spans are sorted, without overlaps.
+bool covers(const QList<TimeSpan>& spans, qint64 msecs)
+{
+    const auto next = std::ranges::upper_bound(spans, msecs, {}, &TimeSpan::begin);
+    return next != spans.begin() && msecs < std::prev(next)->end;
+}
+
+} // namespace
+
 TrackHistory::TrackHistory(const TrackDescription& track)
-    : m_known{.begin = track.begin, .end = track.end}, m_recorded(TimeSpan::joined(track.recorded))
+    : m_known{.begin = track.begin, .end = track.end}
+    , m_recorded(TimeSpan::joined(track.recorded))
+    , m_loading(TimeSpan::joined(track.loading))
 {
     if (!m_recorded.isEmpty()) {
         m_known.begin = std::min(m_known.begin, m_recorded.first().begin);
@@ -18,10 +31,10 @@ TrackHistory::TrackHistory(const TrackDescription& track)
 
 TrackState TrackHistory::stateAt(qint64 msecs) const
 {
-    const auto next = std::partition_point(m_recorded.begin(), m_recorded.end(),
-                                           [msecs](const TimeSpan& s) { return s.begin <= msecs; });
-    if (next != m_recorded.begin() && msecs < std::prev(next)->end)
+    if (covers(m_recorded, msecs))
         return TrackState::Recorded;
+    if (covers(m_loading, msecs))
+        return TrackState::Loading;
     return m_known.begin <= msecs && msecs < m_known.end ? TrackState::Gap
                                                          : TrackState::NothingKnown;
 }

@@ -8,7 +8,8 @@ namespace Review {
 
 enum class TrackState {
     Recorded,
-    Gap, ///< known to be without recording
+    Gap,     ///< known to be without recording
+    Loading, ///< it is still to be known whether it is recorded
     NothingKnown
 };
 
@@ -41,6 +42,7 @@ private:
     CorvelGui::TimeSpan m_known;
     /// Sorted, without overlaps.
     QList<CorvelGui::TimeSpan> m_recorded;
+    QList<CorvelGui::TimeSpan> m_loading;
 };
 
 } // namespace Review

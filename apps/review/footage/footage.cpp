@@ -74,8 +74,9 @@ ReviewData Footage::addTo(ReviewData data, const TimeCorrections& corrections) c
             data.tracks.append({recording.camera, recording.camera, begin, end, {}});
         }
         TrackDescription& track = data.tracks[number];
-        track.recorded.append({begin, end});
-        data.files[recording.camera].append({recording.path, begin, end, 0});
+        (recording.isRead ? track.recorded : track.loading).append({begin, end});
+        if (recording.isRead)
+            data.files[recording.camera].append({recording.path, begin, end, 0});
         if (number < described)
             continue; // its period is known better
         track.begin = std::min(track.begin, begin);

@@ -26,6 +26,11 @@ public:
         WallTime begin;
         qint64 length; ///< milliseconds
         Source source;
+        /// Whether the file has been read. One that has not, or to which a camera still writes, is
+        /// known by its path alone.
+        bool isRead = true;
+
+        bool operator==(const Recording&) const = default;
     };
 
     /// What is known of a camera's times.
@@ -44,6 +49,13 @@ public:
 
     void add(const Recording& recording) { m_recordings.append(recording); }
     bool isEmpty() const { return m_recordings.isEmpty(); }
+    bool hasSameRecordings(const Footage& other) const
+    {
+        return m_recordings == other.m_recordings;
+    }
+    /// How many files there was no time to read.
+    qsizetype unread() const { return m_unread; }
+    void setUnread(qsizetype files) { m_unread = files; }
     const QTimeZone& zone() const { return m_zone; }
 
     /// In the order of their names.
@@ -53,7 +65,7 @@ public:
 
     /// When something began that a camera with that correction dated; negative for no time at all.
     qint64 instantOf(const WallTime& time, const TimeCorrection& correction = {}) const;
-    /// @p data with the recordings in it.
+    /// @p data with the recordings in it; those that were not read count as loading.
     ReviewData addTo(ReviewData data, const TimeCorrections& corrections) const;
 
 private:
@@ -61,6 +73,7 @@ private:
 
     QTimeZone m_zone = QTimeZone::utc();
     QList<Recording> m_recordings;
+    qsizetype m_unread = 0;
 };
 
 } // namespace Review

@@ -18,7 +18,7 @@ namespace Review {
 namespace {
 
 constexpr quint32 indexVersion = 0xC0F0'0001;
-// Some hundred bytes each.
+// Some hundred bytes each. Who has more begins anew the next time.
 constexpr qsizetype mostEntries = 500'000;
 
 } // namespace
@@ -39,7 +39,7 @@ FootageIndex::FootageIndex(QString path) : m_path(std::move(path))
         stream >> name >> entry.size >> entry.changed >> entry.facts;
         m_entries.insert(name, entry);
     }
-    if (stream.status() != QDataStream::Ok)
+    if (stream.status() != QDataStream::Ok || m_entries.size() > mostEntries)
         m_entries.clear();
 }
 
@@ -58,16 +58,14 @@ const FileFacts* FootageIndex::find(const QFileInfo& file) const
 
 void FootageIndex::add(const QFileInfo& file, const FileFacts& facts)
 {
-    if (m_entries.size() >= mostEntries)
-        m_entries.clear();
     m_entries.insert(file.absoluteFilePath(),
                      {file.size(), file.lastModified().toMSecsSinceEpoch(), facts});
     m_isNew = true;
 }
 
-void FootageIndex::save() const
+void FootageIndex::save()
 {
-    if (!m_isNew || !QDir().mkpath(QFileInfo(m_path).path()))
+    if (!std::exchange(m_isNew, false) || !QDir().mkpath(QFileInfo(m_path).path()))
         return;
     QByteArray content;
     QDataStream stream(&content, QIODevice::WriteOnly);

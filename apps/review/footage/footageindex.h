@@ -21,7 +21,7 @@ public:
     const FileFacts* find(const QFileInfo& file) const;
     void add(const QFileInfo& file, const FileFacts& facts);
     /// Writes it, if there is something new. What cannot be saved is found again.
-    void save() const;
+    void save();
 
 private:
     struct Entry

@@ -1,5 +1,7 @@
 #include "footagescan.h"
 
+#include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QDirIterator>
 
@@ -27,31 +29,45 @@ QString cameraOf(const QString& path)
     return parts[isBelow ? 1 : 0];
 }
 
+qint64 changeTimeOf(const QFileInfo& file)
+{
+    return file.lastModified().toMSecsSinceEpoch();
+}
+
+/// Whether something may have been recorded from one time up to another.
+bool isPlausible(qint64 begin, qint64 end)
+{
+    return begin < end && end - begin < longestRecording;
+}
+
 /// How long a file lasts that says nothing of it, or does not say the truth.
-qint64 guessedDuration(const FileFacts& facts, qint64 begin, qint64 changed)
+qint64 guessedDuration(qint64 begin, qint64 changed)
 {
     // A recorder writes to the end of the recording.
-    const bool isPlausible = changed > begin && changed - begin < longestRecording;
-    return facts.fault.isEmpty() && isPlausible ? changed - begin : pictureTime;
+    return isPlausible(begin, changed) ? changed - begin : pictureTime;
+}
+
+/// Whether a file cannot be read because it is still being written.
+bool isGrowing(const FileFacts& facts, qint64 begin, qint64 changed)
+{
+    constexpr qint64 pause = 30'000; // between two writes at most
+    return !facts.fault.isEmpty() && isPlausible(begin, changed) &&
+           QDateTime::currentMSecsSinceEpoch() - changed < pause;
 }
 
 } // namespace
 
-FootageScan::FootageScan(PathPattern pattern, FootageIndex& index, JobProgress& progress)
-    : m_pattern(std::move(pattern)), m_index(index), m_progress(progress)
+FootageScan::FootageScan(PathPattern pattern, FootageIndex& index, JobProgress& progress,
+                         const ReadingOrder& order)
+    : m_pattern(std::move(pattern)), m_index(index), m_progress(progress), m_order(order)
 {}
 
 void FootageScan::scan(const QStringList& paths, Footage& footage)
 {
-    const QList<Found> all = list(paths);
-    m_progress.setTotal(all.size());
-    for (const Found& found : all) {
-        const std::optional<FileFacts> facts = factsOf(found);
-        if (!facts)
-            return;
-        add(found, *facts, footage);
-        m_progress.add(1);
-    }
+    QList<Found> all = list(paths);
+    footage.setUnread(read(all, footage));
+    for (const Found& found : std::as_const(all))
+        add(found, footage);
 }
 
 QList<FootageScan::Found> FootageScan::list(const QStringList& paths) const
@@ -77,33 +93,61 @@ QList<FootageScan::Found> FootageScan::list(const QStringList& paths) const
     return all;
 }
 
-std::optional<FileFacts> FootageScan::factsOf(const Found& found)
+qsizetype FootageScan::read(QList<Found>& all, const Footage& footage)
 {
-    if (m_progress.isCancelled())
-        return {};
-    if (const FileFacts* known = m_index.find(found.file))
-        return *known;
-    const FileFacts facts = FileFacts::of(found.file.filePath(), m_progress.cancelled());
-    if (m_progress.isCancelled())
-        return {};
-    m_index.add(found.file, facts);
-    return facts;
+    const QDeadlineTimer deadline(m_order.patience);
+    m_progress.setTotal(all.size());
+    QList<std::pair<int, Found*>> unread;
+    for (Found& found : all) {
+        found.match = m_pattern.match(found.path);
+        if (const FileFacts* known = m_index.find(found.file)) {
+            found.facts = *known;
+            m_progress.add(1);
+        } else {
+            unread.append({urgencyOf(found, footage), &found});
+        }
+    }
+    std::ranges::stable_sort(unread, {}, &std::pair<int, Found*>::first);
+    for (qsizetype i = 0; i < unread.size(); ++i) {
+        if (m_progress.isCancelled() || (i > 0 && deadline.hasExpired()))
+            return unread.size() - i;
+        Found& found = *unread[i].second;
+        FileFacts facts = FileFacts::of(found.file.filePath(), m_progress.cancelled());
+        if (m_progress.isCancelled())
+            return unread.size() - i;
+        m_index.add(found.file, facts);
+        found.facts = std::move(facts);
+        m_progress.add(1);
+    }
+    return 0;
 }
 
-void FootageScan::add(const Found& found, const FileFacts& facts, Footage& footage) const
+int FootageScan::urgencyOf(const Found& found, const Footage& footage) const
 {
+    if (!found.match)
+        return 0; // nothing is known of it
+    const qint64 begin = footage.instantOf(found.match->begin);
+    const qint64 end = begin + guessedDuration(begin, changeTimeOf(found.file));
+    return begin < m_order.first.end && m_order.first.begin < end ? 1 : 2;
+}
+
+void FootageScan::add(const Found& found, Footage& footage) const
+{
+    if (!found.facts && !found.match)
+        return;
+    const FileFacts facts = found.facts.value_or(FileFacts());
     const bool isPicture = isPictureFile(found.path);
-    const qint64 changed = found.file.lastModified().toMSecsSinceEpoch();
-    const auto match = m_pattern.match(found.path);
-    const bool hasCamera = match && !match->camera.isEmpty();
-    Footage::Recording recording{.camera = hasCamera ? match->camera : cameraOf(found.path),
+    const qint64 changed = changeTimeOf(found.file);
+    const bool hasCamera = found.match && !found.match->camera.isEmpty();
+    Footage::Recording recording{.camera = hasCamera ? found.match->camera : cameraOf(found.path),
                                  .path = found.file.absoluteFilePath(),
                                  .begin = {},
                                  .length = isPicture ? pictureTime : facts.duration,
-                                 .source = Footage::ChangeTime};
-    if (match) {
+                                 .source = Footage::ChangeTime,
+                                 .isRead = found.facts.has_value()};
+    if (found.match) {
         recording.source = Footage::Path;
-        recording.begin = match->begin;
+        recording.begin = found.match->begin;
     } else if (facts.created) {
         recording.source = Footage::CreationTime;
         recording.begin = WallTime::utc(*facts.created);
@@ -113,8 +157,13 @@ void FootageScan::add(const Found& found, const FileFacts& facts, Footage& foota
     } else {
         recording.begin = WallTime::utc(isPicture ? changed : changed - recording.length);
     }
-    if (recording.length <= 0)
-        recording.length = guessedDuration(facts, footage.instantOf(recording.begin), changed);
+    if (recording.length <= 0) {
+        const qint64 begin = footage.instantOf(recording.begin);
+        if (isGrowing(facts, begin, changed))
+            recording.isRead = false;
+        const bool isDamaged = recording.isRead && !facts.fault.isEmpty();
+        recording.length = isDamaged ? pictureTime : guessedDuration(begin, changed);
+    }
     footage.add(recording);
 }
 

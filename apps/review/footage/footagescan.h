@@ -5,24 +5,37 @@
 #include "footageindex.h"
 #include "pathpattern.h"
 
+#include <CorvelGui/TrackDescription>
+
 #include <QFileInfo>
 #include <QList>
 #include <QStringList>
 
+#include <chrono>
 #include <optional>
 
 namespace Review {
+
+/// What is read of a folder whose files take long to read.
+struct ReadingOrder
+{
+    /// What was recorded then comes first.
+    CorvelGui::TimeSpan first = {};
+    /// For how long to read; at least one file is.
+    std::chrono::milliseconds patience = std::chrono::hours(24);
+};
 
 /// Finds clips and pictures in folders, and when each was recorded.
 class FootageScan
 {
 public:
-    FootageScan(PathPattern pattern, FootageIndex& index, JobProgress& progress);
+    FootageScan(PathPattern pattern, FootageIndex& index, JobProgress& progress,
+                const ReadingOrder& order = {});
 
     /// Looks through folders, with all below them, and single files. Each folder in one that is
     /// named here is a camera; files beside them, and folders that are called like a date, belong
     /// to a camera that is called like the one above. A cancelled progress ends it early.
-    /// What was found goes into @p footage.
+    /// What was found goes into @p footage; of what was not read, as much as the paths tell.
     void scan(const QStringList& paths, Footage& footage);
 
 private:
@@ -30,16 +43,21 @@ private:
     {
         QFileInfo file;
         QString path; ///< from the name of the folder that was opened on
+        std::optional<PathPattern::Match> match = {};
+        std::optional<FileFacts> facts = {};
     };
 
     QList<Found> list(const QStringList& paths) const;
-    /// None while the work is cancelled.
-    std::optional<FileFacts> factsOf(const Found& found);
-    void add(const Found& found, const FileFacts& facts, Footage& footage) const;
+    /// Returns how many are left.
+    qsizetype read(QList<Found>& all, const Footage& footage);
+    /// In what order files are read.
+    int urgencyOf(const Found& found, const Footage& footage) const;
+    void add(const Found& found, Footage& footage) const;
 
     const PathPattern m_pattern;
     FootageIndex& m_index;
     JobProgress& m_progress;
+    const ReadingOrder m_order;
 };
 
 } // namespace Review

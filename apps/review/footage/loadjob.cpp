@@ -2,7 +2,6 @@
 
 #include "data/leavethread.h"
 #include "data/sampledata.h"
-#include "footagescan.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,15 +14,29 @@ using namespace std::chrono_literals;
 
 namespace Review {
 
+namespace {
+
+LoadedFiles begun(const ReviewFiles& files, const QTimeZone& zone)
+{
+    return {.named = files, .footage = Footage(zone)};
+}
+
+} // namespace
+
 /// What the thread does, and what it leaves behind.
 class LoadJob::Work
 {
 public:
-    Work(const LoadedFiles& begin, const FolderCorrections& corrections)
-        : loaded(begin), isRead(false), ofFolders(corrections)
+    Work(const LoadedFiles& begin, const FolderCorrections& corrections,
+         const ReadingOrder& readingOrder, LoadedFiles before = {})
+        : loaded(begin)
+        , isRead(false)
+        , ofFolders(corrections)
+        , order(readingOrder)
+        , known(std::move(before))
     {}
-    Work(const LoadedFiles& known, const TimeCorrections& corrections)
-        : loaded(known), isRead(true), ofCameras(corrections)
+    Work(const LoadedFiles& before, const TimeCorrections& corrections)
+        : loaded(before), isRead(true), ofCameras(corrections)
     {}
 
     void run();
@@ -33,17 +46,22 @@ public:
     ReviewLoader loader = {};
     ReviewData data = {};
     QString error = {};
+    bool hasNewLists = false;
+    bool hasNews = false;
 
 private:
     void read();
+    void readLists();
 
     const FolderCorrections ofFolders = {};
     TimeCorrections ofCameras = {};
+    const ReadingOrder order = {};
+    const LoadedFiles known = {};
 };
 
 void LoadJob::Work::run()
 {
-    if (loaded.files.isEmpty()) {
+    if (loaded.named.isEmpty()) {
         data = SampleData::make();
         return;
     }
@@ -58,32 +76,56 @@ void LoadJob::Work::run()
                     .arg(QDir::toNativeSeparators(loaded.files.footage.first()));
 }
 
+void LoadJob::Work::readLists()
+{
+    const ReviewFiles& files = loaded.files;
+    // Asked first: what is written meanwhile is found the next time.
+    for (const QString& list : {files.recordings, files.deployments, files.events}) {
+        const QFileInfo info(list);
+        loaded.lists.append({list.isEmpty() ? QDateTime() : info.lastModified(), info.size()});
+    }
+    hasNewLists = loaded.lists != known.lists;
+    if (hasNewLists) {
+        error = loader.load(files, loaded.footage.zone());
+        loaded.listed = loader.data();
+    } else {
+        loaded.listed = known.listed;
+    }
+}
+
 void LoadJob::Work::read()
 {
-    const QStringList named = loaded.files.footage + QStringList{loaded.files.unseen};
+    const QStringList named = loaded.named.footage + QStringList{loaded.named.unseen};
     for (const QString& path : named) {
         if (path.isEmpty() || QFileInfo::exists(path))
             continue;
         error = LoadJob::tr("There is no file or folder “%1”.").arg(QDir::toNativeSeparators(path));
         return;
     }
-    loaded.files = loaded.files.located();
+    loaded.files = loaded.named.located();
     const ReviewFiles& files = loaded.files;
     ofCameras = ofFolders.folders.value(files.footageFolder);
     if (!files.footage.isEmpty()) {
-        FootageIndex index(FootageIndex::userFile());
-        FootageScan scan(PathPattern(files.pattern), index, loader.progress());
+        FootageIndex index = known.index ? *known.index : FootageIndex(FootageIndex::userFile());
+        FootageScan scan(PathPattern(files.pattern), index, loader.progress(), order);
         scan.scan(files.footage, loaded.footage);
         index.save();
+        loaded.index = index;
     }
-    error = loader.load(files, loaded.footage.zone());
-    loaded.listed = loader.data();
+    readLists();
+    hasNews = hasNewLists || !loaded.footage.hasSameRecordings(known.footage);
 }
 
 LoadJob::LoadJob(const ReviewFiles& files, const QTimeZone& zone,
-                 const FolderCorrections& corrections, QObject* parent)
-    : LoadJob(std::make_shared<Work>(LoadedFiles{files, {}, Footage(zone)}, corrections), {},
-              parent)
+                 const FolderCorrections& corrections, const ReadingOrder& order, QObject* parent)
+    : LoadJob(std::make_shared<Work>(begun(files, zone), corrections, order), {}, parent)
+{}
+
+LoadJob::LoadJob(const LoadedFiles& known, const FolderCorrections& corrections,
+                 const ReadingOrder& order, QObject* parent)
+    : LoadJob(std::make_shared<Work>(begun(known.named, known.footage.zone()), corrections, order,
+                                     known),
+              {}, parent)
 {}
 
 LoadJob::LoadJob(const LoadedFiles& known, const TimeCorrections& corrections, QObject* parent)
@@ -93,7 +135,7 @@ LoadJob::LoadJob(const LoadedFiles& known, const TimeCorrections& corrections, Q
 LoadJob::LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, QObject* parent)
     : QObject(parent)
     , m_work(std::move(work))
-    , m_files(m_work->loaded.files)
+    , m_files(m_work->loaded.named)
     , m_corrections(corrections)
     , m_isCorrection(m_work->isRead)
     , m_thread(QThread::create([work = m_work] { work->run(); }))
@@ -144,6 +186,16 @@ const LoadedFiles& LoadJob::read() const
 const ProblemList& LoadJob::problems() const
 {
     return m_work->loader.problems();
+}
+
+bool LoadJob::hasNewLists() const
+{
+    return m_work->hasNewLists;
+}
+
+bool LoadJob::hasNews() const
+{
+    return m_work->hasNews;
 }
 
 QString LoadJob::error() const

@@ -2,20 +2,29 @@
 
 #include "data/reviewloader.h"
 #include "footage.h"
+#include "footagescan.h"
 
 #include <QObject>
 #include <QThread>
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace Review {
 
 /// What was read, before recordings that were found in folders are put to their times.
 struct LoadedFiles
 {
+    /// What the user named.
+    ReviewFiles named = {};
+    /// What was found there.
     ReviewFiles files = {};
     ReviewData listed = {};
+    /// When the lists in it were changed last, and how long they were.
+    QList<std::pair<QDateTime, qint64>> lists = {};
     Footage footage = {};
+    std::optional<FootageIndex> index = {};
 };
 
 /// Loads files, and finds those in folders, on a thread of its own, so that the window stays alive.
@@ -27,7 +36,12 @@ public:
     /// Loads the sample when no file is named. Recordings whose times are without an offset were
     /// made in @p zone.
     LoadJob(const ReviewFiles& files, const QTimeZone& zone,
-            const FolderCorrections& corrections = {}, QObject* parent = nullptr);
+            const FolderCorrections& corrections = {}, const ReadingOrder& order = {},
+            QObject* parent = nullptr);
+    /// Looks again at what was read before: for what was added to lists, for files that are new,
+    /// and for those that were not read yet.
+    LoadJob(const LoadedFiles& known, const FolderCorrections& corrections,
+            const ReadingOrder& order, QObject* parent = nullptr);
     /// Corrects the times of what was read before.
     LoadJob(const LoadedFiles& known, const TimeCorrections& corrections,
             QObject* parent = nullptr);
@@ -53,6 +67,10 @@ public:
     const TimeCorrections& corrections() const { return m_corrections; }
     /// Whether nothing is new but the times.
     bool isCorrection() const { return m_isCorrection; }
+    /// Whether the lists were read, and not those known that have not changed.
+    bool hasNewLists() const;
+    /// Whether a second look found anything that was not known.
+    bool hasNews() const;
 
 Q_SIGNALS:
     /// Emitted once, from the event loop of the thread that made the job. When cancelled, nothing

@@ -56,6 +56,13 @@ DeviceItem::DeviceItem(QTreeWidgetItem* group, quint32 address, const DeviceMome
     showTexts();
 }
 
+void DeviceItem::setTrack(const TrackDescription& track)
+{
+    m_track = track;
+    m_history = TrackHistory(track);
+    showTexts();
+}
+
 void DeviceItem::showTexts()
 {
     setText(Name, m_track.name);

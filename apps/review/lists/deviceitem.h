@@ -38,6 +38,8 @@ public:
     const CorvelGui::TrackDescription& track() const { return m_track; }
     std::optional<quint32> address() const { return m_address; }
     const TrackHistory& history() const { return m_history; }
+    /// What is known of the same track now.
+    void setTrack(const CorvelGui::TrackDescription& track);
     TrackState stateAt(qint64 msecs) const { return m_history.stateAt(msecs); }
 
     /// Writes all columns again.
@@ -53,8 +55,8 @@ protected:
 private:
     qint64 sortValue(int column) const;
 
-    const CorvelGui::TrackDescription m_track;
-    const TrackHistory m_history;
+    CorvelGui::TrackDescription m_track;
+    TrackHistory m_history;
     const std::optional<quint32> m_address;
     /// Where it stands while nothing is sorted.
     const qint64 m_place;

@@ -81,6 +81,8 @@ void DeviceTree::setReview(const ReviewData& review)
 {
     const QSet<QString> unchecked = uncheckedTracks();
     const QSignalBlocker blocker(this);
+    if (renewTracks(review))
+        return;
     m_cameras->DeleteAllChildren();
     QSet<quint32> taken;
     for (const TrackDescription& track : review.tracks) {
@@ -99,6 +101,26 @@ void DeviceTree::setReview(const ReviewData& review)
     fitColumns();
 }
 
+bool DeviceTree::renewTracks(const ReviewData& review)
+{
+    const QList<DeviceItem*> cameras = devicesOf(m_cameras);
+    QHash<QString, const TrackDescription*> tracks;
+    for (const TrackDescription& track : review.tracks)
+        tracks.insert(track.identifier, &track);
+    const auto isTold = [&tracks](const DeviceItem* device) {
+        const TrackDescription* track = tracks.value(device->track().identifier);
+        return track && track->name == device->track().name;
+    };
+    if (cameras.isEmpty() || cameras.size() != tracks.size() ||
+        !std::ranges::all_of(cameras, isTold))
+        return false;
+    for (DeviceItem* device : cameras)
+        device->setTrack(*tracks[device->track().identifier]);
+    sortGroups();
+    showRows(m_filter);
+    return true;
+}
+
 void DeviceTree::fitColumns()
 {
     constexpr int roomForBold = 12;
@@ -106,7 +128,8 @@ void DeviceTree::fitColumns()
         resizeColumnToContentsWithOffset(column, column == DeviceItem::Name ? roomForBold : 0);
     // The state changes while the time goes on; the column does not.
     int widest = 0;
-    for (const TrackState state : {TrackState::Recorded, TrackState::Gap, TrackState::NothingKnown})
+    for (const TrackState state :
+         {TrackState::Recorded, TrackState::Gap, TrackState::Loading, TrackState::NothingKnown})
         widest = std::max(widest, fontMetrics().horizontalAdvance(StateSign::text(state)));
     constexpr int signAndMargins = 44;
     setColumnWidth(DeviceItem::State,

@@ -69,6 +69,9 @@ private:
     void showChecksOfGroup();
     void sortGroups();
     void showTexts();
+    /// Where the cameras are the same: rows, columns and what is selected stay. Returns whether
+    /// they are.
+    bool renewTracks(const ReviewData& review);
     void fitColumns();
     void remove(const QList<DeviceItem*>& added);
 

@@ -28,6 +28,18 @@ bool EventList::setHiddenTracks(const QSet<QString>& identifiers)
     return m_hidden != before;
 }
 
+bool EventList::continues(const EventList& other) const
+{
+    const auto isHidden = [](const EventList& list, qsizetype track) {
+        return list.m_hidden.testBit(track);
+    };
+    for (qsizetype track = 0; track < other.m_hidden.size() && track < m_hidden.size(); ++track) {
+        if (isHidden(*this, track) != isHidden(other, track))
+            return false;
+    }
+    return m_events.startsWith(other.m_events);
+}
+
 QList<qsizetype> EventList::eventsIn(const TimeSpan& span) const
 {
     QList<qsizetype> events;

@@ -11,12 +11,29 @@ EventModel::EventModel(QObject* parent)
 void EventModel::setEvents(const EventList& events, const TimeTexts& times)
 {
     beginResetModel();
+    take(events, times);
+    endResetModel();
+}
+
+bool EventModel::addEvents(const EventList& events, const TimeTexts& times)
+{
+    const qsizetype before = m_events.size();
+    const qsizetype now = events.events().size();
+    if (before == 0 || now == before || !events.events().startsWith(m_events))
+        return false;
+    beginInsertRows({}, int(before), int(now) - 1);
+    take(events, times);
+    endInsertRows();
+    return true;
+}
+
+void EventModel::take(const EventList& events, const TimeTexts& times)
+{
     m_events = events.events();
     m_texts = EventTexts(events, times);
     m_kinds.clear();
     for (const QString& kind : m_events.kinds())
         m_kinds.append(EventKinds::parse(kind));
-    endResetModel();
 }
 
 void EventModel::renewTexts(const EventList& events, const TimeTexts& times)

@@ -16,6 +16,9 @@ public:
     explicit EventModel(QObject* parent = nullptr);
 
     void setEvents(const EventList& events, const TimeTexts& times);
+    /// The same where there are more events behind those before; these stay. Otherwise it does
+    /// nothing, and returns false.
+    bool addEvents(const EventList& events, const TimeTexts& times);
     /// The same events say something else now: the clock or the language is another.
     void renewTexts(const EventList& events, const TimeTexts& times);
     const EventTexts& texts() const { return m_texts; }
@@ -26,6 +29,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    void take(const EventList& events, const TimeTexts& times);
+
     Events m_events;
     EventTexts m_texts;
     QList<EventKind> m_kinds; ///< by their numbers

@@ -27,7 +27,7 @@ public:
     /// @p clock must live longer.
     explicit EventPane(const Clock& clock, QWidget* parent = nullptr);
 
-    /// Replaces all events.
+    /// Replaces all events. Where there are only new ones behind them, the others stay.
     void setReview(const ReviewData& review);
 
     /// All events. The filter field does not matter here.

@@ -47,12 +47,16 @@ EventTable::EventTable(QWidget* parent)
 
 void EventTable::setEvents(const EventList& events, const TimeTexts& times)
 {
-    m_current = -1;
     m_rows->setFilter({}); // it knows the events before
-    m_events->setEvents(events, times);
+    const bool goesOn = m_events->addEvents(events, times);
+    if (!goesOn) {
+        m_current = -1;
+        m_events->setEvents(events, times);
+    }
     showOptional(EventTexts::Duration, events.events().haveDurations());
     showOptional(EventTexts::Severity, events.events().haveSeverities());
-    fitColumns();
+    if (!goesOn)
+        fitColumns();
 }
 
 // It goes and comes with what it says, and stays as the user wants it until then.

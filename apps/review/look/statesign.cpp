@@ -15,6 +15,8 @@ QString StateSign::text(TrackState state)
         return tr("Recorded");
     case TrackState::Gap:
         return tr("No recording");
+    case TrackState::Loading:
+        return tr("Not known yet");
     case TrackState::NothingKnown:
         break;
     }
@@ -31,6 +33,9 @@ void StateSign::paint(QPainter& painter, const QRectF& area, TrackState state, c
     case TrackState::Gap:
         painter.setPen(QPen(line, 1));
         painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));
+        break;
+    case TrackState::Loading:
+        painter.fillRect(area, QBrush(line, Qt::BDiagPattern));
         break;
     case TrackState::NothingKnown:
         painter.setPen(QPen(line, 1, Qt::DotLine));

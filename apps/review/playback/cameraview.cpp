@@ -33,6 +33,7 @@ void CameraView::setCamera(const std::optional<Camera>& camera, qint64 cacheByte
 {
     const bool sameFiles = m_camera && camera && m_camera->files == camera->files;
     const bool sameDecoder = m_decoder && sameFiles && cacheBytes == m_cacheBytes;
+    const bool sameCamera = m_camera && camera && m_camera->name == camera->name;
     m_camera = camera;
     m_cacheBytes = cacheBytes;
     if (sameDecoder) {
@@ -43,8 +44,11 @@ void CameraView::setCamera(const std::optional<Camera>& camera, qint64 cacheByte
     }
     m_patience.stop();
     m_decoder.reset();
-    m_frame = {};
-    showPicture({});
+    // Of one that still records the picture stays until the next one.
+    if (!sameCamera) {
+        m_frame = {};
+        showPicture({});
+    }
     if (!camera)
         return;
     m_decoder = std::make_unique<CameraDecoder>(camera->files, cacheBytes);

@@ -79,20 +79,34 @@ void PlaybackPane::setTracks(const QList<TrackDescription>& tracks)
 {
     m_tracks = tracks;
     QStringList identifiers;
-    {
-        const QSignalBlocker blocker(m_cameras);
-        m_cameras->clear();
-        for (const TrackDescription& track : tracks) {
-            m_cameras->addItem(track.name.simplified(), track.identifier);
-            identifiers.append(track.identifier);
-        }
-        m_cameras->setEnabled(!tracks.isEmpty());
+    QStringList names;
+    for (const TrackDescription& track : tracks) {
+        identifiers.append(track.identifier);
+        names.append(track.name.simplified());
     }
+    offer(identifiers, names);
     const QString before = m_selection.camera();
     m_selection.setCameras(identifiers);
     // What is known of the same camera may be new.
     if (m_selection.camera() == before)
         chooseCamera();
+}
+
+void PlaybackPane::offer(const QStringList& identifiers, const QStringList& names)
+{
+    m_cameras->setEnabled(!names.isEmpty());
+    QStringList offered;
+    for (int i = 0; i < m_cameras->count(); ++i)
+        offered += {m_cameras->itemData(i).toString(), m_cameras->itemText(i)};
+    QStringList wanted;
+    for (qsizetype i = 0; i < names.size(); ++i)
+        wanted += {identifiers[i], names[i]};
+    if (offered == wanted)
+        return; // it may be open
+    const QSignalBlocker blocker(m_cameras);
+    m_cameras->clear();
+    for (qsizetype i = 0; i < names.size(); ++i)
+        m_cameras->addItem(names[i], identifiers[i]);
 }
 
 void PlaybackPane::setFiles(const QHash<QString, QList<VideoFile>>& files)

@@ -65,6 +65,7 @@ private:
     void addView();
     void pressView(const CameraView* view);
     void enlarge(const CameraView* view);
+    void offer(const QStringList& identifiers, const QStringList& names);
     void chooseCamera();
     void showCameras();
     void showMoment();

@@ -66,6 +66,11 @@ Player::Player(Selection& selection, PPlaybar* bar, QObject* parent, MonotonicCl
 void Player::setPeriod(const TimeSpan& period)
 {
     pause();
+    extendPeriod(period);
+}
+
+void Player::extendPeriod(const TimeSpan& period)
+{
     m_period = period;
     m_clock.setLimits(period);
 }

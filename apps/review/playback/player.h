@@ -31,6 +31,8 @@ public:
 
     /// Pauses, and plays from begin to end of @p period from now on.
     void setPeriod(const CorvelGui::TimeSpan& period);
+    /// The period has become longer; it plays on.
+    void extendPeriod(const CorvelGui::TimeSpan& period);
     /// The track whose begin and end have buttons, and whose gaps can be skipped; null for none.
     void setTrack(const TrackHistory* track);
     void setSkippingGaps(bool skip);

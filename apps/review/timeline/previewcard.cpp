@@ -81,9 +81,10 @@ void PreviewCard::setContent(const PreviewContent& content)
     addRest(content.events.size() + content.furtherEvents - mostEvents);
 
     for (const auto& track : content.tracks.first(std::min(mostTracks, content.tracks.size()))) {
-        const QString remark = track.state == TrackState::Recorded ? tr("recorded")
-                               : track.state == TrackState::Gap    ? tr("no recording")
-                                                                   : tr("nothing known");
+        const QString remark = track.state == TrackState::Recorded  ? tr("recorded")
+                               : track.state == TrackState::Gap     ? tr("no recording")
+                               : track.state == TrackState::Loading ? tr("not known yet")
+                                                                    : tr("nothing known");
         m_lines.append({.sign = Line::Sign::Track,
                         .state = track.state,
                         .text = track.name,

@@ -81,6 +81,14 @@ void RangePanel::setPeriod(const TimeSpan& period)
     setRange(period);
 }
 
+void RangePanel::extendPeriod(const TimeSpan& period)
+{
+    const bool wasAll = !m_isTyped && range() == m_period;
+    m_period = period;
+    if (wasAll)
+        setRange(period);
+}
+
 TimeSpan RangePanel::range() const
 {
     const auto inPeriod = [this](qint64 msecs) {

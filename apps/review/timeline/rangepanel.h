@@ -28,6 +28,9 @@ public:
     /// Ranges beyond @p period are not asked for.
     void setPeriod(const CorvelGui::TimeSpan& period);
 
+    /// The period has become another one; what was typed stays, unless it was all of it.
+    void extendPeriod(const CorvelGui::TimeSpan& period);
+
     /// What is in the edits, within the period.
     CorvelGui::TimeSpan range() const;
     void setRange(const CorvelGui::TimeSpan& range);

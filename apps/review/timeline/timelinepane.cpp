@@ -76,6 +76,7 @@ TimelinePane::TimelinePane(const Clock& clock, Selection& selection, QWidget* pa
             [this](qint64 msecs, int x, const TimeSpan& symbol) {
                 Q_EMIT previewChanged(msecs, m_ruler->mapTo(this, QPoint(x, 0)), symbol);
             });
+    connect(m_ruler, &Ruler::viewSettled, this, &TimelinePane::viewSettled);
     connect(m_ruler, &Ruler::zoomHistoryMoved, this, &TimelinePane::viewChanged);
     connect(m_timeline, &ZoomTimeline::contextRequested, this, &TimelinePane::openMenu);
     connect(m_ruler, &Ruler::selectedRangeChanged, this, &TimelinePane::selectedRangeChanged);
@@ -103,6 +104,17 @@ void TimelinePane::setPeriod(const TimeSpan& period)
     else
         showWholePeriod();
     m_ruler->setZoomHistory(true);
+}
+
+void TimelinePane::extendPeriod(const TimeSpan& period)
+{
+    const bool showedAll = showsWholePeriod();
+    m_timeline->setTimeLimits(quint64(period.begin), quint64(period.end));
+    // Less than a pixel waits for more.
+    const auto [begin, end] = m_ruler->getTimeLimits();
+    m_period = {.begin = qint64(begin), .end = qint64(end)};
+    if (showedAll && !showsWholePeriod())
+        showWholePeriod();
 }
 
 void TimelinePane::setTracks(const QList<TrackDescription>& tracks)

@@ -33,6 +33,8 @@ public:
     /// Sets the limits and shows the whole period, without ranges. Without a period, the timeline
     /// is empty. The moment stays, and should be put into the period next.
     void setPeriod(const CorvelGui::TimeSpan& period);
+    /// More is known of the same recordings: the view stays, unless it shows all of them.
+    void extendPeriod(const CorvelGui::TimeSpan& period);
     void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
     void clearMarkers();
     void addMarkers(const QList<CorvelGui::RulerMarker>& markers);
@@ -93,6 +95,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Emitted whenever view() may have changed, and with it what can be done to it.
     void viewChanged();
+    /// Emitted when the view has come to rest.
+    void viewSettled(const CorvelGui::TimeSpan& view);
     /// Emitted when a marker was pressed or opened; its moment is the selected one already.
     void markerChosen(const QUuid& identifier);
     /// Emitted when selectedRange() changed, also while the user drags it.

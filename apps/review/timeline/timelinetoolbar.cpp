@@ -36,6 +36,8 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     // In menus only.
     m_previous = new QAction(this);
     m_next = new QAction(this);
+    m_newest = new QAction(this);
+    m_newest->setObjectName(u"newestRecording"_s);
     for (QAction** action :
          {&m_dragSelects, &m_showActivity, &m_showLanes, &m_showEventDetails, &m_freeZoom}) {
         *action = new QAction(this);
@@ -51,6 +53,7 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
     m_earlier->setShortcut(Qt::ALT | Qt::Key_Left);
     m_later->setShortcut(Qt::ALT | Qt::Key_Right);
     m_moment->setShortcut(Qt::CTRL | Qt::Key_T);
+    m_newest->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_L);
 
     connect(m_zoomIn, &QAction::triggered, timeline, &TimelinePane::zoomIn);
     connect(m_zoomOut, &QAction::triggered, timeline, &TimelinePane::zoomOut);
@@ -75,24 +78,11 @@ TimelineToolBar::TimelineToolBar(TimelinePane* timeline, QWidget* parent)
 
 QList<QAction*> TimelineToolBar::viewActions() const
 {
-    return {m_zoomIn,
-            m_zoomOut,
-            m_wholePeriod,
-            m_previous,
-            m_next,
-            m_freeZoom,
-            nullptr,
-            m_earlier,
-            m_later,
-            m_moment,
-            m_follow->menuAction(),
-            nullptr,
-            m_showMarkers,
-            m_showRanges,
-            m_dragSelects,
-            m_showActivity,
-            m_showLanes,
-            m_showEventDetails};
+    return {m_zoomIn,       m_zoomOut,     m_wholePeriod,     m_previous,
+            m_next,         m_freeZoom,    nullptr,           m_earlier,
+            m_later,        m_moment,      m_newest,          m_follow->menuAction(),
+            nullptr,        m_showMarkers, m_showRanges,      m_dragSelects,
+            m_showActivity, m_showLanes,   m_showEventDetails};
 }
 
 void TimelineToolBar::retranslate()
@@ -108,6 +98,7 @@ void TimelineToolBar::retranslate()
     m_later->setText(tr("Later"));
     m_moment->setText(tr("Current time"));
     m_moment->setToolTip(tr("Brings the time that is shown back into the view of the timeline"));
+    m_newest->setText(tr("Newest recording"));
     m_showMarkers->setText(tr("Events"));
     m_showMarkers->setToolTip(tr("Shows the events on the timeline"));
     m_showRanges->setText(tr("Ranges"));
@@ -128,6 +119,7 @@ void TimelineToolBar::showState()
     m_earlier->setEnabled(m_timeline->canStepEarlier());
     m_later->setEnabled(m_timeline->canStepLater());
     m_moment->setEnabled(!m_timeline->isFollowing());
+    m_newest->setEnabled(!m_timeline->view().isEmpty());
 }
 
 } // namespace Review

@@ -20,6 +20,8 @@ public:
 
     /// The actions as a menu shows them, with null pointers for separators.
     QList<QAction*> viewActions() const;
+    /// Goes to the newest recording.
+    QAction* newest() const { return m_newest; }
     /// Checkable: whether the panel for ranges is shown.
     QAction* showRanges() const { return m_showRanges; }
     /// Checkable: whether the overview shows what is recorded and how much happens.
@@ -50,6 +52,7 @@ private:
     QAction* m_earlier;
     QAction* m_later;
     QAction* m_moment;
+    QAction* m_newest;
     FollowMenu* m_follow;
     QAction* m_showMarkers;
     QAction* m_showRanges;

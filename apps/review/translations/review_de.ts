@@ -81,6 +81,10 @@
         <source>No picture</source>
         <translation>Kein Bild</translation>
     </message>
+    <message>
+        <source>What was recorded at this time is not known yet</source>
+        <translation>Was zu dieser Zeit aufgezeichnet wurde, ist noch nicht bekannt</translation>
+    </message>
 </context>
 <context>
     <name>Review::CameraTimesDialog</name>
@@ -417,6 +421,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}, and {camera} at most once.</source>
         <translation>Falsches Muster „%1“: Es braucht {yyyy}, {MM} und {dd}, und {camera} höchstens einmal.</translation>
+    </message>
+    <message>
+        <source>Follows what is being recorded.</source>
+        <translation>Verfolgt, was gerade aufgezeichnet wird.</translation>
     </message>
 </context>
 <context>
@@ -1113,6 +1121,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>nothing known</source>
         <translation>nichts bekannt</translation>
     </message>
+    <message>
+        <source>not known yet</source>
+        <translation>noch nicht bekannt</translation>
+    </message>
 </context>
 <context>
     <name>Review::ProblemDock</name>
@@ -1330,6 +1342,14 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>&amp;Times of recordings…</source>
         <translation>&amp;Zeiten der Aufnahmen …</translation>
     </message>
+    <message>
+        <source>Fo&amp;llow what is being recorded</source>
+        <translation>&amp;Laufende Aufzeichnung verfolgen</translation>
+    </message>
+    <message>
+        <source>Looks for new recordings and events every few seconds</source>
+        <translation>Sucht alle paar Sekunden nach neuen Aufzeichnungen und Ereignissen</translation>
+    </message>
 </context>
 <context>
     <name>Review::ReviewOpener</name>
@@ -1489,6 +1509,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Nothing known</source>
         <translation>Nichts bekannt</translation>
+    </message>
+    <message>
+        <source>Not known yet</source>
+        <translation>Noch nicht bekannt</translation>
     </message>
 </context>
 <context>
@@ -1660,6 +1684,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Drag to select a range</source>
         <translation>Durch Ziehen einen Bereich wählen</translation>
+    </message>
+    <message>
+        <source>Newest recording</source>
+        <translation>Neueste Aufzeichnung</translation>
     </message>
 </context>
 <context>

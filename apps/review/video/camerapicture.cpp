@@ -26,6 +26,9 @@ QString explanation(const VideoFrame& frame, TrackState state)
         return translated(QT_TRANSLATE_NOOP("Review::CameraPicture", "No picture"));
     case TrackState::Gap:
         return translated(QT_TRANSLATE_NOOP("Review::CameraPicture", "No recording at this time"));
+    case TrackState::Loading:
+        return translated(QT_TRANSLATE_NOOP("Review::CameraPicture",
+                                            "What was recorded at this time is not known yet"));
     case TrackState::NothingKnown:
         break;
     }

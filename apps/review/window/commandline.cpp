@@ -98,6 +98,7 @@ QList<QCommandLineOption> CommandLine::options()
             "{camera}/{yyyy}-{MM}-{dd}/{HH}/{mm}.{ss}.mp4. Without one, the common ways are "
             "known."),
          tr("pattern")},
+        {u"follow"_s, tr("Follows what is being recorded.")},
         {u"zone"_s, tr("Time zone, such as Europe/Brussels."), tr("name")},
         {u"look"_s, tr("Look of the window: dark or light."), tr("look")},
         {u"language"_s, tr("Language of the window: de or en."), tr("key")},
@@ -111,7 +112,7 @@ QString CommandLine::takeArguments(const QCommandLineParser& parser)
 {
     const QStringList paths = parser.positionalArguments();
     for (const QString& option : parser.optionNames()) {
-        if (parser.value(option).isEmpty())
+        if (option != "follow"_L1 && parser.value(option).isEmpty())
             return tr("The option --%1 needs a value.").arg(option);
     }
 
@@ -128,6 +129,7 @@ QString CommandLine::takeArguments(const QCommandLineParser& parser)
     if (!files.pattern.isEmpty() && !PathPattern(files.pattern).isValid())
         return tr("Bad pattern “%1”: it needs {yyyy}, {MM} and {dd}, and {camera} at most once.")
             .arg(files.pattern);
+    m_arguments.follow = parser.isSet(u"follow"_s);
     m_arguments.picture = parser.value(u"picture"_s);
     m_arguments.settings = parser.value(u"settings"_s);
     if (const QString zone = parser.value(u"zone"_s); !zone.isEmpty()) {

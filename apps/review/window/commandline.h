@@ -18,6 +18,8 @@ namespace Review {
 struct Arguments
 {
     ReviewFiles files;
+    /// Whether it follows what is being recorded.
+    bool follow = false;
     /// Empty for the settings of this user, or for none when a picture is written.
     QString settings;
     /// What holds instead of the settings.

@@ -26,11 +26,24 @@ MarkerFeed::MarkerFeed(TimelinePane* timeline) : QObject(timeline), m_timeline(t
 void MarkerFeed::show(const EventList& events)
 {
     m_timeline->clearMarkers();
+    m_next = 0;
+    begin(events);
+}
+
+void MarkerFeed::goOn(const EventList& events)
+{
+    if (events.continues(m_events))
+        begin(events);
+    else
+        show(events);
+}
+
+void MarkerFeed::begin(const EventList& events)
+{
     m_events = events;
     m_kinds.clear();
     for (const QString& kind : m_events.events().kinds())
         m_kinds.append(EventKinds::parse(kind));
-    m_next = 0;
     m_timer.start(0);
     feed();
 }

@@ -22,6 +22,8 @@ public:
 
     /// Replaces all markers by those of the events that are not left out.
     void show(const EventList& events);
+    /// The same where there are none before those that are shown already: these stay.
+    void goOn(const EventList& events);
     /// Whether there are markers still to come.
     bool isBusy() const { return m_timer.isActive(); }
 
@@ -31,6 +33,7 @@ Q_SIGNALS:
 
 private:
     QString text(const CorvelGui::RulerMarker& marker) const override;
+    void begin(const EventList& events);
     void feed();
 
     TimelinePane* const m_timeline;

@@ -19,6 +19,10 @@ ReviewMenuBar::ReviewMenuBar(const EventPane& events, const DevicePane& devices,
     m_open = m_file->addAction(QString());
     m_open->setShortcut(QKeySequence::Open);
     m_openFiles = m_file->addAction(QString());
+    m_follow = m_file->addAction(QString());
+    m_follow->setObjectName(u"followRecording"_s);
+    m_follow->setCheckable(true);
+    m_follow->setShortcut(Qt::CTRL | Qt::Key_L);
     m_cameraTimes = m_file->addAction(QString());
     m_cameraTimes->setObjectName(u"cameraTimes"_s);
     m_cameraTimes->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_T);
@@ -74,6 +78,8 @@ void ReviewMenuBar::retranslate()
     m_file->setTitle(tr("&File"));
     m_open->setText(tr("&Open folder…"));
     m_openFiles->setText(tr("Open &files…"));
+    m_follow->setText(tr("Fo&llow what is being recorded"));
+    m_follow->setStatusTip(tr("Looks for new recordings and events every few seconds"));
     m_cameraTimes->setText(tr("&Times of recordings…"));
     m_savePicture->setText(tr("&Save picture…"));
     m_copyPicture->setText(tr("&Copy picture"));

@@ -22,6 +22,8 @@ public:
 
     QAction* open() const { return m_open; }
     QAction* openFiles() const { return m_openFiles; }
+    /// Checkable: whether what is being recorded is followed.
+    QAction* follow() const { return m_follow; }
     QAction* cameraTimes() const { return m_cameraTimes; }
     QAction* exportClips() const { return m_exportClips; }
     QAction* exportPictures() const { return m_exportPictures; }
@@ -40,6 +42,7 @@ private:
     QMenu* m_file;
     QAction* m_open;
     QAction* m_openFiles;
+    QAction* m_follow;
     QAction* m_cameraTimes;
     QAction* m_exportClips;
     QAction* m_exportPictures;

@@ -21,6 +21,8 @@ namespace Review {
 namespace {
 
 constexpr std::chrono::milliseconds quickLoad(200);
+/// Files in folders that are not read by then are read later.
+constexpr std::chrono::milliseconds longestLoad(2'000);
 
 } // namespace
 
@@ -33,7 +35,8 @@ ReviewOpener::~ReviewOpener() = default;
 void ReviewOpener::load(const ReviewFiles& files)
 {
     m_pattern = files.pattern;
-    start(std::make_unique<LoadJob>(files, m_clock.times().zone(), m_corrections));
+    start(std::make_unique<LoadJob>(files, m_clock.times().zone(), m_corrections,
+                                    ReadingOrder{.patience = longestLoad}));
 }
 
 void ReviewOpener::correct(const TimeCorrections& corrections)

@@ -110,6 +110,7 @@ void ReviewPanes::connectPlayer()
         m_hover->setFiles(camera ? camera->files : QList<VideoFile>());
     });
     connect(m_playback, &PlaybackPane::settled, this, &ReviewPanes::tellSettled);
+    connect(&m_selection, &Selection::momentChanged, this, [this] { m_isNewest = false; });
     connect(m_player, &Player::fastChanged, m_playback, &PlaybackPane::setOnlyKeyFrames);
     connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
     connect(m_player, &Player::playingChanged, m_transport->timeView(),
@@ -157,6 +158,48 @@ void ReviewPanes::setTexts(const ReviewData& review)
     m_events->setReview(m_review);
     m_playback->setFiles(m_review.files);
     showCheckedTracks();
+}
+
+void ReviewPanes::renew(const ReviewData& review, bool newLists)
+{
+    const TimeSpan period = review.period();
+    const bool wasNewest = m_isNewest;
+    m_review = review;
+    m_player->extendPeriod(period);
+    m_transport->setPeriod(period);
+    m_ranges->extendPeriod(period);
+    m_timeline->extendPeriod(period);
+    m_devices->setReview(m_review);
+    m_playback->setFiles(m_review.files);
+    if (newLists)
+        m_events->setReview(m_review);
+    showTracks();
+    m_markers->goOn(m_events->events());
+    if (wasNewest && !m_selection.isHeld())
+        goToNewest();
+}
+
+qint64 ReviewPanes::newest() const
+{
+    const Camera* camera = m_playback->camera();
+    const bool hasRecording = camera && !camera->history.recorded().isEmpty();
+    // The end itself is no longer in it.
+    return (hasRecording ? camera->history.recorded().last() : m_review.period()).end - 1;
+}
+
+void ReviewPanes::goToNewest()
+{
+    m_selection.setMoment(newest());
+    m_isNewest = true;
+}
+
+void ReviewPanes::showNewest()
+{
+    if (m_review.period().isEmpty())
+        return;
+    m_player->pause();
+    goToNewest();
+    m_timeline->showMoment();
 }
 
 void ReviewPanes::showMiddleDay()
@@ -220,10 +263,15 @@ void ReviewPanes::retranslate()
 
 void ReviewPanes::showCheckedTracks()
 {
+    showTracks();
+    m_markers->show(m_events->events());
+}
+
+void ReviewPanes::showTracks()
+{
     m_timeline->setTracks(m_devices->checkedTracks());
     m_playback->setTracks(m_devices->checkedTracks());
     m_events->setHiddenTracks(m_devices->uncheckedTracks());
-    m_markers->show(m_events->events());
 }
 
 void ReviewPanes::openEvent(qsizetype event)

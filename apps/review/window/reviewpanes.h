@@ -36,10 +36,17 @@ public:
     void setReview(const ReviewData& review);
     /// Replaces what differs in times. View, moment and camera stay as far as they can.
     void setTimes(const ReviewData& review);
+    /// Shows what is known by now of the same recordings and, with @p newLists, events. View and
+    /// moment stay; but the moment of showNewest() goes on to what is the newest now.
+    void renew(const ReviewData& review, bool newLists);
     /// Replaces what differs in names and texts only. View and moment stay.
     void setTexts(const ReviewData& review);
     /// Shows the day in the middle of the period, with the indicator on the first event after noon.
     void showMiddleDay();
+
+    /// Goes to the end of the last recording of the camera and, if the view follows the moment,
+    /// lets it follow from there. The moment stays the newest until somebody sets another one.
+    void showNewest();
 
     const DevicePane& devices() const { return *m_devices; }
     const EventPane& events() const { return *m_events; }
@@ -75,7 +82,10 @@ private:
     void connectPlayer();
     void tellSettled();
 
+    qint64 newest() const;
+    void goToNewest();
     void showCheckedTracks();
+    void showTracks();
     void openEvent(qsizetype event);
     void openNextEvent(qint64 msecs, int direction);
     void showCameraOf(qsizetype event);
@@ -84,6 +94,7 @@ private:
     const Clock& m_clock;
     Selection& m_selection;
     ReviewData m_review;
+    bool m_isNewest = false; ///< the moment
 
     QSplitter* m_tables;
     DevicePane* m_devices;

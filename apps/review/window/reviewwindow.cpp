@@ -14,6 +14,7 @@
 #include "playback/player.h"
 #include "playback/speedmenu.h"
 #include "playback/transportbar.h"
+#include "recordingwatch.h"
 #include "reviewmenubar.h"
 #include "reviewopener.h"
 #include "reviewpanes.h"
@@ -68,6 +69,7 @@ ReviewWindow::ReviewWindow(const QString& zoneName, bool dark, QWidget* parent)
     , m_updates(new UpdateMenu(this, m_status))
     , m_help(new HelpMenu(this))
     , m_opener(new ReviewOpener(this, m_clock))
+    , m_watch(new RecordingWatch(m_opener))
 {
     createDarkFusionStyle(dark);
     setCentralWidget(m_panes);
@@ -130,7 +132,18 @@ void ReviewWindow::showLoaded(const LoadJob& job)
     showTitle();
     tellTimeSources(job.read().footage);
     m_menus->cameraTimes()->setEnabled(!job.read().footage.isEmpty());
+    if (m_watch->isFollowing())
+        m_panes->showNewest();
     Q_EMIT loaded({});
+}
+
+void ReviewWindow::showFound(const LoadJob& job)
+{
+    m_panes->renew(job.data(), job.hasNewLists());
+    m_status->setCounts(job.data());
+    if (job.hasNewLists())
+        m_problems->setProblems(job.problems());
+    m_menus->cameraTimes()->setEnabled(!job.read().footage.isEmpty());
 }
 
 void ReviewWindow::tellTimeSources(const Footage& footage)
@@ -184,7 +197,25 @@ void ReviewWindow::play()
 
 bool ReviewWindow::isBusy() const
 {
-    return m_panes->isBusy();
+    return m_panes->isBusy() || m_watch->isReading();
+}
+
+void ReviewWindow::tellSettled()
+{
+    if (!isBusy())
+        Q_EMIT settled();
+}
+
+void ReviewWindow::follow()
+{
+    m_menus->follow()->setChecked(true);
+}
+
+void ReviewWindow::setFollowing(bool on)
+{
+    m_watch->setFollowing(on);
+    if (on)
+        m_panes->showNewest();
 }
 
 void ReviewWindow::createToolBar(bool dark)
@@ -219,7 +250,12 @@ void ReviewWindow::connectParts()
     connect(m_status->exportPanel(), &ExportPanel::exportingChanged, this,
             &ReviewWindow::enableExport);
     connect(&m_panes->playback(), &PlaybackPane::cameraChanged, this, &ReviewWindow::enableExport);
-    connect(m_panes, &ReviewPanes::settled, this, &ReviewWindow::settled);
+    connect(m_panes, &ReviewPanes::settled, this, &ReviewWindow::tellSettled);
+    connect(m_watch, &RecordingWatch::finished, this, &ReviewWindow::tellSettled);
+    connect(m_watch, &RecordingWatch::found, this, &ReviewWindow::showFound);
+    connect(m_panes->timeline(), &TimelinePane::viewSettled, m_watch, &RecordingWatch::setView);
+    connect(m_toolBar->newest(), &QAction::triggered, m_panes, &ReviewPanes::showNewest);
+    connect(m_menus->follow(), &QAction::toggled, this, &ReviewWindow::setFollowing);
     connect(m_menus->quit(), &QAction::triggered, this, &QWidget::close);
     connect(m_panes, &ReviewPanes::told, m_status, &ReviewStatusBar::tell);
     connect(m_toolBar->showRanges(), &QAction::toggled, m_panes->ranges(), &QWidget::setVisible);

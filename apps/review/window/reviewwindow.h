@@ -23,6 +23,7 @@ class Footage;
 class HelpMenu;
 class LoadJob;
 class ProblemDock;
+class RecordingWatch;
 class ReviewMenuBar;
 class ReviewOpener;
 class ReviewPanes;
@@ -52,8 +53,10 @@ public:
     void showMiddleDay();
 
     void play();
+    /// Follows what is being recorded, from the newest moment on.
+    void follow();
 
-    /// Whether pictures of cameras or markers are still to come.
+    /// Whether pictures of cameras, markers or files of folders are still to come.
     bool isBusy() const;
 
     /// For what belongs to the whole program; hidden as long as it is empty.
@@ -89,6 +92,9 @@ private:
     void createToolBar(bool dark);
     void connectParts();
     void showLoaded(const LoadJob& job);
+    void showFound(const LoadJob& job);
+    void setFollowing(bool on);
+    void tellSettled();
     void tellTimeSources(const Footage& footage);
     void correctTimes();
     void showTitle();
@@ -117,6 +123,7 @@ private:
     QAction* m_darkLook;
     ReviewMenuBar* m_menus;
     ReviewOpener* m_opener;
+    RecordingWatch* m_watch;
 };
 
 } // namespace Review
