@@ -9,6 +9,7 @@ namespace NumberedClip {
 
 inline constexpr QSize size(328, 180); // a width that a careless scaler writes beyond
 inline constexpr int frameLength = 40; // milliseconds
+inline constexpr int usualCount = 300; ///< of pictures, 12 seconds
 inline constexpr int bits = 12;
 inline constexpr int block = 20; // pixels
 
