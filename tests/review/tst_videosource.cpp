@@ -33,13 +33,14 @@ private Q_SLOTS:
     void initTestCase();
     void frames_data();
     void frames();
+    void lateFile();
     void newestWins();
     void deletionEndsTheThread();
     void silentShares();
 
 private:
     /// The clip, from its third second on; a gap of a second; the clip from its begin on, said to
-    /// last longer than it does; a picture; and three files with faults.
+    /// last longer than it does; a picture; and files with faults.
     QList<VideoFile> files() const;
 
     QTemporaryDir m_folder;
@@ -51,9 +52,10 @@ void TestVideoSource::initTestCase()
     m_clip = m_folder.filePath(u"clip.mp4"_s);
     QCOMPARE(NumberedClip::write(m_clip, count), QString());
     QVERIFY(picture(77).save(m_folder.filePath(u"picture.JPG"_s), "JPG", 95));
-    for (const QString& name : {u"empty.mp4"_s, u"empty.jpg"_s}) {
+    QVERIFY(NumberedClip::write(m_folder.filePath(u"none.mp4"_s), 0).isEmpty());
+    for (const auto& [name, content] : {std::pair(u"empty.mp4"_s, ""), {u"text.jpg"_s, "text"}}) {
         QFile file(m_folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) >= 0);
     }
 }
 
@@ -64,7 +66,8 @@ QList<VideoFile> TestVideoSource::files() const
     };
     return {{m_folder.filePath(u"missing.mp4"_s), at(84), at(85), 0},
             {m_folder.filePath(u"empty.mp4"_s), at(82), at(83), 0},
-            {m_folder.filePath(u"empty.jpg"_s), at(83), at(84), 0},
+            {m_folder.filePath(u"text.jpg"_s), at(83), at(84), 0},
+            {m_folder.filePath(u"none.mp4"_s), at(85), at(86), 0},
             {m_folder.filePath(u"picture.JPG"_s), at(80), at(82), 0},
             {m_clip, at(0), at(17), 3000},
             {m_clip, at(18), at(78), 0}};
@@ -76,11 +79,14 @@ void TestVideoSource::frames_data()
     QTest::addColumn<VideoFrame::State>("state");
     QTest::addColumn<int>("number");
     QTest::addColumn<qint64>("time");
+    QTest::addColumn<QString>("text");
     const auto row = [](const char* name, qint64 after, int number, qint64 time) {
-        QTest::newRow(name) << after << VideoFrame::State::Picture << number << time;
+        QTest::newRow(name) << after << VideoFrame::State::Picture << number << time << QString();
     };
-    const auto none = [](const char* name, qint64 after, VideoFrame::State state) {
-        QTest::newRow(name) << after << state << 0 << qint64(0);
+    const auto none = [](const char* name, qint64 after, const QString& fault = {}) {
+        const auto state =
+            fault.isEmpty() ? VideoFrame::State::NoRecording : VideoFrame::State::Fault;
+        QTest::newRow(name) << after << state << 0 << qint64(0) << fault;
     };
     row("begin, which is within the clip", 0, 75, 0);
     row("between two pictures", 1'079, 101, 1'040);
@@ -88,13 +94,14 @@ void TestVideoSource::frames_data()
     row("second stretch", 18'000, 0, 18'000);
     row("last picture, shown a little longer", 18'000 + length + 1000, 499, 18'000 + length - 40);
     row("picture file", 81'000, 77, 80'000);
-    none("before all", -1, VideoFrame::State::NoRecording);
-    none("gap", 17'000, VideoFrame::State::NoRecording);
-    none("after all", 85'000, VideoFrame::State::NoRecording);
-    none("shorter than said", 18'000 + length + 20'000, VideoFrame::State::Fault);
-    none("empty clip", 82'000, VideoFrame::State::Fault);
-    none("empty picture", 83'000, VideoFrame::State::Fault);
-    none("missing clip", 84'000, VideoFrame::State::Fault);
+    none("before all", -1);
+    none("gap", 17'000);
+    none("after all", 86'000);
+    none("shorter than said", 18'000 + length + 20'000, u"The file ends before this time."_s);
+    none("empty clip", 82'000, u"The file is empty."_s);
+    none("no picture", 83'000, u"The file is damaged or of an unknown kind."_s);
+    none("missing clip", 84'000, u"The file is missing."_s);
+    none("clip without pictures", 85'000, u"The file has no pictures that can be shown."_s);
 }
 
 void TestVideoSource::frames()
@@ -104,11 +111,21 @@ void TestVideoSource::frames()
     const VideoFrame frame = source.frameAt(begin + after);
     QTEST(frame.state, "state");
     QCOMPARE(frame.asked, begin + after);
-    QCOMPARE(frame.text.isEmpty(), frame.state != VideoFrame::State::Fault);
+    QTEST(frame.text, "text");
     if (frame.state != VideoFrame::State::Picture)
         return;
     QTEST(numberOf(frame.image), "number");
     QTEST(frame.time - begin, "time");
+}
+
+// A share may have been away, and a recorder may not be done with a file.
+void TestVideoSource::lateFile()
+{
+    const QString path = m_folder.filePath(u"late.mp4"_s);
+    VideoSource source({{path, begin, begin + length, 0}}, cacheBytes);
+    QCOMPARE(source.frameAt(begin).state, VideoFrame::State::Fault);
+    QVERIFY(QFile::copy(m_clip, path));
+    QTRY_COMPARE(source.frameAt(begin).state, VideoFrame::State::Picture);
 }
 
 void TestVideoSource::newestWins()

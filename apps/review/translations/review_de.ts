@@ -1710,6 +1710,29 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::UnreadableFile</name>
+    <message>
+        <source>The file is missing.</source>
+        <translation>Die Datei fehlt.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or of an unknown kind.</source>
+        <translation>Die Datei ist beschädigt oder von unbekannter Art.</translation>
+    </message>
+    <message>
+        <source>The file has no pictures that can be shown.</source>
+        <translation>Die Datei enthält keine Bilder, die sich anzeigen lassen.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>Review::UpdateMenu</name>
     <message>
         <source>&amp;Updates</source>
@@ -1768,14 +1791,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>The file ends before this time.</source>
         <translation>Die Datei endet vor dieser Zeit.</translation>
-    </message>
-    <message>
-        <source>The file is missing.</source>
-        <translation>Die Datei fehlt.</translation>
-    </message>
-    <message>
-        <source>The file is damaged or of an unknown kind: %1</source>
-        <translation>Die Datei ist beschädigt oder von unbekannter Art: %1</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "clip.h"
 
 #include "frameconverter.h"
+#include "unreadablefile.h"
 
 #include <algorithm>
 #include <utility>
@@ -36,7 +37,7 @@ Clip::Facts Clip::factsOf(const QString& path, const std::atomic<bool>& aborted)
 {
     Container container;
     if (const int error = container.open(path, aborted); error < 0)
-        return {.fault = ffmpegText(error)};
+        return {.fault = UnreadableFile::text(path, error)};
     return {.duration = container.declaredDuration(), .created = container.creationTime()};
 }
 
@@ -51,7 +52,7 @@ bool Clip::openFile(QString& fault)
     m_position.reset();
     DecodedFrame first = error < 0 ? nullptr : decode();
     if (!first) {
-        fault = ffmpegText(error < 0 ? error : AVERROR_INVALIDDATA);
+        fault = UnreadableFile::text(m_path, error < 0 ? error : AVERROR_EOF);
         m_codec.reset();
         return false;
     }

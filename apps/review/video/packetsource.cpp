@@ -1,6 +1,7 @@
 #include "packetsource.h"
 
 #include "clip.h"
+#include "unreadablefile.h"
 
 #include <QList>
 
@@ -39,7 +40,7 @@ std::unique_ptr<PacketSource> PacketSource::open(const QString& path,
     }
     if (error >= 0)
         return source;
-    fault = ffmpegText(error);
+    fault = UnreadableFile::text(path, error);
     return nullptr;
 }
 

@@ -1,7 +1,8 @@
 #include "videosource.h"
 
-#include <QCoreApplication>
-#include <QFileInfo>
+#include "unreadablefile.h"
+
+#include <QFile>
 #include <QImageReader>
 
 #include <algorithm>
@@ -17,11 +18,8 @@ constexpr size_t openClips = 3;
 // A picture much older than the instant asked for is no picture of it, whatever the file says.
 constexpr qint64 longestStill = 10'000;
 constexpr QSize largestPicture(3840, 2160);
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Review::VideoSource", text);
-}
+// A file that could not be read may be there again, or be whole by now.
+constexpr qint64 triesAgain = 1'000;
 
 bool beginsEarlier(const VideoFile& a, const VideoFile& b)
 {
@@ -91,19 +89,15 @@ QList<VideoFile> VideoSource::stretches(QList<VideoFile> files, qint64 begin, qi
 
 Clip* VideoSource::clipOf(const VideoFile& file, QString& fault)
 {
+    std::erase_if(m_open, [&file](const OpenClip& clip) {
+        return clip.path == file.path && !clip.clip && clip.tried.hasExpired(triesAgain);
+    });
     auto open = std::find_if(m_open.begin(), m_open.end(),
                              [&file](const OpenClip& clip) { return clip.path == file.path; });
     if (open == m_open.end()) {
-        OpenClip added{file.path, nullptr, {}};
+        OpenClip added{file.path, nullptr, {}, {}};
         added.clip = Clip::open(file.path, m_cacheBytes, m_aborted, added.fault);
-        if (!QFileInfo::exists(file.path))
-            added.fault =
-                translated(QT_TRANSLATE_NOOP("Review::VideoSource", "The file is missing."));
-        else if (!added.clip)
-            added.fault =
-                translated(QT_TRANSLATE_NOOP("Review::VideoSource",
-                                             "The file is damaged or of an unknown kind: %1"))
-                    .arg(added.fault);
+        added.tried.start();
         if (m_open.size() == openClips)
             m_open.pop_back();
         open = m_open.insert(m_open.begin(), std::move(added));
@@ -131,8 +125,7 @@ VideoFrame VideoSource::frameAt(qint64 instant, Clip::Accuracy accuracy)
     std::optional<ClipPicture> picture = clip->pictureAt(inClip, accuracy);
     const bool isCut = picture && !picture->until && inClip - picture->time > longestStill;
     if (!picture || isCut) {
-        frame.text =
-            translated(QT_TRANSLATE_NOOP("Review::VideoSource", "The file ends before this time."));
+        frame.text = tr("The file ends before this time.");
         return frame;
     }
     frame.state = VideoFrame::State::Picture;
@@ -143,16 +136,22 @@ VideoFrame VideoSource::frameAt(qint64 instant, Clip::Accuracy accuracy)
 
 VideoFrame VideoSource::pictureOf(const VideoFile& file, qint64 instant) const
 {
-    QImageReader reader(file.path);
+    VideoFrame frame{.state = VideoFrame::State::Fault, .asked = instant, .time = file.begin};
+    QFile device(file.path);
+    if (!device.open(QIODevice::ReadOnly)) {
+        frame.text = UnreadableFile::text(file.path, AVERROR(EACCES));
+        return frame;
+    }
+    QImageReader reader(&device);
     reader.setAutoTransform(true);
     if (const QSize size = reader.size();
         size.width() > largestPicture.width() || size.height() > largestPicture.height())
         reader.setScaledSize(size.scaled(largestPicture, Qt::KeepAspectRatio));
-    VideoFrame frame{.asked = instant, .time = file.begin};
     frame.image = reader.read();
-    frame.state = frame.image.isNull() ? VideoFrame::State::Fault : VideoFrame::State::Picture;
     if (frame.image.isNull())
-        frame.text = reader.errorString();
+        frame.text = UnreadableFile::text(file.path, AVERROR_INVALIDDATA);
+    else
+        frame.state = VideoFrame::State::Picture;
     return frame;
 }
 

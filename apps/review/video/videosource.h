@@ -3,6 +3,8 @@
 #include "clip.h"
 #include "data/videofile.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QList>
 #include <QString>
@@ -33,6 +35,8 @@ struct VideoFrame
 /// as the files take; abort() may be called from any.
 class VideoSource
 {
+    Q_DECLARE_TR_FUNCTIONS(Review::VideoSource)
+
 public:
     /// @p files in any order; where they overlap, the one that begins later is shown.
     /// @p cacheBytes bounds the memory of decoded pictures, for all files together.
@@ -58,6 +62,7 @@ private:
         QString path;
         std::unique_ptr<Clip> clip; ///< null for one that cannot be opened
         QString fault;
+        QElapsedTimer tried;
     };
 
     QList<VideoFile> m_files;
