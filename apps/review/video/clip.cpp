@@ -1,6 +1,7 @@
 #include "clip.h"
 
 #include "frameconverter.h"
+#include "processorslot.h"
 #include "unreadablefile.h"
 
 #include <algorithm>
@@ -92,6 +93,7 @@ DecodedFrame Clip::decode()
             return nullptr;
         // Without a packet the decoder gives out what it still holds. A damaged one is passed over.
         m_drained = !m_container.read(*m_packet);
+        const ProcessorSlot slot;
         avcodec_send_packet(m_codec.get(), m_drained ? nullptr : m_packet.get());
     }
     return nullptr;
@@ -198,6 +200,7 @@ std::optional<ClipPicture> Clip::pictureAt(qint64 msecs, Accuracy accuracy)
 
 std::optional<ClipPicture> Clip::picture(const FrameStore::Entry& entry)
 {
+    const ProcessorSlot slot;
     QImage image = m_converter->image(*entry.frame);
     if (image.isNull())
         return {};
