@@ -69,7 +69,7 @@ void fill(const OptionsDialog& dialog)
     field<QComboBox>(dialog, u"Date and time:"_s).setCurrentIndex(1);
     visit(u"playback"_s, u"playback"_s);
     for (QCheckBox* box : dialog.findChildren<QCheckBox*>())
-        box->setChecked(box->text() == "&Skip what is not recorded"_L1 || box->isChecked());
+        box->setChecked(box->text() != "&Skip what is not recorded"_L1 && box->isChecked());
     visit(u"playback"_s, u"keyboard"_s);
     field<QKeySequenceEdit>(dialog, u"Frame Forward:"_s).setKeySequence(Qt::Key_F7);
     // Taken by the menu, and by another button.
@@ -93,7 +93,7 @@ ReviewSettings filled()
     settings.language = u"en"_s;
     settings.dark = false;
     settings.timeFormat.order = TimeFormat::Order::YearFirst;
-    settings.skipGaps = true;
+    settings.skipGaps = false;
     settings.shortcuts[CorvelGui::PPlaybar::FrameForwardButton] = Qt::Key_F7;
     settings.servers.internalChannel = u"http://updates.example/in/"_s;
     settings.servers.queryServer.clear();
@@ -292,7 +292,7 @@ private Q_SLOTS:
                 QCOMPARE(content(), bytes);
 
             ReviewSettings changed = expected;
-            changed.skipGaps = true;
+            changed.skipGaps = false;
             client.store.change(changed);
             QCOMPARE(content(u"settings.ini.damaged"_s), damaged ? bytes : QByteArray());
             const SettingsStore again(m_path);

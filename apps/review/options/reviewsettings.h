@@ -23,7 +23,7 @@ struct ReviewSettings
     /// Empty for the zone of this machine.
     QString zone = {};
     TimeFormat timeFormat = {};
-    bool skipGaps = false;
+    bool skipGaps = true;
     /// Whether the overview of the timeline shows recordings and how much happens.
     bool activity = true;
     /// Whether the timeline has a lane for each camera.
