@@ -29,15 +29,15 @@ constexpr qint64 begin = 1'795'000'000'000;
 constexpr qint64 clipLength = qint64(400) * MovingClip::frameLength;
 constexpr int cameraCount = 16;
 
-/// Sixteen cameras that recorded the same clip over and over, with breaks between them.
-ReviewData recordings(const QString& clip)
+/// Cameras that recorded the same clip so many times, with breaks between them.
+ReviewData recordings(const QString& clip, int cameras, int parts, qint64 pause)
 {
     ReviewData data;
-    for (int i = 0; i < cameraCount; ++i) {
+    for (int i = 0; i < cameras; ++i) {
         const QString name = QStringLiteral("Camera %1").arg(i + 1);
-        CorvelGui::TrackDescription track{name, name, begin, begin + 100 * clipLength};
-        for (int part = 0; part < 100; ++part) {
-            const qint64 from = begin + part * clipLength;
+        CorvelGui::TrackDescription track{name, name, begin, begin + parts * (clipLength + pause)};
+        for (int part = 0; part < parts; ++part) {
+            const qint64 from = begin + part * (clipLength + pause);
             track.recorded.append({from, from + clipLength});
             data.files[name].append({clip, from, from + clipLength});
         }
@@ -117,7 +117,7 @@ void eventLatency(benchmark::State& state)
     const bool large = state.range(1) == 1080;
     const MovingClip clip(large ? QSize(1920, 1080) : QSize(640, 360), 400);
     ReviewWindow window(QStringLiteral("UTC"), true);
-    window.setReview(recordings(clip.path()));
+    window.setReview(recordings(clip.path(), cameraCount, 100, 0));
     window.resize(1600, 1000);
     window.show();
     window.findChild<PlaybackPane*>()->setShownCameras(cameraCount);
@@ -145,10 +145,29 @@ void eventLatency(benchmark::State& state)
     }
 }
 
+/// How long the window answers nobody while it takes 200 000 recordings of so many cameras.
+void manyRecordings(benchmark::State& state)
+{
+    const MovingClip clip(QSize(640, 360), 400);
+    const int cameras = int(state.range(0));
+    const ReviewData review = recordings(clip.path(), cameras, 200'000 / cameras, 1'000);
+    ReviewWindow window(QStringLiteral("UTC"), true);
+    window.resize(1600, 1000);
+    window.show();
+    runFor(1s);
+    for (auto _ : state) {
+        Waits waits;
+        window.setReview(review);
+        runFor(2s);
+        state.counters["longest_ms"] = waits.stop().back();
+    }
+}
+
 BENCHMARK(eventLatency)
     ->ArgsProduct({{Rests, Plays, PlaysWhileHovered, Scrubs}, {360, 1080}})
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1);
+BENCHMARK(manyRecordings)->Arg(1)->Arg(16)->Arg(200)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 } // namespace
 

@@ -48,7 +48,10 @@ PlaybackPane::PlaybackPane(const Clock& clock, Selection& selection, QWidget* pa
             [this] { setShownCameras(m_counts->currentData().toInt()); });
     connect(&selection, &Selection::cameraChanged, this, &PlaybackPane::chooseCamera);
     connect(&selection, &Selection::momentChanged, this, &PlaybackPane::showMoment);
-    connect(&clock, &Clock::changed, this, &PlaybackPane::showCameras);
+    connect(&clock, &Clock::changed, this, [this] {
+        m_known.clear();
+        showCameras();
+    });
 
     auto* choices = new QHBoxLayout;
     choices->setSpacing(0);
@@ -75,9 +78,12 @@ void PlaybackPane::addView()
     m_views.append(view);
 }
 
-void PlaybackPane::setTracks(const QList<TrackDescription>& tracks)
+void PlaybackPane::setTracks(const QList<TrackDescription>& tracks,
+                             const QHash<QString, QList<VideoFile>>& files)
 {
     m_tracks = tracks;
+    m_files = files;
+    m_known.clear();
     QStringList identifiers;
     QStringList names;
     for (const TrackDescription& track : tracks) {
@@ -107,12 +113,6 @@ void PlaybackPane::offer(const QStringList& identifiers, const QStringList& name
     m_cameras->clear();
     for (qsizetype i = 0; i < names.size(); ++i)
         m_cameras->addItem(names[i], identifiers[i]);
-}
-
-void PlaybackPane::setFiles(const QHash<QString, QList<VideoFile>>& files)
-{
-    m_files = files;
-    showCameras();
 }
 
 void PlaybackPane::chooseCamera()
@@ -183,9 +183,13 @@ void PlaybackPane::showCameras()
     Q_EMIT cameraChanged();
 }
 
-Camera PlaybackPane::cameraOf(const TrackDescription& track) const
+const Camera& PlaybackPane::cameraOf(const TrackDescription& track) const
 {
-    return {track, m_files.value(track.identifier), m_clock.times()};
+    auto known = m_known.constFind(track.identifier);
+    if (known == m_known.constEnd())
+        known = m_known.insert(track.identifier,
+                               {track, m_files.value(track.identifier), m_clock.times()});
+    return *known;
 }
 
 QList<Camera> PlaybackPane::cameras() const

@@ -27,10 +27,9 @@ public:
     /// Owns neither; both must live longer.
     PlaybackPane(const Clock& clock, Selection& selection, QWidget* parent = nullptr);
 
-    /// Sets the cameras to choose from.
-    void setTracks(const QList<CorvelGui::TrackDescription>& tracks);
-    /// What they recorded, by the identifiers of their tracks.
-    void setFiles(const QHash<QString, QList<VideoFile>>& files);
+    /// Sets the cameras to choose from, and what they recorded, by the identifiers of their tracks.
+    void setTracks(const QList<CorvelGui::TrackDescription>& tracks,
+                   const QHash<QString, QList<VideoFile>>& files);
 
     /// The selected one; null without a camera.
     const Camera* camera() const { return m_camera ? &*m_camera : nullptr; }
@@ -69,7 +68,7 @@ private:
     void chooseCamera();
     void showCameras();
     void showMoment();
-    Camera cameraOf(const CorvelGui::TrackDescription& track) const;
+    const Camera& cameraOf(const CorvelGui::TrackDescription& track) const;
 
     const Clock& m_clock;
     Selection& m_selection;
@@ -81,6 +80,7 @@ private:
 
     QList<CorvelGui::TrackDescription> m_tracks;
     QHash<QString, QList<VideoFile>> m_files;
+    mutable QHash<QString, Camera> m_known; ///< those that were asked for so far
     std::optional<Camera> m_camera;
     bool m_onlyKeyFrames = false;
 };

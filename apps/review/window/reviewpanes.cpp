@@ -156,7 +156,6 @@ void ReviewPanes::setTexts(const ReviewData& review)
     m_review = review;
     m_devices->setReview(m_review);
     m_events->setReview(m_review);
-    m_playback->setFiles(m_review.files);
     showCheckedTracks();
 }
 
@@ -170,7 +169,6 @@ void ReviewPanes::renew(const ReviewData& review, bool newLists)
     m_ranges->extendPeriod(period);
     m_timeline->extendPeriod(period);
     m_devices->setReview(m_review);
-    m_playback->setFiles(m_review.files);
     if (newLists)
         m_events->setReview(m_review);
     showTracks();
@@ -270,7 +268,7 @@ void ReviewPanes::showCheckedTracks()
 void ReviewPanes::showTracks()
 {
     m_timeline->setTracks(m_devices->checkedTracks());
-    m_playback->setTracks(m_devices->checkedTracks());
+    m_playback->setTracks(m_devices->checkedTracks(), m_review.files);
     m_events->setHiddenTracks(m_devices->uncheckedTracks());
 }
 
