@@ -264,7 +264,9 @@ void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, co
     painter.setRenderHint(QPainter::Antialiasing, false);
     for (const Tick& tick : layout.ticks) {
         const double left = grid.lineCenter(tick.x, lineWidth) - lineWidth / 2;
-        const QRectF line(left, tick.top, lineWidth, tick.bottom - tick.top);
+        // With the square ends of a pen of that width.
+        const QRectF line(left, tick.top - lineWidth / 2, lineWidth,
+                          tick.bottom - tick.top + lineWidth);
         painter.fillRect(grid.aligned(line), tick.major ? majorColor : minorColor);
     }
     painter.setRenderHint(QPainter::Antialiasing);

@@ -151,12 +151,15 @@ private Q_SLOTS:
         for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
             const QImage image = scene.paint(ratio);
             int lines = 0;
+            bool hasSquareEnds = false;
             for (int x = int(10 * ratio); x < int(900 * ratio); ++x) {
                 const QColor color = image.pixelColor(x, int(bodyY * ratio));
                 QVERIFY2(color == major || color == minor || color == body,
                          qPrintable(u"blurred at %1 of %2"_s.arg(x).arg(ratio)));
                 lines += color == major;
+                hasSquareEnds |= image.pixelColor(x, int(header * ratio) - 1) == minor;
             }
+            QVERIFY(hasSquareEnds || ratio < 2);
             QCOMPARE(lines, 18 * std::max(1, qRound(ratio)));
         }
     }

@@ -137,7 +137,7 @@ void FootageScan::add(const Found& found, Footage& footage) const
         return;
     const FileFacts facts = found.facts.value_or(FileFacts());
     const bool isPicture = isPictureFile(found.path);
-    const qint64 changed = changeTimeOf(found.file);
+    qint64 changed = changeTimeOf(found.file);
     const bool hasCamera = found.match && !found.match->camera.isEmpty();
     Footage::Recording recording{.camera = hasCamera ? found.match->camera : cameraOf(found.path),
                                  .path = found.file.absoluteFilePath(),
@@ -159,8 +159,10 @@ void FootageScan::add(const Found& found, Footage& footage) const
     }
     if (recording.length <= 0) {
         const qint64 begin = footage.instantOf(recording.begin);
-        if (isGrowing(facts, begin, changed))
+        if (isGrowing(facts, begin, changed)) {
             recording.isRead = false;
+            changed = std::max(changed, QDateTime::currentMSecsSinceEpoch());
+        }
         const bool isDamaged = recording.isRead && !facts.fault.isEmpty();
         recording.length = isDamaged ? pictureTime : guessedDuration(begin, changed);
     }

@@ -12,8 +12,8 @@ namespace Review {
 
 class ReviewOpener;
 
-/// Looks again at what was loaded: at once while there are files that were not read yet, and now and
-/// then while the user wants to follow what is being recorded.
+/// Looks again at what was loaded: at once while there are files that were not read yet, and now
+/// and then while the user wants to follow what is being recorded.
 class RecordingWatch : public QObject
 {
     Q_OBJECT
