@@ -98,7 +98,7 @@ void JumpToTimepointDialog::setDateFormat(const QString& format)
 
 void JumpToTimepointDialog::setLimits(const QDateTime& earliest, const QDateTime& latest)
 {
-    d->entry->setLimits(earliest, latest);
+    d->entry->setLimits({earliest, latest});
     enableApply();
 }
 

@@ -29,6 +29,19 @@ bool isPassedSeparator(const QDateTimeEdit& edit, const QKeyEvent& event)
 
 } // namespace
 
+MomentLimits MomentLimits::between(const QDateTime& one, const QDateTime& other)
+{
+    const bool isReversed = one.isValid() && other.isValid() && other < one;
+    return isReversed ? MomentLimits{other, one} : MomentLimits{one, other};
+}
+
+QDateTime MomentLimits::nearest(const QDateTime& moment) const
+{
+    if (earliest.isValid() && moment < earliest)
+        return earliest;
+    return latest.isValid() && moment > latest ? latest : moment;
+}
+
 MomentEntry::MomentEntry(const Controls& controls, QObject* parent)
     : QObject(parent), m_controls(controls)
 {
@@ -61,11 +74,10 @@ QDateTime MomentEntry::moment() const
     return m_moments.value(m_controls.occurrence->currentIndex());
 }
 
-void MomentEntry::setLimits(const QDateTime& earliest, const QDateTime& latest)
+void MomentEntry::setLimits(const MomentLimits& limits)
 {
     const QScopedValueRollback setting(m_isSetting, true);
-    m_earliest = earliest;
-    m_latest = latest;
+    m_limits = limits;
     findMoments();
 }
 
@@ -113,8 +125,9 @@ void MomentEntry::findMoments()
 
 bool MomentEntry::isWithinLimits() const
 {
-    return m_moments.isEmpty() || ((!m_earliest.isValid() || m_moments.last() >= m_earliest) &&
-                                   (!m_latest.isValid() || m_moments.first() <= m_latest));
+    const auto& [earliest, latest] = m_limits;
+    return m_moments.isEmpty() || ((!earliest.isValid() || m_moments.last() >= earliest) &&
+                                   (!latest.isValid() || m_moments.first() <= latest));
 }
 
 // Empty for what needs no explanation.
@@ -129,7 +142,7 @@ QString MomentEntry::explanation() const
             return moment.isValid() ? onClock.toString(format) : QString();
         };
         return tr("There is nothing at this time. Choose one from %1 to %2.")
-            .arg(text(m_earliest), text(m_latest));
+            .arg(text(m_limits.earliest), text(m_limits.latest));
     }
     if (m_moments.isEmpty())
         return tr("The clocks are put forward here, so this time does not exist.");

@@ -15,6 +15,18 @@ namespace CorvelGui {
 
 class PDateEdit;
 
+/// The first and the last moment that can be entered, both included; invalid ones are no limits.
+struct MomentLimits
+{
+    QDateTime earliest = {};
+    QDateTime latest = {};
+
+    /// Of two moments in either order.
+    static MomentLimits between(const QDateTime& one, const QDateTime& other);
+    /// The moment within that is nearest to @p moment.
+    QDateTime nearest(const QDateTime& moment) const;
+};
+
 /// Makes a moment of what is in a date and a time edit, on the clock of a zone. Where the clock
 /// skips that time it says so, where it shows it twice it lets the user choose, and it tells the
 /// limits. Owns none of the controls.
@@ -37,8 +49,9 @@ public:
     void setMoment(const QDateTime& moment);
     /// Invalid while the clocks skip the time that is shown, and beyond the limits.
     QDateTime moment() const;
-    /// Both included; invalid ones are no limits.
-    void setLimits(const QDateTime& earliest, const QDateTime& latest);
+    /// Where the latest comes before the earliest, there is no moment().
+    void setLimits(const MomentLimits& limits);
+    const MomentLimits& limits() const { return m_limits; }
 
     /// Writes its texts again, after the language or the format of a date has changed.
     void explain();
@@ -57,8 +70,7 @@ private:
 
     const Controls m_controls;
     QDateTime m_zone; ///< the moment that was shown first
-    QDateTime m_earliest;
-    QDateTime m_latest;
+    MomentLimits m_limits;
     QList<QDateTime> m_moments;
     bool m_isSetting = false;
 };

@@ -16,7 +16,6 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -39,8 +38,6 @@ struct PDateTimeSelectionDialog::Private
     MomentEntry* entry = nullptr;
     QDateTime shown; ///< the last moment that there was
     QDateTime reported;
-    QDateTime earliest;
-    QDateTime latest;
     bool milliseconds = false;
     ControlEmissions emissions;
 };
@@ -90,21 +87,17 @@ void PDateTimeSelectionDialog::setTimeZone(const QTimeZone& zone)
 
 QDateTime PDateTimeSelectionDialog::earliest() const
 {
-    return d->earliest;
+    return d->entry->limits().earliest;
 }
 
 QDateTime PDateTimeSelectionDialog::latest() const
 {
-    return d->latest;
+    return d->entry->limits().latest;
 }
 
 void PDateTimeSelectionDialog::setLimits(const QDateTime& earliest, const QDateTime& latest)
 {
-    d->earliest = earliest;
-    d->latest = latest;
-    if (earliest.isValid() && latest.isValid() && latest < earliest)
-        std::swap(d->earliest, d->latest);
-    d->entry->setLimits(d->earliest, d->latest);
+    d->entry->setLimits(MomentLimits::between(earliest, latest));
     report();
 }
 

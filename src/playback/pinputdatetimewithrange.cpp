@@ -43,14 +43,10 @@ struct PInputDateTimeWithRange::Private
 {
     QDateTime inZone(const QDateTime& moment) const { return moment.toTimeZone(zone); }
 
-    QDateTime inLimits(const QDateTime& moment) const
-    {
-        if (earliest.isValid() && moment < earliest)
-            return inZone(earliest);
-        if (latest.isValid() && moment > latest)
-            return inZone(latest);
-        return inZone(moment);
-    }
+    // Those of both ends.
+    const MomentLimits& limits() const { return from.entry->limits(); }
+
+    QDateTime inLimits(const QDateTime& moment) const { return inZone(limits().nearest(moment)); }
 
     QGridLayout* layout = nullptr;
     QLabel* presetLabel = nullptr;
@@ -61,8 +57,6 @@ struct PInputDateTimeWithRange::Private
 
     QTimeZone zone = QTimeZone::systemTimeZone();
     MomentRange range;
-    QDateTime earliest;
-    QDateTime latest;
 
     // What has been reported.
     MomentRange reported;
@@ -140,22 +134,18 @@ void PInputDateTimeWithRange::setTimeZone(const QTimeZone& zone)
 
 QDateTime PInputDateTimeWithRange::earliest() const
 {
-    return d->earliest;
+    return d->limits().earliest;
 }
 
 QDateTime PInputDateTimeWithRange::latest() const
 {
-    return d->latest;
+    return d->limits().latest;
 }
 
 void PInputDateTimeWithRange::setLimits(const QDateTime& earliest, const QDateTime& latest)
 {
-    d->earliest = earliest;
-    d->latest = latest;
-    if (earliest.isValid() && latest.isValid() && latest < earliest)
-        std::swap(d->earliest, d->latest);
     for (const End* end : {&d->from, &d->to})
-        end->entry->setLimits(d->earliest, d->latest);
+        end->entry->setLimits(MomentLimits::between(earliest, latest));
     d->range = {d->inLimits(d->range.from), d->inLimits(d->range.to)};
     showRange();
     commit(d->preset, false);

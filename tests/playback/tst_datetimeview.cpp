@@ -295,6 +295,8 @@ private Q_SLOTS:
         QVERIFY(dialog->isVisible());
         enter(dialog, u"2026-03-16"_s, u"00:00:00.125"_s);
         QCOMPARE(dialog->moment(), latest);
+        dialog->setLimits(latest, latest.addDays(-1)); // are not turned round
+        QVERIFY(!dialog->moment().isValid());
     }
 
     void deletionInTheSlot()
