@@ -345,7 +345,9 @@ void PImageWidget::paintNoImage(QPainter& painter)
     }
     const QColor calm = calmColor(palette(), QPalette::WindowText);
     if (d->sign->isNull()) {
-        drawSign(painter, above, calm);
+        // A failure that there is no room to tell is seen all the same.
+        const bool isUntold = d->state == State::Failed && !hasRoom;
+        drawSign(painter, above, isUntold ? POrvGuiTheme::statusRed() : calm);
     } else if (!above.isEmpty()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(placePicture(d->sign->size(), above, Fit::Shrink, Qt::AlignCenter).target,

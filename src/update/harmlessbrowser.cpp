@@ -18,6 +18,8 @@ void openWebPage(const QUrl& url)
 HarmlessBrowser::HarmlessBrowser(QWidget* parent) : QTextBrowser(parent)
 {
     setOpenLinks(false);
+    // The cursor shows where the focus is.
+    setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     connect(this, &QTextBrowser::anchorClicked, this, &openWebPage);
 }
 

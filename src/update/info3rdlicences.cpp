@@ -36,6 +36,8 @@ struct Info3rdLicences::Private
 Info3rdLicences::Info3rdLicences(QWidget* parent) : PWidget(parent), d(new Private)
 {
     d->text->setReadOnly(true);
+    // The cursor shows where the focus is.
+    d->text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     d->text->setTabChangesFocus(true);
     d->text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     d->copy->setIcon(Hueloft::PIconHelper::GetCopyIcon_32x32(true));
