@@ -12,6 +12,8 @@
 #include <QStackedWidget>
 #include <QToolBar>
 
+#include <algorithm>
+
 namespace Gallery {
 
 GalleryWindow::GalleryWindow()
@@ -28,8 +30,9 @@ GalleryWindow::GalleryWindow()
         scroll->setWidget(page.create(nullptr));
         m_stack->addWidget(scroll);
     }
-    m_list->setFixedWidth(200);
     m_list->setSpacing(3);
+    constexpr int scrollBarWidth = 20;
+    m_list->setFixedWidth(std::max(200, m_list->sizeHintForColumn(0) + scrollBarWidth));
     m_list->setAccessibleName(tr("Pages"));
     connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
 

@@ -3,8 +3,11 @@
 #include "pages.h"
 #include "pictures.h"
 
+#include <CorvelGui/PLanguage>
+
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLocale>
 
 #include <numeric>
 
@@ -40,6 +43,8 @@ int main(int argc, char** argv)
                                         u"name"_s);
     const QCommandLineOption lookOption(u"look"_s, u"Start in this look: dark or light."_s,
                                         u"look"_s, u"dark"_s);
+    const QCommandLineOption languageOption(
+        u"language"_s, u"The language of the widgets: en or de."_s, u"key"_s, u"en"_s);
     const QCommandLineOption picturesOption(
         u"pictures"_s, u"Write the pages as PNG files, in both looks at scale 1 and 2."_s,
         u"folder"_s);
@@ -49,7 +54,7 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Every widget family of CorvelGui on a page of its own."_s);
     parser.addHelpOption();
-    parser.addOptions({pageOption, lookOption, picturesOption, oneScale});
+    parser.addOptions({pageOption, lookOption, languageOption, picturesOption, oneScale});
     parser.process(app);
 
     const QString title = parser.value(pageOption);
@@ -60,9 +65,16 @@ int main(int argc, char** argv)
     if (look != u"dark"_s && look != u"light"_s)
         return fail(u"the look is dark or light, not \"%1\""_s.arg(look));
 
+    const QString language = parser.value(languageOption);
+    if (language != u"en"_s && language != u"de"_s)
+        return fail(u"the language is en or de, not \"%1\""_s.arg(language));
+    if (parser.isSet(languageOption))
+        QLocale::setDefault(QLocale(language));
+    CorvelGui::PLanguage::useLanguage(nullptr, language);
+
     const QString folder = parser.value(picturesOption);
     if (!folder.isEmpty() && !parser.isSet(oneScale))
-        return writePicturesAtEveryScale(folder, title) ? 0 : 1;
+        return writePicturesAtEveryScale(QCoreApplication::arguments().sliced(1)) ? 0 : 1;
 
     GalleryWindow window;
     if (!folder.isEmpty()) {

@@ -79,7 +79,7 @@ bool writePictures(GalleryWindow& window, const QList<int>& pageIndexes, const Q
     return true;
 }
 
-bool writePicturesAtEveryScale(const QString& folder, const QString& pageTitle)
+bool writePicturesAtEveryScale(const QStringList& arguments)
 {
     for (const int scale : {1, 2}) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -87,14 +87,11 @@ bool writePicturesAtEveryScale(const QString& folder, const QString& pageTitle)
         environment.insert(u"QT_ENABLE_HIGHDPI_SCALING"_s, u"0"_s);
         environment.insert(u"QT_SCALE_FACTOR"_s, QString::number(scale));
 
-        QStringList arguments{u"--"_s + QLatin1StringView(oneScaleOption), u"--pictures"_s, folder};
-        if (!pageTitle.isEmpty())
-            arguments << u"--page"_s << pageTitle;
-
         QProcess process;
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::ForwardedChannels);
-        process.start(QCoreApplication::applicationFilePath(), arguments);
+        process.start(QCoreApplication::applicationFilePath(),
+                      arguments + QStringList{u"--"_s + QLatin1StringView(oneScaleOption)});
         if (!process.waitForFinished(120'000) || process.exitStatus() != QProcess::NormalExit ||
             process.exitCode() != 0) {
             complain(u"no pictures at scale %1"_s.arg(scale));
