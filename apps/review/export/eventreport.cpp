@@ -125,13 +125,36 @@ bool EventReport::write(TextCursor& report, bool withPictures) const
     return writeTable(report, withPictures);
 }
 
+/// In characters: the longest word is not broken, and a longer text has a few lines.
+double EventReport::widthOf(qsizetype column) const
+{
+    constexpr qsizetype longestWord = 20;
+    constexpr qsizetype longestText = 60;
+    constexpr double padding = 2;
+    qsizetype word = 0;
+    qsizetype text = 0;
+    const auto look = [&word, &text](const QString& said) {
+        text = std::max(text, said.size());
+        for (const QStringView part : QStringView(said).split(u' '))
+            word = std::max(word, part.size());
+    };
+    look(m_plan.columns[column]);
+    for (const EventLine& event : m_plan.events)
+        look(event.texts.value(column));
+    word = std::min(word, longestWord);
+    return double(word) + padding + double(std::min(text, longestText) - word) / 3;
+}
+
 bool EventReport::writeTable(TextCursor& report, bool withPictures) const
 {
-    TextCursor::Table table{
-        .header = m_plan.columns, .widths = {2.2, 1.7, 3.4, 2}, .rows = m_plan.events.size()};
+    TextCursor::Table table{.header = m_plan.columns, .rows = m_plan.events.size()};
+    for (qsizetype column = 0; column < m_plan.columns.size(); ++column)
+        table.widths.append(widthOf(column));
     if (withPictures) {
+        constexpr double share = 0.37;
         table.header.prepend(tr("Picture"));
-        table.widths.prepend(3.4);
+        table.widths.prepend(share *
+                             std::accumulate(table.widths.begin(), table.widths.end(), 0.0));
     }
     table.row = [this, withPictures](qsizetype row) {
         QList<TextCursor::Cell> cells;

@@ -63,6 +63,7 @@ private:
     const Camera* cameraOf(const EventLine& event) const;
     void askForNext();
     void take(const VideoFrame& frame);
+    double widthOf(qsizetype column) const;
     bool writeTable(CorvelGui::TextCursor& report, bool withPictures) const;
 
     const ReportPlan m_plan;

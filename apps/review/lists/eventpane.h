@@ -15,10 +15,12 @@ class FilterLineEdit;
 namespace Review {
 
 class Clock;
+class DurationFilter;
 class EventTable;
 class EventWriter;
 
-/// The events in a table that sorts, copies and exports, below a field that filters it.
+/// The events in a table that sorts, copies and exports, below a field that filters it. Where
+/// events last, they are filtered by that, too.
 class EventPane : public Translated<QWidget>
 {
     Q_OBJECT
@@ -45,8 +47,8 @@ Q_SIGNALS:
     /// Emitted when the user opens an event: with a double click, or with Return.
     void eventOpened(qsizetype index);
     void exportWanted(const Review::EventWriter& events);
-    /// @p columns are what the texts of the events stand for. Of more than mostReportedEvents there
-    /// is one more than that.
+    /// @p columns are what the texts of the events stand for: those that the table shows. Of more
+    /// than mostReportedEvents there is one more than that.
     void reportWanted(const QList<Review::EventLine>& events, const QStringList& columns);
 
 protected:
@@ -61,6 +63,7 @@ private:
     const Clock& m_clock;
     EventList m_list;
     CorvelGui::FilterLineEdit* m_filter;
+    DurationFilter* m_durations;
     EventTable* m_table;
     QAction* m_export;
     QAction* m_reportAction;
