@@ -482,6 +482,16 @@ bool PPlaybar::stepSlowByWheel(bool up)
     return true;
 }
 
+bool PPlaybar::isSpeedVisible() const
+{
+    return !d->ui.labelPlaybackSpeed->isHidden();
+}
+
+void PPlaybar::setSpeedVisible(bool visible)
+{
+    d->ui.labelPlaybackSpeed->setVisible(visible);
+}
+
 void PPlaybar::checkStateButton()
 {
     const StateRule* rule = entryAt(stateRules, d->state);

@@ -89,6 +89,9 @@ public:
     /// tooltip as well. Empty for a value that addresses no button.
     static QString buttonName(PlaybackButton playbackButton);
 
+    /// Whether the speed stands beside the buttons, as it does at first.
+    bool isSpeedVisible() const;
+
     /// Does nothing for a value that addresses no button.
     void setShortcut(PlaybackButton playbackButton, const QKeySequence& shortcut);
     /// Empty for a value that addresses no button.
@@ -107,6 +110,9 @@ public Q_SLOTS:
     void setButtonEnabled(CorvelGui::PPlaybar::PlaybackButton playbackButton, bool enable);
     /// Sets the size of all icons in pixels, and the bar's minimum size to nine of them in a row.
     void setIconSize(QSize size);
+
+    /// For a client that shows the speed elsewhere.
+    void setSpeedVisible(bool visible);
 
     /// What a notch of the wheel away from the user does while something plays, with the signals of
     /// that: for keys and menus. Does nothing in pause and in live mode.

@@ -1,8 +1,10 @@
 #include "data/reviewloader.h"
 #include "export/clipdialog.h"
+#include "export/eventreport.h"
 #include "export/exportdialog.h"
 #include "export/folderchoice.h"
 #include "export/pictureexport.h"
+#include "export/rangechoice.h"
 #include "export/reportdialog.h"
 #include "footage/exiftime.h"
 #include "playback/playbackpane.h"
@@ -14,8 +16,14 @@
 #include "video/camerapicture.h"
 
 #include <CorvelGui/FilterLineEdit>
+#include <CorvelGui/PImageWidget>
+#include <CorvelGui/TextCursor>
 
 #include <QProgressBar>
+#include <QRadioButton>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <QTimeEdit>
 
 using namespace Review;
 using CorvelGui::TimeSpan;
@@ -157,6 +165,16 @@ private Q_SLOTS:
             cameras->currentItem()->setCheckState(Qt::Unchecked);
             QVERIFY(!ok->isEnabled());
             cameras->currentItem()->setCheckState(Qt::Checked);
+            for (const auto* picture : dialog.findChildren<CorvelGui::PImageWidget*>())
+                QTRY_COMPARE(picture->state(), CorvelGui::PImageWidget::State::Ready);
+            // What is typed is another range than the selected one.
+            const auto* range = dialog.findChild<RangeChoice*>();
+            auto* from = dialog.findChild<QTimeEdit*>();
+            from->setTime(from->time().addSecs(1));
+            QCOMPARE(range->range(), (TimeSpan{recorded.begin + second, recorded.end}));
+            QVERIFY(dialog.findChildren<QRadioButton*>().at(2)->isChecked());
+            dialog.findChildren<QRadioButton*>().at(1)->click();
+            QCOMPARE(range->range(), recorded);
             QTest::mouseClick(ok, Qt::LeftButton);
         });
         sample.action(u"Export &recordings…"_s)->trigger();
@@ -197,6 +215,19 @@ private Q_SLOTS:
         QVERIFY(plain > 0);
         QVERIFY(sizeOfReport(true) > plain + 10'000);
         QVERIFY(sample.says(u"Report saved"_s));
+    }
+
+    void wordsOfAReportAreWhole()
+    {
+        const QStringList texts{u"02.03.2026"_s, u"Vehicle"_s,     u"Person"_s,
+                                u"Loading"_s,    u"0:00:23.335"_s, u"Information"_s};
+        CorvelGui::TextCursor report;
+        QVERIFY(EventReport({.columns = texts, .events = {{.texts = texts}}}).write(report, true));
+        QVERIFY(report.pageCount() > 0);
+        const QTextDocument* document = report.document();
+        for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
+            if (texts.contains(block.text()))
+                QCOMPARE(block.layout()->lineCount(), 1);
     }
 
     void quittingIsAsked()

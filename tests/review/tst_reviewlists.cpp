@@ -12,6 +12,7 @@
 
 #include <CorvelGui/FilterLineEdit>
 #include <CorvelGui/PIpRangeDialog>
+#include <CorvelGui/RangeSlider>
 
 #include <QStatusBar>
 
@@ -99,6 +100,16 @@ private Q_SLOTS:
         QCOMPARE(shown(u"<B>"_s), u"No 10, Älter"_s);
         QCOMPARE(shown(u"01.03"_s), u"no 9"_s);
         QCOMPARE(shown(u"0:00:02.500"_s), u"no 9"_s);
+        QCOMPARE(shown(u"informa"_s), u"No 10"_s);
+        field->setText({});
+        auto* durations = sample.window.findChild<CorvelGui::RangeSlider*>();
+        const std::tuple<int, int, QString> rows[] = {
+            {0, 1, u"Älter"_s}, {2, 3, u"no 9"_s}, {2, 13, u"No 10, no 9"_s}, {0, 13, {}}};
+        for (const auto& [shortest, longest, texts] : rows) {
+            durations->setValues(shortest, longest);
+            if (!texts.isEmpty())
+                QCOMPARE(shown({}), texts);
+        }
         QCOMPARE(shown(u"informa"_s), u"No 10"_s);
         QCOMPARE(sample.ruler()->grab().toImage(), timeline);
 

@@ -14,7 +14,9 @@
 
 #include <CorvelGui/BusyIndicator>
 #include <CorvelGui/Indicator>
+#include <CorvelGui/PopupSliderToolButton>
 #include <CorvelGui/TarvoDateTimeView>
+#include <CorvelGui/VideoSlider>
 
 using Review::PlayerClock;
 using namespace Review;
@@ -186,6 +188,14 @@ private Q_SLOTS:
         };
         pressIn(sample.events());
         QTRY_COMPARE(bar->playbackState(), PPlaybar::Play);
+        auto* speed = sample.window.findChild<CorvelGui::PopupSliderToolButton*>();
+        QCOMPARE(speed->text(), u"× 1"_s);
+        QTest::keyClick(speed, Qt::Key_Up);
+        QCOMPARE(bar->playbackSpeed(), PPlaybar::Speed2);
+        speed->setValue(PPlaybar::SpeedZero);
+        QCOMPARE(bar->playbackState(), PPlaybar::Pause);
+        pressIn(sample.events());
+        QTRY_COMPARE(speed->value(), int(PPlaybar::Speed1));
         cameras->setCurrentItem(camera, DeviceItem::State);
         pressIn(cameras);
         QTRY_COMPARE(bar->playbackState(), PPlaybar::Pause);
@@ -250,6 +260,20 @@ private Q_SLOTS:
         QCOMPARE(shownAt(7'050), u"150|00:00:06.000|"_s);
         pane->setOnlyKeyFrames(false);
         QTRY_COMPARE(NumberedClip::numberOf(view->picture().image), 176);
+
+        // The bar goes through the recording that the moment is in, a picture at a time.
+        auto* recording = sample.window.findChild<CorvelGui::VideoSlider*>();
+        const std::tuple<Qt::Key, qint64, int> seeks[] = {{Qt::Key_Left, 6'050, 151},
+                                                          {Qt::Key_Home, 0, 0}};
+        for (const auto& [key, position, number] : seeks) {
+            QTest::keyClick(recording, key);
+            QTRY_VERIFY(!recording->isSeeking());
+            QCOMPARE(recording->position(), position);
+            QCOMPARE(NumberedClip::numberOf(view->picture().image), number);
+        }
+        QCOMPARE(recording->duration(), 20'000);
+        shownAt(25'000);
+        QVERIFY(!recording->isEnabled());
 
         // Side by side, and one of them enlarged.
         QTest::mouseDClick(view->viewport(), Qt::LeftButton);

@@ -44,6 +44,9 @@ ClipDialog::ClipDialog(const QList<Camera>& cameras, const QString& chosen, cons
     m_cameras->setAccessibleName(tr("Cameras"));
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Export"));
     createLayout();
+    m_range->setCamera(cameras[std::max(0, m_cameras->currentRow())]);
+    connect(m_cameras, &QListWidget::currentRowChanged, m_range,
+            [this](int row) { m_range->setCamera(m_choices[row]); });
     connect(m_cameras, &QListWidget::itemChanged, this, &ClipDialog::checkPlan);
     connect(m_range, &RangeChoice::changed, this, &ClipDialog::checkPlan);
     connect(m_folder, &FolderChoice::changed, this, &ClipDialog::checkPlan);
@@ -65,7 +68,7 @@ void ClipDialog::createLayout()
     auto* form = new QFormLayout;
     form->setVerticalSpacing(10);
     form->addRow(tr("Cameras"), m_cameras);
-    form->addRow(tr("Range"), m_range);
+    form->addRow(m_range);
     form->addRow(tr("Folder"), m_folder);
     form->addRow(QString(), note);
     form->addRow(QString(), m_message);

@@ -56,6 +56,7 @@ ExportDialog::ExportDialog(const Camera& camera, const TimeSpan& view,
     m_interval->setValue(proposedInterval(m_range->range(), m_history));
     m_recordedOnly->setChecked(true);
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Export"));
+    m_range->setCamera(camera);
     createLayout(camera.name);
 
     connect(m_range, &RangeChoice::changed, this, &ExportDialog::checkPlan);
@@ -82,7 +83,7 @@ void ExportDialog::createLayout(const QString& camera)
     auto* form = new QFormLayout;
     form->setVerticalSpacing(10);
     form->addRow(tr("Camera"), name);
-    form->addRow(tr("Range"), m_range);
+    form->addRow(m_range);
     form->addRow(tr("A picture every"), m_interval);
     form->addRow(QString(), m_recordedOnly);
     form->addRow(tr("Folder"), m_folder);

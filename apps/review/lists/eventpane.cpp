@@ -1,6 +1,7 @@
 #include "eventpane.h"
 
 #include "data/eventwriter.h"
+#include "durationfilter.h"
 #include "eventtable.h"
 #include "eventtexts.h"
 #include "look/listlook.h"
@@ -22,6 +23,7 @@ EventPane::EventPane(const Clock& clock, QWidget* parent)
     : Translated(parent)
     , m_clock(clock)
     , m_filter(new FilterLineEdit)
+    , m_durations(new DurationFilter)
     , m_table(new EventTable)
     , m_export(new QAction(m_table))
     , m_reportAction(new QAction(m_table))
@@ -34,10 +36,11 @@ EventPane::EventPane(const Clock& clock, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
-    layout->addLayout(ListLook::place(m_filter));
+    layout->addLayout(ListLook::place(m_filter, m_durations));
     layout->addWidget(m_table);
 
     connect(m_filter, &FilterLineEdit::filterChanged, this, &EventPane::showRows);
+    connect(m_durations, &DurationFilter::changed, this, &EventPane::showRows);
     connect(m_export, &QAction::triggered, this, &EventPane::exportEvents);
     connect(m_reportAction, &QAction::triggered, this, &EventPane::reportEvents);
     connect(m_table, &QAbstractItemView::activated, this,
@@ -50,6 +53,9 @@ void EventPane::setReview(const ReviewData& review)
 {
     m_list = EventList(review);
     m_table->setEvents(m_list, m_clock.times());
+    m_durations->setVisible(m_list.events().haveDurations());
+    if (m_durations->isHidden())
+        m_durations->reset();
     showRows();
 }
 
@@ -61,7 +67,7 @@ void EventPane::setHiddenTracks(const QSet<QString>& identifiers)
 
 void EventPane::showRows()
 {
-    m_table->showRows(m_list, m_filter->text());
+    m_table->showRows(m_list, m_filter->text(), *m_durations);
 }
 
 void EventPane::exportEvents()
@@ -75,19 +81,24 @@ void EventPane::exportEvents()
 void EventPane::reportEvents()
 {
     const EventTexts texts(m_list, m_clock.times());
+    QList<EventTexts::Column> shown;
+    QStringList columns;
+    for (int column = 0; column < EventTexts::ColumnCount; ++column) {
+        if (m_table->isColumnHidden(column))
+            continue;
+        shown.append(EventTexts::Column(column));
+        columns.append(m_table->model()->headerData(column, Qt::Horizontal).toString());
+    }
     QList<EventLine> events;
     for (const qsizetype event : m_table->chosenEvents()) {
         if (events.size() > mostReportedEvents)
             break;
         EventLine line{.time = m_list.events().timeAt(event),
                        .track = m_list.events().tracks()[m_list.events().trackAt(event)]};
-        for (int column = 0; column < EventTexts::ColumnCount; ++column)
-            line.texts.append(texts.text(event, EventTexts::Column(column)));
+        for (const EventTexts::Column column : shown)
+            line.texts.append(texts.text(event, column));
         events.append(line);
     }
-    QStringList columns;
-    for (int column = 0; column < EventTexts::ColumnCount; ++column)
-        columns.append(m_table->model()->headerData(column, Qt::Horizontal).toString());
     Q_EMIT reportWanted(events, columns);
 }
 

@@ -1,5 +1,6 @@
 #include "eventtable.h"
 
+#include "durationfilter.h"
 #include "eventmodel.h"
 #include "look/listlook.h"
 
@@ -77,12 +78,15 @@ void EventTable::renewTexts(const EventList& events, const TimeTexts& times)
     fitColumns();
 }
 
-void EventTable::showRows(const EventList& events, const QString& filter)
+void EventTable::showRows(const EventList& events, const QString& filter,
+                          const DurationFilter& durations)
 {
-    if (filter.isEmpty() && events.showsAll())
+    if (filter.isEmpty() && events.showsAll() && !durations.isFiltering())
         return m_rows->setFilter({});
-    m_rows->setFilter([events, says = m_events->texts().finder(filter)](int row) {
-        return events.isShown(row) && says(row);
+    m_rows->setFilter([events, says = m_events->texts().finder(filter),
+                       shortest = durations.shortest(), longest = durations.longest()](int row) {
+        const qint64 duration = events.events().durationAt(row);
+        return duration >= shortest && duration <= longest && events.isShown(row) && says(row);
     });
 }
 

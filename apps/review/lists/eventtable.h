@@ -11,6 +11,7 @@ class PRowFilterModel;
 
 namespace Review {
 
+class DurationFilter;
 class EventModel;
 class TimeTexts;
 
@@ -26,9 +27,9 @@ public:
     void setEvents(const EventList& events, const TimeTexts& times);
     /// The same events say something else now.
     void renewTexts(const EventList& events, const TimeTexts& times);
-    /// Shows the events that are not left out and say @p filter in some column. The current event
-    /// stays current, also when it comes back later.
-    void showRows(const EventList& events, const QString& filter);
+    /// Shows the events that are not left out, say @p filter in some column and last as long as
+    /// @p durations say. The current event stays current, also when it comes back later.
+    void showRows(const EventList& events, const QString& filter, const DurationFilter& durations);
 
     qsizetype eventOf(const QModelIndex& index) const;
     /// Makes an event the current one and brings it into view, as soon as it is in the table.

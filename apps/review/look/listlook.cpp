@@ -41,11 +41,13 @@ int ListLook::rowHeight(const QAbstractItemView* list)
     return RoomyDelegate::heightFor(list->fontMetrics().height());
 }
 
-QLayout* ListLook::place(QLineEdit* filter)
+QLayout* ListLook::place(QLineEdit* filter, QWidget* beside)
 {
     auto* layout = new QHBoxLayout;
     layout->setContentsMargins(8, 6, 8, 6);
     layout->addWidget(filter);
+    if (beside)
+        layout->addWidget(beside);
     return layout;
 }
 

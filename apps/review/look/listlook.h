@@ -4,6 +4,7 @@ class QAbstractItemView;
 class QHeaderView;
 class QLayout;
 class QLineEdit;
+class QWidget;
 
 namespace Review {
 
@@ -17,8 +18,8 @@ void apply(QAbstractItemView* list, QHeaderView* header);
 void offerActions(QAbstractItemView* list);
 /// The height of a row with one line of text.
 int rowHeight(const QAbstractItemView* list);
-/// A filter field in its place above a list.
-QLayout* place(QLineEdit* filter);
+/// A filter field in its place above a list, and what else filters beside it.
+QLayout* place(QLineEdit* filter, QWidget* beside = nullptr);
 
 } // namespace ListLook
 

@@ -103,6 +103,8 @@ void Player::setSpeed(PPlaybar::PlaybackSpeed speed)
 {
     if (m_period.isEmpty())
         return;
+    if (speed == PPlaybar::SpeedZero)
+        return pause();
     if (!isPlaying())
         m_selection.reveal();
     const bool backwards = m_bar->playbackState() < PPlaybar::Pause;
@@ -151,7 +153,8 @@ void Player::followBar()
     m_keys.followBar();
     const bool wasPlaying = isPlaying();
     const bool wasFast = isFast();
-    m_speed = speed;
+    if (std::exchange(m_speed, speed) != speed)
+        Q_EMIT speedChanged();
     if (isFast() != wasFast)
         Q_EMIT fastChanged(!wasFast);
     if (isPlaying() == wasPlaying)

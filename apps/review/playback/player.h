@@ -43,7 +43,7 @@ public:
 
     /// Zero while paused.
     CorvelGui::PPlaybar::PlaybackSpeed speed() const;
-    /// Plays at @p speed in the direction in which it plays already, or forwards.
+    /// Plays at @p speed in the direction in which it plays already, or forwards; zero pauses.
     void setSpeed(CorvelGui::PPlaybar::PlaybackSpeed speed);
 
     bool isPlaying() const { return m_speed != 0; }
@@ -58,6 +58,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Emitted whenever isPlaying() changed.
     void playingChanged(bool playing);
+    /// Emitted whenever speed() or the direction changed.
+    void speedChanged();
     /// Emitted whenever isFast() changed.
     void fastChanged(bool fast);
     /// Emitted when playing or a step ended early, because gaps are skipped and nothing is recorded

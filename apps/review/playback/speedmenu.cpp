@@ -16,12 +16,6 @@ namespace {
 constexpr int slowest = PPlaybar::Speed1_8;
 constexpr int fastest = PPlaybar::Speed1024;
 
-QString textOf(PPlaybar::PlaybackSpeed speed)
-{
-    const float factor = PPlaybar::playbackSpeedToFloat(speed);
-    return factor < 1 ? u"× 1/%1"_s.arg(qRound(1 / factor)) : u"× %1"_s.arg(qRound(factor));
-}
-
 } // namespace
 
 SpeedMenu::SpeedMenu(Player& player, QWidget* parent)
@@ -46,6 +40,13 @@ SpeedMenu::SpeedMenu(Player& player, QWidget* parent)
     }
     connect(this, &QMenu::aboutToShow, this, &SpeedMenu::showSpeed);
     retranslate();
+}
+
+QString SpeedMenu::textOf(PPlaybar::PlaybackSpeed speed)
+{
+    const float factor = PPlaybar::playbackSpeedToFloat(speed);
+    return factor > 0 && factor < 1 ? u"× 1/%1"_s.arg(qRound(1 / factor))
+                                    : u"× %1"_s.arg(qRound(factor));
 }
 
 QKeySequence SpeedMenu::slowerKeys()

@@ -21,6 +21,8 @@ public:
     /// @p player must live longer.
     explicit SpeedMenu(Player& player, QWidget* parent = nullptr);
 
+    /// As in "× 1/2".
+    static QString textOf(CorvelGui::PPlaybar::PlaybackSpeed speed);
     static QKeySequence slowerKeys();
     static QKeySequence fasterKeys();
 

@@ -4,12 +4,16 @@
 #include "look/flowlayout.h"
 #include "session/clock.h"
 #include "session/selection.h"
+#include "speedmenu.h"
 
 #include <CorvelGui/PPlaybar>
+#include <CorvelGui/PSlider>
+#include <CorvelGui/PopupSliderToolButton>
 #include <CorvelGui/TarvoDateTimeView>
 
 #include <QCheckBox>
 
+using CorvelGui::PopupSliderToolButton;
 using CorvelGui::PPlaybar;
 using CorvelGui::TarvoDateTimeView;
 using CorvelGui::TimeSpan;
@@ -22,10 +26,12 @@ TransportBar::TransportBar(const Clock& clock, Selection& selection, QWidget* pa
     , m_selection(selection)
     , m_time(new TarvoDateTimeView(this))
     , m_playbar(new PPlaybar(this))
+    , m_speed(new PopupSliderToolButton(this))
     , m_skipGaps(new QCheckBox(this))
     , m_viewLabel(new ElidedLabel(this))
 {
     m_time->setPlayMode(false);
+    createSpeed();
     // Leaves the space bar to the player after a click.
     m_skipGaps->setFocusPolicy(Qt::TabFocus);
     m_viewLabel->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
@@ -36,6 +42,7 @@ TransportBar::TransportBar(const Clock& clock, Selection& selection, QWidget* pa
     layout->setSpacing(16);
     layout->addWidget(m_time);
     layout->addWidget(m_playbar);
+    layout->addWidget(m_speed);
     layout->addWidget(m_skipGaps);
     layout->addWidget(m_viewLabel);
     connect(m_time, &TarvoDateTimeView::jumoToTime, &selection,
@@ -46,10 +53,34 @@ TransportBar::TransportBar(const Clock& clock, Selection& selection, QWidget* pa
     retranslate();
 }
 
+// Shows what the playbar's own text would, and sets it.
+void TransportBar::createSpeed()
+{
+    m_playbar->setSpeedVisible(false);
+    m_speed->setFocusPolicy(Qt::TabFocus);
+    m_speed->setLimits(PPlaybar::SpeedZero, PPlaybar::Speed1024);
+    const auto text = [](int speed) {
+        return SpeedMenu::textOf(PPlaybar::PlaybackSpeed(speed));
+    };
+    m_speed->slider()->setValueText(text);
+    CorvelGui::PSlider::TickTexts ticks;
+    for (const int speed : {PPlaybar::SpeedZero, PPlaybar::Speed1, PPlaybar::Speed8,
+                            PPlaybar::Speed64, PPlaybar::Speed1024})
+        ticks.insert(speed, text(speed));
+    m_speed->slider()->setTickTexts(ticks);
+    m_speed->setMinimumWidth(m_speed->fontMetrics().horizontalAdvance(text(PPlaybar::Speed1024)) +
+                             2 * m_speed->fontMetrics().height());
+    const auto show = [this, text](int speed) {
+        m_speed->setText(text(speed));
+    };
+    connect(m_speed, &PopupSliderToolButton::valueChanged, m_speed, show);
+    show(m_speed->value());
+}
+
 void TransportBar::setPeriod(const TimeSpan& period)
 {
     m_period = period;
-    for (QWidget* part : QList<QWidget*>{m_time, m_playbar, m_skipGaps})
+    for (QWidget* part : QList<QWidget*>{m_time, m_playbar, m_speed, m_skipGaps})
         part->setEnabled(!period.isEmpty());
     followClock();
 }
@@ -90,6 +121,8 @@ void TransportBar::showView()
 
 void TransportBar::retranslate()
 {
+    m_speed->setAccessibleName(tr("Speed"));
+    m_speed->setToolTip(tr("Speed"));
     m_skipGaps->setText(tr("Skip gaps"));
     m_skipGaps->setToolTip(tr("Leaves out the times without a recording of the camera"));
     showView();

@@ -10,6 +10,7 @@ class QCheckBox;
 
 namespace CorvelGui {
 class PPlaybar;
+class PopupSliderToolButton;
 class TarvoDateTimeView;
 } // namespace CorvelGui
 
@@ -19,8 +20,8 @@ class Clock;
 class ElidedLabel;
 class Selection;
 
-/// What belongs to playing, in a row: the selected moment, the playbar, the switch for gaps, and
-/// what the timeline shows.
+/// What belongs to playing, in a row: the selected moment, the playbar, its speed, the switch for
+/// gaps, and what the timeline shows.
 class TransportBar : public Translated<QWidget>
 {
     Q_OBJECT
@@ -31,6 +32,8 @@ public:
 
     CorvelGui::PPlaybar* playbar() const { return m_playbar; }
     CorvelGui::TarvoDateTimeView* timeView() const { return m_time; }
+    /// A PPlaybar::PlaybackSpeed.
+    CorvelGui::PopupSliderToolButton* speed() const { return m_speed; }
     QCheckBox* skipGaps() const { return m_skipGaps; }
 
     /// What there is to play. Without it the bar is disabled.
@@ -42,6 +45,7 @@ protected:
     void retranslate() final;
 
 private:
+    void createSpeed();
     void followClock();
     void showMoment();
     void showView();
@@ -52,6 +56,7 @@ private:
     CorvelGui::TimeSpan m_view;
     CorvelGui::TarvoDateTimeView* m_time;
     CorvelGui::PPlaybar* m_playbar;
+    CorvelGui::PopupSliderToolButton* m_speed;
     QCheckBox* m_skipGaps;
     ElidedLabel* m_viewLabel;
 };

@@ -260,10 +260,6 @@
         <translation>Clips beginnen beim Schlüsselbild vor dem Bereich. Sie werden so kopiert, wie sie aufgenommen wurden, ohne Ton.</translation>
     </message>
     <message>
-        <source>Range</source>
-        <translation>Bereich</translation>
-    </message>
-    <message>
         <source>Folder</source>
         <translation>Ordner</translation>
     </message>
@@ -574,6 +570,33 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
 </context>
 <context>
+    <name>Review::DurationFilter</name>
+    <message>
+        <source>any longer one</source>
+        <translation>jede längere</translation>
+    </message>
+    <message>
+        <source>Any duration</source>
+        <translation>Jede Dauer</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>From %1 on</source>
+        <translation>Ab %1</translation>
+    </message>
+    <message>
+        <source>How long events last that are listed</source>
+        <translation>Wie lange Ereignisse dauern, die aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>Duration of events</source>
+        <translation>Dauer von Ereignissen</translation>
+    </message>
+</context>
+<context>
     <name>Review::EventKinds</name>
     <message>
         <source>Person</source>
@@ -698,10 +721,6 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Camera</source>
         <translation>Kamera</translation>
-    </message>
-    <message>
-        <source>Range</source>
-        <translation>Bereich</translation>
     </message>
     <message>
         <source>A picture every</source>
@@ -1159,16 +1178,20 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
 <context>
     <name>Review::RangeChoice</name>
     <message>
-        <source>Current view: %1</source>
-        <translation>Aktuelle Ansicht: %1</translation>
+        <source>Current &amp;view</source>
+        <translation>Aktuelle &amp;Ansicht</translation>
     </message>
     <message>
-        <source>Selected range: %1</source>
-        <translation>Gewählter Bereich: %1</translation>
+        <source>&amp;Selected range</source>
+        <translation>&amp;Gewählter Bereich</translation>
     </message>
     <message>
-        <source>Selected range: none</source>
-        <translation>Gewählter Bereich: keiner</translation>
+        <source>Othe&amp;r range</source>
+        <translation>Ande&amp;rer Bereich</translation>
+    </message>
+    <message>
+        <source>No recording</source>
+        <translation>Keine Aufzeichnung</translation>
     </message>
 </context>
 <context>
@@ -1220,6 +1243,21 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Nothing is known of %1. Choose a time from %2 to %3.</source>
         <translation>Über %1 ist nichts bekannt. Wählen Sie eine Zeit von %2 bis %3.</translation>
+    </message>
+</context>
+<context>
+    <name>Review::RecordingBar</name>
+    <message>
+        <source>Place in the recording</source>
+        <translation>Stelle in der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Begin of the recording</source>
+        <translation>Beginn der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>End of the recording</source>
+        <translation>Ende der Aufzeichnung</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1745,10 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>%1 – %2 (%3)</source>
         <translation>%1 – %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "markerfeed.h"
 #include "playback/playbackpane.h"
 #include "playback/player.h"
+#include "playback/recordingbar.h"
 #include "playback/transportbar.h"
 #include "session/clock.h"
 #include "session/selection.h"
@@ -14,6 +15,7 @@
 #include "timeline/timelinepane.h"
 #include "video/hoverpicture.h"
 
+#include <CorvelGui/PopupSliderToolButton>
 #include <CorvelGui/TarvoDateTimeView>
 
 #include <QCheckBox>
@@ -23,8 +25,11 @@
 #include <algorithm>
 #include <utility>
 
+using CorvelGui::PopupSliderToolButton;
+using CorvelGui::PPlaybar;
 using CorvelGui::TarvoDateTimeView;
 using CorvelGui::TimeSpan;
+using CorvelGui::VideoSlider;
 
 namespace Review {
 
@@ -34,7 +39,8 @@ ReviewPanes::ReviewPanes(const Clock& clock, Selection& selection, QWidget* pare
     , m_selection(selection)
     , m_tables(new QSplitter(this))
     , m_devices(new DevicePane(clock, selection, m_tables))
-    , m_playback(new PlaybackPane(clock, selection, m_tables))
+    , m_playback(new PlaybackPane(clock, selection, this))
+    , m_recording(new RecordingBar(clock, selection, this))
     , m_events(new EventPane(clock, m_tables))
     , m_ranges(new RangePanel(clock, this))
     , m_transport(new TransportBar(clock, selection, this))
@@ -48,10 +54,18 @@ ReviewPanes::ReviewPanes(const Clock& clock, Selection& selection, QWidget* pare
     connectLists();
     connectTimeline();
     connectPlayer();
+    connectRecording();
 }
 
 void ReviewPanes::createLayout()
 {
+    auto* pictures = new QWidget;
+    auto* column = new QVBoxLayout(pictures);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(m_playback, 1);
+    column->addWidget(m_recording);
+    m_tables->insertWidget(1, pictures);
     m_tables->setChildrenCollapsible(false);
     // In proportion.
     m_tables->setSizes({300, 560, 440});
@@ -108,15 +122,34 @@ void ReviewPanes::connectPlayer()
         m_player->setTrack(camera ? &camera->history : nullptr);
         m_transport->timeView()->setDeviceName(camera ? camera->name : QString());
         m_hover->setFiles(camera ? camera->files : QList<VideoFile>());
+        m_recording->setCamera(camera);
+        showRecordingEvents();
     });
     connect(m_playback, &PlaybackPane::settled, this, &ReviewPanes::tellSettled);
     connect(&m_selection, &Selection::momentChanged, this, [this] { m_isNewest = false; });
+    PopupSliderToolButton* speed = m_transport->speed();
+    connect(speed, &PopupSliderToolButton::valueChanged, m_player, [this](int wanted) {
+        if (wanted != m_player->speed())
+            m_player->setSpeed(PPlaybar::PlaybackSpeed(wanted));
+    });
+    connect(m_player, &Player::speedChanged, speed,
+            [this, speed] { speed->setValue(m_player->speed()); });
     connect(m_player, &Player::fastChanged, m_playback, &PlaybackPane::setOnlyKeyFrames);
     connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
     connect(m_player, &Player::playingChanged, m_transport->timeView(),
             &TarvoDateTimeView::setPlayMode);
     connect(m_player, &Player::ranOutOfRecordings, this,
             [this] { Q_EMIT told(tr("There are no more recordings of this camera.")); });
+}
+
+void ReviewPanes::connectRecording()
+{
+    connect(m_recording, &RecordingBar::recordingChanged, this, &ReviewPanes::showRecordingEvents);
+    connect(m_recording, &RecordingBar::sought, this, [this] {
+        if (!m_playback->isBusy())
+            m_recording->endSeek();
+    });
+    connect(m_playback, &PlaybackPane::settled, m_recording, &RecordingBar::endSeek);
 }
 
 void ReviewPanes::setPeriod(const TimeSpan& period)
@@ -270,6 +303,18 @@ void ReviewPanes::showTracks()
     m_timeline->setTracks(m_devices->checkedTracks());
     m_playback->setTracks(m_devices->checkedTracks(), m_review.files);
     m_events->setHiddenTracks(m_devices->uncheckedTracks());
+}
+
+void ReviewPanes::showRecordingEvents()
+{
+    constexpr qsizetype mostMarks = 500; // more are no places any longer
+    QList<VideoSlider::Mark> marks;
+    for (const qsizetype event : m_events->events().eventsIn(m_recording->recording())) {
+        const Event found = m_review.events[event];
+        if (found.track == m_selection.camera() && marks.size() < mostMarks)
+            marks.append({.position = found.time, .text = EventMarkers::textOf(found)});
+    }
+    m_recording->setMarks(marks);
 }
 
 void ReviewPanes::openEvent(qsizetype event)

@@ -17,6 +17,7 @@ class MarkerFeed;
 class PlaybackPane;
 class Player;
 class PreviewCard;
+class RecordingBar;
 class RangePanel;
 class Selection;
 class TimelinePane;
@@ -80,12 +81,14 @@ private:
     void connectLists();
     void connectTimeline();
     void connectPlayer();
+    void connectRecording();
     void tellSettled();
 
     qint64 newest() const;
     void goToNewest();
     void showCheckedTracks();
     void showTracks();
+    void showRecordingEvents();
     void openEvent(qsizetype event);
     void openNextEvent(qint64 msecs, int direction);
     void showCameraOf(qsizetype event);
@@ -99,6 +102,7 @@ private:
     QSplitter* m_tables;
     DevicePane* m_devices;
     PlaybackPane* m_playback;
+    RecordingBar* m_recording;
     EventPane* m_events;
     RangePanel* m_ranges;
     TransportBar* m_transport;
