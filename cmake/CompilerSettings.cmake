@@ -27,16 +27,28 @@ if(MSVC)
     target_compile_definitions(corvelgui_settings INTERFACE NOMINMAX _USE_MATH_DEFINES)
 else()
     set(options -Wall -Wextra -Wshadow -Woverloaded-virtual -Wpedantic $<$<BOOL:${CORVELGUI_WERROR}>:-Werror>)
-    if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    if((CMAKE_UNITY_BUILD OR CORVELGUI_UNITY_PROGRAMS) AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         list(APPEND options -Wno-subobject-linkage) # a source that others are compiled with counts as a header
     endif()
 endif()
 # The compiler of Windows resources takes none of them.
 target_compile_options(corvelgui_settings INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:${options}>")
 
+# For whole folders, so that one below can say otherwise.
 if(CORVELGUI_SANITIZERS)
     set(sanitize "-fsanitize=${CORVELGUI_SANITIZERS}")
-    target_compile_options(corvelgui_settings INTERFACE
-        ${sanitize} -fno-omit-frame-pointer -fno-sanitize-recover=all)
-    target_link_options(corvelgui_settings INTERFACE ${sanitize})
+    add_compile_options(${sanitize} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(${sanitize})
+endif()
+
+# The tests are many small programs, which the usual linker takes longer to link than others.
+if(CORVELGUI_BUILD_TESTS AND NOT CMAKE_CROSSCOMPILING AND NOT MSVC)
+    include(CheckLinkerFlag)
+    foreach(linker IN ITEMS mold gold)
+        check_linker_flag(CXX "-fuse-ld=${linker}" CORVELGUI_HAS_${linker})
+        if(CORVELGUI_HAS_${linker})
+            add_link_options("-fuse-ld=${linker}")
+            break()
+        endif()
+    endforeach()
 endif()

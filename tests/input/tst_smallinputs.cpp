@@ -161,6 +161,8 @@ private Q_SLOTS:
         QCOMPARE(changed.takeFirst(), (QVariantList{QStringList{u"m"_s, u"d"_s}}));
         QCOMPARE(button.text(), u"2"_s);
         QCOMPARE(button.accessibleDescription(), u"Only: Motion, R&D"_s);
+        const QImage funnel = button.icon().pixmap(QSize(64, 64), 1.0).toImage();
+        QVERIFY(qAlpha(funnel.pixel(14, 14)) > 0 && qAlpha(funnel.pixel(14, 50)) == 0);
 
         // By mouse and space bar, with the menu staying open, and by Enter.
         QMenu* menu = button.menu();
@@ -240,6 +242,8 @@ private Q_SLOTS:
         QAccessibleInterface* link = QAccessible::queryAccessibleInterface(&label);
         QCOMPARE(link->role(), QAccessible::Link);
         QCOMPARE(link->text(QAccessible::Name), u"More…"_s);
+        label.setAccessibleName(u"More about it"_s);
+        QCOMPARE(link->text(QAccessible::Name), u"More about it"_s);
         link->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(clicked.count(), 5);
         // Not by another button, nor when the mouse has left, nor disabled.

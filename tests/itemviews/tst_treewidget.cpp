@@ -180,6 +180,7 @@ private Q_SLOTS:
         QCOMPARE(expanded.count() + collapsed.count(), 0);
         QVERIFY(!tree.signalsBlocked());
         QVERIFY(!tree.CanExpand(nullptr) && tree.CanCollapse(nullptr));
+        QVERIFY(!tree.CanCollapse(Tree().find(u"A"_s)));
         QVERIFY(tree.visualItemRect(tree.find(u"A11"_s)).isValid());
 
         PTreeWidgetItem* a = tree.find(u"A"_s);

@@ -46,7 +46,7 @@ endif()
 function(try_project project build)
     run(${CMAKE_COMMAND} -S "${project}" -B "${build}" -G "${GENERATOR}" ${platform}
         "-DCMAKE_PROJECT_INCLUDE=${CMAKE_CURRENT_LIST_DIR}/quitwhenpainted.cmake"
-        "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DSANITIZERS=${SANITIZERS}")
+        "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}")
     run(${CMAKE_COMMAND} --build "${build}")
     foreach(program IN LISTS ARGN)
         set(program "${build}/${program}${EXE}")

@@ -244,6 +244,7 @@ private Q_SLOTS:
         input.setPreset(PInputDateTimeWithRange::Preset(77));
         input.setRange({}, from);
         QCOMPARE(input.preset(), PInputDateTimeWithRange::Today);
+        QCOMPARE(edits.size(), 3); // by the user only
     }
 
     void presetsByTheUser()

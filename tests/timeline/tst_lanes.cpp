@@ -146,9 +146,11 @@ private Q_SLOTS:
                 ruler->onPreviewVisible(on, false);
             }};
         const QColor plain = timeline.colorAt(0, 6 * hour);
+        const QColor outside = timeline.colorAt(0, 4 * hour);
         for (const auto& show : switches) {
             show(true);
             QVERIFY(timeline.colorAt(0, 6 * hour) != plain);
+            QCOMPARE(timeline.colorAt(0, 4 * hour), outside);
             show(false);
             QCOMPARE(timeline.colorAt(0, 6 * hour), plain);
         }
