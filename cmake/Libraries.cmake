@@ -7,6 +7,15 @@ file(RELATIVE_PATH from_programs_to_libraries "${CMAKE_INSTALL_FULL_BINDIR}" "${
 set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/${from_programs_to_libraries}")
 set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
 
+# Until 1.0 every second number can be another interface, from then on every first.
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+    set(CORVELGUI_SOVERSION "0.${PROJECT_VERSION_MINOR}")
+    set(CORVELGUI_COMPATIBILITY SameMinorVersion)
+else()
+    set(CORVELGUI_SOVERSION "${PROJECT_VERSION_MAJOR}")
+    set(CORVELGUI_COMPATIBILITY SameMajorVersion)
+endif()
+
 # corvelgui_add_library(<Package> HEADERS <[folder/]Name>...)
 #
 # Makes the shared library <Package> with the alias <Package>::<Package>, its export header, a forwarding header
@@ -20,10 +29,17 @@ function(corvelgui_add_library package)
     add_library(${package}::${package} ALIAS ${package})
     set_target_properties(${package} PROPERTIES
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR}
+        SOVERSION ${CORVELGUI_SOVERSION}
         EXPORT_NAME ${package})
     if(WIN32)
         set_target_properties(${package} PROPERTIES PREFIX "")
+    elseif(UNIX AND NOT APPLE)
+        # Symbols carry the version of the interface, so that two of them can live in one process.
+        string(TOUPPER "${package}" upper)
+        set(version_script "${CMAKE_CURRENT_BINARY_DIR}/${package}.version")
+        file(CONFIGURE OUTPUT "${version_script}" CONTENT "${upper}_${CORVELGUI_SOVERSION} { *; };\n")
+        target_link_options(${package} PRIVATE "-Wl,--version-script=${version_script}")
+        set_property(TARGET ${package} APPEND PROPERTY LINK_DEPENDS "${version_script}")
     endif()
     corvelgui_windows_resources(${package} "${package} library")
     target_link_libraries(${package} PRIVATE $<BUILD_INTERFACE:corvelgui_settings>)
@@ -51,7 +67,7 @@ function(corvelgui_add_library package)
     configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in"
         "${PROJECT_BINARY_DIR}/${package}Config.cmake" INSTALL_DESTINATION "${config_dir}")
     write_basic_package_version_file("${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
-        COMPATIBILITY SameMajorVersion)
+        COMPATIBILITY ${CORVELGUI_COMPATIBILITY})
     install(FILES "${PROJECT_BINARY_DIR}/${package}Config.cmake" "${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
         DESTINATION "${config_dir}" COMPONENT development)
 endfunction()

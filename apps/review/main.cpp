@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QImage>
+#include <QLoggingCategory>
 #include <QPixmap>
 
 #include <optional>
@@ -120,6 +121,8 @@ int main(int argc, char* argv[])
 {
     QCoreApplication::setApplicationName(u"corvel-review"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));
+    QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
+    QLoggingCategory::setFilterRules(u"corvelgui.*.debug=false"_s); // which QT_LOGGING_RULES can undo
     CommandLine commandLine;
     {
         // Help and refusals need no display.
