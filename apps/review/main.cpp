@@ -122,7 +122,8 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(u"corvel-review"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVELGUI_VERSION));
     QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
-    QLoggingCategory::setFilterRules(u"corvelgui.*.debug=false"_s); // which QT_LOGGING_RULES can undo
+    QLoggingCategory::setFilterRules(
+        u"corvelgui.*.debug=false"_s); // which QT_LOGGING_RULES can undo
     CommandLine commandLine;
     {
         // Help and refusals need no display.

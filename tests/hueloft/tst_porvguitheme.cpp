@@ -110,10 +110,11 @@ private Q_SLOTS:
         QCOMPARE(label.minimumSizeHint().width(), 150);
 
         const QPalette palette = QApplication::palette();
-        for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button, QPalette::Highlight,
-                                               QPalette::Link, QPalette::PlaceholderText})
-            QVERIFY(!dark ||
-                    palette.color(QPalette::Disabled, role) != palette.color(QPalette::Active, role));
+        for (const QPalette::ColorRole role :
+             {QPalette::Base, QPalette::Button, QPalette::Highlight, QPalette::Link,
+              QPalette::PlaceholderText})
+            QVERIFY(!dark || palette.color(QPalette::Disabled, role) !=
+                                 palette.color(QPalette::Active, role));
         for (const auto& [text, ground] : {std::pair(QPalette::Link, QPalette::Window),
                                            std::pair(QPalette::LinkVisited, QPalette::Window),
                                            std::pair(QPalette::PlaceholderText, QPalette::Base),
