@@ -84,5 +84,5 @@ QString DesignerWidget::domXml() const
 <x>0</x><y>0</y><width>%4</width><height>%5</height></rect></property></widget>
 <customwidgets><customwidget><class>%2</class><extends>%6</extends></customwidget></customwidgets>
 </ui>)"_s.arg(shortName(), name(), objectName, QString::number(m_widget.size.width()),
-             QString::number(m_widget.size.height()), nearestOfQt(m_widget.meta));
+              QString::number(m_widget.size.height()), nearestOfQt(m_widget.meta));
 }

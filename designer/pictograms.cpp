@@ -14,7 +14,8 @@ const QColor accent(0x3f, 0x9b, 0xe0);
 class Sketch
 {
 public:
-    Sketch(QPainter& painter, const QRect& square, const QColor& ink) : m_painter(painter), m_ink(ink)
+    Sketch(QPainter& painter, const QRect& square, const QColor& ink)
+        : m_painter(painter), m_ink(ink)
     {
         painter.translate(square.topLeft());
         painter.scale(square.width() / 16.0, square.height() / 16.0);

@@ -68,9 +68,13 @@ FormWidget widget(Pictogram pictogram, const QString& toolTip, QSize size,
     result.pictogram = pictogram;
     result.toolTip = toolTip;
     result.size = size;
-    result.create = [](QWidget* parent) { return new Widget(parent); };
+    result.create = [](QWidget* parent) {
+        return new Widget(parent);
+    };
     if (fill)
-        result.fill = [fill](QWidget& made) { fill(static_cast<Widget&>(made)); };
+        result.fill = [fill](QWidget& made) {
+            fill(static_cast<Widget&>(made));
+        };
     return result;
 }
 
@@ -93,7 +97,8 @@ void fillRuler(Ruler& ruler)
     ruler.setTimeLimits(sampleBegin, sampleEnd);
     TrackDescription track{u"1"_s, u"Entrance"_s, sampleBegin, sampleEnd, {}};
     for (const int begin : {0, 2, 5})
-        track.recorded.append({sampleBegin + begin * hour, sampleBegin + (begin + 2) * hour - hour / 3});
+        track.recorded.append(
+            {sampleBegin + begin * hour, sampleBegin + (begin + 2) * hour - hour / 3});
     ruler.setTrackDescriptions({track});
     RulerMarker marker;
     marker.identifier = QUuid::createUuid();
@@ -123,27 +128,27 @@ QList<FormWidget> timeline()
 QList<FormWidget> playback()
 {
     using enum Pictogram;
-    return {widget<PPlaybar>(Player, u"Buttons to play recordings"_s, {440, 48}),
-            widget<TarvoDateTimeView>(Player, u"Date and time that are shown, and a way to others"_s,
-                                      {260, 50},
-                                      [](TarvoDateTimeView& view) {
-                                          view.updateDateTime(QDateTime::fromMSecsSinceEpoch(
-                                              sampleBegin, QTimeZone::utc()));
-                                      }),
-            widget<VideoSlider>(Slider, u"Position in a video, with what is buffered and marked"_s,
-                                {400, 24},
-                                [](VideoSlider& slider) {
-                                    slider.setDuration(60'000);
-                                    slider.setBuffered(0, 40'000);
-                                    slider.setPosition(20'000);
-                                }),
-            widget<PSlider>(Slider, u"A thin slider with texts at its ticks"_s, {200, 24}),
-            widget<RangeSlider>(Slider, u"A slider with two handles"_s, {200, 24},
-                                [](RangeSlider& slider) { slider.setValues(20, 70); }),
-            widget<PopupSliderToolButton>(Slider, u"A button whose pop-up holds a slider"_s, {32, 32}),
-            widget<TarvoToolButton>(Button, u"A button of the playbar"_s, {40, 40}),
-            widget<PDateEdit>(Entry, u"A date, or none"_s, {130, 28}),
-            widget<PInputDateTimeWithRange>(Entry, u"From and to, with presets"_s, {520, 100})};
+    return {
+        widget<PPlaybar>(Player, u"Buttons to play recordings"_s, {440, 48}),
+        widget<TarvoDateTimeView>(
+            Player, u"Date and time that are shown, and a way to others"_s, {260, 50},
+            [](TarvoDateTimeView& view) {
+                view.updateDateTime(QDateTime::fromMSecsSinceEpoch(sampleBegin, QTimeZone::utc()));
+            }),
+        widget<VideoSlider>(Slider, u"Position in a video, with what is buffered and marked"_s,
+                            {400, 24},
+                            [](VideoSlider& slider) {
+                                slider.setDuration(60'000);
+                                slider.setBuffered(0, 40'000);
+                                slider.setPosition(20'000);
+                            }),
+        widget<PSlider>(Slider, u"A thin slider with texts at its ticks"_s, {200, 24}),
+        widget<RangeSlider>(Slider, u"A slider with two handles"_s, {200, 24},
+                            [](RangeSlider& slider) { slider.setValues(20, 70); }),
+        widget<PopupSliderToolButton>(Slider, u"A button whose pop-up holds a slider"_s, {32, 32}),
+        widget<TarvoToolButton>(Button, u"A button of the playbar"_s, {40, 40}),
+        widget<PDateEdit>(Entry, u"A date, or none"_s, {130, 28}),
+        widget<PInputDateTimeWithRange>(Entry, u"From and to, with presets"_s, {520, 100})};
 }
 
 QList<FormWidget> entries()
@@ -169,11 +174,12 @@ QList<FormWidget> choices()
 {
     using enum Pictogram;
     constexpr QSize line(200, 28);
-    return {widget<SubNetMaskComboBox>(Choice, u"A subnet mask"_s, line),
-            widget<NetworkInterfaceComboBox>(Choice, u"A network interface of this machine"_s, line),
-            widget<PColorComboBox>(Choice, u"A colour of a list, or an own one"_s, line),
-            widget<PStringComboBox>(Choice, u"A text that stands for a value"_s, line),
-            widget<PRecentComboBox>(Choice, u"What was entered before"_s, line)};
+    return {
+        widget<SubNetMaskComboBox>(Choice, u"A subnet mask"_s, line),
+        widget<NetworkInterfaceComboBox>(Choice, u"A network interface of this machine"_s, line),
+        widget<PColorComboBox>(Choice, u"A colour of a list, or an own one"_s, line),
+        widget<PStringComboBox>(Choice, u"A text that stands for a value"_s, line),
+        widget<PRecentComboBox>(Choice, u"What was entered before"_s, line)};
 }
 
 QList<FormWidget> buttons()
@@ -196,15 +202,16 @@ QList<FormWidget> buttons()
 QList<FormWidget> views()
 {
     using enum Pictogram;
-    return {widget<PTreeWidget>(List, u"A tree that tells of its selection and exports"_s, {260, 160}),
-            widget<PTableWidget>(List, u"A table that tells of its selection and exports"_s, {320, 160}),
-            container(widget<PTabWidget>(Page, u"Tabs whose names can be edited"_s, {320, 200})),
-            widget<PImageWidget>(Picture, u"A picture that fits"_s, {240, 160}),
-            widget<PImageAndLabelWidget>(Picture, u"A picture with a text"_s, {240, 160},
-                                         [](PImageAndLabelWidget& picture) {
-                                             picture.setText(u"Entrance"_s);
-                                         }),
-            widget<PFractionalProgressBar>(Progress, u"Progress in parts of a percent"_s, {240, 24})};
+    return {
+        widget<PTreeWidget>(List, u"A tree that tells of its selection and exports"_s, {260, 160}),
+        widget<PTableWidget>(List, u"A table that tells of its selection and exports"_s,
+                             {320, 160}),
+        container(widget<PTabWidget>(Page, u"Tabs whose names can be edited"_s, {320, 200})),
+        widget<PImageWidget>(Picture, u"A picture that fits"_s, {240, 160}),
+        widget<PImageAndLabelWidget>(
+            Picture, u"A picture with a text"_s, {240, 160},
+            [](PImageAndLabelWidget& picture) { picture.setText(u"Entrance"_s); }),
+        widget<PFractionalProgressBar>(Progress, u"Progress in parts of a percent"_s, {240, 24})};
 }
 
 QList<FormWidget> pages()
