@@ -278,6 +278,7 @@ private Q_SLOTS:
         // Side by side, and one of them enlarged.
         QTest::mouseDClick(view->viewport(), Qt::LeftButton);
         QTRY_COMPARE(pane->shownCameras(), 4);
+        QCOMPARE(pane->views()[1]->picture().camera, u"Yard"_s);
         QTest::mouseClick(pane->views()[1]->viewport(), Qt::LeftButton);
         QCOMPARE(pane->camera()->name, u"Yard"_s);
         QTRY_COMPARE(pane->views()[1]->picture().message, u"No picture"_s);

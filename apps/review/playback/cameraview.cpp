@@ -47,7 +47,10 @@ void CameraView::setCamera(const std::optional<Camera>& camera, qint64 cacheByte
     // Of one that still records the picture stays until the next one.
     if (!sameCamera) {
         m_frame = {};
-        showPicture({});
+        // Whose picture it is to be, as long as none is there.
+        CameraPicture none;
+        none.camera = camera ? camera->name.simplified() : QString();
+        showPicture(none);
     }
     if (!camera)
         return;

@@ -83,7 +83,7 @@ int CameraPicture::paintNameAndTime(QPainter& painter, const QRect& area) const
           metrics.elidedText(camera, Qt::ElideRight, name.width()));
     write(isNarrow ? line.translated(0, line.height()) : line,
           (isNarrow ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter | Qt::TextSingleLine,
-          time);
+          metrics.elidedText(time, Qt::ElideLeft, line.width()));
     return line.height();
 }
 
