@@ -83,7 +83,7 @@ private:
     std::thread m_thread;
 };
 
-enum Doing { Rests, Plays, PlaysWhileHovered, Scrubs };
+enum Doing { Rests, Plays, Switches, PlaysWhileHovered, Scrubs };
 
 void runFor(std::chrono::milliseconds time)
 {
@@ -120,11 +120,12 @@ void eventLatency(benchmark::State& state)
     window.setReview(recordings(clip.path(), cameraCount, 100, 0));
     window.resize(1600, 1000);
     window.show();
-    window.findChild<PlaybackPane*>()->setShownCameras(cameraCount);
+    auto* pane = window.findChild<PlaybackPane*>();
+    pane->setShownCameras(cameraCount);
     auto* ruler = window.findChild<CorvelGui::Ruler*>();
     ruler->setView(begin, begin + 20 * clipLength);
     runFor(2s);
-    if (state.range(0) == Plays || state.range(0) == PlaysWhileHovered)
+    if (state.range(0) != Rests && state.range(0) != Scrubs)
         window.play();
     QWidget* dragged = nullptr;
     if (state.range(0) == Scrubs) {
@@ -136,6 +137,8 @@ void eventLatency(benchmark::State& state)
         for (int step = 0; step < 500; ++step) {
             if (state.range(0) >= PlaysWhileHovered)
                 moveMouse(ruler, dragged, step);
+            if (state.range(0) == Switches && step % 25 == 0)
+                pane->setShownCameras(step % 2 ? 1 : cameraCount);
             runFor(16ms);
         }
         const std::vector<double>& times = waits.stop();
@@ -164,7 +167,7 @@ void manyRecordings(benchmark::State& state)
 }
 
 BENCHMARK(eventLatency)
-    ->ArgsProduct({{Rests, Plays, PlaysWhileHovered, Scrubs}, {360, 1080}})
+    ->ArgsProduct({{Rests, Plays, Switches, PlaysWhileHovered, Scrubs}, {360, 1080}})
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1);
 BENCHMARK(manyRecordings)->Arg(1)->Arg(16)->Arg(200)->Unit(benchmark::kMillisecond)->Iterations(1);
