@@ -39,7 +39,7 @@ foreach(entry IN ITEMS "qt6-base-dev/copyright:Qt" "gcc-mingw-w64-base/copyright
     list(GET entry 1 name)
     install(FILES "/usr/share/doc/${file}" DESTINATION licences RENAME "${name}.txt" COMPONENT review)
 endforeach()
-foreach(name IN ITEMS LGPL-3 GPL-3)
+foreach(name IN ITEMS LGPL-2.1 LGPL-3 GPL-3)
     install(FILES "/usr/share/common-licenses/${name}" DESTINATION licences RENAME "${name}.txt" COMPONENT review)
 endforeach()
 
