@@ -225,8 +225,8 @@ const QStaticText& RulerPainter::shaped(const QString& text) const
     return result;
 }
 
-void RulerPainter::markClockChange(QPainter& painter, const QRectF& rect, const ClockMark& mark,
-                                   int headerHeight) const
+void RulerPainter::tintRepeated(QPainter& painter, const QRectF& rect, const ClockMark& mark,
+                                int headerHeight) const
 {
     const DeviceGrid grid(painter);
     const auto tint = [&](double from, double to, int alpha) {
@@ -240,8 +240,6 @@ void RulerPainter::markClockChange(QPainter& painter, const QRectF& rect, const 
     // The hour that comes twice, and the second time again.
     tint(mark.x - mark.repeated, mark.x + mark.repeated, 70);
     tint(mark.x, mark.x + mark.repeated, 70);
-    painter.fillRect(grid.aligned(QRectF(mark.x - 1, mark.top, 2, rect.bottom() - mark.top)),
-                     colors.clockChange);
 }
 
 void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
@@ -258,7 +256,7 @@ void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, co
                                   ? layoutCalendarTicks(scene.scale, rect, style, *scene.clock)
                                   : layoutTicks(scene.scale, rect, style, toMidnight);
     for (const ClockMark& mark : layout.clockMarks)
-        markClockChange(painter, rect, mark, scene.headerHeight);
+        tintRepeated(painter, rect, mark, scene.headerHeight);
     // Filled, because a painter takes ten times as long to draw a line; and without smooth edges,
     // which cost six times as much again and show nothing on whole device pixels.
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -269,6 +267,10 @@ void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, co
                           tick.bottom - tick.top + lineWidth);
         painter.fillRect(grid.aligned(line), tick.major ? majorColor : minorColor);
     }
+    // Over the tick that stands there.
+    for (const ClockMark& mark : layout.clockMarks)
+        painter.fillRect(grid.aligned(QRectF(mark.x - 1, mark.top, 2, rect.bottom() - mark.top)),
+                         colors.clockChange);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(textColor);
     const double ascent = QFontMetricsF(painter.font()).ascent();

@@ -76,8 +76,8 @@ private:
     void shadeOutsideLimits(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
     void drawResultMarks(QPainter& painter, const RulerScene& scene) const;
     void drawPreviewLine(QPainter& painter, const RulerScene& scene, const QRectF& rect) const;
-    void markClockChange(QPainter& painter, const QRectF& rect, const ClockMark& mark,
-                         int headerHeight) const;
+    void tintRepeated(QPainter& painter, const QRectF& rect, const ClockMark& mark,
+                      int headerHeight) const;
     void drawScaleRuler(QPainter& painter, const RulerScene& scene, const QRectF& rect,
                         qint64 toMidnight) const;
 

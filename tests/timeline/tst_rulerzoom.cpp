@@ -375,6 +375,9 @@ private Q_SLOTS:
             header << image.pixel(int(ruler.xAt(change + offset * minute)), 1);
         QCOMPARE(header[0], header[3]);
         QVERIFY(header[0] != header[1] && header[1] != header[2] && header[2] != header[3]);
+        // The mark of the change is wider than the tick there, and over it.
+        const QPoint mark(qRound(ruler.xAt(change)), image.height() - 5);
+        QCOMPARE(image.pixel(mark), image.pixel(mark - QPoint(1, 0)));
     }
 
 private:

@@ -8,6 +8,22 @@
 
 namespace Review {
 
+namespace {
+
+void hatch(QPainter& painter, const QRectF& area, const QColor& line)
+{
+    painter.save();
+    painter.setClipRect(area, Qt::IntersectClip);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(line, 1));
+    constexpr double distance = 4;
+    for (double x = area.left(); x < area.right() + area.height(); x += distance)
+        painter.drawLine(QPointF(x, area.top()), QPointF(x - area.height(), area.bottom()));
+    painter.restore();
+}
+
+} // namespace
+
 QString StateSign::text(TrackState state)
 {
     switch (state) {
@@ -35,7 +51,7 @@ void StateSign::paint(QPainter& painter, const QRectF& area, TrackState state, c
         painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));
         break;
     case TrackState::Loading:
-        painter.fillRect(area, QBrush(line, Qt::BDiagPattern));
+        hatch(painter, area, line);
         break;
     case TrackState::NothingKnown:
         painter.setPen(QPen(line, 1, Qt::DotLine));
