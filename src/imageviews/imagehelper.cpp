@@ -79,9 +79,10 @@ ImageHelper::Picture ImageHelper::read(const QByteArray& data, const Limits& lim
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isEmpty())
+    const QSize told = reader.size();
+    if (told.isEmpty())
         return picture;
+    const QSize size = told.expandedTo(canvasSize(data, format));
     const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     picture.fullSize = turned ? size.transposed() : size;
     const QSize wanted = reduced(size, turned ? limits.size.transposed() : limits.size);

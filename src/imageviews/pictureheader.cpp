@@ -61,4 +61,12 @@ bool isWholePicture(const QByteArray& data, const QByteArray& format)
     return format != "bmp" || isWholeBmp(data);
 }
 
+QSize canvasSize(const QByteArray& data, const QByteArray& format)
+{
+    constexpr qsizetype headerSize = 10;
+    if (format != "gif" || data.size() < headerSize)
+        return {};
+    return {littleEndianAt<quint16>(data, 6), littleEndianAt<quint16>(data, 8)};
+}
+
 } // namespace CorvelGui

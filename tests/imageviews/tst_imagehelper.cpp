@@ -129,6 +129,11 @@ private Q_SLOTS:
         QTest::newRow("enormous PNG") << pngThatSays(hostileSide) << large;
         QTest::newRow("enormous JPEG") << jpegThatSays(hostileSide) << large;
         QTest::newRow("enormous GIF") << gif('\x50', '\xc3') << large;
+        const QByteArray small = gif(1, 0);
+        QTest::newRow("GIF of a small picture on a large canvas")
+            << QByteArray(small).replace(6, 4, QByteArray("\x2c\1\x2c\1", 4)) << u"100x100"_s;
+        QTest::newRow("GIF of a small picture on an enormous canvas")
+            << QByteArray(small).replace(6, 4, "\x50\xc3\x50\xc3") << large;
     }
 
     void picturesAreReadWithinLimits()
