@@ -1,7 +1,7 @@
 #include "textcursor.h"
 
 #include "base/wholefile.h"
-#include "previewicons.h"
+#include "printpreview.h"
 #include "reportdocument.h"
 #include "reportpages.h"
 #include "reportrows.h"
@@ -460,7 +460,7 @@ void TextCursor::preview(QWidget* parent)
     printer.setDocName(d->title);
     const QPointer dialog = new QPrintPreviewDialog(&printer, parent);
     dialog->resize(windowSize);
-    lightenPreviewIcons(*dialog);
+    adaptPrintPreview(*dialog);
     connect(dialog, &QPrintPreviewDialog::paintRequested, this,
             [this](QPrinter* wanted) { print(*wanted); });
     dialog->exec();

@@ -137,11 +137,12 @@ void RSSFeedDialog::createLayout()
     d->status = new QLabel;
     d->status->setTextFormat(Qt::PlainText);
     d->status->setWordWrap(true);
-    d->buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    // Made in the order in which Tab goes: it would not come to a button that was there before.
+    d->buttons = new QDialogButtonBox;
     d->refresh = d->buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     d->markAll = d->buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     d->refresh->setIcon(Hueloft::PIconHelper::GetRefreshIcon_256x256(true));
-    d->buttons->button(QDialogButtonBox::Close)->setDefault(true);
+    d->buttons->addButton(QDialogButtonBox::Close)->setDefault(true);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(d->parts, 1);

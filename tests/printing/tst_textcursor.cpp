@@ -217,6 +217,11 @@ private Q_SLOTS:
         int shown = 0;
         whenShown<QPrintPreviewDialog>(this, [&](QPrintPreviewDialog& dialog) {
             shown = dialog.findChild<QPrintPreviewWidget*>()->pageCount();
+            dialog.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            QCOMPARE(unreachedByTab(dialog), QStringList());
+            for (const auto* button : dialog.findChildren<QToolButton*>())
+                QVERIFY(button->focusPolicy() & Qt::TabFocus);
             dialog.reject();
         });
         report.preview(nullptr);

@@ -42,6 +42,9 @@
 
 using namespace Qt::StringLiterals;
 
+/// What Tab does not reach in the active window that the user could use, by class and text.
+QStringList unreachedByTab(const QWidget& window);
+
 /// Base of all test classes: a test fails on every warning that it did not announce with
 /// QTest::ignoreMessage(). A class that has an init() of its own calls this one from it.
 class WarningFreeTest : public QObject

@@ -185,6 +185,9 @@ private Q_SLOTS:
                                          "<item><guid>c</guid><title>C</title></item>"));
         bench.dialog.refresh();
         QTRY_COMPARE(bench.told(), u"B C!"_s);
+        bench.dialog.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&bench.dialog));
+        QCOMPARE(unreachedByTab(bench.dialog), QStringList());
     }
 
     void marksAreBounded()

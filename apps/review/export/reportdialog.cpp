@@ -29,10 +29,11 @@ ReportDialog::ReportDialog(const ReportPlan& plan, const QString& folder, QWidge
     , m_withPictures(new QCheckBox)
     , m_state(new QLabel)
     , m_progress(new QProgressBar)
-    , m_buttons(new QDialogButtonBox(QDialogButtonBox::Close))
+    , m_buttons(new QDialogButtonBox)
     , m_save(m_buttons->addButton(QString(), QDialogButtonBox::ActionRole))
     , m_preview(m_buttons->addButton(QString(), QDialogButtonBox::ActionRole))
 {
+    m_buttons->addButton(QDialogButtonBox::Close); // where Tab comes last
     const bool hasCameras = std::ranges::any_of(
         plan.cameras, [](const Camera& camera) { return !camera.files.isEmpty(); });
     const bool canHavePictures = hasCameras && plan.events.size() <= EventReport::mostPictures;
