@@ -1,4 +1,5 @@
 #include "footage/footage.h"
+#include "lists/eventtable.h"
 #include "look/zonecombo.h"
 #include "options/reviewsettings.h"
 #include "playback/playbackpane.h"
@@ -121,6 +122,13 @@ private Q_SLOTS:
             return time + 1'000;
         };
         QVERIFY(record(monday) && record(monday + day));
+        QFile events(folder.filePath(u"events.csv"_s));
+        const auto note = [&events](const char* line) {
+            const bool noted = events.open(QIODevice::Append) && events.write(line) > 0;
+            events.close();
+            return noted;
+        };
+        QVERIFY(note("time,kind,text\n2026-03-02T01:00Z,person,one\n"));
         ReviewWindow window(u"UTC"_s, true);
         const Ruler* ruler = window.findChild<Ruler*>();
         const auto end = [ruler] {
@@ -138,10 +146,14 @@ private Q_SLOTS:
         timeline->showAround(monday + day, hour);
 
         constexpr int patience = 30'000;
-        QVERIFY(record(monday + 2 * day));
+        const QTableView* table = window.findChild<EventTable*>();
+        const QSignalSpy reset(table->model(), &QAbstractItemModel::modelReset);
+        QVERIFY(note("2026-03-02T02:00Z,car,two\n") && record(monday + 2 * day));
         QTRY_COMPARE_WITH_TIMEOUT(end(), endOf(monday + 2 * day), patience);
         QCOMPARE(moment(), endOf(monday + 2 * day) - 1);
         QVERIFY(timeline->view().end >= moment());
+        QTRY_COMPARE(table->model()->rowCount(), 2);
+        QVERIFY(reset.isEmpty() && table->currentIndex().row() == 0);
         // Not under the user's hand.
         timeline->showAround(monday + day, hour);
         const CorvelGui::TimeSpan view = timeline->view();
@@ -151,6 +163,11 @@ private Q_SLOTS:
         window.findChild<QAction*>(u"newestRecording"_s)->trigger();
         QVERIFY(timeline->view().end >= endOf(monday + 3 * day) - 1);
         QVERIFY(timeline->isFollowing());
+        // Played to the end, it goes on with what comes.
+        window.play();
+        QTRY_COMPARE(moment(), endOf(monday + 3 * day));
+        QVERIFY(record(monday + 4 * day));
+        QTRY_COMPARE_WITH_TIMEOUT(moment(), endOf(monday + 4 * day) - 1, patience);
     }
 };
 

@@ -134,6 +134,10 @@ void ReviewPanes::connectPlayer()
     });
     connect(m_player, &Player::speedChanged, speed,
             [this, speed] { speed->setValue(m_player->speed()); });
+    connect(m_player, &Player::playingChanged, this, [this](bool playing) {
+        // Who has played up to the end waits for more.
+        m_isNewest = m_isNewest || (!playing && m_selection.moment() >= newest());
+    });
     connect(m_player, &Player::fastChanged, m_playback, &PlaybackPane::setOnlyKeyFrames);
     connect(m_transport->skipGaps(), &QCheckBox::toggled, m_player, &Player::setSkippingGaps);
     connect(m_player, &Player::playingChanged, m_transport->timeView(),
