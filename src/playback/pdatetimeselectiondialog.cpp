@@ -173,7 +173,8 @@ void PDateTimeSelectionDialog::createLayout()
     layout->addWidget(d->occurrence);
     layout->addStretch();
     layout->addWidget(d->buttons);
-    setMinimumWidth(320);
+    // Of the dialog itself it would count more than what larger fonts need.
+    d->date->setMinimumWidth(220);
 }
 
 void PDateTimeSelectionDialog::report()
