@@ -130,7 +130,7 @@ double EventReport::widthOf(qsizetype column) const
 {
     constexpr qsizetype longestWord = 20;
     constexpr qsizetype longestText = 60;
-    constexpr double padding = 2;
+    constexpr double padding = 2.5;
     qsizetype word = 0;
     qsizetype text = 0;
     const auto look = [&word, &text](const QString& said) {
@@ -142,7 +142,7 @@ double EventReport::widthOf(qsizetype column) const
     for (const EventLine& event : m_plan.events)
         look(event.texts.value(column));
     word = std::min(word, longestWord);
-    return double(word) + padding + double(std::min(text, longestText) - word) / 3;
+    return double(word) + padding + double(std::min(text, longestText) - word) / 5;
 }
 
 bool EventReport::writeTable(TextCursor& report, bool withPictures) const
@@ -151,7 +151,7 @@ bool EventReport::writeTable(TextCursor& report, bool withPictures) const
     for (qsizetype column = 0; column < m_plan.columns.size(); ++column)
         table.widths.append(widthOf(column));
     if (withPictures) {
-        constexpr double share = 0.37;
+        constexpr double share = 0.25;
         table.header.prepend(tr("Picture"));
         table.widths.prepend(share *
                              std::accumulate(table.widths.begin(), table.widths.end(), 0.0));
