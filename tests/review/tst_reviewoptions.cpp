@@ -250,7 +250,7 @@ private Q_SLOTS:
             Client client(m_path);
             client.window.move(40, 50);
             // No larger than the screen of these tests, on which the window would be made to fit.
-            client.window.resize(client.window.minimumSizeHint().width(), 600);
+            client.window.resize(620, 600);
             size = client.window.size();
             client.window.findChild<QToolBar*>()->hide();
             QCoreApplication::processEvents();
@@ -262,7 +262,10 @@ private Q_SLOTS:
         const Client client(m_path);
         QCOMPARE(client.window.size(), size);
         QVERIFY(client.window.findChild<QToolBar*>()->isHidden());
-        QCOMPARE(client.window.findChild<QSplitter*>()->sizes(), widths);
+        const QList<int> restored = client.window.findChild<QSplitter*>()->sizes();
+        QVERIFY(std::ranges::equal(restored, widths, [](int width, int before) {
+            return std::abs(width - before) <= 1; // what is left over is given to one of them
+        }));
     }
 
     void damagedFiles()

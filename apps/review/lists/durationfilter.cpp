@@ -96,8 +96,8 @@ void DurationFilter::showDurations()
         text = tr("From %1 on").arg(m_slider->textOf(lower));
     m_durations->setText(text);
     setAccessibleName(text);
+    setText(text);
     updateGeometry();
-    showText();
 }
 
 QSize DurationFilter::sizeHint() const
@@ -109,18 +109,6 @@ QSize DurationFilter::sizeHint() const
 QSize DurationFilter::minimumSizeHint() const
 {
     return {3 * fontMetrics().height() / 2, sizeHint().height()};
-}
-
-void DurationFilter::resizeEvent(QResizeEvent* event)
-{
-    Translated::resizeEvent(event);
-    showText();
-}
-
-void DurationFilter::showText()
-{
-    setText(fontMetrics().elidedText(m_durations->text(), Qt::ElideRight,
-                                     width() - fontMetrics().height()));
 }
 
 void DurationFilter::retranslate()

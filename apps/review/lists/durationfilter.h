@@ -40,11 +40,9 @@ Q_SIGNALS:
 
 protected:
     void retranslate() final;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void showDurations();
-    void showText();
 
     CorvelGui::RangeSlider* m_slider;
     QLabel* m_durations;
