@@ -10,14 +10,19 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QImage>
 #include <QMouseEvent>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <filesystem>
 #include <thread>
 
 using namespace Review;
@@ -166,16 +171,62 @@ void manyRecordings(benchmark::State& state)
     }
 }
 
+/// The same while it loads a folder of 200 000 pictures, and loads it again.
+void manyFiles(benchmark::State& state)
+{
+    QTemporaryDir folder;
+    const QDir camera(folder.filePath(QStringLiteral("Gate")));
+    QDir().mkpath(camera.path());
+    const QString first = folder.filePath(QStringLiteral("Gate/20260302_000000.jpg"));
+    QImage picture(64, 36, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    picture.save(first);
+    std::filesystem::path linked = first.toStdString();
+    for (int second = 1; second < 200'000; ++second) {
+        const QDateTime time = QDateTime({2026, 3, 2}, {0, 0}).addSecs(second);
+        const QString name = time.toString(QStringLiteral("yyyyMMdd_HHmmss'.jpg'"));
+        const std::filesystem::path file = camera.filePath(name).toStdString();
+        if (second % 50'000 != 0) {
+            std::filesystem::create_hard_link(linked, file);
+        } else { // a file has no more names than that
+            std::filesystem::copy_file(linked, file);
+            linked = file;
+        }
+    }
+    ReviewFiles files;
+    files.footage = {folder.path()};
+    files.footageFolder = folder.path();
+    ReviewWindow window(QStringLiteral("UTC"), true);
+    window.resize(1600, 1000);
+    window.show();
+    runFor(1s);
+    for (auto _ : state) {
+        Waits waits;
+        for (int time = 0; time < 2; ++time) {
+            QEventLoop loop;
+            QObject::connect(&window, &ReviewWindow::loaded, &loop, &QEventLoop::quit);
+            window.load(files);
+            loop.exec();
+            do
+                runFor(1s);
+            while (window.isBusy());
+        }
+        state.counters["longest_ms"] = waits.stop().back();
+    }
+}
+
 BENCHMARK(eventLatency)
     ->ArgsProduct({{Rests, Plays, Switches, PlaysWhileHovered, Scrubs}, {360, 1080}})
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1);
 BENCHMARK(manyRecordings)->Arg(1)->Arg(16)->Arg(200)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(manyFiles)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    QStandardPaths::setTestModeEnabled(true); // what is known of files is kept there
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -1,6 +1,7 @@
 #include "loadjob.h"
 
 #include "data/leavethread.h"
+#include "data/letgo.h"
 #include "data/sampledata.h"
 
 #include <QDir>
@@ -147,6 +148,7 @@ LoadJob::~LoadJob()
 {
     m_work->loader.progress().cancel();
     leaveThread(m_thread);
+    letGo(std::move(m_work));
 }
 
 void LoadJob::cancel()

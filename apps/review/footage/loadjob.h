@@ -83,7 +83,7 @@ private:
     LoadJob(std::shared_ptr<Work> work, const TimeCorrections& corrections, QObject* parent);
     void end();
 
-    const std::shared_ptr<Work> m_work;
+    std::shared_ptr<Work> m_work;
     const ReviewFiles m_files;
     const TimeCorrections m_corrections;
     const bool m_isCorrection;

@@ -11,10 +11,15 @@ namespace {
 constexpr qint64 interval = 2'000; // milliseconds
 /// A folder that takes long to look through is looked at less often.
 constexpr qint64 restPerWork = 4;
+/// For how long files are read at a time: so long that finding them again each time is the
+/// smaller part.
+constexpr qint64 leastReading = 2'000; // milliseconds
+constexpr qint64 readingPerSearch = 3;
 
 } // namespace
 
-RecordingWatch::RecordingWatch(ReviewOpener* opener) : QObject(opener), m_opener(opener)
+RecordingWatch::RecordingWatch(ReviewOpener* opener)
+    : QObject(opener), m_opener(opener), m_patience(leastReading)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &RecordingWatch::look);
@@ -42,6 +47,7 @@ void RecordingWatch::followLoading(bool loading)
     m_timer.stop();
     m_job.reset();
     m_duration = 0;
+    m_patience = leastReading;
 }
 
 void RecordingWatch::goOn()
@@ -57,7 +63,7 @@ void RecordingWatch::goOn()
 
 void RecordingWatch::look()
 {
-    constexpr std::chrono::milliseconds patience(2'000);
+    const std::chrono::milliseconds patience(m_patience);
     m_elapsed.start();
     m_job = std::make_unique<LoadJob>(m_opener->loaded(), m_opener->corrections(),
                                       ReadingOrder{.first = m_view, .patience = patience});
@@ -71,6 +77,7 @@ void RecordingWatch::finish()
     LoadJob* job = m_job.release();
     job->deleteLater();
     const bool wasReading = isReading();
+    m_patience = std::max(leastReading, readingPerSearch * (m_duration - m_patience));
     // A folder that is gone may come back; what was found in it stays until then.
     if (job->error().isEmpty()) {
         m_opener->setLoaded(job->read());

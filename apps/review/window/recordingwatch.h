@@ -48,6 +48,7 @@ private:
     QTimer m_timer;
     QElapsedTimer m_elapsed; ///< since the look began
     qint64 m_duration = 0;   ///< of the last look, in milliseconds
+    qint64 m_patience;       ///< for how long the next look reads, in milliseconds
     std::unique_ptr<LoadJob> m_job;
 };
 

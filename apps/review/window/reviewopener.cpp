@@ -1,5 +1,6 @@
 #include "reviewopener.h"
 
+#include "data/letgo.h"
 #include "loadpanel.h"
 #include "session/clock.h"
 
@@ -64,12 +65,17 @@ void ReviewOpener::start(std::unique_ptr<LoadJob> job)
     m_job->start();
 }
 
+void ReviewOpener::setLoaded(const LoadedFiles& loaded)
+{
+    letGo(std::exchange(m_loaded, loaded));
+}
+
 void ReviewOpener::finish()
 {
     LoadJob* job = m_job.release();
     job->deleteLater();
     if (!job->isCancelled() && job->error().isEmpty())
-        m_loaded = job->read();
+        setLoaded(job->read());
     Q_EMIT loadingChanged(false);
     Q_EMIT ended(*job);
     // Corrected meanwhile.

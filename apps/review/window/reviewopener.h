@@ -36,7 +36,7 @@ public:
     /// What was loaded last.
     const LoadedFiles& loaded() const { return m_loaded; }
     /// A second look found more of it.
-    void setLoaded(const LoadedFiles& loaded) { m_loaded = loaded; }
+    void setLoaded(const LoadedFiles& loaded);
     /// How times in folders are corrected. Setting it says nothing of what is loaded.
     const FolderCorrections& corrections() const { return m_corrections; }
     void setCorrections(const FolderCorrections& corrections) { m_corrections = corrections; }

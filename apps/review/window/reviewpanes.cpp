@@ -1,5 +1,6 @@
 #include "reviewpanes.h"
 
+#include "data/letgo.h"
 #include "lists/devicepane.h"
 #include "lists/eventpane.h"
 #include "markerfeed.h"
@@ -180,6 +181,7 @@ void ReviewPanes::setReview(const ReviewData& review)
 {
     setPeriod(review.period());
     m_devices->removeAll();
+    m_playback->setTracks({}, {}); // nothing of before is compared with what comes
     setTexts(review);
     const Sight first = review.firstSight();
     m_selection.setCamera(first.track);
@@ -190,17 +192,18 @@ void ReviewPanes::setReview(const ReviewData& review)
 
 void ReviewPanes::setTexts(const ReviewData& review)
 {
-    m_review = review;
+    ReviewData before = std::exchange(m_review, review);
     m_devices->setReview(m_review);
     m_events->setReview(m_review);
     showCheckedTracks();
+    letGo(std::move(before)); // which no pane has any more
 }
 
 void ReviewPanes::renew(const ReviewData& review, bool newLists)
 {
     const TimeSpan period = review.period();
     const bool wasNewest = m_isNewest;
-    m_review = review;
+    ReviewData before = std::exchange(m_review, review);
     m_player->extendPeriod(period);
     m_transport->setPeriod(period);
     m_ranges->extendPeriod(period);
@@ -210,6 +213,7 @@ void ReviewPanes::renew(const ReviewData& review, bool newLists)
         m_events->setReview(m_review);
     showTracks();
     m_markers->goOn(m_events->events());
+    letGo(std::move(before));
     if (wasNewest && !m_selection.isHeld())
         goToNewest();
 }
