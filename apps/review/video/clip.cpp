@@ -168,7 +168,9 @@ std::optional<ClipPicture> Clip::keyFrameBefore(qint64 msecs)
 {
     m_codec->skip_frame = AVDISCARD_NONKEY;
     const bool found = seekBefore(msecs);
-    m_codec->skip_frame = AVDISCARD_DEFAULT;
+    // A file that could not be opened again has none.
+    if (m_codec)
+        m_codec->skip_frame = AVDISCARD_DEFAULT;
     if (!found)
         return {};
     const qint64 time = *m_position;
