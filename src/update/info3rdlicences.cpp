@@ -39,7 +39,6 @@ Info3rdLicences::Info3rdLicences(QWidget* parent) : PWidget(parent), d(new Priva
     // The cursor shows where the focus is.
     d->text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     d->text->setTabChangesFocus(true);
-    d->text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     d->copy->setIcon(Hueloft::PIconHelper::GetCopyIcon_32x32(true));
     d->copy->setAutoDefault(false);
 

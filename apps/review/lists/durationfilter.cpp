@@ -97,13 +97,6 @@ void DurationFilter::showDurations()
     m_durations->setText(text);
     setAccessibleName(text);
     setText(text);
-    updateGeometry();
-}
-
-QSize DurationFilter::sizeHint() const
-{
-    const int textWidth = fontMetrics().horizontalAdvance(m_durations->text());
-    return {textWidth + 2 * fontMetrics().height(), Translated::sizeHint().height()};
 }
 
 QSize DurationFilter::minimumSizeHint() const

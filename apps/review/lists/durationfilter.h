@@ -30,7 +30,6 @@ public:
     /// Lets all durations through.
     void reset();
 
-    QSize sizeHint() const override;
     /// Its text may be cut.
     QSize minimumSizeHint() const override;
 
