@@ -1,24 +1,8 @@
 #include "testsupport.h"
-#include "visibletexts.h"
 
-#include <CorvelGui/AppUpdaterDialog>
-#include <CorvelGui/BusyIndicator>
-#include <CorvelGui/FilterLineEdit>
-#include <CorvelGui/OptionsDialog>
-#include <CorvelGui/PAskRefreshDialog>
-#include <CorvelGui/PChangeLogDialog>
-#include <CorvelGui/PCheckVersionUpdateDialog>
-#include <CorvelGui/PCsvDialog>
-#include <CorvelGui/PIpRangeDialog>
 #include <CorvelGui/PLanguage>
 #include <CorvelGui/PLanguageDialog>
-#include <CorvelGui/PPasswordInputDialog>
-#include <CorvelGui/PPlaybar>
-#include <CorvelGui/TarvoDateTimeView>
 #include <CorvelGui/TranslatorList>
-#include <CorvelGui/ZoomTimeline>
-
-#include <QVersionNumber>
 
 using namespace CorvelGui;
 
@@ -173,43 +157,6 @@ private Q_SLOTS:
             QCOMPARE(dialog.result(), int(QDialog::Accepted));
             QCOMPARE(texts(), apply ? german : untranslated);
             QTRY_COMPARE(dialog.windowTitle() == u"Spracheinstellungen der Anwendung"_s, apply);
-        }
-    }
-
-    void widgetsFollow()
-    {
-        const QVersionNumber version(1);
-        const auto now = QDateTime::currentDateTime();
-        const std::function<QWidget*()> makers[] = {
-            [=] { return new PAskRefreshDialog(nullptr, now, true); },
-            [] { return new PCsvDialog; },
-            [] { return new PIpRangeDialog; },
-            [] { return new PPasswordInputDialog({}); },
-            [] { return new FilterLineEdit; },
-            [] { return new PPlaybar; },
-            [] { return new TarvoDateTimeView; },
-            [] { return new ZoomTimeline; },
-            [] { return new BusyIndicator; },
-            [] { return new PLanguageDialog(nullptr, {}, {}, {}, false); },
-            [] { return OptionsDialog::getSettingsDialog(nullptr, {}, {}); },
-            [=] { return new AppUpdaterDialog(u"App"_s, version, version, {}, now); },
-            [] { return new PCheckVersionUpdateDialog({}, {}); },
-            [] {
-                return new PChangeLogDialog;
-            }};
-        for (const auto& make : makers) {
-            std::unique_ptr<QWidget> widget(make());
-            const char* name = widget->metaObject()->className();
-            const QStringList before = visibleTexts(*widget);
-            switchTo(u"de"_s);
-            QCoreApplication::sendPostedEvents();
-            const QStringList after = visibleTexts(*widget);
-            QVERIFY2(after != before, name);
-            widget.reset();
-            widget.reset(make());
-            QVERIFY2(after == visibleTexts(*widget), name);
-            widget.reset();
-            cleanup();
         }
     }
 

@@ -1,0 +1,330 @@
+#include "testsupport.h"
+#include "visibletexts.h"
+
+#include <CorvelGui/AboutInfo7>
+#include <CorvelGui/AppUpdaterDialog>
+#include <CorvelGui/BusyIndicator>
+#include <CorvelGui/FilterLineEdit>
+#include <CorvelGui/Info3rdLicences>
+#include <CorvelGui/OptionsDialog>
+#include <CorvelGui/PAskRefreshDialog>
+#include <CorvelGui/PChangeLogDialog>
+#include <CorvelGui/PCheckVersionUpdateDialog>
+#include <CorvelGui/PClickableLabel>
+#include <CorvelGui/PColorButton>
+#include <CorvelGui/PColorComboBox>
+#include <CorvelGui/PCsvDialog>
+#include <CorvelGui/PDateEdit>
+#include <CorvelGui/PErrorLabel>
+#include <CorvelGui/PFilterButton>
+#include <CorvelGui/PIpRangeDialog>
+#include <CorvelGui/PLanguage>
+#include <CorvelGui/PLanguageDialog>
+#include <CorvelGui/PLastActionToolButton>
+#include <CorvelGui/PPasswordInputDialog>
+#include <CorvelGui/PPlaybar>
+#include <CorvelGui/PRecentComboBox>
+#include <CorvelGui/PSlider>
+#include <CorvelGui/PStringComboBox>
+#include <CorvelGui/PSystemInfoWidget>
+#include <CorvelGui/PTabWidget>
+#include <CorvelGui/PTableWidget>
+#include <CorvelGui/PTextEdit>
+#include <CorvelGui/PTreeWidget>
+#include <CorvelGui/PopupSliderToolButton>
+#include <CorvelGui/ProxySettingsWidget>
+#include <CorvelGui/RSSFeedDialog>
+#include <CorvelGui/RangeSlider>
+#include <CorvelGui/SubNetMaskComboBox>
+#include <CorvelGui/TarvoDateTimeView>
+#include <CorvelGui/VideoSlider>
+#include <CorvelGui/ZoomTimeline>
+
+#include <QGroupBox>
+#include <QMetaProperty>
+#include <QPlainTextEdit>
+#include <QSplitter>
+#include <QTextBrowser>
+#include <QTreeWidget>
+#include <QVersionNumber>
+
+using namespace CorvelGui;
+
+namespace {
+
+using Maker = std::function<QWidget*()>;
+
+template <typename... Widgets>
+QList<Maker> makersOf()
+{
+    return {[] {
+        return new Widgets;
+    }...};
+}
+
+/// Of the widgets that have texts of their own, and of other ones.
+QList<Maker> translated()
+{
+    const QVersionNumber version(1);
+    const QDateTime time({2026, 3, 1}, {12, 0}, Qt::UTC);
+    const auto colors = [] {
+        auto* box = new PColorComboBox;
+        box->addThemeColors();
+        box->setOtherColors(true);
+        return box;
+    };
+    return QList<Maker>{[=] { return new PAskRefreshDialog(nullptr, time, true); },
+                        [] { return new PPasswordInputDialog({}); },
+                        [] { return new PLanguageDialog(nullptr, {}, {}, {}, false); },
+                        [] { return OptionsDialog::getSettingsDialog(nullptr, {}, {}); },
+                        [=] { return new AppUpdaterDialog(u"App"_s, version, version, {}, {}); },
+                        [] { return new PCheckVersionUpdateDialog({}, {}); },
+                        colors} +
+           makersOf<PCsvDialog, PIpRangeDialog, PChangeLogDialog, RSSFeedDialog, AboutInfo7,
+                    Info3rdLicences, PSystemInfoWidget, ProxySettingsWidget, FilterLineEdit,
+                    PColorButton, PFilterButton, PRecentComboBox, PPlaybar, TarvoDateTimeView,
+                    ZoomTimeline, BusyIndicator>();
+}
+
+QList<Maker> others()
+{
+    return makersOf<PClickableLabel, PErrorLabel, PLastActionToolButton, PStringComboBox, PTextEdit,
+                    SubNetMaskComboBox, PTabWidget, PTableWidget, PTreeWidget, PSlider, RangeSlider,
+                    VideoSlider, PopupSliderToolButton, PDateEdit>();
+}
+
+/// A widget of Qt's class that @p widget is, as nobody has changed it.
+template <typename... Classes>
+std::unique_ptr<QWidget> unchanged(const QWidget& widget)
+{
+    std::unique_ptr<QWidget> plain;
+    ((plain || !qobject_cast<const Classes*>(&widget) ? void() : void(plain.reset(new Classes))),
+     ...);
+    return plain;
+}
+
+QString textOf(const QWidget& widget, const QMetaProperty& property)
+{
+    const QVariant value = property.read(&widget);
+    if (property.isEnumType() && !property.isFlagType())
+        return QString::fromLatin1(property.enumerator().valueToKey(value.toInt()));
+    return property.isFlagType() ? QString::number(value.toInt())
+                                 : value.toString().replace(u'\n', u"\\n"_s);
+}
+
+/// What a user can do with a widget and hears of it, where it is not as usual in Qt, and below it
+/// the same of those inside.
+QStringList told(const QWidget& widget, const QString& indent = {})
+{
+    static const char* const properties[] = {"windowTitle",
+                                             "title",
+                                             "text",
+                                             "placeholderText",
+                                             "toolTip",
+                                             "accessibleName",
+                                             "accessibleDescription",
+                                             "enabled",
+                                             "focusPolicy",
+                                             "mouseTracking",
+                                             "readOnly",
+                                             "maxLength",
+                                             "echoMode",
+                                             "default",
+                                             "autoDefault",
+                                             "checkable",
+                                             "checked",
+                                             "editable",
+                                             "insertPolicy",
+                                             "maxCount",
+                                             "minimum",
+                                             "maximum",
+                                             "specialValueText",
+                                             "wordWrap",
+                                             "textFormat",
+                                             "textInteractionFlags",
+                                             "alignment",
+                                             "tabChangesFocus",
+                                             "acceptRichText",
+                                             "openLinks",
+                                             "popupMode",
+                                             "toolButtonStyle",
+                                             "selectionMode",
+                                             "selectionBehavior",
+                                             "editTriggers",
+                                             "uniformRowHeights",
+                                             "rootIsDecorated",
+                                             "allColumnsShowFocus",
+                                             "headerHidden",
+                                             "verticalScrollMode",
+                                             "childrenCollapsible",
+                                             "sizeGripEnabled",
+                                             "movable",
+                                             "tabsClosable",
+                                             "usesScrollButtons",
+                                             "calendarPopup",
+                                             "displayFormat"};
+    const auto plain = unchanged<QTreeWidget, QTableWidget, QListWidget, QListView, QTextBrowser,
+                                 QTextEdit, QPlainTextEdit, QComboBox, QDateTimeEdit, QSpinBox,
+                                 QLineEdit, QLabel, QCheckBox, QPushButton, QToolButton, QSlider,
+                                 QSplitter, QGroupBox, QTabWidget, QDialog, QWidget>(widget);
+    const QMetaObject& type = *widget.metaObject();
+    QString line = indent + QString::fromLatin1(type.className()).section(u':', -1);
+    for (const char* name : properties) {
+        const QMetaProperty property = type.property(type.indexOfProperty(name));
+        if (!property.isValid() || (qobject_cast<const QAbstractSpinBox*>(&widget) &&
+                                    QByteArrayView(name) == "text")) // the date of today
+            continue;
+        QString text = textOf(widget, property);
+        if (qobject_cast<const QDialogButtonBox*>(widget.parent()))
+            text.remove(u'&'); // depends on the platform
+        const int usual = plain->metaObject()->indexOfProperty(name);
+        if (usual < 0 ? !text.isEmpty() && text != u"false"
+                      : text != textOf(*plain, plain->metaObject()->property(usual)))
+            line += u' ' + QLatin1StringView(name) + u'=' + text;
+    }
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(&widget);
+    if (area && area->viewport()->hasMouseTracking() !=
+                    static_cast<QAbstractScrollArea*>(plain.get())->viewport()->hasMouseTracking())
+        line += u" tracksMouse"_s;
+    if (widget.parentWidget() && !widget.isVisibleTo(widget.parentWidget()))
+        line += u" hidden"_s;
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (label && label->buddy())
+        line += u" of "_s + QString::fromLatin1(label->buddy()->metaObject()->className());
+    QStringList lines{line};
+    if (!area && !qobject_cast<const QComboBox*>(&widget) &&
+        !qobject_cast<const QAbstractSpinBox*>(&widget))
+        for (const QObject* child : widget.children())
+            if (child->isWidgetType() && !child->objectName().startsWith(u"qt_"_s))
+                lines += told(*static_cast<const QWidget*>(child), indent + u"  "_s);
+    return lines;
+}
+
+QVariant otherThan(const QVariant& value, const QMetaProperty& property)
+{
+    if (property.isEnumType()) {
+        const int number = property.enumerator().value(0);
+        return number != value.toInt() ? number : property.enumerator().value(1);
+    }
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return !value.toBool();
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::Double:
+        return value.toInt() + 1;
+    case QMetaType::QString:
+        return u"x"_s;
+    case QMetaType::QStringList:
+        return QStringList{u"x"_s};
+    case QMetaType::QColor:
+        return QColor(1, 2, 3);
+    case QMetaType::QUrl:
+        return QUrl(u"http://a.example/"_s);
+    case QMetaType::QDate:
+        return QDate(2026, 1, 2);
+    case QMetaType::QDateTime:
+        return QDateTime({2026, 1, 2}, {3, 4});
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+class TestForms : public WarningFreeTest
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void note() { m_noted.append(m_property.read(m_widget.get())); }
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
+
+    void controlsAreAsListed()
+    {
+        QStringList now;
+        for (const Maker& make : translated() + others()) {
+            QDialog around; // in which buttons are defaults
+            const std::unique_ptr<QWidget> widget(make());
+            if (!qobject_cast<QDialog*>(widget.get()))
+                widget->setParent(&around);
+            now += told(*widget);
+        }
+        if (const QString path = qEnvironmentVariable("FORMS"); !path.isEmpty())
+            writeFile(path, now.join(u'\n').toUtf8() + '\n');
+        const QStringList listed =
+            QString::fromUtf8(readFile(u":/forms.txt"_s)).split(u'\n', Qt::SkipEmptyParts);
+        for (qsizetype line = 0; line < std::max(now.size(), listed.size()); ++line)
+            QCOMPARE(now.value(line), listed.value(line));
+    }
+
+    void changesAreToldOnce()
+    {
+        QStringList refused;
+        for (const Maker& make : translated() + others()) {
+            m_widget.reset(make());
+            const QMetaObject& type = *m_widget->metaObject();
+            if (!QByteArrayView(type.className()).startsWith("CorvelGui::"))
+                continue;
+            for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
+                m_property = type.property(i);
+                if (!m_property.isWritable() || !m_property.hasNotifySignal())
+                    continue;
+                const QString name = QString::fromLatin1(type.className()).section(u':', -1) +
+                                     u'.' + QLatin1StringView(m_property.name());
+                const QVariant other = otherThan(m_property.read(m_widget.get()), m_property);
+                QSignalSpy spy(m_widget.get(), m_property.notifySignal());
+                const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
+                m_noted.clear();
+                connect(m_widget.get(), m_property.notifySignal(), this, slot);
+                for (int time = 0; time < 2; ++time)
+                    m_property.write(m_widget.get(), other);
+                m_widget->disconnect(this);
+                if (!other.isValid() || m_property.read(m_widget.get()) != other) {
+                    refused.append(name);
+                    continue;
+                }
+                QVERIFY2(m_noted == QVariantList{other}, qPrintable(name));
+                QVERIFY2(spy.first().isEmpty() || spy.first().contains(other), qPrintable(name));
+            }
+        }
+        // These choose among what there is, or take what cannot be made up here.
+        QCOMPARE(refused.join(u' '),
+                 u"AboutInfo7.logo Info3rdLicences.current PFilterButton.checkedFilters "
+                 "PLastActionToolButton.lastAction PStringComboBox.currentKey PSlider.tickTexts "
+                 "PopupSliderToolButton.orientation"_s);
+    }
+
+    void textsFollowTheLanguage()
+    {
+        const auto switchTo = [](const QString& key) {
+            PLanguage::SetLanguage(nullptr, key,
+                                   QCoreApplication::applicationDirPath() +
+                                       u"/../share/CorvelGui/translations"_s);
+        };
+        for (const Maker& make : translated()) {
+            std::unique_ptr<QWidget> widget(make());
+            const char* name = widget->metaObject()->className();
+            const QStringList before = visibleTexts(*widget);
+            switchTo(u"de"_s);
+            QCoreApplication::sendPostedEvents();
+            const QStringList after = visibleTexts(*widget);
+            QVERIFY2(after != before, name);
+            widget.reset();
+            widget.reset(make());
+            QVERIFY2(after == visibleTexts(*widget), name);
+            widget.reset();
+            switchTo({});
+        }
+    }
+
+private:
+    std::unique_ptr<QWidget> m_widget;
+    QMetaProperty m_property;
+    QVariantList m_noted;
+};
+
+QTEST_MAIN(TestForms)
+#include "tst_forms.moc"
