@@ -36,7 +36,6 @@ bool NetworkInterfaceComboBox::showInterfaces(const QList<Corvel::NetworkInterfa
         } else {
             setStyleSheet(u"QComboBox{color: red;font: bold;}"_s);
             addItem(tr("No Network Connection"));
-            setCurrentIndex(0);
         }
     }
     // Not silent any more; the selection is the last that is touched, as a slot may delete the box.

@@ -60,13 +60,15 @@ bool isEnter(const QKeyEvent& event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// Whether the key adds a character to the text.
+/// Whether the key adds a character to the text. With Ctrl alone it is a shortcut, and with Alt as
+/// well what AltGr types.
 bool inserts(const QKeyEvent& event)
 {
-    const QString text = event.text();
-    return !(event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) &&
-           (isEnter(event) || (!text.isEmpty() && text.front().isPrint() &&
-                               !event.modifiers().testFlag(Qt::ControlModifier)));
+    if (event.matches(QKeySequence::InsertParagraphSeparator) ||
+        event.matches(QKeySequence::InsertLineSeparator))
+        return true;
+    const bool isShortcut = (event.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
+    return !isShortcut && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
 /// The address around a position of the document; empty without one.

@@ -66,6 +66,23 @@ private Q_SLOTS:
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button);
             QCOMPARE(accessible->role(), QAccessible::Button);
             QCOMPARE(accessible->text(QAccessible::Name), u"More"_s);
+
+            // What comes later counts at once.
+            edit.setLayoutDirection(direction == Qt::LeftToRight ? Qt::RightToLeft
+                                                                 : Qt::LeftToRight);
+            QCOMPARE(edit.textMargins(), QMargins(margins.right(), 0, margins.left(), 0));
+            QCOMPARE(button->geometry().left(), 199 - place.right());
+            edit.setButtonPixmap(FancyLineEdit::Right, redPixmap({48, 16}));
+            QCOMPARE(button->width(), 60);
+            QCOMPARE(edit.textMargins().left() + edit.textMargins().right(), 68);
+            edit.setButtonVisible(FancyLineEdit::Right, false);
+            QCOMPARE(edit.textMargins(), QMargins());
+        }
+        FancyLineEdit unsized;
+        unsized.setButtonVisible(FancyLineEdit::Right, true);
+        for (const auto& sheet : {QString(), u"QLineEdit{padding:30px}"_s}) {
+            unsized.setStyleSheet(sheet);
+            QCOMPARE(unsized.textMargins().right(), unsized.sizeHint().height() + 8);
         }
     }
 
@@ -97,8 +114,14 @@ private Q_SLOTS:
         fadeOut->setCurrentTime(160);
         QCOMPARE(button->iconOpacity(), 0.0F);
         QTRY_VERIFY(animations().isEmpty());
-        edit.setAutoHideButton(FancyLineEdit::Left, false);
+        edit.setButtonMenu(FancyLineEdit::Left, nullptr);
         QCOMPARE(button->iconOpacity(), 1.0F);
+        for (const auto& [text, hides, opacity] :
+             {std::tuple(u""_s, true, 0.0F), {u""_s, false, 1.0F}, {u"a"_s, true, 1.0F}}) {
+            edit.setText(text);
+            edit.setAutoHideButton(FancyLineEdit::Left, hides);
+            QCOMPARE(button->iconOpacity(), opacity);
+        }
     }
 
     void clicks()
@@ -153,6 +176,17 @@ private Q_SLOTS:
         menu.reset();
         buttonOf(edit, FancyLineEdit::Left)->click();
         QCOMPARE(clicked.count(), 1);
+
+        const auto policy = [&edit] {
+            return buttonOf(edit, FancyLineEdit::Right)->focusPolicy();
+        };
+        for (const auto& [on, expected] :
+             {std::pair(true, Qt::ClickFocus), {false, Qt::NoFocus}, {true, Qt::TabFocus}}) {
+            if (on == edit.hasMenuTabFocusTrigger(FancyLineEdit::Right))
+                edit.setButtonFocusPolicy(FancyLineEdit::Right, Qt::ClickFocus);
+            edit.setMenuTabFocusTrigger(FancyLineEdit::Right, on);
+            QCOMPARE(policy(), expected);
+        }
     }
 
     void menuPlaces()

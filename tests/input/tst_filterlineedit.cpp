@@ -46,6 +46,10 @@ private Q_SLOTS:
         hand.strike(u"b"_s);
         QTRY_COMPARE(filter->text(), u"ab"_s);
         QVERIFY(filter->findChildren<QPropertyAnimation*>().isEmpty());
+        {
+            const QSignalBlocker unseen(filter);
+            filter->clear();
+        }
         filter->setText(u"ab"_s);
         hand.moveTo(clear, clear->rect().center());
         hand.click();
@@ -77,6 +81,10 @@ private Q_SLOTS:
         hand.strike(u"Escape"_s);
         QTRY_VERIFY(!dialog.isVisible());
         QCOMPARE(filter->text(), u"north"_s);
+        filter->setPlaceholderText(u"Find"_s);
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(filter, &change);
+        QCOMPARE(filter->placeholderText(), u"Find"_s);
     }
 };
 

@@ -1,4 +1,3 @@
-#include "input/weblinks.h"
 #include "testsupport.h"
 
 #include <CorvelGui/PClickableLabel>
@@ -10,30 +9,36 @@
 #include <CorvelGui/PMainWindow>
 #include <CorvelGui/PRecentComboBox>
 #include <CorvelGui/PStringComboBox>
-#include <CorvelGui/PTextEdit>
 #include <Hueloft/POrvGuiTheme>
 
 #include <QAbstractItemView>
 #include <QColorDialog>
+#include <QContextMenuEvent>
 #include <QMenu>
-#include <QMimeData>
 
 using namespace CorvelGui;
 
 namespace {
 
-class NoteEdit : public PTextEdit
+/// The dialog must begin with @p initial.
+void chooseInDialog(QWidget* owner, const QColor& initial, const QColor& color, bool hasAlpha)
 {
-public:
-    using PTextEdit::insertFromMimeData;
-};
-
-void chooseInDialog(QObject* context, const QColor& color)
-{
-    whenShown<QColorDialog>(context, [color](QColorDialog& dialog) {
+    owner->show();
+    whenShown<QColorDialog>(owner, [=](QColorDialog& dialog) {
+        QCOMPARE(dialog.windowTitle(), u"Choose a colour"_s);
+        QCOMPARE(dialog.currentColor(), initial);
+        QCOMPARE(dialog.testOption(QColorDialog::ShowAlphaChannel), hasAlpha);
         dialog.setCurrentColor(color);
         dialog.accept();
     });
+}
+
+QString entriesOf(const QComboBox& box)
+{
+    QStringList texts;
+    for (int i = 0; i < box.count(); ++i)
+        texts.append(box.itemText(i));
+    return texts.join(u' ');
 }
 
 } // namespace
@@ -63,20 +68,33 @@ private Q_SLOTS:
         QTest::keyClick(&box, Qt::Key_End);
         QCOMPARE(box.currentText(), u"Blue"_s);
         QVERIFY(!QApplication::activeModalWidget());
+        QVERIFY(box.model()->flags(box.model()->index(2, 0)).testFlag(Qt::ItemIsEnabled));
 
         box.setCurrentColor(QColor());
         box.setCurrentColor(QColor(1, 2, 3, 128));
         QCOMPARE(box.currentText(), u"#80010203"_s);
         box.setCurrentColor(Qt::green);
-        QCOMPARE(box.count(), 4);
-        box.show();
-        chooseInDialog(&box, QColor(9, 8, 7));
-        box.setCurrentIndex(3);
-        Q_EMIT box.activated(3);
+        box.addColor(Qt::cyan, u"Cyan"_s);
+        QCOMPARE(entriesOf(box), u"#ff0000 Blue Cyan #00ff00 Other colour…"_s);
+        chooseInDialog(&box, Qt::green, QColor(9, 8, 7), false);
+        box.setCurrentIndex(4);
+        Q_EMIT box.activated(4);
         QCOMPARE(box.currentColor(), QColor(Qt::green));
         QTRY_COMPARE(box.currentText(), u"#090807"_s);
+        QTRY_VERIFY(!box.findChild<QColorDialog*>());
         box.setCurrentIndex(0);
+        Q_EMIT box.activated(0);
+        QVERIFY(!box.findChild<QColorDialog*>());
         QCOMPARE(changed.count(), 6);
+
+        PColorComboBox bare;
+        bare.setOtherColors(true);
+        chooseInDialog(&bare, Qt::white, Qt::red, false);
+        Q_EMIT bare.activated(0);
+        QTRY_COMPARE(entriesOf(bare), u"#ff0000 Other colour…"_s);
+        bare.setOtherColors(false);
+        bare.setCurrentColor(Qt::blue);
+        QCOMPARE(entriesOf(bare), u"#0000ff"_s);
     }
 
     void colorButton()
@@ -91,11 +109,15 @@ private Q_SLOTS:
         QCOMPARE(button.text(), u"#04010203"_s);
         button.setAlphaEnabled(false);
         QCOMPARE(button.text(), u"#010203"_s);
-        button.show();
-        chooseInDialog(&button, Qt::cyan);
-        button.click();
-        QTRY_COMPARE(button.color(), QColor(Qt::cyan));
-        QCOMPARE(changed.count(), 4);
+        for (const bool hasAlpha : {false, true}) {
+            button.setAlphaEnabled(hasAlpha);
+            const QColor next(hasAlpha ? Qt::cyan : Qt::yellow);
+            chooseInDialog(&button, button.color(), next, hasAlpha);
+            button.click();
+            QTRY_COMPARE(button.color(), next);
+            QTRY_VERIFY(!button.findChild<QColorDialog*>());
+        }
+        QCOMPARE(changed.count(), 5);
     }
 
     void stringBox()
@@ -111,6 +133,10 @@ private Q_SLOTS:
         box.setEntries({{u"c"_s, u"Drei"_s}});
         box.setEntries({});
         QCOMPARE(changed.mid(2), (QList<QVariantList>{{u"c"_s}, {QString()}}));
+        const QList<PStringComboBox::Entry> unnamed{{u""_s, u"All"_s}};
+        box.setEntries(unnamed); // an empty key is not the lack of one
+        QCOMPARE(changed.count(), 5);
+        QCOMPARE(box.entries(), unnamed);
     }
 
     void recentBox()
@@ -136,15 +162,47 @@ private Q_SLOTS:
         QTest::keyClick(box.view(), Qt::Key_Delete);
         QCOMPARE(box.recentTexts(), (QStringList{u"two"_s, u"three"_s}));
         QCOMPARE(box.currentText(), u"typed"_s);
-        box.hidePopup();
+        for (const QString& left : {u"two"_s, QString()}) {
+            QCOMPARE(box.view()->currentIndex().row(), left.isEmpty() ? 0 : 1);
+            QTest::keyClick(box.view(), Qt::Key_Delete);
+            QCOMPARE(entriesOf(box), left);
+            QCOMPARE(box.view()->isVisible(), !left.isEmpty());
+        }
         box.readUserSettings(store);
         QCOMPARE(box.recentTexts().size(), 3);
+        box.view()->setCurrentIndex({});
+        QTest::keyClick(box.view(), Qt::Key_Delete);
+        QCOMPARE(box.recentTexts().size(), 3);
+        box.setCurrentIndex(1);
+        Q_EMIT box.activated(1);
+        QTRY_COMPARE(entriesOf(box), u"four two three"_s);
+        // What stands in the field stays as it is.
+        box.lineEdit()->setCursorPosition(1);
+        QSignalSpy edited(&box, &QComboBox::editTextChanged);
+        box.setRecentTexts({u"one"_s, u"four"_s});
+        QCOMPARE(box.currentText(), u"four"_s);
+        QCOMPARE(box.currentIndex(), 1);
+        QCOMPARE(box.lineEdit()->cursorPosition(), 1);
+        QCOMPARE(edited.count(), 0);
 
-        store.setValue(
-            u"RecentTexts"_s,
-            QStringList{u"a"_s, {}, u"a"_s, QString(5000, u'x'), u"b"_s, u"c"_s, u"d"_s});
+        for (const bool hasTexts : {true, false}) {
+            QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, {});
+            QCoreApplication::sendEvent(box.lineEdit(), &asked);
+            auto* menu = box.lineEdit()->findChild<QMenu*>();
+            QAction* forget = menu->actions().constLast();
+            QCOMPARE(forget->isEnabled(), hasTexts);
+            menu->setActiveAction(forget);
+            QTest::keyClick(menu, Qt::Key_Return);
+            menu->close();
+            QCOMPARE(box.count(), 0);
+            QTRY_VERIFY(!box.lineEdit()->findChild<QMenu*>());
+        }
+
+        const QString longest(2000, u'x');
+        store.setValue(u"RecentTexts"_s,
+                       QStringList{u"a"_s, {}, u"a"_s, longest + u'x', longest, u"c"_s, u"d"_s});
         box.readUserSettings(store);
-        QCOMPARE(box.recentTexts(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+        QCOMPARE(box.recentTexts(), (QStringList{u"a"_s, longest, u"c"_s}));
         box.forgetTexts();
         box.writeUserSettings(store);
         box.setRecentTexts({u"a"_s});
@@ -161,6 +219,8 @@ private Q_SLOTS:
         QCOMPARE(changed.takeFirst(), (QVariantList{QStringList{u"m"_s, u"d"_s}}));
         QCOMPARE(button.text(), u"2"_s);
         QCOMPARE(button.accessibleDescription(), u"Only: Motion, R&D"_s);
+        QCOMPARE(button.toolTip(), u"<p>Only:\u00a0Motion,\u00a0R&amp;D</p>"_s);
+        QCOMPARE(button.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
         const QImage funnel = button.icon().pixmap(QSize(64, 64), 1.0).toImage();
         QVERIFY(qAlpha(funnel.pixel(14, 14)) > 0 && qAlpha(funnel.pixel(14, 50)) == 0);
 
@@ -168,6 +228,7 @@ private Q_SLOTS:
         QMenu* menu = button.menu();
         menu->popup({});
         const QList<QAction*> actions = menu->actions();
+        QCOMPARE(actions[3]->text(), u"R&&D"_s);
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(actions[2]).center());
         menu->setActiveAction(actions[3]);
         QTest::keyClick(menu, Qt::Key_Space);
@@ -177,8 +238,21 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 3);
         button.setFilters({{u"z"_s, u"Z"_s}, {u"d"_s, u"D"_s}});
         QCOMPARE(button.checkedFilters(), QStringList{u"d"_s});
-        actions[0]->trigger();
+        // To show all is a choice that closes the menu.
+        button.setCheckedFilters({u"z"_s, u"d"_s});
+        menu->popup({});
+        QVERIFY(actions[0]->isEnabled());
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(actions[0]).center());
+        QVERIFY(!menu->isVisible() && !actions[0]->isEnabled());
         QVERIFY(!button.isFiltering() && button.text().isEmpty());
+        // A name that the client gave stays.
+        for (const auto& [given, name] :
+             {std::pair(u"Kind"_s, u"Kind"_s), {QString(), u"Filter"_s}}) {
+            button.setAccessibleName(given);
+            QEvent change(QEvent::LanguageChange);
+            QCoreApplication::sendEvent(&button, &change);
+            QCOMPARE(button.accessibleName(), name);
+        }
     }
 
     void lastAction()
@@ -197,21 +271,33 @@ private Q_SLOTS:
         PLastActionToolButton button;
         QAction* third = fill(button);
         QSignalSpy changed(&button, &PLastActionToolButton::lastActionChanged);
-        QSignalSpy triggered(button.menu(), &QMenu::triggered);
         QCOMPARE(button.text(), u"Second"_s);
         button.writeUserSettings(store);
         QVERIFY(store.allKeys().isEmpty());
+        button.readUserSettings(store);
+        button.setLastAction(nullptr);
 
         third->trigger(); // in its menu, or the menu bar
         QSignalSpy thirdAgain(third, &QAction::triggered);
         button.setLastAction(third);
+        QCOMPARE(changed.takeFirst().first().value<QAction*>(), third);
+        QVERIFY(changed.isEmpty());
         QAction stranger;
         button.setLastAction(&stranger);
         button.click();
         QCOMPARE(thirdAgain.count(), 1);
         third->setText(u"Dritte"_s);
-        QCOMPARE(button.text(), u"Dritte"_s);
+        third->setToolTip(u"The third"_s);
+        third->setIcon(QPixmap(16, 16));
+        QVERIFY(!button.icon().isNull());
+        QCOMPARE(button.text() + u' ' + button.toolTip(), u"Dritte The third"_s);
+        store.setValue(u"LastAction"_s, u"second"_s);
+        button.readUserSettings(store);
+        QCOMPARE(button.text(), u"Second"_s);
+        button.setLastAction(third);
         button.writeUserSettings(store);
+        third->setVisible(false);
+        QCOMPARE(button.text(), u"Second"_s);
 
         PLastActionToolButton later;
         later.readUserSettings(store);
@@ -258,6 +344,34 @@ private Q_SLOTS:
         label.click();
         QTest::mouseClick(&label, Qt::LeftButton);
         QCOMPARE(clicked.count(), 5);
+        // Not with other keys held, and once for a key that stays down.
+        label.setEnabled(true);
+        for (const auto& [held, repeats, clicks] : {std::tuple(Qt::KeypadModifier, false, 6),
+                                                    {Qt::ControlModifier, false, 6},
+                                                    {Qt::NoModifier, true, 6}}) {
+            QKeyEvent key(QEvent::KeyPress, Qt::Key_Enter, held, {}, repeats);
+            QCoreApplication::sendEvent(&label, &key);
+            QCOMPARE(clicked.count(), clicks);
+            QCOMPARE(key.isAccepted(), held != Qt::ControlModifier);
+        }
+        QTest::mouseRelease(&label, Qt::LeftButton);
+        QCOMPARE(clicked.count(), 6);
+        QAccessibleActionInterface* actions = link->actionInterface();
+        for (const bool enabled : {false, true}) {
+            label.setEnabled(enabled);
+            QCOMPARE(actions->actionNames().contains(actions->pressAction()), enabled);
+        }
+        actions->doAction(actions->setFocusAction());
+        QCOMPARE(label.window()->focusWidget(), &label);
+        label.setAccessibleName({});
+        for (const auto& [format, name] : {std::pair(Qt::AutoText, u"a &amp;  b"_s),
+                                           {Qt::PlainText, u"a &amp;  b"_s},
+                                           {Qt::RichText, u"a & b"_s}}) {
+            label.setTextFormat(format);
+            label.setText(u"a &amp;  b"_s);
+            QCOMPARE(link->text(QAccessible::Name), name);
+            QCOMPARE(link->text(QAccessible::Description), QString());
+        }
         QVERIFY(isDeletedBy<PClickableLabel>(
             [](PClickableLabel& gone) { QTest::mouseClick(&gone, Qt::LeftButton); },
             &PClickableLabel::clicked));
@@ -277,84 +391,17 @@ private Q_SLOTS:
             QCOMPARE(error->palette().color(QPalette::WindowText),
                      Hueloft::POrvGuiTheme::statusRed());
         }
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            error->setLayoutDirection(direction);
+            const int room = error->fontMetrics().ascent() + 7;
+            const bool left = direction == Qt::LeftToRight;
+            QCOMPARE(error->contentsMargins(), QMargins(left ? room : 0, 0, left ? 0 : room, 0));
+            QFont large = error->font();
+            large.setPointSize(20);
+            error->setFont(large);
+        }
         error->clearError();
         QVERIFY(!error->isVisible());
-    }
-
-    void links()
-    {
-        const std::pair<QString, QStringList> rows[] = {
-            {u"http:// https://a_b.example/x?y=1#z, http://10.0.0.1:81."_s,
-             {u"https://a_b.example/x?y=1#z"_s, u"http://10.0.0.1:81"_s}},
-            {u"(http://a.example/b_(c)) <HTTPS://b.example>\"http://c.example\""_s,
-             {u"http://a.example/b_(c)"_s, u"HTTPS://b.example"_s, u"http://c.example"_s}},
-            {u"javascript:http file:///etc xhttp://a.example http://-bad http://a..b"_s, {}},
-            {u"http://"_s + QString(9000, u'a'), {}},
-        };
-        for (const auto& [text, expected] : rows) {
-            QStringList found;
-            for (const WebLink& link : webLinks(text))
-                found.append(text.mid(link.begin, link.length));
-            QCOMPARE(found, expected);
-        }
-    }
-
-    void textEdit()
-    {
-        NoteEdit edit;
-        edit.resize(400, 120);
-        edit.show();
-        QSignalSpy cut(&edit, &PTextEdit::textCut);
-        edit.setMaximumLength(10);
-        bool sawTooLong = false;
-        connect(&edit, &QTextEdit::textChanged, &edit,
-                [&] { sawTooLong |= edit.toPlainText().size() > 10; });
-        edit.setPlainText(u"01234567"_s);
-        edit.moveCursor(QTextCursor::Start);
-        QMimeData pasted;
-        pasted.setHtml(u"<b>rich</b>"_s);
-        edit.insertFromMimeData(&pasted);
-        pasted.setText(u"abcd"_s);
-        edit.insertFromMimeData(&pasted);
-        QCOMPARE(edit.toPlainText(), u"ab01234567"_s);
-        QTest::keyClick(&edit, Qt::Key_X);
-        QCOMPARE(edit.toPlainText(), u"ab01234567"_s);
-        QInputMethodEvent input;
-        input.setCommitString(u"\u4f60"_s, -1, 1);
-        QCoreApplication::sendEvent(&edit, &input);
-        input.setCommitString(u"\u4f60\u597d"_s);
-        QCoreApplication::sendEvent(&edit, &input);
-        QCOMPARE(edit.toPlainText(), u"a\u4f6001234567"_s);
-        QCOMPARE(cut.count(), 3);
-        edit.moveCursor(QTextCursor::Right, QTextCursor::KeepAnchor);
-        QTest::keyClick(&edit, Qt::Key_X);
-        QCOMPARE(edit.toPlainText(), u"a\u4f60x1234567"_s);
-        while (edit.document()->isUndoAvailable())
-            edit.undo();
-        QCOMPARE(edit.toPlainText(), u"01234567"_s);
-        edit.setPlainText(u"012345678\U0001F600"_s);
-        QCOMPARE(edit.toPlainText(), u"012345678"_s);
-        QCOMPARE(edit.accessibleDescription(), u"9 of 10 characters"_s);
-        edit.setMaximumLength(4);
-        QCOMPARE(edit.toPlainText(), u"0123"_s);
-        QVERIFY(!sawTooLong);
-
-        edit.setMaximumLength(-1);
-        edit.setPlainText(u"http://a.example is there"_s);
-        QSignalSpy opened(&edit, &PTextEdit::linkActivated);
-        const QPoint there = edit.cursorRect(edit.textCursor()).center() + QPoint(20, 0);
-        const auto click = [&](Qt::KeyboardModifiers held, QPoint at) {
-            QTest::mouseClick(edit.viewport(), Qt::LeftButton, held, at);
-        };
-        click({}, there);
-        click(Qt::ControlModifier, {380, 100});
-        QCOMPARE(opened.count(), 0);
-        click(Qt::ControlModifier, there);
-        edit.moveCursor(QTextCursor::Start);
-        QTest::keyClick(&edit, Qt::Key_Return, Qt::ControlModifier);
-        edit.setReadOnly(true);
-        click({}, there);
-        QCOMPARE(opened, (QList<QVariantList>(3, {QUrl(u"http://a.example"_s)})));
     }
 };
 
