@@ -39,6 +39,11 @@ CheckAppUpdate::CheckAppUpdate(const QString& serverBase, QObject* parent)
 
 CheckAppUpdate::~CheckAppUpdate() = default;
 
+RequestLimits CheckAppUpdate::limits() const
+{
+    return d->limits;
+}
+
 void CheckAppUpdate::setLimits(const RequestLimits& limits)
 {
     d->limits = limits;

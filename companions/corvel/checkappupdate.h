@@ -23,6 +23,7 @@ namespace Corvel {
 class CORVEL_EXPORT CheckAppUpdate : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(Corvel::RequestLimits limits READ limits WRITE setLimits)
 
 public:
     /// What the server offers. All texts are the server's, within bounds but as it wrote them: the
@@ -46,6 +47,7 @@ public:
     /// For queries that start from now on. The defaults are 30 seconds, 15 seconds of silence and
     /// 64 KiB.
     void setLimits(const RequestLimits& limits);
+    RequestLimits limits() const;
 
     /// Asks whether there is a release newer than @p current of the application that the server
     /// knows by @p key. A query that still runs is abandoned.

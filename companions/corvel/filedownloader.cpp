@@ -39,6 +39,11 @@ FileDownloader::FileDownloader(QObject* parent) : QObject(parent), d(std::make_u
 
 FileDownloader::~FileDownloader() = default;
 
+RequestLimits FileDownloader::limits() const
+{
+    return d->limits;
+}
+
 void FileDownloader::setLimits(const RequestLimits& limits)
 {
     d->limits = limits;

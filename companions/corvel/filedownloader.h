@@ -22,6 +22,7 @@ namespace Corvel {
 class CORVEL_EXPORT FileDownloader : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(Corvel::RequestLimits limits READ limits WRITE setLimits)
 
 public:
     explicit FileDownloader(QObject* parent = nullptr);
@@ -31,6 +32,7 @@ public:
     /// For downloads that start from now on. The defaults are two hours, 30 seconds of silence and
     /// 2 GiB.
     void setLimits(const RequestLimits& limits);
+    RequestLimits limits() const;
 
     /// Starts saving the content of @p url as the file @p path. False, and no signal follows, when
     /// a download runs already, the URL is no http or https one, @p path is a directory or a file

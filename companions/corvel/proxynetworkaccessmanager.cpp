@@ -83,6 +83,11 @@ void ProxyNetworkAccessManager::Init(const ProxyUserSettings& settings)
     }
 }
 
+RequestLimits ProxyNetworkAccessManager::limits() const
+{
+    return m_limits;
+}
+
 void ProxyNetworkAccessManager::setLimits(const RequestLimits& limits)
 {
     m_limits = limits;

@@ -21,6 +21,7 @@ struct ProxyUserSettings;
 class CORVEL_EXPORT ProxyNetworkAccessManager : public QNetworkAccessManager
 {
     Q_OBJECT
+    Q_PROPERTY(Corvel::RequestLimits limits READ limits WRITE setLimits)
 
 public:
     /// Goes straight to the server until Init().
@@ -33,6 +34,7 @@ public:
 
     /// For all requests made from now on.
     void setLimits(const RequestLimits& limits);
+    RequestLimits limits() const;
 
 protected:
     QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request,

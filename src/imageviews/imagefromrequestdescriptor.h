@@ -24,6 +24,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT ImageFromRequestDescriptor : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(Corvel::RequestLimits requestLimits READ requestLimits WRITE setRequestLimits)
 
 public:
     explicit ImageFromRequestDescriptor(QObject* parent = nullptr);

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 using Hueloft::POrvGuiTheme;
 using namespace Qt::StringLiterals;
@@ -225,17 +226,26 @@ int PImageWidget::heightForWidth(int width) const
 void PImageWidget::setImage(const QImage& image)
 {
     d->descriptor->cancel();
-    d->source.clear();
-    take(image.isNull() ? State::Empty : State::Ready, image, image.size(), {});
+    const QUrl before = std::exchange(d->source, QUrl());
+    whileAlive(
+        this, [&] { take(image.isNull() ? State::Empty : State::Ready, image, image.size(), {}); },
+        [&] { tellSource(before); });
 }
 
 void PImageWidget::setSource(const QUrl& source)
 {
     if (source.isEmpty())
         return setImage({});
-    d->source = source;
+    const QUrl before = std::exchange(d->source, source);
     d->descriptor->request(source);
-    take(State::Loading, {}, {}, {});
+    whileAlive(
+        this, [this] { take(State::Loading, {}, {}, {}); }, [&] { tellSource(before); });
+}
+
+void PImageWidget::tellSource(const QUrl& before)
+{
+    if (d->source != before)
+        Q_EMIT sourceChanged(d->source);
 }
 
 void PImageWidget::reload()

@@ -27,6 +27,7 @@ class CORVELGUI_EXPORT PImageWidget : public QWidget
     Q_PROPERTY(qreal aspectRatio READ aspectRatio WRITE setAspectRatio NOTIFY aspectRatioChanged)
     Q_PROPERTY(QString placeholder READ placeholder WRITE setPlaceholder NOTIFY placeholderChanged)
     Q_PROPERTY(State state READ state NOTIFY stateChanged)
+    Q_PROPERTY(QUrl source READ source WRITE setSource NOTIFY sourceChanged)
 
 public:
     enum class Fit {
@@ -104,6 +105,8 @@ Q_SIGNALS:
     void alignmentChanged(Qt::Alignment alignment);
     void aspectRatioChanged(qreal ratio);
     void placeholderChanged(const QString& path);
+    /// Emitted when source() has changed, after the signals about the image and the state.
+    void sourceChanged(const QUrl& source);
 
 protected:
     bool event(QEvent* event) override;
@@ -112,6 +115,7 @@ protected:
 
 private:
     void take(State state, const QImage& image, const QSize& fullSize, const QString& error);
+    void tellSource(const QUrl& before);
     void paintImage(QPainter& painter);
     void paintNoImage(QPainter& painter);
 

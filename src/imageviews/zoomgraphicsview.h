@@ -18,6 +18,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT ZoomGraphicsView : public QGraphicsView
 {
     Q_OBJECT
+    Q_PROPERTY(QRectF visibleRect READ visibleRect NOTIFY viewPortChanged)
 
 public:
     /// Starts with @p rect in view, a QRectF in scene coordinates such as an earlier visibleRect();

@@ -69,6 +69,11 @@ void FancyLineEdit::setButtonIcon(Side side, const QIcon& icon)
     d->sides[side].button->setIcon(icon);
 }
 
+QIcon FancyLineEdit::buttonIcon(Side side) const
+{
+    return d->sides[side].button->icon();
+}
+
 void FancyLineEdit::setButtonMenu(Side side, QMenu* menu)
 {
     d->sides[side].menu = menu;
@@ -111,10 +116,20 @@ void FancyLineEdit::setButtonToolTip(Side side, const QString& text)
     d->sides[side].button->setAccessibleName(text);
 }
 
+QString FancyLineEdit::buttonToolTip(Side side) const
+{
+    return d->sides[side].button->toolTip();
+}
+
 void FancyLineEdit::setButtonFocusPolicy(Side side, Qt::FocusPolicy policy)
 {
     d->sides[side].usualFocusPolicy.reset();
     d->sides[side].button->setFocusPolicy(policy);
+}
+
+Qt::FocusPolicy FancyLineEdit::buttonFocusPolicy(Side side) const
+{
+    return d->sides[side].usualFocusPolicy.value_or(d->sides[side].button->focusPolicy());
 }
 
 void FancyLineEdit::setSpecialCompleter(QCompleter* completer)

@@ -2,11 +2,12 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
+#include <QIcon>
 #include <QLineEdit>
+#include <QPixmap>
 
 class QCompleter;
 class QMenu;
-class QPixmap;
 
 namespace CorvelGui {
 
@@ -19,6 +20,16 @@ class FancyLineEditPrivate;
 class CORVELGUI_EXPORT FancyLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(bool leftButtonVisible READ isLeftButtonVisible WRITE setLeftButtonVisible)
+    Q_PROPERTY(bool rightButtonVisible READ isRightButtonVisible WRITE setRightButtonVisible)
+    Q_PROPERTY(QPixmap leftButtonPixmap READ leftButtonPixmap WRITE setLeftButtonPixmap)
+    Q_PROPERTY(QPixmap rightButtonPixmap READ rightButtonPixmap WRITE setRightButtonPixmap)
+    Q_PROPERTY(QIcon leftButtonIcon READ leftButtonIcon WRITE setLeftButtonIcon)
+    Q_PROPERTY(QIcon rightButtonIcon READ rightButtonIcon WRITE setRightButtonIcon)
+    Q_PROPERTY(QString leftButtonToolTip READ leftButtonToolTip WRITE setLeftButtonToolTip)
+    Q_PROPERTY(QString rightButtonToolTip READ rightButtonToolTip WRITE setRightButtonToolTip)
+    Q_PROPERTY(bool leftButtonAutoHide READ hasLeftButtonAutoHide WRITE setLeftButtonAutoHide)
+    Q_PROPERTY(bool rightButtonAutoHide READ hasRightButtonAutoHide WRITE setRightButtonAutoHide)
 
 public:
     enum Side { Left = 0, Right = 1 };
@@ -37,6 +48,7 @@ public:
     /// Drawn in place of the pixmap, sharp at every scale; a null one for the pixmap again. The
     /// pixmap still decides how wide the button is.
     void setButtonIcon(Side side, const QIcon& icon);
+    QIcon buttonIcon(Side side) const;
 
     /// With a menu the button drops it down instead of emitting clicks; null for none. The caller
     /// keeps the menu, and a deleted one is none.
@@ -55,7 +67,33 @@ public:
 
     /// It is also the button's name for assistive technology.
     void setButtonToolTip(Side side, const QString& text);
+    QString buttonToolTip(Side side) const;
     void setButtonFocusPolicy(Side side, Qt::FocusPolicy policy);
+    /// Of a button that shows its menu on Tab, what was set, also while Tab passes it by.
+    Qt::FocusPolicy buttonFocusPolicy(Side side) const;
+
+    // The same for one side, as properties
+
+    bool isLeftButtonVisible() const { return isButtonVisible(Left); }
+    void setLeftButtonVisible(bool visible) { setButtonVisible(Left, visible); }
+    bool isRightButtonVisible() const { return isButtonVisible(Right); }
+    void setRightButtonVisible(bool visible) { setButtonVisible(Right, visible); }
+    QPixmap leftButtonPixmap() const { return buttonPixmap(Left); }
+    void setLeftButtonPixmap(const QPixmap& pixmap) { setButtonPixmap(Left, pixmap); }
+    QPixmap rightButtonPixmap() const { return buttonPixmap(Right); }
+    void setRightButtonPixmap(const QPixmap& pixmap) { setButtonPixmap(Right, pixmap); }
+    QIcon leftButtonIcon() const { return buttonIcon(Left); }
+    void setLeftButtonIcon(const QIcon& icon) { setButtonIcon(Left, icon); }
+    QIcon rightButtonIcon() const { return buttonIcon(Right); }
+    void setRightButtonIcon(const QIcon& icon) { setButtonIcon(Right, icon); }
+    QString leftButtonToolTip() const { return buttonToolTip(Left); }
+    void setLeftButtonToolTip(const QString& text) { setButtonToolTip(Left, text); }
+    QString rightButtonToolTip() const { return buttonToolTip(Right); }
+    void setRightButtonToolTip(const QString& text) { setButtonToolTip(Right, text); }
+    bool hasLeftButtonAutoHide() const { return hasAutoHideButton(Left); }
+    void setLeftButtonAutoHide(bool on) { setAutoHideButton(Left, on); }
+    bool hasRightButtonAutoHide() const { return hasAutoHideButton(Right); }
+    void setRightButtonAutoHide(bool on) { setAutoHideButton(Right, on); }
 
     /// As QLineEdit::setCompleter().
     void setSpecialCompleter(QCompleter* completer);

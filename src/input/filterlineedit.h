@@ -10,6 +10,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT FilterLineEdit : public FancyLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(bool clearOnEscape READ clearOnEscape WRITE setClearOnEscape)
 
 public:
     explicit FilterLineEdit(QWidget* parent = nullptr);

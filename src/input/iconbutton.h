@@ -16,6 +16,8 @@ class CORVELGUI_EXPORT IconButton : public QAbstractButton
 {
     Q_OBJECT
     Q_PROPERTY(float iconOpacity READ iconOpacity WRITE setIconOpacity)
+    Q_PROPERTY(bool autoHide READ hasAutoHide WRITE setAutoHide)
+    Q_PROPERTY(QPixmap pixmap READ pixmap WRITE setPixmap)
 
 public:
     explicit IconButton(QWidget* parent = nullptr);

@@ -20,6 +20,26 @@ void InputLengthLineEdit::setInputLengthRange(int minimum, int maximum)
     d->maximumLength = maximum;
 }
 
+int InputLengthLineEdit::minimumInputLength() const
+{
+    return d->minimumLength;
+}
+
+void InputLengthLineEdit::setMinimumInputLength(int minimum)
+{
+    d->minimumLength = minimum;
+}
+
+int InputLengthLineEdit::maximumInputLength() const
+{
+    return d->maximumLength;
+}
+
+void InputLengthLineEdit::setMaximumInputLength(int maximum)
+{
+    d->maximumLength = maximum;
+}
+
 void InputLengthLineEdit::Validate()
 {
     const qsizetype length = text().size();

@@ -125,6 +125,14 @@ void PFilterButton::setFilters(const QList<Filter>& filters)
     showChecks();
 }
 
+QList<PFilterButton::Filter> PFilterButton::filters() const
+{
+    QList<Filter> filters;
+    for (qsizetype i = 0; i < d->filters.size(); ++i)
+        filters.append({d->filters[i]->data().toString(), d->texts[i]});
+    return filters;
+}
+
 QStringList PFilterButton::checkedFilters() const
 {
     return d->checked;

@@ -34,6 +34,7 @@ public:
     /// Replaces all filters, in their order; a key that comes again is left out. Those that were
     /// checked stay so.
     void setFilters(const QList<Filter>& filters);
+    QList<Filter> filters() const;
 
     /// The keys, in the order of the filters.
     QStringList checkedFilters() const;

@@ -40,6 +40,11 @@ void PIpLineEdit::checkEntry(const QString&)
     markWrongEntry(this, !hasAcceptableInput() && !quiet);
 }
 
+bool PIpLineEdit::isQuietAtFirst() const
+{
+    return d->quietAtFirst;
+}
+
 void PIpLineEdit::setQuietAtFirst(bool quiet)
 {
     d->quietAtFirst = quiet;

@@ -13,6 +13,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT PIpLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(bool quietAtFirst READ isQuietAtFirst WRITE setQuietAtFirst)
 
 public:
     explicit PIpLineEdit(QWidget* parent = nullptr);
@@ -21,6 +22,7 @@ public:
     /// Whether the field keeps its usual colours until its text changes for the first time: nobody
     /// has made a mistake yet. Off at first. hasAcceptableInput() is the same.
     void setQuietAtFirst(bool quiet);
+    bool isQuietAtFirst() const;
 
 private Q_SLOTS:
     void checkEntry(const QString& text);

@@ -23,6 +23,8 @@ SubNetMaskComboBox::SubNetMaskComboBox(QWidget* parent) : QComboBox(parent)
     for (int prefix = shortestPrefix; prefix <= longestPrefix; ++prefix)
         addItem(getMaskAsString(prefix), prefix);
     setCurrentIndex(findData(initialPrefix));
+    connect(this, &QComboBox::currentIndexChanged, this,
+            [this] { Q_EMIT subNetMaskChanged(getSubNetMask()); });
 }
 
 int SubNetMaskComboBox::getSubNetMask() const

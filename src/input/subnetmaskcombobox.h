@@ -10,6 +10,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT SubNetMaskComboBox : public QComboBox
 {
     Q_OBJECT
+    Q_PROPERTY(int subNetMask READ getSubNetMask WRITE setSubNetMask NOTIFY subNetMaskChanged)
 
 public:
     explicit SubNetMaskComboBox(QWidget* parent = nullptr);
@@ -27,6 +28,11 @@ public:
     /// What the box shows for a prefix length, such as "255.255.255.0 /24"; a text that says so for
     /// one outside 1 to 30.
     static QString getMaskAsString(int prefixLength);
+
+Q_SIGNALS:
+    /// Emitted when getSubNetMask() changes, whoever changed it. A receiver that wants to remove
+    /// the box calls deleteLater(): QComboBox still works on itself after its own signals.
+    void subNetMaskChanged(int prefixLength);
 };
 
 } // namespace CorvelGui

@@ -45,6 +45,11 @@ void ValidateBaseLineEdit::setError(bool error)
     update();
 }
 
+bool ValidateBaseLineEdit::isQuietAtFirst() const
+{
+    return d->quietAtFirst;
+}
+
 void ValidateBaseLineEdit::setQuietAtFirst(bool quiet)
 {
     d->quietAtFirst = quiet;

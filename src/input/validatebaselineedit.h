@@ -20,6 +20,9 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT ValidateBaseLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(bool valid READ isValid NOTIFY signalValidate STORED false)
+    Q_PROPERTY(bool validationActive READ validationActive WRITE setValidationActive)
+    Q_PROPERTY(bool quietAtFirst READ isQuietAtFirst WRITE setQuietAtFirst)
 
 public:
     explicit ValidateBaseLineEdit(QWidget* parent = nullptr);
@@ -39,6 +42,7 @@ public:
     /// Whether the field keeps its usual colours until its text changes for the first time: nobody
     /// has made a mistake yet. Off at first. The verdict is the same.
     void setQuietAtFirst(bool quiet);
+    bool isQuietAtFirst() const;
 
 Q_SIGNALS:
     /// Emitted after every judgement, whether or not the verdict changed; not while validation is

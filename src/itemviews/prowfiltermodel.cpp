@@ -47,6 +47,7 @@ struct PRowFilterModel::Private
 
     QTimer slices;
     std::chrono::milliseconds slice = 8ms;
+    QString filterText;
     bool busy = false;
     bool resetting = false;
 };
@@ -141,7 +142,18 @@ void PRowFilterModel::startOver()
     followWork();
 }
 
+QString PRowFilterModel::filterText() const
+{
+    return d->filterText;
+}
+
 void PRowFilterModel::setFilter(const Filter& filter)
+{
+    d->filterText.clear();
+    useFilter(filter);
+}
+
+void PRowFilterModel::useFilter(const Filter& filter)
 {
     d->filter = filter;
     startFilter();
@@ -150,9 +162,10 @@ void PRowFilterModel::setFilter(const Filter& filter)
 
 void PRowFilterModel::setFilterText(const QString& text)
 {
+    d->filterText = text;
     if (text.isEmpty())
-        return setFilter({});
-    setFilter([this, text](int row) {
+        return useFilter({});
+    useFilter([this, text](int row) {
         for (int column = 0; column < columnCount(); ++column) {
             if (sourceModel()->index(row, column).data().toString().toLower().contains(text))
                 return true;
@@ -195,6 +208,11 @@ void PRowFilterModel::finish()
 {
     work(QDeadlineTimer(QDeadlineTimer::Forever));
     followWork();
+}
+
+std::chrono::milliseconds PRowFilterModel::slice() const
+{
+    return d->slice;
 }
 
 void PRowFilterModel::setSlice(std::chrono::milliseconds slice)

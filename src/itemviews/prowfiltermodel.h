@@ -27,6 +27,9 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT PRowFilterModel : public QAbstractProxyModel
 {
     Q_OBJECT
+    Q_PROPERTY(QString filterText READ filterText WRITE setFilterText)
+    Q_PROPERTY(std::chrono::milliseconds slice READ slice WRITE setSlice)
+    Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
 
 public:
     /// Says of a row of the source whether it is shown.
@@ -45,6 +48,8 @@ public:
     /// Shows the rows in which a cell contains @p text. The text must be in lower case to be found.
     /// An empty one shows all rows.
     void setFilterText(const QString& text);
+    /// Empty while setFilter() says what is shown.
+    QString filterText() const;
     /// Asks the filter and the order anew, because rows say something else now.
     void refilter();
 
@@ -61,6 +66,7 @@ public:
     /// How long it works between two events of the window; at first 8 ms, and 1 ms at
     /// least.
     void setSlice(std::chrono::milliseconds slice);
+    std::chrono::milliseconds slice() const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;
@@ -80,6 +86,7 @@ Q_SIGNALS:
 private:
     void connectSource();
     void startOver();
+    void useFilter(const Filter& filter);
     std::vector<int> firstFound();
     void startFilter();
     void startSort();

@@ -100,6 +100,11 @@ void PDateEdit::setChosenDate(QDate date)
         setEmpty(false); // also when that was its date already
 }
 
+QTimeZone PDateEdit::todayZone() const
+{
+    return d->todayZone;
+}
+
 void PDateEdit::setTodayZone(const QTimeZone& zone)
 {
     d->todayZone = zone;

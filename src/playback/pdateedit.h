@@ -25,6 +25,7 @@ class CORVELGUI_EXPORT PDateEdit : public QDateEdit
     Q_PROPERTY(
         bool emptyAllowed READ isEmptyAllowed WRITE setEmptyAllowed NOTIFY emptyAllowedChanged)
     Q_PROPERTY(QDate chosenDate READ chosenDate WRITE setChosenDate NOTIFY chosenDateChanged)
+    Q_PROPERTY(QTimeZone todayZone READ todayZone WRITE setTodayZone DESIGNABLE false)
 
 public:
     explicit PDateEdit(QWidget* parent = nullptr);
@@ -41,6 +42,8 @@ public:
 
     /// The zone whose date is today; that of this machine at first, and for an invalid one.
     void setTodayZone(const QTimeZone& zone);
+    /// Invalid at first.
+    QTimeZone todayZone() const;
 
     void stepBy(int steps) override;
     QSize sizeHint() const override;

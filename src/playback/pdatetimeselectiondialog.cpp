@@ -25,6 +25,8 @@ struct PDateTimeSelectionDialog::Private
 {
     std::array<QDateTimeEdit*, 2> edits() const { return {date, time}; }
 
+    QString dateFormat;
+
     QLabel* dateLabel = nullptr;
     PDateEdit* date = nullptr;
     QLabel* timeLabel = nullptr;
@@ -80,6 +82,11 @@ void PDateTimeSelectionDialog::setDateTime(const QDateTime& dateTime)
     report();
 }
 
+QTimeZone PDateTimeSelectionDialog::timeZone() const
+{
+    return d->shown.timeZone();
+}
+
 void PDateTimeSelectionDialog::setTimeZone(const QTimeZone& zone)
 {
     setDateTime(d->shown.toTimeZone(zone.isValid() ? zone : QTimeZone::systemTimeZone()));
@@ -101,8 +108,14 @@ void PDateTimeSelectionDialog::setLimits(const QDateTime& earliest, const QDateT
     report();
 }
 
+QString PDateTimeSelectionDialog::dateFormat() const
+{
+    return d->dateFormat;
+}
+
 void PDateTimeSelectionDialog::setDateFormat(const QString& format)
 {
+    d->dateFormat = format;
     d->date->setDisplayFormat(format.isEmpty() ? shortDateFormat() : format);
     d->entry->explain();
 }

@@ -19,6 +19,11 @@ class CORVELGUI_EXPORT PDateTimeSelectionDialog : public PBaseDialog
     Q_PROPERTY(QDateTime dateTime READ dateTime WRITE setDateTime NOTIFY dateTimeChanged)
     Q_PROPERTY(bool millisecondsVisible READ areMillisecondsVisible WRITE setMillisecondsVisible
                    NOTIFY millisecondsVisibleChanged)
+    Q_PROPERTY(QTimeZone timeZone READ timeZone WRITE setTimeZone NOTIFY dateTimeChanged
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(QDateTime earliest READ earliest)
+    Q_PROPERTY(QDateTime latest READ latest)
+    Q_PROPERTY(QString dateFormat READ dateFormat WRITE setDateFormat)
 
 public:
     /// Shows the second that it is made in, on the clock of this machine.
@@ -31,6 +36,8 @@ public:
     void setDateTime(const QDateTime& dateTime);
     /// Shows the same moment on the clock of @p zone; an invalid one means that of this machine.
     void setTimeZone(const QTimeZone& zone);
+    /// That of the moment that was set last.
+    QTimeZone timeZone() const;
 
     QDateTime earliest() const;
     QDateTime latest() const;
@@ -41,6 +48,7 @@ public:
     /// In the notation of QDate::toString(). Empty, as at first, for the short format of the locale
     /// with all digits of the year.
     void setDateFormat(const QString& format);
+    QString dateFormat() const;
     /// Off at first. While they are not visible they stay what they are.
     bool areMillisecondsVisible() const;
     void setMillisecondsVisible(bool visible);
@@ -50,7 +58,7 @@ public Q_SLOTS:
     void accept() override;
 
 Q_SIGNALS:
-    /// Emitted when dateTime() changes, whoever changed it.
+    /// Emitted when dateTime() or its zone changes, whoever changed it.
     void dateTimeChanged(const QDateTime& dateTime);
     /// Emitted when setMillisecondsVisible() changed it.
     void millisecondsVisibleChanged(bool visible);

@@ -57,6 +57,7 @@ struct PInputDateTimeWithRange::Private
 
     QTimeZone zone = QTimeZone::systemTimeZone();
     MomentRange range;
+    QString dateFormat;
 
     // What has been reported.
     MomentRange reported;
@@ -151,8 +152,14 @@ void PInputDateTimeWithRange::setLimits(const QDateTime& earliest, const QDateTi
     commit(d->preset, false);
 }
 
+QString PInputDateTimeWithRange::dateFormat() const
+{
+    return d->dateFormat;
+}
+
 void PInputDateTimeWithRange::setDateFormat(const QString& format)
 {
+    d->dateFormat = format;
     for (const End* end : {&d->from, &d->to}) {
         end->date->setDisplayFormat(format.isEmpty() ? shortDateFormat() : format);
         end->entry->explain();

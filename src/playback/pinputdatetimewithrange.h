@@ -23,6 +23,10 @@ class CORVELGUI_EXPORT PInputDateTimeWithRange : public PWidget
     Q_PROPERTY(CorvelGui::PInputDateTimeWithRange::Preset preset READ preset WRITE setPreset NOTIFY
                    presetChanged)
     Q_PROPERTY(bool acceptableInput READ hasAcceptableInput NOTIFY acceptableInputChanged)
+    Q_PROPERTY(QTimeZone timeZone READ timeZone WRITE setTimeZone DESIGNABLE false)
+    Q_PROPERTY(QDateTime earliest READ earliest)
+    Q_PROPERTY(QDateTime latest READ latest)
+    Q_PROPERTY(QString dateFormat READ dateFormat WRITE setDateFormat)
 
 public:
     enum Preset : int {
@@ -59,6 +63,7 @@ public:
     /// In the notation of QDate::toString(). Empty, as at first, for the short format of the locale
     /// with all digits of the year.
     void setDateFormat(const QString& format);
+    QString dateFormat() const;
 
 public Q_SLOTS:
     /// In either order, as far as it is within the limits; in the zone of the widget. Ignored if

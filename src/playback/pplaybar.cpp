@@ -198,10 +198,35 @@ void PPlaybar::setLiveMode(bool liveMode, bool enableReversePlayback)
         enter(Play);
 }
 
+bool PPlaybar::isLive() const
+{
+    return d->liveMode;
+}
+
+void PPlaybar::setLive(bool live)
+{
+    setLiveMode(live, d->reverseEnabled);
+}
+
+bool PPlaybar::isReversePlaybackEnabled() const
+{
+    return d->reverseEnabled;
+}
+
+void PPlaybar::setReversePlaybackEnabled(bool enabled)
+{
+    setLiveMode(d->liveMode, enabled);
+}
+
 void PPlaybar::setButtonEnabled(PlaybackButton playbackButton, bool enable)
 {
     if (TarvoToolButton* button = d->button(playbackButton))
         button->setEnabled(enable);
+}
+
+QSize PPlaybar::iconSize() const
+{
+    return d->ui.buttonPause->iconSize();
 }
 
 void PPlaybar::setIconSize(QSize size)

@@ -22,6 +22,15 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT PPlaybar : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(CorvelGui::PPlaybar::PlaybackState playbackState READ playbackState WRITE
+                   setPlaybackState NOTIFY playbackStateChanged)
+    Q_PROPERTY(CorvelGui::PPlaybar::PlaybackSpeed playbackSpeed READ playbackSpeed WRITE
+                   setPlaybackSpeed NOTIFY playbackSpeedChanged)
+    Q_PROPERTY(bool live READ isLive WRITE setLive)
+    Q_PROPERTY(
+        bool reversePlaybackEnabled READ isReversePlaybackEnabled WRITE setReversePlaybackEnabled)
+    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize)
+    Q_PROPERTY(bool speedVisible READ isSpeedVisible WRITE setSpeedVisible)
 
 public:
     /// States below Pause run backwards in time.
@@ -89,6 +98,12 @@ public:
     /// tooltip as well. Empty for a value that addresses no button.
     static QString buttonName(PlaybackButton playbackButton);
 
+    /// What setLiveMode() was told; not live, and with reverse playback at first.
+    bool isLive() const;
+    bool isReversePlaybackEnabled() const;
+    /// The size of the icons in pixels, 24 by 24 at first.
+    QSize iconSize() const;
+
     /// Whether the speed stands beside the buttons, as it does at first.
     bool isSpeedVisible() const;
 
@@ -106,6 +121,9 @@ public Q_SLOTS:
     /// Live mode enters Play and leaves the pause button only, which then reports instead of
     /// pausing. Without @p enableReversePlayback the backward buttons stay disabled outside it too.
     void setLiveMode(bool liveMode, bool enableReversePlayback);
+    /// Each is setLiveMode() with the other value as it is.
+    void setLive(bool live);
+    void setReversePlaybackEnabled(bool enabled);
     /// Lasts until the next change by setLiveMode(), which enables and disables all buttons.
     void setButtonEnabled(CorvelGui::PPlaybar::PlaybackButton playbackButton, bool enable);
     /// Sets the size of all icons in pixels, and the bar's minimum size to nine of them in a row.

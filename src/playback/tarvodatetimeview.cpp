@@ -146,10 +146,25 @@ void TarvoDateTimeView::updateDateTime(const QDateTime& dateTime)
         updateMinimumWidth();
 }
 
+QDateTime TarvoDateTimeView::dateTime() const
+{
+    return d->showsNothing() ? QDateTime() : d->shown;
+}
+
+bool TarvoDateTimeView::isPlayMode() const
+{
+    return d->playMode;
+}
+
 void TarvoDateTimeView::setPlayMode(bool play)
 {
     d->playMode = play;
     applyStyle();
+}
+
+bool TarvoDateTimeView::showsMilliseconds() const
+{
+    return d->showMilliseconds;
 }
 
 void TarvoDateTimeView::setShowMilliseconds(bool show)
@@ -162,9 +177,19 @@ void TarvoDateTimeView::setShowMilliseconds(bool show)
         updateDateTime(std::exchange(d->shown, nothing()));
 }
 
+QString TarvoDateTimeView::deviceName() const
+{
+    return d->deviceName;
+}
+
 void TarvoDateTimeView::setDeviceName(const QString& name)
 {
     d->deviceName = name;
+}
+
+QString TarvoDateTimeView::dateFormat() const
+{
+    return d->dateFormat;
 }
 
 void TarvoDateTimeView::setDateFormat(const QString& format)
@@ -176,6 +201,16 @@ void TarvoDateTimeView::setJumpLimits(const QDateTime& earliest, const QDateTime
 {
     d->earliest = earliest;
     d->latest = latest;
+}
+
+QDateTime TarvoDateTimeView::earliestJump() const
+{
+    return d->earliest;
+}
+
+QDateTime TarvoDateTimeView::latestJump() const
+{
+    return d->latest;
 }
 
 QString TarvoDateTimeView::shownText() const

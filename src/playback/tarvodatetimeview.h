@@ -17,6 +17,13 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT TarvoDateTimeView : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QDateTime dateTime READ dateTime WRITE updateDateTime)
+    Q_PROPERTY(bool playMode READ isPlayMode WRITE setPlayMode)
+    Q_PROPERTY(bool showMilliseconds READ showsMilliseconds WRITE setShowMilliseconds)
+    Q_PROPERTY(QString deviceName READ deviceName WRITE setDeviceName)
+    Q_PROPERTY(QString dateFormat READ dateFormat WRITE setDateFormat)
+    Q_PROPERTY(QDateTime earliestJump READ earliestJump)
+    Q_PROPERTY(QDateTime latestJump READ latestJump)
 
 public:
     explicit TarvoDateTimeView(QWidget* parent = nullptr);
@@ -25,20 +32,30 @@ public:
     /// Shows @p dateTime. An invalid one empties the view. Within one second only the milliseconds
     /// follow; going back to exactly the moment that the second began with changes nothing.
     void updateDateTime(const QDateTime& dateTime);
-    /// Yellow digits in play mode, green ones otherwise.
+    /// What is shown, with the milliseconds that its second began with; invalid while that is
+    /// nothing. A view that is disabled forgets it.
+    QDateTime dateTime() const;
+    /// Yellow digits in play mode, as at first, green ones otherwise.
     void setPlayMode(bool play);
+    bool isPlayMode() const;
+    /// Whether milliseconds are shown, as they are at first.
     void setShowMilliseconds(bool show);
+    bool showsMilliseconds() const;
     /// What the header of the pop-up says, from the next time it opens.
     void setDeviceName(const QString& name);
+    QString deviceName() const;
 
     /// How the pop-up writes dates from the next time it opens, in the notation of
     /// QDate::toString(). Empty, as at first, for the short format of the locale with all digits of
     /// the year.
     void setDateFormat(const QString& format);
+    QString dateFormat() const;
     /// The first and the last moment that can be jumped to, both included, from the next time that
     /// the pop-up opens. It tells them to who enters another, and stays. Invalid ones, as at first,
     /// are no limits; give both or none.
     void setJumpLimits(const QDateTime& earliest, const QDateTime& latest);
+    QDateTime earliestJump() const;
+    QDateTime latestJump() const;
 
     /// What the view reads, to the second, in one line.
     QString shownText() const;

@@ -15,6 +15,8 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT TarvoToolButton : public QToolButton
 {
     Q_OBJECT
+    // Not that of QAbstractButton, which would not make it the normal icon.
+    Q_PROPERTY(QIcon icon READ icon WRITE setIcon)
 
 public:
     explicit TarvoToolButton(QWidget* parent = nullptr);

@@ -80,6 +80,16 @@ void BusyIndicator::setBackgroundImage(const QPixmap& image)
     d->backgroundIsStale = true;
 }
 
+QPixmap BusyIndicator::backgroundImage() const
+{
+    return d->image;
+}
+
+std::chrono::milliseconds BusyIndicator::delay() const
+{
+    return d->delay;
+}
+
 void BusyIndicator::setDelay(std::chrono::milliseconds delay)
 {
     d->delay = delay;

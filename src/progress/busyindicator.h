@@ -2,12 +2,11 @@
 
 #include <CorvelGui/corvelgui_export.h>
 
+#include <QPixmap>
 #include <QWidget>
 
 #include <chrono>
 #include <memory>
-
-class QPixmap;
 
 namespace CorvelGui {
 
@@ -22,6 +21,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT BusyIndicator : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QPixmap backgroundImage READ backgroundImage WRITE setBackgroundImage)
 
 public:
     /// Show it with show(): a child of a parent that is visible already starts hidden.
@@ -31,9 +31,12 @@ public:
     /// A picture under the ring, stretched over the whole parent; a null one for the dimmed parent.
     /// Appears with the next step of the animation.
     void setBackgroundImage(const QPixmap& image);
+    QPixmap backgroundImage() const;
     /// For how long after the next show only the background is drawn. It holds for that one
     /// showing.
     void setDelay(std::chrono::milliseconds delay);
+    /// 0 at first, and again once it was hidden.
+    std::chrono::milliseconds delay() const;
     /// Paints the full ring once and hides the indicator.
     void setFinished();
 

@@ -68,7 +68,10 @@ TaskbarProgress::TaskbarProgress(std::unique_ptr<TaskbarBackend> backend, QObjec
     }
 }
 
-TaskbarProgress::~TaskbarProgress() = default;
+TaskbarProgress::~TaskbarProgress()
+{
+    forgetWindow(); // which may go before this is gone altogether
+}
 
 void TaskbarProgress::setWindow(QWindow* window)
 {
@@ -79,6 +82,11 @@ void TaskbarProgress::setWindow(QWindow* window)
     d->handle = window->winId();
     window->installEventFilter(this);
     connect(window, &QObject::destroyed, this, &TaskbarProgress::forgetWindow);
+}
+
+QWindow* TaskbarProgress::window() const
+{
+    return d->window;
 }
 
 void TaskbarProgress::forgetWindow()

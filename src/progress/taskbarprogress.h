@@ -3,10 +3,9 @@
 #include <CorvelGui/corvelgui_export.h>
 
 #include <QObject>
+#include <QWindow>
 
 #include <memory>
-
-class QWindow;
 
 namespace CorvelGui {
 
@@ -20,6 +19,13 @@ class TaskbarBackend;
 class CORVELGUI_EXPORT TaskbarProgress : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QWindow* window READ window WRITE setWindow)
+    Q_PROPERTY(bool visible READ isVisible WRITE setVisible)
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int value READ value WRITE setValue)
+    Q_PROPERTY(bool paused READ isPaused WRITE setPaused)
+    Q_PROPERTY(bool stopped READ isStopped)
 
 public:
     explicit TaskbarProgress(QObject* parent = nullptr);
@@ -30,6 +36,8 @@ public:
     /// The window gets a native handle if it has none yet. It stays the caller's, and may be
     /// deleted or get another handle.
     void setWindow(QWindow* window);
+    /// Null once it is deleted.
+    QWindow* window() const;
 
     bool isVisible() const;
     int minimum() const;

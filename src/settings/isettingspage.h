@@ -24,6 +24,11 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT ISettingsPage : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QString id READ id)
+    Q_PROPERTY(QString displayName READ displayName)
+    Q_PROPERTY(QString category READ category)
+    Q_PROPERTY(QString displayCategory READ displayCategory)
+    Q_PROPERTY(QIcon categoryIcon READ categoryIcon)
 
 public:
     explicit ISettingsPage(QObject* parent = nullptr);

@@ -21,6 +21,9 @@ class ISettingsPage;
 class CORVELGUI_EXPORT ISettingsPageProvider : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QString category READ category)
+    Q_PROPERTY(QString displayCategory READ displayCategory)
+    Q_PROPERTY(QIcon categoryIcon READ categoryIcon)
 
 public:
     explicit ISettingsPageProvider(QObject* parent = nullptr);

@@ -19,6 +19,9 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT Indicator : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QColor color READ color)
+    Q_PROPERTY(int hotSpot READ hotSpot)
 
 public:
     explicit Indicator(QWidget* parent = nullptr);

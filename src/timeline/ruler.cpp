@@ -335,6 +335,7 @@ void Ruler::onHideMarkers()
 
 void Ruler::setIconSize(const QSize& size)
 {
+    d->iconSize = size;
     d->markers->setIconSize(size);
     updateChildren(true);
 }

@@ -6,7 +6,9 @@
 #include <CorvelGui/TrackDescription>
 #include <CorvelGui/corvelgui_export.h>
 
+#include <QColor>
 #include <QDateTime>
+#include <QSize>
 #include <QWidget>
 
 #include <memory>
@@ -54,6 +56,24 @@ class CORVELGUI_EXPORT Ruler : public QWidget
                    rangeSelectionChanged)
     Q_PROPERTY(CorvelGui::TimeSpan selectedRange READ selectedRange WRITE setSelectedRange NOTIFY
                    selectedRangeChanged)
+    Q_PROPERTY(QString timeZone READ timeZone WRITE setTimeZone)
+    Q_PROPERTY(quint64 indicatorMSecs READ exactIndicatorMSecs WRITE setIndicatorPosition NOTIFY
+                   indicatorPositionChanged DESIGNABLE false)
+    Q_PROPERTY(bool indicatorDragEnabled READ isIndicatorDragEnabled WRITE setIndicatorDragEnabled)
+    Q_PROPERTY(bool previewEnabled READ isPreviewEnabled WRITE setPreviewEnabled)
+    Q_PROPERTY(
+        bool searchTimeRangeDisplayed READ isSearchTimeRangeDisplayed WRITE displaySearchTimeRange)
+    Q_PROPERTY(bool markersVisible READ areMarkersVisible WRITE setMarkersVisible)
+    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize)
+    Q_PROPERTY(bool orvaneGuiTheme READ hasOrvaneGuiTheme WRITE setOrvaneGuiTheme)
+    Q_PROPERTY(uint fontSize READ fontSize WRITE setFontSize)
+    Q_PROPERTY(QString dateFormat READ dateFormat WRITE setDateFormat)
+    Q_PROPERTY(QColor headerColor READ headerColor WRITE setHeaderColor)
+    Q_PROPERTY(QColor bodyColor READ bodyColor WRITE setBodyColor)
+    Q_PROPERTY(bool resultMode READ isResultMode WRITE setResultMode)
+    Q_PROPERTY(bool playMode READ isPlayMode WRITE setPlayMode)
+    Q_PROPERTY(bool active READ isActive WRITE makeActive)
+    Q_PROPERTY(bool blocked READ isBlocked WRITE setBlocked)
     Q_PROPERTY(
         bool edgeScrolling READ isEdgeScrolling WRITE setEdgeScrolling NOTIFY edgeScrollingChanged)
 
@@ -99,6 +119,8 @@ public:
     /// means the zone of this machine. It counts for times that are set or computed from the limits
     /// afterwards; what is stored keeps its zone.
     void setTimeZone(const QString& name);
+    /// The IANA name of the zone that was set; empty for that of this machine.
+    QString timeZone() const;
     /// Brings what is stored to the zone that setTimeZone() set, and reports the view on its clock.
     void applyTimeZone();
     /// What is known of the recorded tracks. Replaces what was set before.
@@ -231,14 +253,16 @@ public:
     /// Always returns true.
     bool setPreviewIndicatorPosition(quint64 msecs);
     /// Whether the user's drag of the indicator emits indicatorPositionChanged() at every move, or
-    /// only at its end.
+    /// only at its end, as at first.
     void setIndicatorDragEnabled(bool on);
+    bool isIndicatorDragEnabled() const;
     /// Whether the view moves while the indicator is dragged to an end of the ruler or beyond. Off
     /// by default.
     bool isEdgeScrolling() const;
     void setEdgeScrolling(bool on);
-    /// Whether a resting mouse asks for previews.
+    /// Whether a resting mouse asks for previews; off at first.
     void setPreviewEnabled(bool on);
+    bool isPreviewEnabled() const;
 
     /// Whether the user holds the timeline: from the press of the left mouse button on the ruler,
     /// its indicator, a handle or one of its arrows, whether it becomes a drag or not, until the
@@ -255,11 +279,16 @@ public:
     void setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom);
     void resetSearchTimeRange();
     void displaySearchTimeRange(bool display);
+    bool isSearchTimeRangeDisplayed() const;
+    /// The stored range, whether it is displayed or not; empty without one.
+    TimeSpan searchTimeRange() const;
     /// Marks a range that was found: with @p markBegin and @p markEnd at its ends, with @p
     /// onlyInside by showing only the event markers inside it. @p adjustZoom as for a search range.
     /// Invalid times clear the range.
     void setResultTimeRange(const QDateTime& from, const QDateTime& to, bool markBegin,
                             bool markEnd, bool onlyInside, bool adjustZoom);
+    /// Empty without one.
+    TimeSpan resultTimeRange() const;
 
     /// How the user selects a range, which is another one than those above. Off by default.
     ///
@@ -292,8 +321,14 @@ public:
     void onClearMarkers();
     void onShowMarkers();
     void onHideMarkers();
+    /// Whether onShowMarkers() was called last, as it is at first.
+    bool areMarkersVisible() const;
+    /// Calls onShowMarkers() or onHideMarkers().
+    void setMarkersVisible(bool visible);
     /// Gives the markers icons of about half the size plus 6 pixels in each direction.
     void setIconSize(const QSize& size);
+    /// The size that was set, 20 by 20 pixels at first.
+    QSize iconSize() const;
 
     /// Whether markers show more than their times: a bar at the foot of the ruler for each that
     /// lasts, in the colour of its severity, a sign of the severity under its symbol, and under one
@@ -319,8 +354,11 @@ public:
     /// True puts the theme's colours in, which a new ruler does not wear yet. False leaves the
     /// colours as they are, and changes the indicator's only.
     void setOrvaneGuiTheme(bool on);
-    /// Point size of all text on the ruler, from 1 to 200.
+    /// What was set last, on at first: then the indicator wears the theme's colour.
+    bool hasOrvaneGuiTheme() const;
+    /// Point size of all text on the ruler, from 1 to 200; 8 at first.
     void setFontSize(unsigned int points);
+    unsigned int fontSize() const;
     /// Whether the ticks stand at steps that people count in, from milliseconds to centuries: as
     /// close as their labels have room, so that none is cut or meets another, at every width and
     /// font. Off by default: at the steps of the level.
@@ -331,19 +369,30 @@ public:
     /// indicator's label shows milliseconds.
     bool hasCalendarTicks() const;
     void setCalendarTicks(bool on);
-    /// Format of date labels, as QDateTime::toString() takes it. Shows with the next repaint.
+    /// Format of date labels, as QDateTime::toString() takes it, "dd.MM.yy" at first. Shows with
+    /// the next repaint.
     void setDateFormat(const QString& format);
+    QString dateFormat() const;
     /// Stores the colour. It shows in the gradients once the theme is applied again.
     void setHeaderColor(const QColor& color);
+    QColor headerColor() const;
     /// Stores the colour. It shows with the next repaint.
     void setBodyColor(const QColor& color);
+    QColor bodyColor() const;
     /// In result mode there is no indicator, and a click does not place one.
     void setResultMode(bool on);
-    /// Selects the indicator's colour; shows when the theme is applied again.
+    bool isResultMode() const;
+    /// Selects the indicator's colour; on at first. Shows when the theme is applied again.
     void setPlayMode(bool on);
+    bool isPlayMode() const;
     /// An inactive ruler has no indicator and keeps its children as they are. A blocked one ignores
     /// the mouse.
     void setActive(bool active, bool blocked);
+    /// Each is setActive() with the other value as it is. Both are off at first.
+    void makeActive(bool active);
+    bool isActive() const;
+    void setBlocked(bool blocked);
+    bool isBlocked() const;
     /// Derives height and layout from the height of the indicator's label.
     void updateSize();
     /// Brings indicator and markers in line with the view, while the ruler is active. Markers are

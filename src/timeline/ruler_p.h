@@ -57,6 +57,7 @@ struct Ruler::Private
     bool edgeScrolling = false;
 
     int headerHeight = 0;
+    QSize iconSize{20, 20}; ///< of which markers have about half
     unsigned int fontSize = 8;
     bool theme = true;
     bool playMode = true;

@@ -27,6 +27,7 @@ public:
     void setUsable(bool usable);
     /// Whether previews are wanted at all.
     void setEnabled(bool enabled);
+    bool isEnabled() const { return m_enabled; }
     /// What became of the last preview that was asked for.
     void setPreview(bool visible, bool pending);
     bool isPreviewVisible() const { return m_visible; }

@@ -52,6 +52,7 @@ public:
     void clear();
     /// Returns false when nothing changes.
     bool setShown(bool shown);
+    bool isShown() const { return m_shown; }
     /// Limits what is shown to a range of time; no range shows all.
     void setRange(const std::optional<TimeSpan>& range);
     void setIconSize(const QSize& size);

@@ -84,6 +84,8 @@ struct TimelineLanes::Private
     }
     int rulerLeft() const
     {
+        if (ruler->window() != q->window())
+            return 0; // as long as they are made without the parent that they will have
         return ruler->mapTo(q->window(), QPoint()).x() - q->mapTo(q->window(), QPoint()).x();
     }
     QRect columns() const { return q->rect().adjusted(rulerLeft(), 0, 0, 0); }
@@ -233,6 +235,11 @@ void TimelineLanes::setFontSize(int points)
     font.setPointSize(std::clamp(points, 1, largestFont));
     setFont(font);
     updateGeometryOfLanes();
+}
+
+int TimelineLanes::fontSize() const
+{
+    return font().pointSize();
 }
 
 int TimelineLanes::namesWidth() const

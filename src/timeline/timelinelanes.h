@@ -26,6 +26,7 @@ class CORVELGUI_EXPORT TimelineLanes : public QWidget
     Q_PROPERTY(
         QString currentTrack READ currentTrack WRITE setCurrentTrack NOTIFY currentTrackChanged)
     Q_PROPERTY(int maximumLanes READ maximumLanes WRITE setMaximumLanes NOTIFY maximumLanesChanged)
+    Q_PROPERTY(int fontSize READ fontSize WRITE setFontSize STORED false)
 
 public:
     /// Shows the tracks of @p ruler, which must live longer.
@@ -61,6 +62,8 @@ public:
 
     /// Point size of the names, from 1 to 200.
     void setFontSize(int points);
+    /// That of the ruler at first.
+    int fontSize() const;
 
     /// The width that the names want left of the ruler's columns: up to a third of this widget's.
     int namesWidth() const;

@@ -66,6 +66,11 @@ void TimelineScroll::setIndicatorPosition(double position)
     update();
 }
 
+double TimelineScroll::indicatorPosition() const
+{
+    return d->indicatorPosition;
+}
+
 void TimelineScroll::onIndicatorPositionChanged(quint64, double position)
 {
     setIndicatorPosition(position);
@@ -81,6 +86,11 @@ void TimelineScroll::onCenterPositionChanged(double position)
     storeCenterPosition(position);
 }
 
+bool TimelineScroll::isActive() const
+{
+    return d->active;
+}
+
 void TimelineScroll::setActive(bool active)
 {
     if (d->active == active)
@@ -90,8 +100,14 @@ void TimelineScroll::setActive(bool active)
     updateStyleSheet();
 }
 
+bool TimelineScroll::hasOrvaneGuiTheme() const
+{
+    return d->theme;
+}
+
 void TimelineScroll::setOrvaneGuiTheme(bool on)
 {
+    d->theme = on;
     // Without the theme the colours stay as they are: there is no way back to those from before it.
     if (on) {
         d->boxColor = POrvGuiTheme::colorGreyhound;
@@ -106,15 +122,35 @@ void TimelineScroll::setOrvaneGuiTheme(bool on)
     updateStyleSheet();
 }
 
+bool TimelineScroll::isResultMode() const
+{
+    return d->resultMode;
+}
+
 void TimelineScroll::setResultMode(bool on)
 {
     d->resultMode = on;
+}
+
+bool TimelineScroll::hasHover() const
+{
+    return d->hover;
 }
 
 void TimelineScroll::setHover(bool hover)
 {
     d->hover = hover;
     update();
+}
+
+std::pair<double, double> TimelineScroll::searchTimeRange() const
+{
+    return {d->searchBegin, d->searchEnd};
+}
+
+bool TimelineScroll::isSearchTimeRangeDisplayed() const
+{
+    return d->searchDisplayed;
 }
 
 void TimelineScroll::setSearchTimeRange(double begin, double end)
@@ -144,6 +180,11 @@ void TimelineScroll::displaySearchTimeRange(bool display)
     d->searchDisplayed = display;
     if (d->searchValid)
         update();
+}
+
+std::pair<double, double> TimelineScroll::selectedRange() const
+{
+    return {d->selected.begin, d->selected.end};
 }
 
 void TimelineScroll::setSelectedRange(double begin, double end)

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace CorvelGui {
 
@@ -23,6 +24,16 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT TimelineScroll : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(double viewArea READ viewArea WRITE setViewArea)
+    Q_PROPERTY(double indicatorPosition READ indicatorPosition WRITE setIndicatorPosition)
+    Q_PROPERTY(double centerPosition READ centerPosition WRITE onCenterPositionChanged NOTIFY
+                   viewAreaMoved)
+    Q_PROPERTY(bool active READ isActive WRITE setActive)
+    Q_PROPERTY(bool orvaneGuiTheme READ hasOrvaneGuiTheme WRITE setOrvaneGuiTheme)
+    Q_PROPERTY(bool resultMode READ isResultMode WRITE setResultMode)
+    Q_PROPERTY(bool hover READ hasHover WRITE setHover)
+    Q_PROPERTY(
+        bool searchTimeRangeDisplayed READ isSearchTimeRangeDisplayed WRITE displaySearchTimeRange)
     Q_PROPERTY(bool activityVisible READ isActivityVisible WRITE setActivityVisible NOTIFY
                    activityVisibleChanged)
 
@@ -37,6 +48,7 @@ public:
     double viewArea() const;
 
     void setIndicatorPosition(double position);
+    double indicatorPosition() const;
 
     /// The position of the view's centre: the latest of onCenterPositionChanged() and the user's.
     double centerPosition() const;
@@ -62,22 +74,32 @@ public:
 
     /// An inactive strip is disabled and shows nothing but its border.
     void setActive(bool active);
+    bool isActive() const;
 
     /// True puts the theme's colours in. False leaves the colours as they are.
     void setOrvaneGuiTheme(bool on);
+    /// What was set last; off at first.
+    bool hasOrvaneGuiTheme() const;
     /// Stored for the owner; the strip looks and works the same in result mode.
     void setResultMode(bool on);
+    bool isResultMode() const;
     /// True shows the box as if the mouse were on it.
     void setHover(bool hover);
+    bool hasHover() const;
 
     /// The search range; it is drawn while it ends after it begins and displaySearchTimeRange()
     /// says so. Does nothing when both ends differ by at most 1e-5 from those before.
     void setSearchTimeRange(double begin, double end);
     void resetSearchTimeRange();
     void displaySearchTimeRange(bool display);
+    /// Off at first.
+    bool isSearchTimeRangeDisplayed() const;
+    /// Begin and end; both are 0.0 without one.
+    std::pair<double, double> searchTimeRange() const;
 
     /// The range that is selected; it is drawn while it ends after it begins. At first it does not.
     void setSelectedRange(double begin, double end);
+    std::pair<double, double> selectedRange() const;
 
 public Q_SLOTS:
     /// As setIndicatorPosition(); the absolute time @p msecs is not needed.

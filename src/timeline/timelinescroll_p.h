@@ -90,6 +90,7 @@ struct TimelineScroll::Private
     TimelineScroll* const q;
 
     bool active = false;
+    bool theme = false;
     bool resultMode = false;
     double viewArea = 1.0;
     double indicatorPosition = 0.0;

@@ -67,6 +67,8 @@ public:
     quint64 totalDuration() const { return m_totalDuration; }
 
     void setTimeZone(const QTimeZone& zone) { m_zone = zone; }
+    /// Invalid for that of this machine.
+    const QTimeZone& timeZone() const { return m_zone; }
     /// Brings what is stored to the zone that counts now.
     void applyTimeZone();
     /// The instant in the zone that counts now.

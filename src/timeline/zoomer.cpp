@@ -1,6 +1,7 @@
 #include "zoomer.h"
 
 #include "base/controlemissions.h"
+#include "base/whilealive.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -107,7 +108,9 @@ void Zoomer::onSliderChanged(int level)
         return;
     const bool wider = level > m_currentLevel;
     m_currentLevel = level;
-    report(wider ? &Zoomer::zoomerOut : &Zoomer::zoomerIn, level);
+    whileAlive(
+        this, [&] { m_emissions->run([&] { Q_EMIT levelChanged(level); }); },
+        [&] { report(wider ? &Zoomer::zoomerOut : &Zoomer::zoomerIn, level); });
 }
 
 void Zoomer::onChangeSliderPosition(int level)

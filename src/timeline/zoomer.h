@@ -20,6 +20,8 @@ class ControlEmissions;
 class CORVELGUI_EXPORT Zoomer : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int level READ level WRITE onChangeSliderPosition NOTIFY levelChanged)
+    Q_PROPERTY(int maximumLevel READ maximumLevel CONSTANT)
 
 public:
     /// Shows level 0, but takes level 1, that of a new ruler, for the current one: the slider first
@@ -30,6 +32,10 @@ public:
     /// Creates and connects the slider and the two buttons. The constructor has done that; once
     /// there are controls, nothing happens.
     void initializeControls();
+
+    /// The level that was asked for last, or that the ruler told since; 1 in a new one.
+    int level() const { return m_currentLevel; }
+    int maximumLevel() const { return m_maximumLevel; }
 
 public Q_SLOTS:
     /// Moves the slider by one level towards 0, and emits zoomerIn(); nothing at level 0.
@@ -49,6 +55,8 @@ Q_SIGNALS:
     void zoomerIn(int level, double anchor);
     /// As zoomerIn(), for a wider level.
     void zoomerOut(int level, double anchor);
+    /// Emitted when the user chose another level, before the first signal that asks for it.
+    void levelChanged(int level);
 
 protected:
     void changeEvent(QEvent* event) override;

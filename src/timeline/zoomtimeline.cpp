@@ -78,6 +78,11 @@ void ZoomTimeline::setZoomerEnabled(bool enabled)
     zoomerEnabled = enabled;
 }
 
+bool ZoomTimeline::isZoomerEnabled()
+{
+    return zoomerEnabled;
+}
+
 void ZoomTimeline::setTimeLimits(quint64 begin, quint64 end)
 {
     const auto [oldBegin, oldEnd] = m_ruler->getTimeLimits();
@@ -108,6 +113,11 @@ void ZoomTimeline::setIndicatorPosition(quint64 msecs)
     m_scroll->onCenterPositionChanged(viewCenter());
 }
 
+quint64 ZoomTimeline::indicatorMSecs() const
+{
+    return m_ruler->exactIndicatorMSecs();
+}
+
 void ZoomTimeline::setTimeLimitsAndIndicatorPosition(quint64 begin, quint64 end, quint64 indicator)
 {
     m_ruler->blockSignalTimeLineViewChanged(true);
@@ -136,6 +146,11 @@ void ZoomTimeline::setTimeZone(const QString& name)
 {
     m_ruler->setTimeZone(name);
     m_ruler->applyTimeZone();
+}
+
+QString ZoomTimeline::timeZone() const
+{
+    return m_ruler->timeZone();
 }
 
 void ZoomTimeline::setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom)
@@ -179,6 +194,11 @@ void ZoomTimeline::setFontSize(int points)
     m_lanes->setFontSize(points);
 }
 
+int ZoomTimeline::fontSize() const
+{
+    return int(m_ruler->fontSize());
+}
+
 void ZoomTimeline::setResultMode(bool on)
 {
     m_ruler->setResultMode(on);
@@ -196,6 +216,31 @@ void ZoomTimeline::setActive(bool active, bool blocked)
         m_zoomer->setEnabled(usable);
     m_scroll->setActive(usable);
     m_ruler->setActive(active, blocked);
+}
+
+void ZoomTimeline::makeActive(bool active)
+{
+    setActive(active, isBlocked());
+}
+
+bool ZoomTimeline::isActive() const
+{
+    return m_ruler->isActive();
+}
+
+void ZoomTimeline::setBlocked(bool blocked)
+{
+    setActive(isActive(), blocked);
+}
+
+bool ZoomTimeline::isBlocked() const
+{
+    return m_ruler->isBlocked();
+}
+
+bool ZoomTimeline::isPlayMode() const
+{
+    return m_ruler->isPlayMode();
 }
 
 void ZoomTimeline::setPlayMode(bool on)

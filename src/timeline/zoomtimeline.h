@@ -24,6 +24,17 @@ class Zoomer;
 class CORVELGUI_EXPORT ZoomTimeline : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(
+        quint64 indicatorMSecs READ indicatorMSecs WRITE setIndicatorPosition DESIGNABLE false)
+    Q_PROPERTY(QString timeZone READ timeZone WRITE setTimeZone)
+    Q_PROPERTY(
+        bool searchTimeRangeDisplayed READ isSearchTimeRangeDisplayed WRITE displaySearchTimeRange)
+    Q_PROPERTY(bool orvaneGuiTheme READ hasOrvaneGuiTheme WRITE setOrvaneGuiTheme)
+    Q_PROPERTY(int fontSize READ fontSize WRITE setFontSize)
+    Q_PROPERTY(bool resultMode READ isResultMode WRITE setResultMode)
+    Q_PROPERTY(bool active READ isActive WRITE makeActive)
+    Q_PROPERTY(bool blocked READ isBlocked WRITE setBlocked)
+    Q_PROPERTY(bool playMode READ isPlayMode WRITE setPlayMode)
     Q_PROPERTY(bool activityVisible READ isActivityVisible WRITE setActivityVisible NOTIFY
                    activityVisibleChanged)
     Q_PROPERTY(
@@ -36,6 +47,7 @@ public:
 
     /// Whether timelines that are made from now on have a zoomer; they do by default. Process-wide.
     static void setZoomerEnabled(bool enabled);
+    static bool isZoomerEnabled();
 
     /// The parts; they belong to the timeline.
     Ruler* ruler() const { return m_ruler; }
@@ -47,30 +59,49 @@ public:
     /// Sets the recording period. Does nothing when neither limit moves by a pixel at least.
     void setTimeLimits(quint64 begin, quint64 end);
     void setIndicatorPosition(quint64 msecs);
+    /// As Ruler::exactIndicatorMSecs().
+    quint64 indicatorMSecs() const;
     /// Both of the above, with one report of the new view at most.
     void setTimeLimitsAndIndicatorPosition(quint64 begin, quint64 end, quint64 indicator);
     void resetTimeline();
     /// Shows everything on the clock of another zone, by IANA or Windows name. View and indicator
     /// stay.
     void setTimeZone(const QString& name);
+    /// As Ruler::timeZone().
+    QString timeZone() const;
 
     /// Stores the range and displays it, in result mode as soon as that ends. @p adjustZoom zooms
     /// the ruler to it.
     void setSearchTimeRange(const QDateTime& from, const QDateTime& to, bool adjustZoom);
     void showSearchTimeRange();
     void hideSearchTimeRange();
+    /// Shows or hides it.
+    void displaySearchTimeRange(bool display);
+    /// Also in result mode, where it waits for its end.
+    bool isSearchTimeRangeDisplayed() const { return m_searchDisplayed; }
     void clearSearchTimeRange();
 
     void setOrvaneGuiTheme(bool on);
+    /// What was set last; on at first, when only the indicator wears the theme's colour.
+    bool hasOrvaneGuiTheme() const { return m_theme; }
     /// Point size of the ruler's texts; less than 1 counts as 1.
     void setFontSize(int points);
+    /// As Ruler::fontSize().
+    int fontSize() const;
     /// In result mode there is no indicator, and no search range is displayed.
     void setResultMode(bool on);
+    bool isResultMode() const { return m_resultMode; }
     /// An inactive timeline is disabled, and shows neither markers nor indicator. A blocked one
     /// shows everything but takes no input.
     void setActive(bool active, bool blocked);
+    /// Each is setActive() with the other value as it is. Both are off at first.
+    void makeActive(bool active);
+    bool isActive() const;
+    void setBlocked(bool blocked);
+    bool isBlocked() const;
     /// Selects the indicator's colour.
     void setPlayMode(bool on);
+    bool isPlayMode() const;
 
     /// Whether the strip shows what is recorded in the period and how many markers begin when, as
     /// TimelineScroll::isActivityVisible() describes. Off by default.
@@ -129,7 +160,6 @@ private:
     void updateViewArea();
     void updateSearchTimeRange();
     void updateSelectedRange();
-    void displaySearchTimeRange(bool display);
     void updateSearchDisplay();
 
     Ruler* const m_ruler;

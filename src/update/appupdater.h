@@ -21,6 +21,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT AppUpdater : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
 
 public:
     /// @p serverBase is what the paths of the update protocol are appended to. @p parent is the

@@ -111,6 +111,11 @@ void PCheckVersionUpdate::checkChangeLog()
     dialog->show();
 }
 
+QString PCheckVersionUpdate::currentVersion() const
+{
+    return d->currentVersion;
+}
+
 void PCheckVersionUpdate::setCurrentVersion(const QString& version)
 {
     d->currentVersion = version;
@@ -129,6 +134,16 @@ bool PCheckVersionUpdate::hasInternalReleaseChannelConnection() const
 bool PCheckVersionUpdate::isBusy() const
 {
     return d->reply || (d->installer && d->installer->isBusy());
+}
+
+Corvel::RequestLimits PCheckVersionUpdate::textLimits() const
+{
+    return d->textLimits;
+}
+
+Corvel::RequestLimits PCheckVersionUpdate::installerLimits() const
+{
+    return d->installerLimits;
 }
 
 void PCheckVersionUpdate::setLimits(const Corvel::RequestLimits& texts,

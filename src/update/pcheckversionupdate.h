@@ -29,6 +29,8 @@ struct ReleaseVersion;
 class CORVELGUI_EXPORT PCheckVersionUpdate : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QString currentVersion READ currentVersion WRITE setCurrentVersion)
+    Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
 
 public:
     /// File names are appended to the base URLs without a separator, so these end with a slash.
@@ -48,6 +50,7 @@ public:
     /// A check that still runs is abandoned.
     void fetchChangeLog();
     void setCurrentVersion(const QString& version);
+    QString currentVersion() const;
 
     /// The release notes of the last check (HTML of the server), or why there are none.
     QString GetReadMeFile() const;
@@ -60,6 +63,8 @@ public:
     /// seconds of silence, 1 MiB), and those of installers (two hours, 30 seconds of silence, 1
     /// GiB).
     void setLimits(const Corvel::RequestLimits& texts, const Corvel::RequestLimits& installers);
+    Corvel::RequestLimits textLimits() const;
+    Corvel::RequestLimits installerLimits() const;
 
 Q_SIGNALS:
     /// The installer's download, in bytes: (-1, -1) when it begins, then as its parts arrive, with

@@ -182,6 +182,11 @@ void RSSFeedDialog::setAddress(const QUrl& address)
         });
 }
 
+Corvel::RequestLimits RSSFeedDialog::limits() const
+{
+    return d->limits;
+}
+
 void RSSFeedDialog::setLimits(const Corvel::RequestLimits& limits)
 {
     d->limits = limits;

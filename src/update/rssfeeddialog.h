@@ -29,6 +29,8 @@ class CORVELGUI_EXPORT RSSFeedDialog : public PBaseDialog, public IUserSettings
     /// Where the feed is; an http or https address. Empty at first. Another address removes the
     /// entries, and abandons a request for them; while the dialog is visible it also refreshes it.
     Q_PROPERTY(QUrl address READ address WRITE setAddress NOTIFY addressChanged)
+    /// Of requests from now on. The defaults are 30 seconds, 15 seconds of silence and 2 MiB.
+    Q_PROPERTY(Corvel::RequestLimits limits READ limits WRITE setLimits DESIGNABLE false)
     /// Whether the feed is being fetched.
     Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
     /// How many entries there are.
@@ -43,7 +45,7 @@ public:
 
     QUrl address() const;
     void setAddress(const QUrl& address);
-    /// For requests from now on. The defaults are 30 seconds, 15 seconds of silence and 2 MiB.
+    Corvel::RequestLimits limits() const;
     void setLimits(const Corvel::RequestLimits& limits);
 
     bool isBusy() const;
