@@ -101,9 +101,7 @@ void PLanguage::install(QWidget* parent, const QString& key, const QStringList& 
     static int switches = 0;
     const int thisSwitch = ++switches;
 
-    for (QTranslator* translator : std::as_const(m_translatorList.getList()))
-        QCoreApplication::removeTranslator(translator);
-    m_translatorList.cleanUpList();
+    m_translatorList.cleanUpList(); // which takes them from the application as well
 
     const QPointer<QWidget> box(parent);
     for (const QString& path : files) {

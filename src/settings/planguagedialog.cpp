@@ -82,10 +82,8 @@ void PLanguageDialog::slotInitLanguages()
 
     const QStringList files =
         QDir(d->directory).entryList({d->prefix + u"_*.qm"_s}, QDir::NoFilter, QDir::Name);
-    if (files.isEmpty()) {
+    if (files.isEmpty())
         showThatThereAreNone();
-        return;
-    }
     for (const QString& file : files)
         addLanguage(file);
     const int current = d->ui.CB_Language->findData(d->currentKey);

@@ -116,12 +116,19 @@ private Q_SLOTS:
     void keys()
     {
         const std::pair<Qt::Key, Qt::KeyboardModifiers> keys[] = {
-            {Qt::Key_X, {}}, {Qt::Key_X, Qt::ShiftModifier}, {Qt::Key_Q, Qt::AltModifier},
+            {Qt::Key_X, {}},
+            {Qt::Key_X, Qt::ShiftModifier},
+            {Qt::Key_Q, Qt::AltModifier},
             {Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier}, // as AltGr
-            {Qt::Key_B, Qt::ControlModifier}, {Qt::Key_B, Qt::ControlModifier | Qt::ShiftModifier},
-            {Qt::Key_Return, {}}, {Qt::Key_Enter, Qt::KeypadModifier},
-            {Qt::Key_Return, Qt::ShiftModifier}, {Qt::Key_Return, Qt::AltModifier},
-            {Qt::Key_Left, {}}, {Qt::Key_Right, Qt::ShiftModifier}, {Qt::Key_Backspace, {}},
+            {Qt::Key_B, Qt::ControlModifier},
+            {Qt::Key_B, Qt::ControlModifier | Qt::ShiftModifier},
+            {Qt::Key_Return, {}},
+            {Qt::Key_Enter, Qt::KeypadModifier},
+            {Qt::Key_Return, Qt::ShiftModifier},
+            {Qt::Key_Return, Qt::AltModifier},
+            {Qt::Key_Left, {}},
+            {Qt::Key_Right, Qt::ShiftModifier},
+            {Qt::Key_Backspace, {}},
             {Qt::Key_Space, {}}};
         QRandomGenerator random(1);
         for (int step = 0; step < 600; ++step) {
@@ -190,8 +197,8 @@ private Q_SLOTS:
             QCOMPARE(shape({}, there), readOnly ? Qt::PointingHandCursor : Qt::IBeamCursor);
             QCOMPARE(shape(Qt::ControlModifier, there), Qt::PointingHandCursor);
             QCOMPARE(shape(Qt::ControlModifier, beside), Qt::IBeamCursor);
-            QCOMPARE(tip(there), readOnly ? u"Click opens the address"_s
-                                          : u"Ctrl+click opens the address"_s);
+            QCOMPARE(tip(there),
+                     readOnly ? u"Click opens the address"_s : u"Ctrl+click opens the address"_s);
             QCOMPARE(tip(beside), u"none"_s);
             // Who selects wants to copy.
             QTest::mousePress(edit.viewport(), Qt::LeftButton, Qt::ControlModifier,

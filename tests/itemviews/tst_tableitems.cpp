@@ -182,7 +182,7 @@ private Q_SLOTS:
         auto* validator = new QIntValidator(1, 65535, this);
         delegate->setValidator(validator);
         QCOMPARE(table.edit(0)->text(), u"80"_s);
-        QVERIFY(!table.edit(0)->hasFrame());
+        QVERIFY(!table.edit(0)->hasFrame() && table.edit(0)->autoFillBackground());
 
         table.edit(0)->setText(u"0"_s);
         QVERIFY(!table.edit(0)->styleSheet().isEmpty());
@@ -211,6 +211,11 @@ private Q_SLOTS:
         table.sortItems(0);
         QCOMPARE(table.text(0), u"10.0.0.4"_s);
         QCOMPARE(table.text(1), u"10.0.0.30"_s);
+        QVERIFY(!table.edit(0)->hasFrame() && table.edit(0)->autoFillBackground());
+        table.enter(0, u"10.0.0.5"_s);
+        table.setItem(1, 0, new QTableWidgetItem);
+        table.enter(1, u"10.0.0.6"_s);
+        QCOMPARE(table.text(1), u"10.0.0.6"_s);
     }
 };
 

@@ -100,7 +100,15 @@ private Q_SLOTS:
         table.FilterTable(QString());
         QCOMPARE(table.names(), u"abcd"_s);
 
+        QVERIFY(table.verticalHeader()->updatesEnabled());
         table.setRowHidden(1, true);
+        for (const auto mode :
+             {QAbstractItemView::SingleSelection, QAbstractItemView::NoSelection}) {
+            table.setSelectionMode(mode);
+            table.selectAll();
+            QCOMPARE(table.GetSelectedRows(), QList<int>());
+        }
+        table.setSelectionMode(QAbstractItemView::ExtendedSelection);
         table.selectAll();
         QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2, 3}));
         // From one row to another with the mouse, downwards and upwards.
@@ -122,8 +130,23 @@ private Q_SLOTS:
         table.SelectFirstItemIfPossible();
         QCOMPARE(table.GetSelectedRows(), (QList<int>{0, 2}));
         QCOMPARE(table.GetSingleSelection(), -1);
-        table.ScrollToItemAndSelect(Table().item(0, 0), true);
+        const Table other;
+        for (QTableWidgetItem* item : {other.item(0, 0), static_cast<QTableWidgetItem*>(nullptr)}) {
+            table.SelectFirstItemIfPossible();
+            table.ScrollToItemAndSelect(item, true);
+            QCOMPARE(table.GetSelectedRows(), QList<int>());
+        }
+        for (const auto& [behavior, cells] : {std::pair(QAbstractItemView::SelectItems, 1),
+                                              {QAbstractItemView::SelectColumns, 4},
+                                              {QAbstractItemView::SelectRows, 3}}) {
+            table.setSelectionBehavior(behavior);
+            table.ScrollToItemAndSelect(table.item(2, 1), true);
+            QCOMPARE(table.selectionModel()->selectedIndexes().size(), cells);
+        }
+        table.ScrollToItemAndSelect(table.item(2, 1), false);
         QCOMPARE(table.GetSelectedRows(), QList<int>());
+        QCOMPARE(table.GetAllTableWidgetItems().size(), 11);
+        QCOMPARE(table.GetAllTableWidgetItems()[3], table.item(1, 0));
         table.item(1, 0)->setCheckState(Qt::PartiallyChecked);
         QVERIFY(!table.IsAlLeastOneSelected(0));
         table.item(2, 0)->setCheckState(Qt::Checked);
@@ -148,6 +171,18 @@ private Q_SLOTS:
         table.resizeAllColumnToContentsWithOffset(20);
         QVERIFY(table.columnWidth(0) > width + 20);
         QCOMPARE(table.columnWidth(2), last);
+        const int fitted = table.columnWidth(0);
+        table.setColumnHidden(1, true);
+        for (const int column : {-1, 1, 3})
+            table.resizeColumnToContentsWithOffset(column, 30);
+        table.setColumnHidden(1, false);
+        QCOMPARE(table.columnWidth(1), table.horizontalHeader()->sectionSizeHint(1) + 20);
+        table.resizeColumnToContentsWithOffset(0, -fitted);
+        QCOMPARE(table.columnWidth(0), 0);
+        table.setFontForHeaderBold();
+        table.setHeaderTextAlignmentCenter();
+        QVERIFY(table.horizontalHeader()->font().bold());
+        QCOMPARE(table.horizontalHeader()->defaultAlignment(), Qt::AlignCenter);
         table.setRowCount(0);
         QCOMPARE(table.CalcNeededHeight(), 16 + 25 + 16);
     }
@@ -190,6 +225,10 @@ private Q_SLOTS:
         orphan.actions().constFirst()->trigger();
         orphan.popup({});
         QVERIFY(orphan.isEmpty());
+        QSettings nothing;
+        orphan.setColumnVisible(0, true);
+        orphan.writeUserSettings(nothing);
+        orphan.readUserSettings(nothing);
     }
 
     void headerMenuState()

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void renames()
     {
         Tabs tabs;
+        QVERIFY(QTest::qWaitForWindowActive(&tabs));
         QSignalSpy renamed(&tabs, &PTabWidget::tabRenamed);
         tabs.doubleClick(1);
         QVERIFY(tabs.editor() && tabs.tabBar()->tabRect(1).contains(tabs.editor()->geometry()));
@@ -80,8 +81,34 @@ private Q_SLOTS:
         QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(0).center());
         QCOMPARE(tabs.tabName(2), u"Left"_s);
 
+        for (const auto& [text, name] : {std::pair(u"&File"_s, u"File"_s), {u"A&"_s, u"A"_s}}) {
+            tabs.setTabText(0, text);
+            QCOMPARE(tabs.tabName(0), name);
+        }
+        tabs.setTabName(0, u" "_s);
+        QCOMPARE(tabs.tabName(0), u"A"_s);
+        tabs.setTabEnabled(2, false);
+        tabs.editTabName(2);
+        tabs.editTabName(3);
+        QTest::keyClick(tabs.tabBar(), Qt::Key_F2, Qt::ShiftModifier);
+        QCOMPARE(tabs.editor(), nullptr);
+        for (const int length : {100, 150}) {
+            tabs.setTabName(0, QString(length, u'x'));
+            tabs.editTabName(0);
+            QCOMPARE(tabs.editor()->maxLength(), length);
+            QCOMPARE(tabs.editor()->placeholderText().size(), length);
+            QCOMPARE(tabs.editor()->accessibleName(), u"Name of the tab"_s);
+            // Its own menu does not end it.
+            QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+            QCoreApplication::sendEvent(tabs.editor(), &toMenu);
+            QVERIFY(tabs.editor());
+            tabs.type({}, Qt::Key_Escape);
+            QVERIFY(tabs.tabBar()->hasFocus());
+        }
+
         tabs.setTabsRenamable(false);
         tabs.doubleClick(0);
+        QTest::keyClick(tabs.tabBar(), Qt::Key_F2);
         QCOMPARE(tabs.editor(), nullptr);
     }
 

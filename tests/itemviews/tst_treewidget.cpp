@@ -69,6 +69,7 @@ public:
     using PTreeWidget::CanExpandChild;
     using PTreeWidget::deleteAllTopLevelItems;
     using PTreeWidget::ExpandCollapseChild;
+    using PTreeWidget::slotContextMenuHeader;
     using PTreeWidget::slotCopy;
 
     int drags = 0;
@@ -116,6 +117,7 @@ private Q_SLOTS:
         unconnected.InitCopyMenus(false);
         QCOMPARE(unconnected.contextMenuPolicy(), Qt::DefaultContextMenu);
         Tree tree;
+        tree.slotContextMenuHeader({}); // nothing yet
         tree.InitCopyMenus(true);
         tree.find(u"A"_s)->setSelected(true);
         for (const auto& [place, copied] : {std::pair(1, u"A"_s), {0, u"A\tAA\tlast\t\n"_s}}) {
@@ -123,11 +125,16 @@ private Q_SLOTS:
             QTimer::singleShot(0, &tree, [&seen, chosen = place] {
                 auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
                 for (const QAction* action : menu->actions())
-                    seen << action->text() + u' ' + action->shortcut().toString();
+                    seen << action->text() + u' ' + action->shortcut().toString() +
+                                (action->statusTip().isEmpty() || action->icon().isNull() ? u"?"_s
+                                                                                          : u""_s);
                 menu->setActiveAction(menu->actions().at(chosen));
                 QTest::keyClick(menu, Qt::Key_Return);
             });
-            Q_EMIT tree.customContextMenuRequested({5, 5});
+            if (place == 1)
+                Q_EMIT tree.customContextMenuRequested({5, 5});
+            else
+                tree.slotContextMenuHeader({5, 5});
             QCOMPARE(seen, (QStringList{u"Copy Ctrl+Shift+C"_s, u"Copy (Cell) Ctrl+C"_s}));
             QCOMPARE(QApplication::clipboard()->text(), copied);
         }
@@ -158,7 +165,26 @@ private Q_SLOTS:
         QVERIFY(tree.IsAlLeastOneSelected(1) && !tree.IsAlLeastOneSelected(0));
 
         Tree other;
-        QVERIFY(!tree.GetModelIndexFromItem(other.find(u"A"_s), 0).isValid());
+        for (QTreeWidgetItem* foreign : {static_cast<QTreeWidgetItem*>(other.find(u"A"_s)),
+                                         static_cast<QTreeWidgetItem*>(nullptr)}) {
+            QVERIFY(!tree.GetModelIndexFromItem(foreign, 0).isValid());
+            tree.ScrollToItemAndSelect(foreign, true);
+            QCOMPARE(tree.selected(), QString());
+            if (foreign) {
+                foreign->setExpanded(true);
+                QVERIFY(!tree.CanExpand(foreign) && !tree.CanExpandChild(foreign));
+                QVERIFY(!tree.CanCollapse(foreign) && !tree.CanCollapseChild(foreign));
+                tree.ExpandCollapseChild(foreign, true);
+                tree.ExpandCollapseAll(foreign, true);
+                QCOMPARE(other.open(), u"A"_s);
+            }
+        }
+        for (const auto mode :
+             {QAbstractItemView::SingleSelection, QAbstractItemView::NoSelection}) {
+            tree.setSelectionMode(mode);
+            tree.selectAll();
+            QCOMPARE(tree.selected(), QString());
+        }
         QCOMPARE(tree.GetTotalNumberOfRows(), 7);
         tree.deleteAllTopLevelItems();
         QCOMPARE(tree.GetTotalNumberOfRows(), 0);
@@ -272,6 +298,16 @@ private Q_SLOTS:
     void widths()
     {
         Tree tree;
+        for (const int column : {0, 1})
+            tree.setColumnWidth(column, 170);
+        tree.resizeAllColumnToContentsWithOffset(0);
+        QVERIFY(tree.columnWidth(1) < 170);
+        for (const int column : {-1, 3})
+            tree.resizeColumnToContentsWithOffset(column, 20);
+        tree.setFontForHeaderBold();
+        tree.setHeaderTextAlignmentCenter();
+        QVERIFY(tree.header()->font().bold());
+        QCOMPARE(tree.header()->defaultAlignment(), Qt::AlignCenter);
         tree.resizeAllColumnToContentsWithOffset(0);
         const int fitted = tree.columnWidth(0);
         tree.setColumnHidden(1, true);

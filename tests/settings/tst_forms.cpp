@@ -73,13 +73,19 @@ QList<Maker> translated()
         box->setOtherColors(true);
         return box;
     };
+    const auto tree = [] {
+        auto* made = new PTreeWidget;
+        made->InitCopyMenus(true);
+        return made;
+    };
     return QList<Maker>{[=] { return new PAskRefreshDialog(nullptr, time, true); },
                         [] { return new PPasswordInputDialog({}); },
                         [] { return new PLanguageDialog(nullptr, {}, {}, {}, false); },
                         [] { return OptionsDialog::getSettingsDialog(nullptr, {}, {}); },
                         [=] { return new AppUpdaterDialog(u"App"_s, version, version, {}, {}); },
                         [] { return new PCheckVersionUpdateDialog({}, {}); },
-                        colors} +
+                        colors,
+                        tree} +
            makersOf<PCsvDialog, PIpRangeDialog, PChangeLogDialog, RSSFeedDialog, AboutInfo7,
                     Info3rdLicences, PSystemInfoWidget, ProxySettingsWidget, FilterLineEdit,
                     PColorButton, PFilterButton, PRecentComboBox, PPlaybar, TarvoDateTimeView,
@@ -89,8 +95,8 @@ QList<Maker> translated()
 QList<Maker> others()
 {
     return makersOf<PClickableLabel, PErrorLabel, PLastActionToolButton, PStringComboBox, PTextEdit,
-                    SubNetMaskComboBox, PTabWidget, PTableWidget, PTreeWidget, PSlider, RangeSlider,
-                    VideoSlider, PopupSliderToolButton, PDateEdit>();
+                    SubNetMaskComboBox, PTabWidget, PTableWidget, PSlider, RangeSlider, VideoSlider,
+                    PopupSliderToolButton, PDateEdit>();
 }
 
 /// A widget of Qt's class that @p widget is, as nobody has changed it.
@@ -116,71 +122,35 @@ QString textOf(const QWidget& widget, const QMetaProperty& property)
 /// the same of those inside.
 QStringList told(const QWidget& widget, const QString& indent = {})
 {
-    static const char* const properties[] = {"windowTitle",
-                                             "title",
-                                             "text",
-                                             "placeholderText",
-                                             "toolTip",
-                                             "accessibleName",
-                                             "accessibleDescription",
-                                             "enabled",
-                                             "focusPolicy",
-                                             "mouseTracking",
-                                             "readOnly",
-                                             "maxLength",
-                                             "echoMode",
-                                             "default",
-                                             "autoDefault",
-                                             "checkable",
-                                             "checked",
-                                             "editable",
-                                             "insertPolicy",
-                                             "maxCount",
-                                             "minimum",
-                                             "maximum",
-                                             "specialValueText",
-                                             "wordWrap",
-                                             "textFormat",
-                                             "textInteractionFlags",
-                                             "alignment",
-                                             "tabChangesFocus",
-                                             "acceptRichText",
-                                             "openLinks",
-                                             "popupMode",
-                                             "toolButtonStyle",
-                                             "selectionMode",
-                                             "selectionBehavior",
-                                             "editTriggers",
-                                             "uniformRowHeights",
-                                             "rootIsDecorated",
-                                             "allColumnsShowFocus",
-                                             "headerHidden",
-                                             "verticalScrollMode",
-                                             "childrenCollapsible",
-                                             "sizeGripEnabled",
-                                             "movable",
-                                             "tabsClosable",
-                                             "usesScrollButtons",
-                                             "calendarPopup",
-                                             "displayFormat"};
+    static const QByteArrayList properties =
+        QByteArray(
+            "windowTitle title text placeholderText toolTip accessibleName accessibleDescription "
+            "enabled focusPolicy mouseTracking readOnly maxLength echoMode default autoDefault "
+            "checkable checked editable insertPolicy maxCount minimum maximum specialValueText "
+            "wordWrap textFormat textInteractionFlags alignment tabChangesFocus acceptRichText "
+            "openLinks popupMode toolButtonStyle selectionMode selectionBehavior editTriggers "
+            "uniformRowHeights rootIsDecorated allColumnsShowFocus headerHidden "
+            "verticalScrollMode childrenCollapsible sizeGripEnabled movable tabsClosable "
+            "usesScrollButtons calendarPopup displayFormat")
+            .split(' ');
     const auto plain = unchanged<QTreeWidget, QTableWidget, QListWidget, QListView, QTextBrowser,
                                  QTextEdit, QPlainTextEdit, QComboBox, QDateTimeEdit, QSpinBox,
                                  QLineEdit, QLabel, QCheckBox, QPushButton, QToolButton, QSlider,
                                  QSplitter, QGroupBox, QTabWidget, QDialog, QWidget>(widget);
     const QMetaObject& type = *widget.metaObject();
     QString line = indent + QString::fromLatin1(type.className()).section(u':', -1);
-    for (const char* name : properties) {
-        const QMetaProperty property = type.property(type.indexOfProperty(name));
-        if (!property.isValid() || (qobject_cast<const QAbstractSpinBox*>(&widget) &&
-                                    QByteArrayView(name) == "text")) // the date of today
+    for (const QByteArray& name : properties) {
+        const QMetaProperty property = type.property(type.indexOfProperty(name.constData()));
+        if (!property.isValid() ||
+            (qobject_cast<const QAbstractSpinBox*>(&widget) && name == "text")) // the date of today
             continue;
         QString text = textOf(widget, property);
         if (qobject_cast<const QDialogButtonBox*>(widget.parent()))
             text.remove(u'&'); // depends on the platform
-        const int usual = plain->metaObject()->indexOfProperty(name);
+        const int usual = plain->metaObject()->indexOfProperty(name.constData());
         if (usual < 0 ? !text.isEmpty() && text != u"false"
                       : text != textOf(*plain, plain->metaObject()->property(usual)))
-            line += u' ' + QLatin1StringView(name) + u'=' + text;
+            line += u' ' + QString::fromLatin1(name) + u'=' + text;
     }
     const auto* area = qobject_cast<const QAbstractScrollArea*>(&widget);
     if (area && area->viewport()->hasMouseTracking() !=
@@ -206,28 +176,20 @@ QVariant otherThan(const QVariant& value, const QMetaProperty& property)
         const int number = property.enumerator().value(0);
         return number != value.toInt() ? number : property.enumerator().value(1);
     }
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-        return !value.toBool();
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-    case QMetaType::Double:
+    if (value.typeId() == QMetaType::Int || value.typeId() == QMetaType::LongLong)
         return value.toInt() + 1;
-    case QMetaType::QString:
-        return u"x"_s;
-    case QMetaType::QStringList:
-        return QStringList{u"x"_s};
-    case QMetaType::QColor:
-        return QColor(1, 2, 3);
-    case QMetaType::QUrl:
-        return QUrl(u"http://a.example/"_s);
-    case QMetaType::QDate:
-        return QDate(2026, 1, 2);
-    case QMetaType::QDateTime:
-        return QDateTime({2026, 1, 2}, {3, 4});
-    default:
-        return {};
-    }
+    static const QVariantList samples{true,
+                                      false,
+                                      u"x"_s,
+                                      QStringList{u"x"_s},
+                                      QColor(1, 2, 3),
+                                      QUrl(u"http://a.example/"_s),
+                                      QDate(2026, 1, 2),
+                                      QDateTime({2026, 1, 2}, {3, 4}),
+                                      {}};
+    return *std::ranges::find_if(samples, [&](const QVariant& sample) {
+        return !sample.isValid() || (sample.metaType() == value.metaType() && sample != value);
+    });
 }
 
 } // namespace

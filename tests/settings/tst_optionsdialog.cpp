@@ -9,6 +9,8 @@
 
 #include <CorvelGui/SettingsManager>
 
+#include <QAbstractItemModelTester>
+#include <QAbstractProxyModel>
 #include <QBitmap>
 #include <QGroupBox>
 #include <QRadioButton>
@@ -34,6 +36,8 @@ public:
     QWidget* createWidget(QWidget* parent) override
     {
         calls << u"create "_s + id();
+        if (m_text == u"none")
+            return nullptr;
         m_widget = new QWidget(parent);
         new QLabel(m_text, m_widget);
         return m_widget;
@@ -47,6 +51,8 @@ public:
     void finish() override { calls << u"finish "_s + id(); }
 
     using ISettingsPage::setCategoryIcon;
+    using ISettingsPage::setDisplayCategory;
+    using ISettingsPage::setDisplayName;
     std::function<void()> onApply;
 
 private:
@@ -83,7 +89,9 @@ public:
 struct Parts
 {
     explicit Parts(OptionsDialog& dialog)
-        : list(dialog.findChild<CategoryListView*>()), search(dialog.findChild<QLineEdit*>())
+        : list(dialog.findChild<CategoryListView*>())
+        , search(dialog.findChild<QLineEdit*>())
+        , header(dialog.findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
     {}
     QStringList captions() const
     {
@@ -105,6 +113,7 @@ struct Parts
 
     CategoryListView* list;
     QLineEdit* search;
+    QLabel* header;
 };
 
 void ok(const OptionsDialog& dialog)
@@ -165,7 +174,8 @@ private Q_SLOTS:
                 const Parts parts(shown);
                 QCOMPARE(parts.caption(), u"Category a"_s);
                 QCOMPARE(calls.join(u' '), u"create a1 create a2"_s);
-                parts.tabs()->setCurrentIndex(1);
+                for (const int tab : {1, 0, 1})
+                    parts.tabs()->setCurrentIndex(tab);
                 parts.list->setCurrentIndex(parts.list->model()->index(2, 0));
                 QCOMPARE(calls.mid(2), QStringList({u"create p1"_s, u"create p2"_s}));
                 calls.clear();
@@ -271,6 +281,15 @@ private Q_SLOTS:
         OptionsDialog* dialog = open(u"b"_s, u"b2"_s);
         SettingsManager::m_listPages.removeAll(nullptr);
         const Parts parts(*dialog);
+        const QAbstractItemModelTester tester(
+            static_cast<QAbstractProxyModel*>(parts.list->model())->sourceModel(),
+            QAbstractItemModelTester::FailureReportingMode::Fatal);
+        QCOMPARE(dialog->size(), QSize(900, 550));
+        QCOMPARE(dialog->focusWidget(), parts.list);
+        QVERIFY(!dialog->windowIcon().isNull());
+        QVERIFY(!dialog->windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
+        QCOMPARE(parts.header->font().pointSize(), dialog->font().pointSize() + 2);
+        QVERIFY(parts.header->font().bold());
         QCOMPARE(parts.captions(),
                  QStringList({u"Category a"_s, u"Category b"_s, u"Provided z"_s, u"Provided C"_s}));
         QCOMPARE(parts.tabs()->count(), 2);
@@ -284,6 +303,18 @@ private Q_SLOTS:
         };
         QVERIFY(isClear(0));
         QVERIFY(!isClear(1));
+
+        // New captions are read when the language changes.
+        QCOMPARE(parts.header->text(), u"Category b"_s);
+        for (Page* page : {m_pages[0].data(), m_pages[1].data()}) {
+            page->setDisplayName(u"Seite "_s + page->id());
+            page->setDisplayCategory(u"Thema"_s);
+        }
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(dialog, &change);
+        QCOMPARE(parts.tab(), u"Seite b2"_s);
+        QCOMPARE(parts.captions().join(u' '), u"Category a Thema Provided z Provided C"_s);
+        QCOMPARE(parts.header->text(), u"Thema"_s);
     }
 
     void findsPagesById()
@@ -294,11 +325,10 @@ private Q_SLOTS:
         provide(u"p"_s, new Page(u"p"_s, u"p1"_s), new Page(u"p"_s, u"p2"_s));
         const Parts parts(*open(u"A"_s, u"same"_s));
         QVERIFY(!parts.tabs());
-        const std::tuple<QString, QString, int> requests[] = {{u"a"_s, {}, 0},
-                                                              {u"p"_s, u"p2"_s, 1},
-                                                              {u"a"_s, u"same"_s, 2},
-                                                              {u"a"_s, u"wrong"_s, 2},
-                                                              {u"wrong"_s, u"p1"_s, 2}};
+        const std::tuple<QString, QString, int> requests[] = {
+            {u"a"_s, {}, 0},         {u"p"_s, u"p2"_s, 1},   {u"a"_s, u"same"_s, 2},
+            {u"a"_s, u"other"_s, 0}, {u"a"_s, u"same"_s, 2}, {u"a"_s, u"wrong"_s, 2},
+            {u"wrong"_s, u"p1"_s, 2}};
         for (const auto& [category, page, tab] : requests) {
             open(category, page);
             QCOMPARE(parts.tabs()->currentIndex(), tab);
@@ -312,7 +342,8 @@ private Q_SLOTS:
         add(u"a"_s, u"a2"_s);
         add(u"b"_s, u"b1"_s);
         add(u"b"_s, u"b2"_s, u"Gate&way"_s);
-        provide(u"p"_s, new Page(u"p"_s, u"p1"_s, u"Secret"_s));
+        provide(u"p"_s, new Page(u"p"_s, u"p1"_s, u"Secret"_s),
+                new Page(u"p"_s, u"p2"_s, u"none"_s));
         OptionsDialog* dialog = open(u"a"_s);
         const Parts parts(*dialog);
         const auto* buttons = dialog->findChild<QDialogButtonBox*>();
@@ -323,7 +354,8 @@ private Q_SLOTS:
         const char* const rows[][3] = {{"gateway", "Category b", "-x"},
                                        {"A2", "Category a", "-x"},
                                        {"gory b", "Category b", "xx"},
-                                       {"secret", "Provided p", "x"},
+                                       {"secret", "Provided p", "x-"},
+                                       {"VIDED", "Provided p", "--"},
                                        {"C++ (x", "", "x-"},
                                        {".*", "", "x-"},
                                        {"", "Category a, Category b, Provided p", "xx"}};
@@ -342,7 +374,7 @@ private Q_SLOTS:
             QCOMPARE(parts.tab(), u"Page "_s + page);
             QVERIFY(parts.tabs()->isTabEnabled(1));
         }
-        QCOMPARE(calls.size(), 5);
+        QCOMPARE(calls.size(), 6);
     }
 
     void remembers()
@@ -371,8 +403,9 @@ private Q_SLOTS:
         QCOMPARE(settings.value(u"UserSettings/Mine"_s).toInt(), 7);
 
         // Wherever its owner is, it opens within the screen.
-        settings.setValue(u"UserSettings/LastSize"_s, QSize(600, 400));
         for (const int corner : {-900, 1900}) {
+            settings.setValue(u"UserSettings/LastSize"_s,
+                              corner < 0 ? QSize(600, 400) : QSize(9000, 9000));
             parent.move(corner, corner);
             OptionsDialog* dialog = open({}, {}, &parent);
             dialog->readUserSettings(settings);
@@ -382,7 +415,9 @@ private Q_SLOTS:
                 ok(shown);
             });
             QVERIFY(dialog->execDialog());
-            QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(place));
+            const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+            if (screen.size() == screen.size().expandedTo({1000, 600}))
+                QVERIFY(screen.contains(place));
         }
     }
 

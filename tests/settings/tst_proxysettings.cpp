@@ -51,6 +51,8 @@ private Q_SLOTS:
                                       .password = u" p,w "_s,
                                       .excludedHosts = {u"*.example"_s, u"10.0.0.0/8"_s}};
         ProxySettingsWidget widget;
+        widget.setSettings({.mode = Mode::Http, .port = 1080});
+        QCOMPARE(widget.settings().port, 1080);
         QSignalSpy changed(&widget, &ProxySettingsWidget::settingsChanged);
         widget.setSettings(given);
         QVERIFY(widget.settings() == given);
@@ -90,6 +92,17 @@ private Q_SLOTS:
                 {.mode = mode, .host = host, .port = quint16(port), .excludedHosts = {excluded}});
             QCOMPARE(errorsOf(widget).join(u'\n'), error);
             QCOMPARE(widget.isValid(), error.isEmpty());
+            // By mode: all, what a proxy of the system may ask for, and none.
+            for (const auto& label : {u"Host:"_s, u"Port:"_s, u"Not for:"_s})
+                QCOMPARE(field<QWidget>(widget, label).isEnabled(),
+                         mode == Mode::Http || mode == Mode::Socks5);
+            for (const auto& label : {u"User:"_s, u"Password:"_s})
+                QCOMPARE(field<QWidget>(widget, label).isEnabled(), mode != Mode::None);
+            const auto isMarked = [&widget](const QString& label) {
+                return !field<QWidget>(widget, label).styleSheet().isEmpty();
+            };
+            QCOMPARE(isMarked(u"Host:"_s), error == notHost);
+            QCOMPARE(isMarked(u"Not for:"_s), error.startsWith(u"Not a server"_s));
         }
     }
 
@@ -116,6 +129,9 @@ private Q_SLOTS:
             Q_EMIT edit.editingFinished();
             QCOMPARE(widget.settings().host, host);
             QCOMPARE(widget.settings().port, port);
+            // A port of the user's own is not that of another kind.
+            field<QComboBox>(widget, u"Connection:"_s).setCurrentText(u"SOCKS5 proxy"_s);
+            QCOMPARE(widget.settings().port, port == 8080 ? 1080 : port);
         }
     }
 
@@ -135,7 +151,11 @@ private Q_SLOTS:
         widget.setPasswordStore(&store);
         QVERIFY(noteAbout(widget).contains(u"has not answered"_s) && !remember.isEnabled());
         store.answerAll();
-        QVERIFY(noteAbout(widget).contains(u"is kept in"_s) && remember.isEnabled());
+        QVERIFY(noteAbout(widget).contains(u"is kept in"_s));
+        for (const int mode : {0, 1}) {
+            field<QComboBox>(widget, u"Connection:"_s).setCurrentIndex(mode);
+            QCOMPARE(remember.isEnabled(), mode == 1);
+        }
         store.refusal = {IPasswordStore::Status::Unavailable, {}, u"no\nservice"_s};
         widget.setPasswordStore(&store);
         QTRY_VERIFY(noteAbout(widget).endsWith(u"The store says: no service"_s));
@@ -155,6 +175,33 @@ private Q_SLOTS:
         widget.fetchedPassword(u"late"_s);
         QVERIFY(widget.isPasswordEdited());
         QCOMPARE(widget.settings().password, u"typed"_s);
+
+        auto* eye = password.findChildren<QAbstractButton*>().constLast();
+        for (const bool shown : {true, false}) {
+            eye->click();
+            QCOMPARE(password.echoMode(), shown ? QLineEdit::Normal : QLineEdit::Password);
+            QCOMPARE(eye->toolTip(), shown ? u"Hide the password"_s : u"Show the password"_s);
+        }
+    }
+
+    void failuresAreExplained()
+    {
+        // Nobody answers at this port. Without encryption an HTTP proxy is asked as a server is.
+        const QString noProxy = u"The proxy does not answer."_s;
+        const QString noServer = u"No connection: "_s;
+        const std::tuple<Mode, QStringList, QString> rows[] = {
+            {Mode::Http, {}, noProxy},
+            {Mode::Http, {u"127.0.0.1"_s}, noServer},
+            {Mode::None, {}, noServer}};
+        for (const auto& [mode, excluded, begin] : rows) {
+            ProxySettingsWidget widget;
+            widget.setSettings(
+                {.mode = mode, .host = u"127.0.0.1"_s, .port = 1, .excludedHosts = excluded});
+            widget.setTestAddress(QUrl(u"http://127.0.0.1:1/"_s));
+            widget.startTest();
+            QTRY_VERIFY(!widget.isTesting());
+            QVERIFY2(widget.testResult().startsWith(begin), qPrintable(widget.testResult()));
+        }
     }
 
     void trial()
@@ -172,8 +219,10 @@ private Q_SLOTS:
         QSignalSpy ended(&widget, &ProxySettingsWidget::testEnded);
         QSignalSpy testing(&widget, &ProxySettingsWidget::testingChanged);
         for (const auto& address : {u""_s, u"rtsp://server.example"_s, u"http://a b"_s}) {
-            field<QLineEdit>(widget, u"Test address:"_s).setText(address);
-            QVERIFY(!tryButton(widget).isEnabled());
+            auto& edit = field<QLineEdit>(widget, u"Test address:"_s);
+            edit.setText(address);
+            QVERIFY(!tryButton(widget).isEnabled() &&
+                    edit.styleSheet().isEmpty() == address.isEmpty());
             widget.startTest();
         }
         QCOMPARE(testing.count(), 0);
@@ -182,8 +231,10 @@ private Q_SLOTS:
         const std::pair<QString, QString> rows[] = {
             {u"good"_s, u"Connected: server.example answered after "_s},
             {u"missing"_s, u"No connection: The server answered with status 404."_s},
-            {u"denied"_s, u"The proxy asks for a user and a password."_s}};
+            {u"denied"_s, u"The proxy asks for a user and a password."_s},
+            {u"denied#me"_s, u"The proxy refuses this user or password."_s}};
         for (const auto& [path, result] : rows) {
+            field<QLineEdit>(widget, u"User:"_s).setText(path.section(u'#', 1));
             widget.setTestAddress(QUrl(u"http://server.example/"_s + path));
             QCOMPARE(widget.testResult(), QString());
             tryButton(widget).click();
@@ -200,7 +251,7 @@ private Q_SLOTS:
         widget.startTest();
         field<QSpinBox>(widget, u"Port:"_s).setValue(1);
         QVERIFY(!widget.isTesting());
-        QCOMPARE(testing.count(), 10);
+        QCOMPARE(testing.count(), 12);
         widget.startTest();
         QTRY_COMPARE(widget.testResult(), u"The proxy does not answer."_s);
         QVERIFY(isDeletedBy<ProxySettingsWidget>(
