@@ -170,36 +170,11 @@ QStringList told(const QWidget& widget, const QString& indent = {})
     return lines;
 }
 
-QVariant otherThan(const QVariant& value, const QMetaProperty& property)
-{
-    if (property.isEnumType()) {
-        const int number = property.enumerator().value(0);
-        return number != value.toInt() ? number : property.enumerator().value(1);
-    }
-    if (value.typeId() == QMetaType::Int || value.typeId() == QMetaType::LongLong)
-        return value.toInt() + 1;
-    static const QVariantList samples{true,
-                                      false,
-                                      u"x"_s,
-                                      QStringList{u"x"_s},
-                                      QColor(1, 2, 3),
-                                      QUrl(u"http://a.example/"_s),
-                                      QDate(2026, 1, 2),
-                                      QDateTime({2026, 1, 2}, {3, 4}),
-                                      {}};
-    return *std::ranges::find_if(samples, [&](const QVariant& sample) {
-        return !sample.isValid() || (sample.metaType() == value.metaType() && sample != value);
-    });
-}
-
 } // namespace
 
 class TestForms : public WarningFreeTest
 {
     Q_OBJECT
-
-public Q_SLOTS:
-    void note() { m_noted.append(m_property.read(m_widget.get())); }
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
@@ -220,43 +195,6 @@ private Q_SLOTS:
             QString::fromUtf8(readFile(u":/forms.txt"_s)).split(u'\n', Qt::SkipEmptyParts);
         for (qsizetype line = 0; line < std::max(now.size(), listed.size()); ++line)
             QCOMPARE(now.value(line), listed.value(line));
-    }
-
-    void changesAreToldOnce()
-    {
-        QStringList refused;
-        for (const Maker& make : translated() + others()) {
-            m_widget.reset(make());
-            const QMetaObject& type = *m_widget->metaObject();
-            if (!QByteArrayView(type.className()).startsWith("CorvelGui::"))
-                continue;
-            for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
-                m_property = type.property(i);
-                if (!m_property.isWritable() || !m_property.hasNotifySignal())
-                    continue;
-                const QString name = QString::fromLatin1(type.className()).section(u':', -1) +
-                                     u'.' + QLatin1StringView(m_property.name());
-                const QVariant other = otherThan(m_property.read(m_widget.get()), m_property);
-                QSignalSpy spy(m_widget.get(), m_property.notifySignal());
-                const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
-                m_noted.clear();
-                connect(m_widget.get(), m_property.notifySignal(), this, slot);
-                for (int time = 0; time < 2; ++time)
-                    m_property.write(m_widget.get(), other);
-                m_widget->disconnect(this);
-                if (!other.isValid() || m_property.read(m_widget.get()) != other) {
-                    refused.append(name);
-                    continue;
-                }
-                QVERIFY2(m_noted == QVariantList{other}, qPrintable(name));
-                QVERIFY2(spy.first().isEmpty() || spy.first().contains(other), qPrintable(name));
-            }
-        }
-        // These choose among what there is, or take what cannot be made up here.
-        QCOMPARE(refused.join(u' '),
-                 u"AboutInfo7.logo Info3rdLicences.current PFilterButton.checkedFilters "
-                 "PLastActionToolButton.lastAction PStringComboBox.currentKey PSlider.tickTexts "
-                 "PopupSliderToolButton.orientation"_s);
     }
 
     void textsFollowTheLanguage()
@@ -281,11 +219,6 @@ private Q_SLOTS:
             switchTo({});
         }
     }
-
-private:
-    std::unique_ptr<QWidget> m_widget;
-    QMetaProperty m_property;
-    QVariantList m_noted;
 };
 
 QTEST_MAIN(TestForms)
