@@ -1,10 +1,13 @@
 #include "gallerywindow.h"
 
+#include "inspector/inspector.h"
+#include "inspector/knownwidgets.h"
 #include "pages.h"
 
 #include <Hueloft/PIconHelper>
 
 #include <QAction>
+#include <QDockWidget>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -17,7 +20,11 @@
 namespace Gallery {
 
 GalleryWindow::GalleryWindow()
-    : PMainWindow(nullptr), m_list(new QListWidget), m_stack(new QStackedWidget)
+    : PMainWindow(nullptr)
+    , m_list(new QListWidget)
+    , m_stack(new QStackedWidget)
+    , m_inspector(new Inspector)
+    , m_dock(new QDockWidget(tr("Inspector"), this))
 {
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setWindowIcon(Hueloft::PIconHelper::GetSettingsIconOriginal_32x32(false));
@@ -50,8 +57,16 @@ GalleryWindow::GalleryWindow()
         Q_EMIT lookChanged(dark);
     });
 
+    m_dock->setObjectName(QLatin1StringView("Inspector"));
+    m_dock->setWidget(m_inspector);
+    m_dock->hide();
+    addDockWidget(Qt::RightDockWidgetArea, m_dock);
+    bar->addAction(m_dock->toggleViewAction());
+    connect(m_stack, &QStackedWidget::currentChanged, this, &GalleryWindow::showPageInInspector);
+
     createDarkFusionStyle(false);
     m_list->setCurrentRow(0);
+    showPageInInspector();
     resize(1240, 860);
 }
 
@@ -66,6 +81,35 @@ void GalleryWindow::growToPage()
     const QWidget* page = scroll->widget();
     const QSize missing = page->minimumSizeHint().expandedTo(page->minimumSize()) - scroll->size();
     resize(size() + missing.expandedTo(QSize(0, 0)));
+}
+
+void GalleryWindow::showInspector()
+{
+    if (!m_dock->isHidden())
+        return;
+    constexpr int width = 420;
+    m_dock->show();
+    resizeDocks({m_dock}, {width}, Qt::Horizontal);
+    resize(this->width() + width, height());
+}
+
+bool GalleryWindow::inspect(const QString& className)
+{
+    showInspector();
+    for (const QWidget* widget : m_inspector->widgets()) {
+        const QString name = QString::fromLatin1(knownWidget(*widget)->meta->className());
+        if (name.section(QLatin1StringView("::"), -1) == className) {
+            m_inspector->inspect(widget);
+            return true;
+        }
+    }
+    return false;
+}
+
+void GalleryWindow::showPageInInspector()
+{
+    const auto* scroll = static_cast<QScrollArea*>(m_stack->currentWidget());
+    m_inspector->setPage(scroll->widget());
 }
 
 void GalleryWindow::setDark(bool dark)

@@ -1,7 +1,9 @@
 #include "helperspage.h"
 
 #include <CorvelGui/StringHelper>
+#include <CorvelGui/ToolBarWithLabel>
 #include <CorvelGui/ToolShellHelper>
+#include <Hueloft/POrvGuiTheme>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,6 +22,7 @@
 #include <limits>
 
 using CorvelGui::StringHelper;
+using CorvelGui::ToolBarWithLabel;
 using CorvelGui::ToolShellHelper;
 using namespace Qt::StringLiterals;
 
@@ -137,6 +140,18 @@ QGroupBox* createDesktop(QWidget* page)
     return group;
 }
 
+QGroupBox* createToolBar()
+{
+    auto* group = new QGroupBox(HelpersPage::tr("A tool bar with a label at its end"));
+    auto* bar = new ToolBarWithLabel(HelpersPage::tr("Cameras"), nullptr);
+    bar->addAction(HelpersPage::tr("Add"));
+    bar->addAction(HelpersPage::tr("Remove"));
+    bar->addLabel(HelpersPage::tr("Live"), Hueloft::POrvGuiTheme::colorLightRed);
+    auto* layout = new QVBoxLayout(group);
+    layout->addWidget(bar);
+    return group;
+}
+
 } // namespace
 
 HelpersPage::HelpersPage(QWidget* parent) : QWidget(parent)
@@ -147,6 +162,7 @@ HelpersPage::HelpersPage(QWidget* parent) : QWidget(parent)
     layout->addWidget(createOrder());
     layout->addWidget(createNumbers());
     layout->addWidget(createDesktop(this));
+    layout->addWidget(createToolBar());
     layout->addStretch();
 }
 

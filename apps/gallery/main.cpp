@@ -45,6 +45,9 @@ int main(int argc, char** argv)
                                         u"look"_s, u"dark"_s);
     const QCommandLineOption languageOption(
         u"language"_s, u"The language of the widgets: en or de."_s, u"key"_s, u"en"_s);
+    const QCommandLineOption inspectOption(
+        u"inspect"_s, u"Show the first widget of this class on the page in the inspector."_s,
+        u"class"_s);
     const QCommandLineOption picturesOption(
         u"pictures"_s, u"Write the pages as PNG files, in both looks at scale 1 and 2."_s,
         u"folder"_s);
@@ -54,7 +57,8 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Every widget family of CorvelGui on a page of its own."_s);
     parser.addHelpOption();
-    parser.addOptions({pageOption, lookOption, languageOption, picturesOption, oneScale});
+    parser.addOptions(
+        {pageOption, lookOption, languageOption, inspectOption, picturesOption, oneScale});
     parser.process(app);
 
     const QString title = parser.value(pageOption);
@@ -77,13 +81,17 @@ int main(int argc, char** argv)
         return writePicturesAtEveryScale(QCoreApplication::arguments().sliced(1)) ? 0 : 1;
 
     GalleryWindow window;
+    window.showPage(index);
+    const QString className = parser.value(inspectOption);
+    if (!className.isEmpty() && !window.inspect(className))
+        return fail(u"there is no %1 on the page"_s.arg(className));
     if (!folder.isEmpty()) {
         QList<int> indexes(title.isEmpty() ? qsizetype(pages().size()) : 1);
         std::iota(indexes.begin(), indexes.end(), index);
         return writePictures(window, indexes, folder) ? 0 : 1;
     }
     window.setDark(look == u"dark"_s);
-    window.showPage(index);
+    window.showInspector();
     window.show();
     return app.exec();
 }

@@ -1,0 +1,80 @@
+#include "knownwidgets.h"
+
+#include "widgets.h"
+
+#include <CorvelGui/AboutInfo7>
+#include <CorvelGui/BusyIndicator>
+#include <CorvelGui/Indicator>
+#include <CorvelGui/Info3rdLicences>
+#include <CorvelGui/Ruler>
+#include <CorvelGui/TimelineLanes>
+#include <CorvelGui/ToolBarWithLabel>
+#include <CorvelGui/ZoomGraphicsView>
+#include <CorvelGui/Zoomer>
+
+#include <algorithm>
+
+using namespace CorvelGui;
+using namespace Qt::StringLiterals;
+
+namespace Gallery {
+
+namespace {
+
+template <typename Widget>
+QWidget* created(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+QWidget* createdLanes(QWidget* parent)
+{
+    auto* ruler = new Ruler;
+    auto* lanes = new TimelineLanes(ruler, parent);
+    ruler->setParent(lanes);
+    ruler->hide();
+    return lanes;
+}
+
+/// Those that stand in no form, and then all that do.
+QList<KnownWidget> allKnownWidgets()
+{
+    QList<KnownWidget> all{
+        {&AboutInfo7::staticMetaObject, created<AboutInfo7>},
+        {&BusyIndicator::staticMetaObject, created<BusyIndicator>},
+        {&Indicator::staticMetaObject, created<Indicator>},
+        {&Info3rdLicences::staticMetaObject, created<Info3rdLicences>},
+        {&TimelineLanes::staticMetaObject, createdLanes, u"ruler"_s},
+        {&ToolBarWithLabel::staticMetaObject,
+         [](QWidget* parent) { return new ToolBarWithLabel(QString(), parent); },
+         u"QString(), parent"_s},
+        {&ZoomGraphicsView::staticMetaObject,
+         [](QWidget* parent) { return new ZoomGraphicsView(nullptr, QVariant(), parent); },
+         u"scene, QVariant()"_s},
+        {&Zoomer::staticMetaObject, [](QWidget* parent) { return new Zoomer(8, parent); }, u"8"_s},
+    };
+    for (const FormWidget& widget : formWidgets())
+        all.append({widget.meta, widget.create});
+    return all;
+}
+
+} // namespace
+
+const QList<KnownWidget>& knownWidgets()
+{
+    static const QList<KnownWidget> known = allKnownWidgets();
+    return known;
+}
+
+const KnownWidget* knownWidget(const QWidget& widget)
+{
+    const QList<KnownWidget>& known = knownWidgets();
+    for (const QMetaObject* meta = widget.metaObject(); meta; meta = meta->superClass()) {
+        const auto found = std::ranges::find(known, meta, &KnownWidget::meta);
+        if (found != known.end())
+            return &*found;
+    }
+    return nullptr;
+}
+
+} // namespace Gallery
