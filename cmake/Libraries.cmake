@@ -16,32 +16,41 @@ else()
     set(CORVELGUI_COMPATIBILITY SameMajorVersion)
 endif()
 
+if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
+    set(CORVELGUI_STATIC ON)
+endif()
+
 # corvelgui_add_library(<Package> HEADERS <[folder/]Name>...)
 #
-# Makes the shared library <Package> with the alias <Package>::<Package>, its export header, a forwarding header
+# Makes the library <Package>, shared unless BUILD_SHARED_LIBS is off, with the alias <Package>::<Package>, its export header, a forwarding header
 # <Package/Name> for every listed name, and everything that an installed package needs. The caller adds sources and
 # links libraries.
 function(corvelgui_add_library package)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS")
     string(TOLOWER "${package}" lower)
+    string(TOUPPER "${package}" upper)
 
-    add_library(${package} SHARED)
+    if(CORVELGUI_STATIC)
+        add_library(${package} STATIC)
+        target_compile_definitions(${package} PUBLIC ${upper}_STATIC_DEFINE)
+    else()
+        add_library(${package} SHARED)
+    endif()
     add_library(${package}::${package} ALIAS ${package})
     set_target_properties(${package} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${CORVELGUI_SOVERSION}
         EXPORT_NAME ${package})
-    if(WIN32)
+    if(WIN32 AND NOT CORVELGUI_STATIC)
         set_target_properties(${package} PROPERTIES PREFIX "")
-    elseif(UNIX AND NOT APPLE)
+        corvelgui_windows_resources(${package} "${package} library")
+    elseif(NOT WIN32 AND NOT APPLE AND NOT CORVELGUI_STATIC)
         # Symbols carry the version of the interface, so that two of them can live in one process.
-        string(TOUPPER "${package}" upper)
         set(version_script "${CMAKE_CURRENT_BINARY_DIR}/${package}.version")
         file(CONFIGURE OUTPUT "${version_script}" CONTENT "${upper}_${CORVELGUI_SOVERSION} { *; };\n")
         target_link_options(${package} PRIVATE "-Wl,--version-script=${version_script}")
         set_property(TARGET ${package} APPEND PROPERTY LINK_DEPENDS "${version_script}")
     endif()
-    corvelgui_windows_resources(${package} "${package} library")
     target_link_libraries(${package} PRIVATE $<BUILD_INTERFACE:corvelgui_settings>)
     target_compile_features(${package} PUBLIC cxx_std_20)
 
@@ -91,4 +100,19 @@ function(corvelgui_forward_header package entry)
     install(FILES "${source}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}/${folder}"
         COMPONENT development)
     install(FILES "${installed}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}" COMPONENT development)
+endfunction()
+
+# corvelgui_keep_resources(<target> <name>)
+#
+# Programs that link the static <target> keep the resources of <name>.qrc, which no code of theirs refers to.
+function(corvelgui_keep_resources target name)
+    if(NOT CORVELGUI_STATIC)
+        return()
+    endif()
+    if(MSVC)
+        target_link_options(${target} INTERFACE "/INCLUDE:?qInitResources_${name}@@YAHXZ")
+    else()
+        string(LENGTH "qInitResources_${name}" length)
+        target_link_options(${target} INTERFACE "LINKER:--undefined=_Z${length}qInitResources_${name}v")
+    endif()
 endfunction()

@@ -13,8 +13,8 @@ endif()
 # corvelgui_add_translations(<target> DESTINATION <folder> [COMPONENT <name>] [RESOURCE <prefix>] SOURCES <file.ts>...)
 #
 # Compiles the translations with <target>, installs them if there is a component, and builds them in below the prefix
-# if there is one. The build tree has them at the same place as an
-# installation, so that programs find them from their own folder in both.
+# if there is one. The build tree has them at the same place as an installation, so that programs find them from their
+# own folder in both.
 function(corvelgui_add_translations target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESTINATION;COMPONENT;RESOURCE" "SOURCES")
     set(folder "${PROJECT_BINARY_DIR}/${arg_DESTINATION}")
@@ -36,7 +36,20 @@ function(corvelgui_add_translations target)
         endif()
     endforeach()
     if(arg_RESOURCE)
-        qt_add_resources(${target} ${target}_translations PREFIX "${arg_RESOURCE}" BASE "${folder}" FILES ${files})
+        string(TOLOWER "${target}_translations" name)
+        list(TRANSFORM files REPLACE ".*/(.*)" "<file alias=\"\\1\">\\0</file>" OUTPUT_VARIABLE entries)
+        string(JOIN "\n" entries ${entries})
+        set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc")
+        file(CONFIGURE OUTPUT "${list}" CONTENT
+            "<RCC><qresource prefix=\"${arg_RESOURCE}\">\n${entries}\n</qresource></RCC>\n")
+        set(source "${CMAKE_CURRENT_BINARY_DIR}/qrc_${name}.cpp")
+        add_custom_command(OUTPUT "${source}"
+            COMMAND Qt6::rcc --name ${name} -o "${source}" "${list}"
+            DEPENDS ${files} "${list}"
+            VERBATIM)
+        target_sources(${target} PRIVATE "${source}")
+        set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON SKIP_UNITY_BUILD_INCLUSION ON)
+        corvelgui_keep_resources(${target} ${name})
     endif()
 endfunction()
 

@@ -10,7 +10,7 @@ namespace CorvelGui {
 
 /// A stretch of time, in milliseconds since the Unix epoch, before it negative: begin belongs to
 /// it, end does not.
-struct TimeSpan
+struct CORVELGUI_EXPORT TimeSpan
 {
     qint64 begin = 0;
     qint64 end = 0;
@@ -18,7 +18,7 @@ struct TimeSpan
     bool isEmpty() const { return end <= begin; }
     /// All that @p spans cover, in order, none empty, with a gap between any two. Spans that are so
     /// already are shared.
-    CORVELGUI_EXPORT static QList<TimeSpan> joined(const QList<TimeSpan>& spans);
+    static QList<TimeSpan> joined(const QList<TimeSpan>& spans);
 
     bool operator==(const TimeSpan&) const = default;
 };
