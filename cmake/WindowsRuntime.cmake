@@ -10,7 +10,14 @@ foreach(name IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     if(NOT IS_ABSOLUTE "${file}")
         message(FATAL_ERROR "The compiler does not know where its ${name} is")
     endif()
-    list(APPEND runtime "${file}")
+    # Debian's have all that a debugger reads.
+    set(stripped "${CMAKE_BINARY_DIR}/compiler-runtime/${name}")
+    add_custom_command(OUTPUT "${stripped}"
+        COMMAND ${CMAKE_COMMAND} -E make_directory "${CMAKE_BINARY_DIR}/compiler-runtime"
+        COMMAND "${CMAKE_STRIP}" --strip-all -o "${stripped}" "${file}"
+        DEPENDS "${file}"
+        VERBATIM)
+    list(APPEND runtime "${stripped}")
 endforeach()
 if(CORVELGUI_FFMPEG_WINDOWS)
     file(GLOB ffmpeg "${CORVELGUI_FFMPEG_WINDOWS}/bin/*.dll")
