@@ -27,8 +27,17 @@ QString TimeFormat::datePattern() const
     return u"dd.MM.yyyy"_s;
 }
 
+// Windows names a clock that never leaves UTC after a place, such as Reykjavik.
+static QTimeZone zoneOfComputer()
+{
+    const QTimeZone zone = QTimeZone::systemTimeZone();
+    const bool isUtc = zone.isValid() && !zone.hasDaylightTime() &&
+                       zone.standardTimeOffset(QDateTime::currentDateTimeUtc()) == 0;
+    return isUtc ? QTimeZone::utc() : zone;
+}
+
 TimeTexts::TimeTexts(const QString& zoneName, const TimeFormat& format)
-    : m_zone(zoneName.isEmpty() ? QTimeZone::systemTimeZone()
+    : m_zone(zoneName.isEmpty() ? zoneOfComputer()
                                 : QTimeZone(TimeZoneHelper::getTimeZone(zoneName).toUtf8()))
     , m_format(format)
 {}
