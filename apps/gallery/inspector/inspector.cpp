@@ -122,6 +122,13 @@ QList<QWidget*> Inspector::widgets() const
     return alive;
 }
 
+// Not all that a page does is told by signals.
+void Inspector::enterEvent(QEnterEvent* event)
+{
+    m_model->refresh();
+    QWidget::enterEvent(event);
+}
+
 void Inspector::listWidgets()
 {
     const QSignalBlocker blocker(m_choice);

@@ -6,7 +6,6 @@
 
 class QComboBox;
 class QPlainTextEdit;
-class QPushButton;
 class QToolButton;
 
 namespace Gallery {
@@ -30,6 +29,7 @@ public:
     void inspect(const QWidget* widget);
 
 protected:
+    void enterEvent(QEnterEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QSize>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -16,13 +17,36 @@ bool isNamedValue(const QMetaProperty& property)
     return property.isEnumType() && !property.isFlagType();
 }
 
+/// Whether what is shown is also what is edited.
+bool isEditedAsText(const QMetaProperty& property)
+{
+    constexpr int types[] = {QMetaType::QUrl, QMetaType::QSize, QMetaType::QStringList};
+    return isNamedValue(property) || std::ranges::find(types, property.typeId()) != std::end(types);
+}
+
 bool isEditable(const QMetaProperty& property)
 {
     constexpr int types[] = {QMetaType::Int,       QMetaType::UInt,   QMetaType::LongLong,
                              QMetaType::ULongLong, QMetaType::Double, QMetaType::Float,
                              QMetaType::QString,   QMetaType::QDate,  QMetaType::QDateTime,
-                             QMetaType::QColor,    QMetaType::QUrl};
-    return isNamedValue(property) || std::ranges::find(types, property.typeId()) != std::end(types);
+                             QMetaType::QColor};
+    return isEditedAsText(property) ||
+           std::ranges::find(types, property.typeId()) != std::end(types);
+}
+
+/// Invalid if it is none.
+QVariant valueOfText(const QMetaProperty& property, const QString& text)
+{
+    if (isNamedValue(property))
+        return property.enumerator().keyToValue(text.toLatin1().constData());
+    if (property.typeId() == QMetaType::QSize) {
+        const QStringList sides = text.split(u'×');
+        const QSize size(sides.first().toInt(), sides.last().toInt());
+        return size.isEmpty() ? QVariant() : size;
+    }
+    if (property.typeId() == QMetaType::QStringList)
+        return text.split(u", "_s, Qt::SkipEmptyParts);
+    return QUrl(text);
 }
 
 QString shown(const QMetaProperty& property, const QVariant& value)
@@ -140,9 +164,7 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return shown(property, value);
     case Qt::EditRole:
-        return isNamedValue(property) || property.typeId() == QMetaType::QUrl
-                   ? shown(property, value)
-                   : value;
+        return isEditedAsText(property) ? shown(property, value) : value;
     case Qt::CheckStateRole:
         return isBool ? QVariant(value.toBool() ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::DecorationRole:
@@ -180,9 +202,9 @@ bool PropertyModel::setData(const QModelIndex& index, const QVariant& value, int
     QVariant written = value;
     if (role == Qt::CheckStateRole)
         written = value.toInt() == Qt::Checked;
-    else if (isNamedValue(property))
-        written = property.enumerator().keyToValue(value.toString().toLatin1().constData());
-    if (written == property.read(m_object))
+    else if (isEditedAsText(property))
+        written = valueOfText(property, value.toString());
+    if (!written.isValid() || written == property.read(m_object))
         return true;
     const bool taken = property.write(m_object, written);
     refresh();

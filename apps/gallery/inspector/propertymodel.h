@@ -42,7 +42,8 @@ Q_SIGNALS:
     /// Emitted when any of the values may be another one.
     void valuesChanged();
 
-private Q_SLOTS:
+public Q_SLOTS:
+    /// Looks at all values again.
     void refresh();
 
 private:
