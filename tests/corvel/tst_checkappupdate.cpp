@@ -60,9 +60,15 @@ private Q_SLOTS:
         QCOMPARE(result.size, 0);
         QCOMPARE(result.releaseDate, QDateTime({2026, 2, 28}, {22, 30}, Qt::UTC));
 
-        QCOMPARE(
-            Corvel::parseUpdateAnswer(offerWith(u"releaseNotesUrl"_s, QJsonValue::Undefined)).fault,
-            QString());
+        const std::pair<QString, QJsonValue> others[] = {
+            {u"releaseNotesUrl"_s, QJsonValue::Undefined},
+            {u"releaseNotesUrl"_s, QJsonValue::Null},
+            {u"releaseNotesUrl"_s, notes.leftJustified(2048, u'n')},
+            {u"fileName"_s, QString(255, u'n')},
+            {u"newVersion"_s, u"1."_s.repeated(31) + u"10"_s},
+            {u"softwareId"_s, 0}};
+        for (const auto& [name, value] : others)
+            QCOMPARE(Corvel::parseUpdateAnswer(offerWith(name, value)).fault, QString());
         QCOMPARE(Corvel::parseUpdateAnswer("{\"updateAvailable\":false}").fault, QString());
     }
 
@@ -79,9 +85,10 @@ private Q_SLOTS:
             {u"softwareId"_s, 1.5},
             {u"newVersion"_s, u"99999999999"_s},
             {u"newVersion"_s, u"1.10beta"_s},
-            {u"newVersion"_s, QString(u"1."_s).repeated(40) + u'1'},
+            {u"newVersion"_s, u"1."_s.repeated(32) + u'1'},
+            {u"releaseNotesUrl"_s, notes.leftJustified(2049, u'n')},
             {u"releaseNotesUrl"_s, u"file:///etc/passwd"_s},
-            {u"fileName"_s, QString(300, u'n')},
+            {u"fileName"_s, QString(256, u'n')},
             {u"releaseDate"_s, u"2026-02-30"_s},
         };
         for (const QString& name : offer.keys()) {

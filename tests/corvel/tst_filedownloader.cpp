@@ -84,6 +84,19 @@ private Q_SLOTS:
         }
     }
 
+    void redirects()
+    {
+        m_server->script("/5", content);
+        for (int step = 0; step < 5; ++step)
+            m_server->script('/' + QByteArray::number(step),
+                             Answer::redirect('/' + QByteArray::number(step + 1)));
+        m_server->script("/file", Answer::redirect("/0"));
+        FileDownloader downloader;
+        QCOMPARE(failure(downloader), u"The server leads in circles."_s);
+        QVERIFY(downloader.downloadFile(m_server->address(u"/0"_s), m_target));
+        QTRY_COMPARE(readFile(m_target), content);
+    }
+
     void refusals()
     {
         QVERIFY(QDir(m_folder->path()).mkdir(u"directory"_s));

@@ -120,11 +120,16 @@ private Q_SLOTS:
     /// What is written agrees, cell for cell, with what the table says is selected.
     void writesSelectedCells()
     {
+        QTableWidget other(1, 1);
         QTableWidget table(12, 6);
         for (int cell = 0; cell < 72; ++cell)
             table.setItem(cell / 6, cell % 6, new QTableWidgetItem(QString::number(cell)));
         table.item(5, 3)->setFlags(Qt::ItemIsSelectable); // not enabled: never selected
         table.hideRow(2);
+        PCsvDialog named(&table);
+        table.setHorizontalHeaderItem(1, new QTableWidgetItem(u"Named"_s));
+        QCOMPARE(part<QListWidget>(named, u"listWidgetColumns"_s)->item(1)->text(), u"Named"_s);
+        delete table.takeHorizontalHeaderItem(1);
         for (int step = 0; step < 60; ++step) {
             QString expected = u"\"1\";\"2\";\"3\";\"4\";\"5\";\"6\"\n"_s;
             for (int row = 0; row < 12; ++row) {
@@ -137,6 +142,11 @@ private Q_SLOTS:
             }
             PCsvDialog dialog(&table);
             QCOMPARE(exported(dialog), expected);
+            PCsvDialog ofRows;
+            ofRows.InitWithRows(table.model(), table.selectionModel()->selection());
+            ofRows.InitWithTableWidget(&other);
+            ofRows.InitWithTreeWidget(nullptr);
+            QCOMPARE(exported(ofRows), expected);
             const QModelIndex first = table.model()->index(step * 7 % 12, step * 5 % 6);
             const QModelIndex last = table.model()->index(11 - step % 4, 5 - step % 3);
             table.selectionModel()->select({first, last}, QItemSelectionModel::Toggle);
@@ -152,6 +162,8 @@ private Q_SLOTS:
             QVERIFY(!ok(dialog)->isEnabled() && field(dialog)->styleSheet().isEmpty());
             whenShown<QFileDialog>(this, [&](QFileDialog& chooser) {
                 QCOMPARE(chooser.windowTitle(), u"Save file"_s);
+                QCOMPARE(chooser.defaultSuffix(), u"csv"_s);
+                QCOMPARE(chooser.acceptMode(), QFileDialog::AcceptSave);
                 chooser.selectFile(m_file);
                 static_cast<QDialog&>(chooser).done(choosing);
             });

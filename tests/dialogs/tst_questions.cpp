@@ -62,6 +62,8 @@ private Q_SLOTS:
             QCOMPARE(warning, right ? QString() : u"tst_questions|Wrong Password!"_s);
             QCOMPARE(dialog.isVisible(), !right);
             QCOMPARE(dialog.getEncryptPassword(), typed);
+            QCOMPARE(field->selectedText().size(), right ? 0 : typed.size());
+            QVERIFY(!dialog.useEncryptPasswordNextTime());
         }
     }
 
@@ -86,7 +88,10 @@ private Q_SLOTS:
             {u"<b>soon</b>"_s, {}}};
         for (const auto& [lastUpdate, sentence] : cases) {
             PAskRefreshDialog dialog(nullptr, lastUpdate, true);
-            QCOMPARE(dialog.findChild<QLabel*>(u"labelRefresh"_s)->text(), sentence);
+            const auto* label = dialog.findChild<QLabel*>(u"labelRefresh"_s);
+            QCOMPARE(label->text(), sentence);
+            QCOMPARE(label->isHidden(), sentence.isEmpty());
+            QVERIFY(!dialog.findChild<QLabel*>(u"labelRefreshIcon"_s)->pixmap().isNull());
             QVERIFY(dialog.ShowNextTime());
             dialog.show();
             dialog.findChild<QCheckBox*>()->click();

@@ -1,3 +1,4 @@
+#include "base/readablecolor.h"
 #include "colormetrics.h"
 #include "testsupport.h"
 
@@ -24,7 +25,7 @@ struct Widget : PWidget
         log << u"shown"_s;
     }
 
-    void retranslate() override {}
+    void retranslate() override { log << u"told"_s; }
 
     QStringList log;
 };
@@ -43,7 +44,11 @@ private Q_SLOTS:
                 [&widget](bool shown) { widget.log << (shown ? u"true"_s : u"false"_s); });
         widget.show();
         widget.hide();
-        QCOMPARE(widget.log, (QStringList{u"true"_s, u"shown"_s, u"false"_s}));
+        for (const auto type : {QEvent::LanguageChange, QEvent::FontChange}) {
+            QEvent change(type);
+            QCoreApplication::sendEvent(&widget, &change);
+        }
+        QCOMPARE(widget.log, (QStringList{u"true"_s, u"shown"_s, u"false"_s, u"told"_s}));
     }
 
     void windows()
@@ -74,6 +79,26 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::palette().color(QPalette::Window),
                  QApplication::style()->standardPalette().color(QPalette::Window));
         QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    /// The first of fifty steps towards black or white that stands out, and no more than needed.
+    void shadesAreReadable()
+    {
+        QRandomGenerator random(1);
+        for (int i = 0; i < 500; ++i) {
+            const QColor color = QColor::fromRgb(random.generate());
+            const QColor ground = QColor::fromRgb(random.generate());
+            const QColor shade = readableOn(color, ground);
+            QCOMPARE_GE(contrast(shade, ground), 4.5);
+            const double white = contrast(Qt::white, ground);
+            const QColor end = white > contrast(Qt::black, ground) ? Qt::white : Qt::black;
+            int step = 0;
+            while (step < 50 && contrast(mixed(color, end, float(step) / 50), ground) < 4.5)
+                ++step;
+            QCOMPARE(shade.rgb(), mixed(color, end, float(step) / 50).rgb());
+        }
+        QCOMPARE(mixed(QColor(0, 100, 200), QColor(100, 0, 0), 0.25F).rgb(),
+                 QColor(25, 75, 150).rgb());
     }
 
     void labelsAtTheFarEnd()

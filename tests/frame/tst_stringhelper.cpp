@@ -21,6 +21,7 @@ private Q_SLOTS:
             {u"abcdef"_s, 4, u"ab…f"_s},
             {u"abcdef"_s, 1, u"…"_s},
             {u"abcdef"_s, 0, {}},
+            {u"abcdef"_s, -1, {}},
             // Characters of two units, and of a letter with its accent, stay whole.
             {u"a😀bc😀d"_s, 5, u"a…d"_s},
             {u"e\u0301fge\u0301"_s, 4, u"e\u0301…"_s}};
@@ -65,6 +66,8 @@ private Q_SLOTS:
             {-5, u"0 s"_s, u"0 s"_s},
             {1'250, u"1.250 s"_s, u"1,250 s"_s},
             {59'000, u"59 s"_s, u"59 s"_s},
+            {61'499, u"1 min 1 s"_s, u"1 min 1 s"_s},
+            {61'500, u"1 min 2 s"_s, u"1 min 2 s"_s},
             {hour - 1, u"1 h"_s, u"1 h"_s},
             {1'500 * 24 * hour + hour + 62'000, u"1,500 d 1 h 1 min 2 s"_s,
              u"1.500 d 1 h 1 min 2 s"_s}};
@@ -90,6 +93,12 @@ private Q_SLOTS:
             {u"setup.exe . ."_s, u"setup.exe"_s},
             {u"console.exe"_s, u"console.exe"_s},
             {u"😀 Tor"_s, u"😀 Tor"_s},
+            {u"com10 a\ufffdb\u007f"_s, u"com10 ab"_s},
+            {u"com10"_s, u"com10"_s},
+            {u"comx"_s, u"comx"_s},
+            {u"cam1"_s, u"cam1"_s},
+            {QString(500, u'a') + u".123456789"_s, QString(110, u'a') + u".123456789"_s},
+            {QString(500, u'a') + u".1234567890"_s, QString(120, u'a')},
             {u"a"_s + QChar(0xd83d), u"a"_s},
             {QString(500, u'a') + u".exe"_s, QString(116, u'a') + u".exe"_s},
             {u"a."_s + QString(500, u'b'), u"a."_s + QString(118, u'b')},

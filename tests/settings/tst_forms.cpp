@@ -141,6 +141,8 @@ QStringList told(const QWidget& widget, const QString& indent = {})
         line += u" tracksMouse"_s;
     if (widget.parentWidget() && !widget.isVisibleTo(widget.parentWidget()))
         line += u" hidden"_s;
+    if (indent.isEmpty() && widget.isWindow())
+        line += u" %1×%2"_s.arg(widget.width()).arg(widget.height());
     const auto* label = qobject_cast<const QLabel*>(&widget);
     if (label && label->buddy())
         line += u" of "_s + QString::fromLatin1(label->buddy()->metaObject()->className());

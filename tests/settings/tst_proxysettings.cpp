@@ -115,7 +115,7 @@ private Q_SLOTS:
             int port;
         };
         const Row rows[] = {{u"http://me@proxy.example:3128/"_s, u"proxy.example"_s, 3128},
-                            {u"proxy.example:81"_s, u"proxy.example"_s, 81},
+                            {u"proxy.example:1"_s, u"proxy.example"_s, 1},
                             {u"[fd00::1]:81"_s, u"fd00::1"_s, 81},
                             {u"https://proxy.example"_s, u"proxy.example"_s, 8080},
                             {u"a b:1"_s, u"a b:1"_s, 8080}};

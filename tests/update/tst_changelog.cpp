@@ -49,6 +49,33 @@ private Q_SLOTS:
         }
     }
 
+    void lengthsAreBounded()
+    {
+        const QChar breakPlace(0x200b);
+        const auto link = [](int length) {
+            return u"<a href=\""_s + u"https://a.example/"_s.leftJustified(length, u'a') +
+                   u"\">x</a>"_s;
+        };
+        const QString character = u"&amp;"_s;
+        const QString bold = u"<b>"_s;
+        const QString end = u"</b>"_s;
+        const QString text = u"aaaa bbb\n"_s;
+        const std::pair<QString, QString> rows[] = {
+            {character.repeated(200), character.repeated(200)},
+            {character.repeated(201), character.repeated(200) + breakPlace + character},
+            {QString(150, u'a') + u' ' + QString(150, u'a'),
+             QString(150, u'a') + u' ' + QString(150, u'a')},
+            {u"😀"_s.repeated(201), u"😀"_s.repeated(200) + breakPlace + u"😀"_s},
+            {link(2'000), link(2'000)},
+            {link(2'001), u"x"_s},
+            {bold.repeated(25), bold.repeated(24) + end.repeated(24)},
+            {text.repeated(200'000 / 9) + u"aa"_s, text.repeated(200'000 / 9) + u"aa"_s},
+            {text.repeated(200'000 / 9) + u"aaa"_s, text.repeated(200'000 / 9) + u"aa…"_s},
+            {u"a"_s + QChar::Null + u'b', u"ab"_s}};
+        for (const auto& [html, reduced] : rows)
+            QVERIFY2(harmlessHtml(html) == reduced, qPrintable(html.left(50)));
+    }
+
     void hostileHtmlIsShownInTime()
     {
         const auto many = [](const QString& text) {

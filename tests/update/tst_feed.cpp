@@ -60,6 +60,11 @@ struct FeedBench
         return rows.join(u' ');
     }
 
+    QString status() const
+    {
+        return dialog.findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly)->text();
+    }
+
     ScriptedServer server;
     RSSFeedDialog dialog;
     QTreeWidget* const list = dialog.findChild<QTreeWidget*>();
@@ -88,6 +93,17 @@ private Q_SLOTS:
             {atom("<id>1</id><content type='xhtml'><div>a<a href='https://a.example/?b&amp;c'>&lt;"
                   "</a></div></content>"),
              "1||||<div>a<a href=\"https://a.example/?b&amp;c\">&lt;</a></div>"},
+            {atom("<id>1</id><published>2026-03-01T00:00:00Z</"
+                  "published><updated>2026-03-02T10:00:00Z"
+                  "</updated><link rel='alternate' href='https://a.example'/><content/>"),
+             "1||https://a.example|2026-03-01T00:00:00Z|"},
+            {rss("<title/><item><guid> </guid><link>https://a.example</link><dc:date>2026-03-02T10:"
+                 "00:00.5</dc:date><summary>s</summary></item><x><item/></x>"),
+             "https://a.example||https://a.example|2026-03-02T10:00:00Z|s"},
+            {"<rss><x/><channel><item><guid>1</guid></item></channel><channel><item><guid>2</guid>"
+             "</item></channel></rss>",
+             "1||||\n2||||"},
+            {rss("<item b=\"'>\"><guid>1</guid></item><!-- <x --><![CDATA[<y]]>"), "1||||"},
             {"<a:feed xmlns:a='http://www.w3.org/2005/Atom'><a:entry><a:id>1</a:id><title>x</title>"
              "</a:entry></a:feed>",
              "1||||"},
@@ -113,11 +129,17 @@ private Q_SLOTS:
         };
         for (const auto& [xml, entries] : rows)
             QCOMPARE(told(Feed::parse(xml)), QString::fromUtf8(entries));
-        QCOMPARE(Feed::parse(
-                     rss(QByteArray("<item><title>") + QByteArray(1'000, 'x') + "</title></item>"))
+        for (const int length : {300, 301, 1'000})
+            QCOMPARE(Feed::parse(rss("<item><title>" + QByteArray(length, 'x') + "</title></item>"))
+                         .entries[0]
+                         .title,
+                     QString(300, u'x') + (length > 300 ? u"…"_s : u""_s));
+        QCOMPARE(Feed::parse(rss("<item><guid>" + QByteArray(2'001, 'x') + "</guid></item>"))
                      .entries[0]
-                     .title,
-                 QString(300, u'x') + u'…');
+                     .id.size(),
+                 2'000);
+        QCOMPARE(told(Feed::parse("<rss a='" + QByteArray(16 * 1024, 'x') + "'/>")), u"damaged"_s);
+        QCOMPARE(told(Feed::parse("<rss a='" + QByteArray(16 * 1024 - 9, 'x') + "'/>")), u""_s);
         QByteArray many;
         for (int i = 0; i < 2'000; ++i)
             many += "<item><guid>" + QByteArray::number(i) + "</guid></item>";
@@ -160,10 +182,13 @@ private Q_SLOTS:
         {
             FeedBench bench;
             QSignalSpy unread(&bench.dialog, &RSSFeedDialog::unreadCountChanged);
+            QCOMPARE(bench.status(), u"Fetching the news…"_s);
             QTRY_COMPARE(bench.told(), u"New! Old!"_s);
             QTest::keyClick(bench.list, Qt::Key_Down);
             QCOMPARE(bench.told(), u"New Old!"_s);
+            QCOMPARE(bench.status(), u"News: 2, not read: 1"_s);
             QCOMPARE(unread.last().first().toInt(), 1);
+            bench.dialog.resize(711, 611);
             bench.dialog.writeUserSettings(settings);
             QTest::keyClick(bench.list, Qt::Key_Down);
             const QString text = bench.dialog.findChild<QTextBrowser*>()->toPlainText();
@@ -175,6 +200,7 @@ private Q_SLOTS:
         bench.dialog.setAddress({}); // marks are those of an address
         settings.setValue(u"RSSFeedDialog/Parts"_s, u"damaged"_s);
         bench.dialog.readUserSettings(settings);
+        QCOMPARE(bench.dialog.size(), QSize(711, 611));
         QCOMPARE(bench.dialog.unreadCount(), 0);
         QCOMPARE(settings.value(u"RSSFeedDialog/Read"_s).toStringList().size(), 1);
         bench.dialog.setAddress(bench.server.address(u"/feed"_s));
@@ -183,8 +209,24 @@ private Q_SLOTS:
         QCOMPARE(bench.told(), u"New Old"_s);
         bench.server.script("/feed", rss("<item><guid>b</guid><title>B</title></item>"
                                          "<item><guid>c</guid><title>C</title></item>"));
+        bench.list->setCurrentItem(bench.list->topLevelItem(0)); // stays chosen
         bench.dialog.refresh();
         QTRY_COMPARE(bench.told(), u"B C!"_s);
+        QCOMPARE(bench.list->currentItem(), bench.list->topLevelItem(0));
+        QCOMPARE(bench.dialog.findChild<QTextBrowser*>()->toPlainText(), u"B\n"_s);
+        QSignalSpy replaced(&bench.dialog, &RSSFeedDialog::entriesChanged);
+        QSignalSpy busy(&bench.dialog, &RSSFeedDialog::busyChanged);
+        bench.server.script("/feed", rss({}));
+        bench.dialog.refresh();
+        QTRY_COMPARE(bench.status(), u"There is no news."_s);
+        QTRY_COMPARE(busy, (QList<QVariantList>{{true}, {false}}));
+        QCOMPARE(replaced.count(), 1);
+        bench.dialog.refresh();
+        bench.dialog.setAddress(bench.server.address(u"/other"_s)); // which is asked at once
+        QCOMPARE(busy.mid(2), (QList<QVariantList>{{true}, {false}, {true}}));
+        QTRY_COMPARE(bench.status(),
+                     u"The news cannot be fetched: The server answered with status 404."_s);
+        QCOMPARE(replaced.count(), 1);
         bench.dialog.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&bench.dialog));
         QCOMPARE(unreachedByTab(bench.dialog), QStringList());

@@ -43,6 +43,12 @@ private Q_SLOTS:
                                                 ? u"file:///bin/sh"_s
                                                 : label->text().section(u'"', 1, 1));
         QCOMPARE(user.opened(), QStringList{u"https://example.org/"_s});
+        const auto* lookLabel = about.findChildren<QLabel*>()[6];
+        const auto* value = about.findChildren<QLabel*>()[7];
+        QCOMPARE(value->accessibleName(), lookLabel->text() + u' ' + value->text());
+        about.clearLinks();
+        for (const QLabel* label : about.findChildren<QLabel*>())
+            QVERIFY(!label->isVisible() || !label->text().contains(u"Page"_s));
     }
 
     void licencesOfAnyKindAreRead()
@@ -54,7 +60,8 @@ private Q_SLOTS:
         QCOMPARE(read("a\r\n\xc3\xbc"), u"a\nü"_s);
         QCOMPARE(read("\xa9 a"), u"© a"_s);
         QCOMPARE(read(QByteArray("a\0b", 3)), u"ab"_s);
-        QCOMPARE(read(QByteArray(2'500, 'x')).split(u'\n').size(), 3);
+        for (const auto& [length, lines] : {std::pair(1'000, 1), {1'001, 2}, {2'500, 3}})
+            QCOMPARE(read(QByteArray(length, 'x')).split(u'\n').size(), lines);
         const QString large = read(QByteArray("\xc3\xbc\n").repeated(1'000'000));
         QVERIFY(large.size() < 500'000 && large.startsWith(u"ü\n"_s) && large.endsWith(u"\n…"_s));
         QVERIFY(read({}).isNull());
@@ -86,11 +93,18 @@ private Q_SLOTS:
         licences.copy();
         QCOMPARE(QGuiApplication::clipboard()->text(),
                  u"Zip\n\nLicence: BSD\n\nDo what you like."_s);
+        for (const auto& [filter, name] :
+             {std::pair(u"2"_s, u"App"_s), {u"ZIP"_s, u"Zip"_s}, {u"p"_s, u"Zip"_s}}) {
+            licences.setFilter(filter);
+            QCOMPARE(licences.current(), name);
+        }
         licences.setFilter(u"nothing"_s);
         QCOMPARE(licences.toPlainText() + licences.current(), QString());
         licences.setFilter({});
         QCOMPARE(licences.current(), u"App"_s);
-        QCOMPARE(changes.count(), 4);
+        QCOMPARE(changes.count(), 6);
+        licences.setCurrent(u"Zip"_s);
+        QCOMPARE(licences.current(), u"Zip"_s);
     }
 
     void systemIsToldAsText()

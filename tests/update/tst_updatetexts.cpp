@@ -74,6 +74,8 @@ private Q_SLOTS:
             {"<html><a href=\"x?version=9&updatefile=a\">Log in</a></html>", "none"},
             {"version=1\nupdatefile=a\nreleasedate=" + QByteArray(1 << 20, 'x'),
              "1.0.0.0|a||" + QByteArray(100, 'x')},
+            {"version=1\nupdatefile=a\nreleasedate=" + QByteArray(99, 'x') + "\xf0\x9f\x98\x80",
+             "1.0.0.0|a||" + QByteArray(99, 'x')},
         };
         for (const auto& [content, read] : rows) {
             const std::optional<VersionFile> file = VersionFile::parse(content);
