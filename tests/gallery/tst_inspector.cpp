@@ -83,31 +83,34 @@ private Q_SLOTS:
 
     void editsByKeys()
     {
-        QWidget page;
-        auto* layout = new QVBoxLayout(&page);
+        QWidget window;
+        auto* both = new QHBoxLayout(&window);
+        auto* page = new QWidget;
+        auto* inspector = new Inspector;
+        both->addWidget(page);
+        both->addWidget(inspector);
+        auto* layout = new QVBoxLayout(page);
         auto* label = new PErrorLabel;
         label->setError(u"No \"host\""_s);
         auto* slider = new RangeSlider;
         layout->addWidget(label);
         layout->addWidget(slider);
-        page.show();
-        Inspector inspector;
-        inspector.setPage(&page);
-        QCOMPARE(inspector.inspected(), label);
-        auto* code = inspector.findChild<QPlainTextEdit*>();
+        inspector->setPage(page);
+        QCOMPARE(inspector->inspected(), label);
+        auto* code = inspector->findChild<QPlainTextEdit*>();
         QVERIFY(code->toPlainText().contains(
             u"label->setError(QStringLiteral(u\"No \\\"host\\\"\"));"_s));
 
-        inspector.show();
-        QVERIFY(QTest::qWaitForWindowActive(&inspector));
-        auto* pick = inspector.findChild<QToolButton*>();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto* pick = inspector->findChild<QToolButton*>();
         QTest::mouseClick(pick, Qt::LeftButton);
         QTest::mouseClick(slider, Qt::LeftButton, {}, {2, 2});
-        QCOMPARE(inspector.inspected(), slider);
+        QCOMPARE(inspector->inspected(), slider);
         QVERIFY(!pick->isChecked());
         QCOMPARE(slider->lowerValue(), 0); // the click was for the inspector
 
-        auto* table = inspector.findChild<QTableView*>();
+        auto* table = inspector->findChild<QTableView*>();
         table->setFocus();
         table->setCurrentIndex(valueOf(*table, u"lowerValue"_s));
         QTest::keyClick(table, Qt::Key_F2);
@@ -124,7 +127,7 @@ private Q_SLOTS:
         QTest::keyClick(table, Qt::Key_Space);
         QVERIFY(!slider->isEnabled());
 
-        QTest::mouseClick(inspector.findChild<QPushButton*>(), Qt::LeftButton);
+        QTest::mouseClick(inspector->findChild<QPushButton*>(), Qt::LeftButton);
         QCOMPARE(QGuiApplication::clipboard()->text(), code->toPlainText());
         delete slider;
         QCOMPARE(code->toPlainText(), QString());
