@@ -38,6 +38,7 @@ class TestPOrvGuiTheme : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QVERIFY2(!POrvGuiTheme::bPantherTheme, "light until told otherwise"); }
     void cleanup() { qApp->setStyleSheet(QString()); }
 
     void textOnTimelineIsReadable()

@@ -275,6 +275,15 @@ void Scenes::markers(Sheet& sheet)
         addWithDetails(ruler);
         ruler.onHideMarkers();
     });
+    showRuler(sheet, u"with a list"_s, [&](Ruler& ruler) {
+        addWithDetails(ruler);
+        ruler.setMergedClick(Ruler::MergedClick::List);
+        ruler.setIndicatorPosition(quint64(middle + hour));
+        QTest::keyClick(&ruler, Qt::Key_Return);
+        auto* list = ruler.findChild<QListWidget*>();
+        sheet.grab(u"list"_s, *list->window());
+        QTest::keyClick(list, Qt::Key_Escape);
+    });
     showRuler(sheet, u"all in one view"_s, [](Ruler& ruler) {
         ruler.setMarkerDetails(true);
         ruler.onAddMarkers(manyMarkers());

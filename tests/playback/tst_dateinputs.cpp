@@ -165,6 +165,10 @@ private Q_SLOTS:
         QVERIFY(noteIn(dialog).contains(u"twice"_s));
         auto* choice = dialog.findChild<QComboBox*>();
         QVERIFY(choice->isVisible());
+        for (const int minute : {31, 30}) {
+            dialog.findChild<QTimeEdit*>()->setTime(QTime(2, minute));
+            QCOMPARE(dialog.dateTime(), second.addSecs((minute - 30) * 60));
+        }
         QTest::keyClick(choice, Qt::Key_Up);
         QCOMPARE(dialog.dateTime(), second.addSecs(-3600));
 

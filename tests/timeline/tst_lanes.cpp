@@ -239,6 +239,7 @@ private Q_SLOTS:
         QCOMPARE(list->indexOfChild(lane), 3);
         QCOMPARE(list->childAt(lane->rect().center().x(), lane->rect().center().y()), lane);
         QVERIFY(list->child(1)->state().selected && !lane->state().selected);
+        QVERIFY(!list->child(1)->state().focused);
         QVERIFY(list->child(9)->state().offscreen && !lane->state().offscreen);
         lane->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(timeline.currentTrack(), u"3"_s);
