@@ -65,6 +65,10 @@ bool sameZone(const QDateTime& a, const QDateTime& b)
 struct TarvoDateTimeView::Private
 {
     bool showsNothing() const { return shown == nothing(); }
+    void showDay(const QDateTime& moment)
+    {
+        values[Day]->setText(QLocale().toString(moment, u"dd MMM"_s));
+    }
 
     std::array<QPointer<QLabel>, FieldCount> values;
     std::array<QPointer<QLabel>, FieldCount> captions;
@@ -135,7 +139,7 @@ void TarvoDateTimeView::updateDateTime(const QDateTime& dateTime)
     if (dateTime.toSecsSinceEpoch() == d->shown.toSecsSinceEpoch() && sameZone(dateTime, d->shown))
         return;
     if (first || dateTime.date() != d->shown.date())
-        d->values[Day]->setText(QLocale().toString(dateTime, u"dd MMM"_s));
+        d->showDay(dateTime);
     d->values[Hour]->setText(dateTime.toString(u"HH:"_s));
     d->values[Minute]->setText(dateTime.toString(u"mm:"_s));
     d->values[Second]->setText(dateTime.toString(u"ss"_s));
@@ -323,6 +327,8 @@ void TarvoDateTimeView::retranslate()
                                                 tr("MS")};
     for (size_t field = 0; field < FieldCount; ++field)
         d->captions[field]->setText(texts[field]);
+    if (!d->showsNothing())
+        d->showDay(d->shown);
     setAccessibleName(tr("Playback time"));
     setAccessibleDescription(tr("Jump to timepoint"));
 }

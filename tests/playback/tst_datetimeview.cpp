@@ -101,6 +101,14 @@ private Q_SLOTS:
         auto* accessible = QAccessible::queryAccessibleInterface(&view);
         QCOMPARE(accessible->text(QAccessible::Value), u"18 Aug 14:15:30"_s);
 
+        view.updateDateTime(at(u"2026-10-18T12:15:30.250"_s, brussels));
+        const QLocale before;
+        QLocale::setDefault(QLocale::German);
+        QEvent switched(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&view, &switched);
+        QLocale::setDefault(before);
+        QVERIFY(view.reads().startsWith(u"18 Okt"));
+
         view.setEnabled(false);
         QCOMPARE(view.reads(), u"|--:|--:|--|"_s);
     }
