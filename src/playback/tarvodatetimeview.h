@@ -13,7 +13,7 @@ namespace CorvelGui {
 /// on the clock of the zone that the shown moment is in.
 ///
 /// A left click, the space bar or the enter key opens a pop-up in which the user picks a moment to
-/// jump to.
+/// jump to. In a layout it takes the height that no other widget wants.
 class CORVELGUI_EXPORT TarvoDateTimeView : public QFrame
 {
     Q_OBJECT
@@ -29,8 +29,9 @@ public:
     explicit TarvoDateTimeView(QWidget* parent = nullptr);
     ~TarvoDateTimeView() override;
 
-    /// Shows @p dateTime. An invalid one empties the view. Within one second only the milliseconds
-    /// follow; going back to exactly the moment that the second began with changes nothing.
+    /// Shows @p dateTime, its month as QLocale() has it. An invalid one empties the view. Within
+    /// one second only the milliseconds follow; going back to exactly the moment that the second
+    /// began with changes nothing.
     void updateDateTime(const QDateTime& dateTime);
     /// What is shown, with the milliseconds that its second began with; invalid while that is
     /// nothing. A view that is disabled forgets it.

@@ -28,7 +28,9 @@ public:
     /// Switches to a language with all that the application says: the texts of Qt and of this
     /// library, which are found without a folder, and after them, so that they are asked first, the
     /// files of that language in each of @p directories, the last one before the others. Texts that
-    /// nobody translates stay as they are in the sources, which is English here.
+    /// nobody translates stay as they are in the sources, which is English here. QLocale(), by
+    /// which dates and numbers are written, stays: a program that wants it to follow sets it
+    /// before.
     ///
     /// A key with a country takes the files of the language where there are none of the country.
     /// What the last call of this function or of SetLanguage() installed goes, and files that

@@ -14,7 +14,8 @@ namespace CorvelGui {
 
 struct RulerMarker;
 
-/// Gives the icons of markers. Markers with the same key share one icon.
+/// Gives the icons of markers. Markers of a ruler with the same key share one icon,
+/// whichever provider gave it.
 class CORVELGUI_EXPORT IRulerMarkerIconProvider
 {
 public:
@@ -23,7 +24,8 @@ public:
     /// The key of the icon for an index; any number but -1, which is the ruler's own icon.
     virtual int iconKey(int iconIndex) = 0;
     /// The icon for an index. Every ruler asks once for every key; those that get copies of one
-    /// QIcon share its pictures.
+    /// QIcon share its pictures. It is shown at 16 by 16 pixels unless Ruler::setIconSize() says
+    /// otherwise, and filled with a colour of the theme while the mouse is on it.
     virtual QIcon icon(int iconIndex) = 0;
     /// The text of a marker that was added without one, asked for when it is needed: a client with
     /// millions of markers keeps their texts in its own way. Empty unless overridden.
@@ -37,7 +39,8 @@ struct RulerMarker
     /// icon.
     static constexpr int providedIconKind = 3;
 
-    /// How bad it is, from harmless to worst. It has a colour where the timeline shows severities.
+    /// How bad it is, from harmless to worst. It has a colour where the timeline shows severities:
+    /// in the strip while its activity is visible, and on the ruler with its markerDetails.
     enum class Severity : quint8 { None, Information, Warning, Alarm };
     static constexpr std::size_t severityCount = 4;
 
@@ -45,6 +48,7 @@ struct RulerMarker
     /// Also the key by which markers are removed. A marker without a valid time is not added.
     QDateTime time = {};
     int kind = 0;
+    /// What the provider is asked for, which says what it means.
     int iconIndex = -1;
     /// Shown as the tooltip, as plain text. Of an empty one the provider is asked.
     QString text = {};

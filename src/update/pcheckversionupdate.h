@@ -33,9 +33,11 @@ class CORVELGUI_EXPORT PCheckVersionUpdate : public QObject
     Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
 
 public:
-    /// File names are appended to the base URLs without a separator, so these end with a slash.
-    /// @p currentVersion is up to four numbers with dots between. With @p showRevision versions are
-    /// shown with all four of them, else with three. @p parent is the parent of the dialogs, too.
+    /// File names are appended to the base URLs without a separator, so these end with a slash. An
+    /// empty @p intranetBase leaves the internal release channel out. @p currentVersion is up to
+    /// four numbers with dots between. With @p showRevision versions are shown with all four of
+    /// them, else with three. @p parent is the parent of the dialogs, too, but for the message that
+    /// a check failed, which has none.
     PCheckVersionUpdate(QWidget* parent, const QString& currentVersion, const QString& internetBase,
                         const QString& intranetBase, bool showRevision);
     ~PCheckVersionUpdate() override;
