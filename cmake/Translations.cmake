@@ -43,8 +43,9 @@ function(corvelgui_add_translations target)
         file(CONFIGURE OUTPUT "${list}" CONTENT
             "<RCC><qresource prefix=\"${arg_RESOURCE}\">\n${entries}\n</qresource></RCC>\n")
         set(source "${CMAKE_CURRENT_BINARY_DIR}/qrc_${name}.cpp")
+        # Another system's Qt may read less than the tool of this one writes, but zlib always.
         add_custom_command(OUTPUT "${source}"
-            COMMAND Qt6::rcc --name ${name} -o "${source}" "${list}"
+            COMMAND Qt6::rcc --compress-algo zlib --name ${name} -o "${source}" "${list}"
             DEPENDS ${files} "${list}"
             VERBATIM)
         target_sources(${target} PRIVATE "${source}")
