@@ -150,10 +150,12 @@ private Q_SLOTS:
         QVERIFY(todays[0] > todays[1]);
         edit.setTodayZone({});
         edit.setMaximumDate(today.addDays(-1));
+        const QDate before = edit.chosenDate();
         openAnd([](QCalendarWidget& calendar) {
             QVERIFY(!calendar.findChildren<QPushButton*>().at(0)->isEnabled());
             QTest::keyClick(&calendar, Qt::Key_Escape);
         });
+        QCOMPARE(edit.chosenDate(), before);
     }
 
     void momentsInADialog()

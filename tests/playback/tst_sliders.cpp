@@ -156,6 +156,9 @@ private Q_SLOTS:
         slider.setPosition(99'000);
         QCOMPARE(slider.position(), 99'000);
         QCOMPARE(asked.size(), 2);
+        press(slider, {58, 10});
+        slider.forgetSeeks();
+        QVERIFY(!slider.isSeeking() && !seeking.last()[0].toBool());
     }
 
     void keysOfAVideo()
@@ -276,6 +279,9 @@ private Q_SLOTS:
             QVERIFY(slider.isAncestorOf(QApplication::focusWidget()));
 
             slider.setValues(40, 60);
+            slider.setMaximum(100);
+            QCOMPARE(slider.minimum(), 0);
+            QCOMPARE(edits.size(), 5);
             const int right = direction == Qt::LeftToRight ? 1 : -1;
 
             slider.focusProxy()->setFocus(Qt::TabFocusReason);
