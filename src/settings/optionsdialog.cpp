@@ -288,7 +288,6 @@ void OptionsDialog::showPage(const QString& category, const QString& page)
 
 void OptionsDialog::filter(const QString& text)
 {
-    ensureAllCategoryWidgets();
     chooseFirstCategory();
     if (Category* category = currentCategory())
         updateEnabledTabs(category, text);

@@ -370,6 +370,7 @@ private Q_SLOTS:
             QCOMPARE(marks, QString::fromLatin1(enabled));
         }
         for (const auto& page : {u"b2"_s, u"a2"_s}) { // what is asked for shows
+            parts.search->setText(u"secret"_s);
             open(page.first(1), page);
             QCOMPARE(parts.tab(), u"Page "_s + page);
             QVERIFY(parts.tabs()->isTabEnabled(1));
