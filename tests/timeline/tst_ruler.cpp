@@ -1,10 +1,7 @@
 #include "rulerscript.h"
 #include "testsupport.h"
 
-#include <Hueloft/POrvGuiTheme>
-
 using namespace CorvelGui;
-using Hueloft::POrvGuiTheme;
 
 class TestRuler : public WarningFreeTest
 {
@@ -133,22 +130,6 @@ private Q_SLOTS:
         QCOMPARE(play(&ruler, u"place 2h; place 1.5h"_s), u"view 02 00:59 - 02 02:00"_s);
     }
 
-    void indicatorIsSeenInTheView()
-    {
-        LoggedRuler ruler;
-        const auto* indicator = ruler.findChild<Indicator*>();
-        const std::pair<QString, bool> steps[] = {
-            {u"place 0.5h"_s, true}, {u"offset 0.5"_s, false}, {u"place 120h"_s, true},
-            {u"take-away"_s, false}, {u"place 120h"_s, true},  {u"deactivate"_s, false}};
-        for (const auto& [step, isSeen] : steps) {
-            play(&ruler, step);
-            QCOMPARE(indicator->isVisibleTo(&ruler), isSeen);
-            if (isSeen)
-                QCOMPARE(indicator->x() + indicator->hotSpot(),
-                         int(ruler.xAt(qint64(ruler.getIndicatorMSecs()))));
-        }
-    }
-
     void viewChangesOnRequest()
     {
         LoggedRuler ruler;
@@ -167,49 +148,6 @@ private Q_SLOTS:
         ruler.setTimeZone(u"Asia/Tokyo"_s);
         ruler.applyTimeZone();
         QCOMPARE(ruler.takeLog(), QStringList{u"view 07 08:29 - 07 09:30"_s});
-    }
-
-    void themeIsOneWay()
-    {
-        const Ruler untouched;
-        QCOMPARE(untouched.minimumHeight(), 60);
-        LoggedRuler plain;
-        const auto body = [&plain] {
-            const QImage picture = plain.grab().toImage();
-            return picture.pixelColor(503, picture.height() - 5);
-        };
-        QCOMPARE(body(), QColor(60, 60, 60));
-        plain.setOrvaneGuiTheme(true);
-        plain.setOrvaneGuiTheme(false);
-        QCOMPARE(body(), POrvGuiTheme::colorShark);
-        plain.setBodyColor(Qt::darkGreen);
-        QCOMPARE(body(), QColor(Qt::darkGreen));
-        plain.setOrvaneGuiTheme(true);
-        QCOMPARE(body(), POrvGuiTheme::colorShark);
-
-        const std::tuple<bool, bool, QColor> cases[] = {{true, true, POrvGuiTheme::colorYellow},
-                                                        {true, false, POrvGuiTheme::colorGreen},
-                                                        {false, true, POrvGuiTheme::colorBlue},
-                                                        {false, false, POrvGuiTheme::colorGreen}};
-        for (const auto& [theme, playMode, indicator] : cases) {
-            LoggedRuler ruler;
-            ruler.setPlayMode(playMode);
-            ruler.setOrvaneGuiTheme(theme);
-            QCOMPARE(ruler.findChild<Indicator*>()->color(), indicator);
-        }
-    }
-
-    void fontSizeGivesTheHeight()
-    {
-        LoggedRuler ruler;
-        const auto* indicator = ruler.findChild<Indicator*>();
-        const int before = ruler.maximumHeight();
-        QCOMPARE(before, 4 * indicator->labelHeight());
-        ruler.setFontSize(16);
-        ruler.grab();
-        QVERIFY(ruler.maximumHeight() > before * 3 / 2);
-        QCOMPARE(ruler.maximumHeight(), 4 * indicator->labelHeight());
-        QCOMPARE(ruler.minimumHeight(), ruler.maximumHeight());
     }
 };
 
