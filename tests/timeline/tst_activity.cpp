@@ -137,41 +137,6 @@ private Q_SLOTS:
             QCOMPARE(box.partAt(x), part);
     }
 
-    void stripStandsUnderTheRuler()
-    {
-        BusyTimeline timeline;
-        const QWidget& ruler = *timeline.ruler();
-        const QWidget& strip = *timeline.timelineScroll();
-        QCOMPARE(strip.x(), ruler.x());
-        QCOMPARE(strip.width(), ruler.width());
-        QVERIFY(timeline.zoomer()->geometry().right() < ruler.x());
-        timeline.ruler()->setView(monday, monday + day);
-        QVERIFY(std::abs(timeline.ruler()->xAt(monday + 7 * hour) - timeline.stripX(7 * hour)) <
-                0.5);
-
-        // A recording and an alarm stand in the strip's columns of their times.
-        timeline.ruler()->setTrackDescriptions(
-            {{u"a"_s, {}, monday, monday + day, {{monday + 6 * hour, monday + 9 * hour}}}});
-        timeline.ruler()->onAddMarkers({{.time = timeAt(15 * hour), .severity = Severity::Alarm}});
-        const QImage image = timeline.timelineScroll()->grab().toImage();
-        const auto colorAt = [&](double x, int y) {
-            return image.pixelColor(int(x), y);
-        };
-        const int foot = strip.height() - 4;
-        QVERIFY(colorAt(timeline.stripX(6 * hour) + 2, foot) !=
-                colorAt(timeline.stripX(6 * hour) - 2, foot));
-        QVERIFY(colorAt(timeline.stripX(9 * hour) - 2, foot) !=
-                colorAt(timeline.stripX(9 * hour) + 2, foot));
-        const QColor bar = colorAt(timeline.stripX(15 * hour) - 1, 8);
-        QVERIFY(bar.red() > bar.blue() + 50);
-
-        timeline.setActivityVisible(false);
-        timeline.layout()->activate();
-        QCOMPARE(strip.maximumHeight(), 15);
-        QVERIFY(timeline.zoomer()->geometry().right() < strip.x());
-        QVERIFY(ruler.x() < strip.x());
-    }
-
     void edgesResizeTheView()
     {
         BusyTimeline timeline;
