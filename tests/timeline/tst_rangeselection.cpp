@@ -10,12 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QPixmap picture(LoggedRuler& ruler, const QString& script)
-{
-    play(&ruler, script);
-    return ruler.grab();
-}
-
 bool isScrolling(const LoggedRuler& ruler)
 {
     const auto timers = ruler.findChildren<QTimer*>();
@@ -107,7 +101,7 @@ void TestRangeSelection::handlesForAssistiveTechnology()
 void TestRangeSelection::handlesAndLengthStayInSight()
 {
     LoggedRuler ruler;
-    const QPixmap plain = picture(ruler, u"select drag"_s);
+    play(&ruler, u"select drag"_s);
     const auto* length = ruler.findChild<LengthLabel*>();
     const auto isInside = [&] {
         const QObjectList& stack = ruler.children();
@@ -122,11 +116,6 @@ void TestRangeSelection::handlesAndLengthStayInSight()
     play(&ruler, u"release 960"_s);
     QVERIFY(!length->isVisible());
 
-    // What the range looks like is not what the ruler looks like without one.
-    const QPixmap selected = picture(ruler, u"range 600 1800; select off"_s);
-    QVERIFY(selected.toImage() != plain.toImage());
-    QVERIFY(picture(ruler, u"select shift"_s).toImage() != selected.toImage());
-    QCOMPARE(picture(ruler, u"range 0 0"_s).toImage(), plain.toImage());
     const auto handles = ruler.findChildren<RangeHandle*>();
     play(&ruler, u"range 600 1800; hour 2"_s);
     QVERIFY(!handles[0]->isVisible() && !handles[1]->isVisible());

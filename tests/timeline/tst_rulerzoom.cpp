@@ -1,8 +1,5 @@
-#include "clockchanges.h"
 #include "rulerscript.h"
-#include "testscale.h"
 #include "testsupport.h"
-#include "ticklayout.h"
 #include "viewhistory.h"
 
 using namespace CorvelGui;
@@ -307,47 +304,6 @@ private Q_SLOTS:
         QCOMPARE(ruler.getIndicatorMSecs(), at(0));
     }
 
-    // Against a plain reckoning with Qt's clock, at widths and fonts of all kinds.
-    void paintedLabels()
-    {
-        const QTimeZone zone("Europe/Brussels");
-        ClockChanges clock;
-        clock.setZone(zone);
-        QRandomGenerator random(16);
-        for (int round = 0; round < 1000; ++round) {
-            TimeScale scale = scaleOf(3000 * day, TimeScale::wholeRangeLevel, monday, zone);
-            scale.setWidth(400 + random.bounded(3440));
-            const QRectF rect(5, 0, scale.width() - 10, 60);
-            const double span = scale.closestSpan() * std::pow(10, random.generateDouble() * 8);
-            const double x = random.bounded(400);
-            scale.zoomTo(span, scale.fineTimeAt(x), x);
-            const QFont font(u"DejaVu Sans"_s, 8 + random.bounded(13));
-            const QFontMetrics metrics(font);
-            const TickLayout layout = layoutCalendarTicks(
-                scale, rect, {metrics, metrics.height(), u"dd.MM.yyyy"_s}, clock);
-            QHash<double, double> ends;
-            for (const TickLabel& label : layout.labels) {
-                const double end = label.x + QFontMetricsF(font).horizontalAdvance(label.text);
-                QVERIFY2(label.x >= ends.value(label.baseline, 5) && end <= rect.right(),
-                         qPrintable(label.text));
-                ends[label.baseline] = end;
-                for (const Tick& tick : layout.ticks)
-                    QVERIFY(tick.x <= label.x || tick.x >= end || tick.top >= label.baseline ||
-                            tick.bottom < label.baseline);
-                const QTime time =
-                    QTime::fromString(label.text.section(u' ', 0, 0), Qt::ISODateWithMs);
-                if (!time.isValid() || label.baseline != layout.labels.front().baseline)
-                    continue;
-                // Half a pixel to either side of where the label says to be.
-                const QDateTime middle = scale.inZone(scale.fineTimeAt(label.x - 2).msecs);
-                const double distance = std::remainder(middle.time().msecsTo(time), double(day));
-                QVERIFY2(std::abs(distance) <= 0.5 / scale.lengthPerMillisecond() + 1,
-                         qPrintable(label.text));
-            }
-            QVERIFY(!layout.ticks.empty());
-        }
-    }
-
     void repeatedHour()
     {
         LoggedRuler ruler;
@@ -368,16 +324,6 @@ private Q_SLOTS:
             QCOMPARE(said->text(QAccessible::Value).section(u' ', -1).startsWith(u'+'),
                      text.contains(u'+'));
         }
-        // From left to right: before, the first time, the second, after.
-        const QImage image = ruler.grab().toImage();
-        QList<QRgb> header;
-        for (const qint64 offset : {-70, -10, 10, 70})
-            header << image.pixel(int(ruler.xAt(change + offset * minute)), 1);
-        QCOMPARE(header[0], header[3]);
-        QVERIFY(header[0] != header[1] && header[1] != header[2] && header[2] != header[3]);
-        // The mark of the change is wider than the tick there, and over it.
-        const QPoint mark(qRound(ruler.xAt(change)), image.height() - 5);
-        QCOMPARE(image.pixel(mark), image.pixel(mark - QPoint(1, 0)));
     }
 
 private:

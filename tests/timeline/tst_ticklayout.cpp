@@ -25,10 +25,10 @@ TickLayout layoutOf(const TimeScale& scale, int width = 1010)
     return layoutTicks(scale, QRectF(5, 0, width, 60), style(), msecsToMidnight(scale));
 }
 
-std::vector<Tick> ticks(const TickLayout& layout, bool major)
+std::vector<Tick> majorTicks(const TickLayout& layout)
 {
     std::vector<Tick> result = layout.ticks;
-    std::erase_if(result, [major](const Tick& tick) { return tick.major != major; });
+    std::erase_if(result, [](const Tick& tick) { return !tick.major; });
     return result;
 }
 
@@ -36,7 +36,7 @@ std::vector<Tick> ticks(const TickLayout& layout, bool major)
 void compareWithClock(const TimeScale& scale, const QTimeZone& zone)
 {
     const TickLayout layout = layoutOf(scale);
-    const std::vector<Tick> major = ticks(layout, true);
+    const std::vector<Tick> major = majorTicks(layout);
     const double length = scale.getIntervalLength(scale.level());
     const qint64 interval = scale.millisecondsPerInterval();
     const qint64 first = scale.viewStartMs() + msecsToMidnight(scale) % interval;
@@ -74,40 +74,6 @@ class TestTickLayout : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void minorTicksBeforeTheFirstMajorOne()
-    {
-        // Level 7: days of 71 pixels in 2 divisions of 35; midnight comes at x = 10 + 1000 / 14 *
-        // fraction. Level 0: 2 minutes of 100 pixels in 8 divisions of 12; the major tick stands at
-        // x = 95.
-        const std::tuple<int, qint64, QList<double>> cases[] = {
-            {7, day / 2, {45.714 - 35}},         // past the major tick before
-            {7, 22 * hour, {}},                  // none left of the margin
-            {0, 18 * second, {83, 71, 59, 47}}}; // four at most
-        for (const auto& [level, start, expected] : cases) {
-            const TickLayout layout = layoutOf(scaleOf(30 * day, level, monday + start));
-            for (qsizetype i = 0; i < expected.size(); ++i) {
-                const Tick& tick = layout.ticks.at(i);
-                QVERIFY2(qAbs(tick.x - expected[i]) < 0.01, qPrintable(QString::number(tick.x)));
-                QCOMPARE(tick.top, double(headerHeight));
-            }
-            QVERIFY(layout.ticks.at(expected.size()).major);
-        }
-    }
-
-    void minorTicksPassBelowDates()
-    {
-        // 5 minutes of 83 pixels in 5 divisions of 16, the date at the first tick only.
-        const std::vector<Tick> minor = ticks(layoutOf(scaleOf(10 * day)), false);
-        const double dateWidth = style().metrics.horizontalAdvance(u"02.03.26"_s) + 2;
-        QVERIFY(16 < dateWidth);
-        for (int k = 1; k <= 4; ++k) {
-            QCOMPARE(minor[k - 1].x, 10.0 + k * 16);
-            QCOMPARE(minor[k - 1].top,
-                     k * 16 < dateWidth ? 2.0 * lineHeight() + 4 : double(headerHeight));
-            QCOMPARE(minor[3 + k].top, double(headerHeight));
-        }
-    }
-
     void lastLabelReachesFurtherThanLines()
     {
         // Ticks 100 pixels apart from x = 18. The last would stand right of the rectangle.
@@ -116,7 +82,7 @@ private Q_SLOTS:
             {1010, 918, 920}, {905, 818, 920}, {904, 818, 820}};
         for (const auto& [width, tick, label] : cases) {
             const TickLayout layout = layoutOf(scale, width);
-            QCOMPARE(ticks(layout, true).back().x, tick);
+            QCOMPARE(majorTicks(layout).back().x, tick);
             QCOMPARE(layout.labels.back().x, label);
         }
         TimeScale narrow = scaleOf(10 * day);
