@@ -227,22 +227,6 @@ private Q_SLOTS:
         }
     }
 
-    void paging()
-    {
-        // The view shows an hour from 5:00.
-        const std::pair<qint64, qint64> cases[] = {{5 * hour + 30 * minute, 5 * hour},
-                                                   {6 * hour, 5 * hour},
-                                                   {6 * hour + 1, 5 * hour + 1},
-                                                   {4 * hour, 4 * hour},
-                                                   {30 * hour, 23 * hour}};
-        for (const auto& [target, viewStart] : cases) {
-            TimeScale scale = scaleOf(day);
-            scale.setViewStart(at(monday + 5 * hour));
-            QCOMPARE(scale.pageTo(at(monday + target)), viewStart != 5 * hour);
-            QCOMPARE(scale.viewStartMs() - monday, viewStart);
-        }
-    }
-
     void labels()
     {
         QCOMPARE(scaleOf(30 * minute - 1).getTickerString(61 * second), u"00:01:01"_s);
