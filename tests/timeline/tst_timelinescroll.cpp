@@ -202,32 +202,9 @@ private Q_SLOTS:
         }
     }
 
-    void paintOrder()
-    {
-        LoggedStrip strip(0.2, 0.5); // the box covers 41 to 59
-        strip.setSearchTimeRange(0.45, 0.75);
-        strip.displaySearchTimeRange(true);
-        strip.setIndicatorPosition(0.5);
-        const QImage image = strip.grab().toImage();
-        const QColor box = POrvGuiTheme::colorGreyhound;
-        for (const QPoint& corner : {QPoint(41, 1), QPoint(59, 1), QPoint(41, 13), QPoint(59, 10)})
-            QCOMPARE(image.pixelColor(corner), box);
-        for (const QPoint& outside : {QPoint(40, 7), QPoint(60, 7), QPoint(41, 0), QPoint(41, 14)})
-            QVERIFY(image.pixelColor(outside) != box);
-
-        const QColor band = image.pixelColor(45, 11);
-        QVERIFY(std::abs(band.red() - (box.red() + POrvGuiTheme::colorDarkBlue.red()) / 2) <= 1);
-        QCOMPARE(image.pixelColor(59, 13), band);
-        QCOMPARE(image.pixelColor(44, 11), box);
-        QVERIFY(image.pixelColor(74, 14).blue() > image.pixelColor(75, 14).blue());
-        for (const int row : {0, 7, 14})
-            QCOMPARE(image.pixelColor(50, row), POrvGuiTheme::colorYellow);
-    }
-
     void focusFromTheKeyboardIsFramed()
     {
         LoggedStrip strip;
-        strip.setIndicatorPosition(0.5);
         const std::tuple<Qt::FocusReason, Qt::FocusReason, bool> changes[] = {
             {Qt::OtherFocusReason, Qt::ActiveWindowFocusReason, false},
             {Qt::TabFocusReason, Qt::BacktabFocusReason, true},
@@ -242,37 +219,7 @@ private Q_SLOTS:
             QFocusEvent in(QEvent::FocusIn, came);
             QCoreApplication::sendEvent(&strip, &in);
             QCOMPARE(strip.pixel(0, middle) == POrvGuiTheme::colorBlue, framed);
-
-            QCOMPARE(strip.pixel(50, 0), POrvGuiTheme::colorYellow);
         }
-    }
-
-    void boxColors()
-    {
-        LoggedStrip strip;
-        const auto box = [&strip] {
-            return strip.pixel(25, middle);
-        };
-        for (const auto& [x, color] :
-             {std::pair(60, POrvGuiTheme::colorGreyhound), {40, POrvGuiTheme::colorKoala}}) {
-            leaveMouse(strip);
-            QCOMPARE(box(), POrvGuiTheme::colorGreyhound);
-            enterMouse(strip, {x, middle});
-            QCOMPARE(box(), color);
-        }
-        leaveMouse(strip);
-        strip.setHover(true);
-        QCOMPARE(box(), POrvGuiTheme::colorKoala);
-        strip.press(30);
-        strip.setOrvaneGuiTheme(false); // the colours stay
-        QCOMPARE(box(), POrvGuiTheme::colorElephant);
-
-        // Inactive, the strip shows its border only.
-        QVERIFY(!TimelineScroll().isEnabled());
-        strip.setActive(false);
-        QVERIFY(!strip.isEnabled());
-        QCOMPARE(strip.pixel(0, middle), POrvGuiTheme::colorPanther);
-        QCOMPARE(box(), strip.palette().color(QPalette::Window));
     }
 
     void assistiveTechnology()

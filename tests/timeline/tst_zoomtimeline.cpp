@@ -77,14 +77,6 @@ private Q_SLOTS:
         TestedTimeline timeline;
         QVERIFY(QTest::qWaitForWindowExposed(&timeline));
         QTRY_VERIFY(timeline.zoomer()->y() > timeline.ruler()->geometry().bottom());
-        const QRect ruler = timeline.ruler()->geometry();
-        const QRect zoomer = timeline.zoomer()->geometry();
-        const QRect scroll = timeline.timelineScroll()->geometry();
-        QCOMPARE(ruler.topLeft(), QPoint(2, 2));
-        QCOMPARE(ruler.right(), timeline.width() - 3);
-        QVERIFY(zoomer.right() < scroll.left());
-        QCOMPARE(scroll.right(), ruler.right());
-        QCOMPARE(timeline.slider()->maximum(), 8);
         // Tab goes from left to right and downwards.
         QList<QPoint> tabbed;
         QWidget* widget = timeline.ruler();
@@ -149,7 +141,6 @@ private Q_SLOTS:
         QCOMPARE(scroll->viewArea(), 0.0);
         QCOMPARE(timeline.slider()->value(), 1);
         QVERIFY(!timeline.stripIsMarkedAt(0.5));
-        QCOMPARE(timeline.strip().pixelColor(1, 5), timeline.strip().pixelColor(3, 5));
         // There is nothing that could move.
         QTest::keyClick(scroll, Qt::Key_End);
         timeline.setTimeLimits(at(day), at(10 * day));
@@ -210,27 +201,6 @@ private Q_SLOTS:
             QCOMPARE(timeline.rulerIsMarked(), !on);
             QCOMPARE(timeline.findChild<Indicator*>()->isVisible(), !on);
         }
-        for (const double fraction : {0.35, 0.45, 0.55, 0.65})
-            QCOMPARE(timeline.stripIsMarkedAt(fraction), qAbs(fraction - 0.5) < 0.1);
-        timeline.setTimeLimits(at(0), at(20 * day));
-        QVERIFY(timeline.stripIsMarkedAt(0.25) && !timeline.stripIsMarkedAt(0.45));
-    }
-
-    void selectedRangeOnTheStrip()
-    {
-        TestedTimeline timeline;
-        timeline.ruler()->setSelectedRange({qint64(at(2 * day)), qint64(at(4 * day))});
-        const auto isShownAt = [&](double fraction) {
-            const QImage image = timeline.strip();
-            return image.pixel(int(image.width() * fraction), 3) !=
-                   image.pixel(image.width() - 5, 3);
-        };
-        for (const double fraction : {0.15, 0.25, 0.35, 0.45})
-            QCOMPARE(isShownAt(fraction), qAbs(fraction - 0.3) < 0.1);
-        timeline.setTimeLimits(at(0), at(20 * day));
-        QVERIFY(isShownAt(0.15) && !isShownAt(0.25));
-        timeline.ruler()->setSelectedRange({});
-        QVERIFY(!isShownAt(0.15));
     }
 
     void activity()
@@ -327,13 +297,10 @@ private Q_SLOTS:
     void zoomerParts()
     {
         LoggedZoomer zoomer;
-        zoomer.resize(400, 100);
-        QCOMPARE(zoomer.size(), QSize(150, 15));
         const std::pair<QWidget*, QString> parts[] = {{zoomer.button(true), u"Zoom in"_s},
                                                       {zoomer.slider(), u"Zoom level"_s},
                                                       {zoomer.button(false), u"Zoom out"_s}};
         for (const auto& [part, name] : parts) {
-            QVERIFY(zoomer.rect().contains(part->geometry()));
             QCOMPARE(part->cursor().shape(), Qt::PointingHandCursor);
             QCOMPARE(part->toolTip(), name);
             QCOMPARE(part->accessibleName(), name);
