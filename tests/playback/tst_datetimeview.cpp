@@ -113,35 +113,6 @@ private Q_SLOTS:
         QCOMPARE(view.reads(), u"|--:|--:|--|"_s);
     }
 
-    void styles()
-    {
-        const QFont before = QApplication::font();
-        View view;
-        QFont font = before;
-        font.setPointSize(10);
-        QApplication::setFont(font);
-        view.setPlayMode(true);
-        for (const auto& [row, column, size] :
-             {std::tuple(0, 0, 18), {0, 4, 18}, {0, 5, 10}, {1, 0, 9}}) {
-            view.label(row, column)->ensurePolished();
-            QCOMPARE(view.label(row, column)->font().pointSize(), size);
-        }
-
-        QCoreApplication::processEvents();
-        const int wide = view.minimumWidth();
-        view.setShowMilliseconds(false);
-        QVERIFY(view.minimumWidth() < wide - 20);
-        view.resize(600, 60);
-        view.updateDateTime(at(u"2026-08-18T12:15:30.250"_s, newYork));
-        for (const int column : {2, 3})
-            QCOMPARE(view.label(0, column + 1)->x(),
-                     view.label(0, column)->x() + view.label(0, column)->sizeHint().width());
-        const QString playing = view.label(0, 2)->styleSheet();
-        view.setPlayMode(false);
-        QVERIFY(view.label(0, 2)->styleSheet() != playing);
-        QApplication::setFont(before);
-    }
-
     void moments()
     {
         const QDateTime now = QDateTime::fromSecsSinceEpoch(1'800'000'000);
