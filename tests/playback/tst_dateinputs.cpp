@@ -22,18 +22,6 @@ QDateTime at(const QString& utc, const QTimeZone& zone = brussels)
 
 const QDateTime second = at(u"2026-10-25T01:30:00"_s); // of two with that time of day
 
-template <typename Widget>
-struct Shown : Widget
-{
-    Shown() : Widget(nullptr)
-    {
-        this->show();
-        this->activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
-            qFatal("The window does not become active");
-    }
-};
-
 void enter(PDateEdit* edit, const QString& text)
 {
     edit->setFocus();

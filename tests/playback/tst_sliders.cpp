@@ -14,19 +14,6 @@ using namespace CorvelGui;
 
 namespace {
 
-template <typename Slider>
-struct Shown : Slider
-{
-    Shown()
-    {
-        this->resize(Slider::sizeHint().expandedTo({300, 0}));
-        this->show();
-        this->activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
-            qFatal("The window does not become active");
-    }
-};
-
 SliderTip* tipOf(const QWidget& slider)
 {
     return slider.findChild<SliderTip*>(QString(), Qt::FindDirectChildrenOnly);

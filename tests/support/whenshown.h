@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QPushButton>
-
+#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -12,6 +12,20 @@ inline QPushButton* buttonOf(const QWidget& dialog, QDialogButtonBox::StandardBu
 {
     return dialog.findChild<QDialogButtonBox*>()->button(button);
 }
+
+/// A widget in the active window, at least 300 pixels wide.
+template <typename Widget>
+struct Shown : Widget
+{
+    Shown()
+    {
+        this->resize(this->sizeHint().expandedTo({300, 0}));
+        this->show();
+        this->activateWindow();
+        if (!QTest::qWaitForWindowActive(this))
+            qFatal("The window does not become active");
+    }
+};
 
 /// Runs @p act once a modal dialog of that class is shown, inside the dialog's event loop. It must
 /// end the dialog.
