@@ -45,17 +45,8 @@ private Q_SLOTS:
 
     void escapeAnswersNo()
     {
-        whenShown<QMessageBox>(this, [](QMessageBox& box) {
-            const auto* label = box.findChild<QLabel*>(u"qt_msgboxex_icon_label"_s);
-            const QImage mark = label->pixmap().toImage();
-            const auto alphaAt = [&mark](double x, double y) {
-                return qAlpha(mark.pixel(int(x * mark.width() / 16), int(y * mark.height() / 16)));
-            };
-            QCOMPARE(alphaAt(3, 8), 255);
-            QVERIFY2(alphaAt(10.4, 6) < 100, "the hook");
-            QVERIFY2(alphaAt(8, 11.8) < 100, "the dot");
-            QTest::keyClick(&box, Qt::Key_Escape);
-        });
+        whenShown<QMessageBox>(this,
+                               [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
         QCOMPARE(PMessageBox::Question(nullptr, u"Update"_s, u"Restart now?"_s),
                  int(QMessageBox::No));
     }
