@@ -159,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(!ImageHelper::readFile(folder.filePath(u"none"_s)).error.isEmpty());
     }
 
-    void imagesArePrepared()
+    void imagesAreScaled()
     {
         const QImage image = halves({40, 20});
         const QImage scaled = ImageHelper::scaled(image, {20, 20}, 2);
@@ -169,21 +169,6 @@ private Q_SLOTS:
                  QSize(20, 20));
         QVERIFY(ImageHelper::scaled(image, {20'000, 20'000}, 1).isNull());
         QVERIFY(ImageHelper::scaled({}, {20, 20}, 1).isNull());
-
-        // Red and blue halves become a pill, in green, with a white sign at the lower right.
-        QImage sign(10, 10, QImage::Format_RGB32);
-        sign.fill(Qt::white);
-        sign.setDevicePixelRatio(2);
-        const QImage pill = ImageHelper::rounded(image);
-        QCOMPARE(pill.pixelColor(0, 0).alpha(), 0);
-        QCOMPARE(pill.pixelColor(10, 1), QColor(Qt::red));
-        QCOMPARE(ImageHelper::rounded(image, 2).pixelColor(3, 1), QColor(Qt::red));
-        const QImage ready = ImageHelper::withOverlay(ImageHelper::tinted(pill, Qt::green), sign,
-                                                      Qt::AlignRight | Qt::AlignBottom);
-        QCOMPARE(ready.pixelColor(0, 0).alpha(), 0);
-        QCOMPARE(ready.pixelColor(10, 10), QColor(Qt::green));
-        QCOMPARE(ready.pixelColor(36, 16), QColor(Qt::white));
-        QCOMPARE(ready.pixelColor(34, 14), QColor(Qt::green));
     }
 };
 
