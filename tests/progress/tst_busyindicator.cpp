@@ -1,4 +1,3 @@
-#include "colormetrics.h"
 #include "testsupport.h"
 
 #include <CorvelGui/BusyIndicator>
@@ -7,36 +6,11 @@
 #include <QElapsedTimer>
 
 #include <climits>
-#include <numbers>
 
 using namespace CorvelGui;
 using namespace std::chrono_literals;
 
 namespace {
-
-constexpr QColor track(50, 50, 50);
-constexpr QColor arc(0, 191, 255);
-constexpr QColor dimmedWhite(194, 194, 194);
-
-struct Overlay : BusyIndicator
-{
-    using BusyIndicator::BusyIndicator;
-
-    /// By hand, while the timer stands still.
-    void step(int steps)
-    {
-        findChild<QTimer*>()->stop();
-        for (int i = 0; i < steps; ++i)
-            onTimeOut();
-    }
-    QColor colorAt(int degreesClockwise, double radius = 40) const
-    {
-        const double angle = degreesClockwise * std::numbers::pi / 180;
-        const QPointF at(width() / 2 + radius * std::cos(angle),
-                         height() / 2 + radius * std::sin(angle));
-        return parentWidget()->grab().toImage().pixelColor(at.toPoint());
-    }
-};
 
 /// A white panel with two line edits and a button, above another line edit.
 struct Window : QWidget
@@ -75,70 +49,13 @@ class TestBusyIndicator : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void ring()
-    {
-        QWidget white;
-        white.setPalette(Qt::white);
-        white.resize(201, 160);
-        white.show();
-        // Steps, and where the arc begins and ends in degrees, clockwise from three o'clock.
-        for (const auto& [steps, begin, end] :
-             {std::tuple(1, 0, 11), {5, 0, 54}, {20, 144, 216}, {38, 338, 410}, {40, 0, 72}}) {
-            Overlay overlay(&white);
-            overlay.show();
-            overlay.step(steps);
-            for (const int radius : {37, 43}) {
-                for (const auto& [degrees, color] : {std::pair(begin + 4, arc),
-                                                     {end - 4, arc},
-                                                     {begin - 4, track},
-                                                     {end + 4, track}})
-                    QCOMPARE(overlay.colorAt(degrees, radius), color);
-            }
-            for (const int radius : {30, 50})
-                QCOMPARE(overlay.colorAt(45, radius), dimmedWhite);
-        }
-    }
-
-    void ringInTheDark()
-    {
-        QWidget dark;
-        dark.setPalette(QColor(34, 37, 41));
-        dark.resize(201, 160);
-        dark.show();
-        Overlay overlay(&dark);
-        overlay.show();
-        overlay.step(1);
-        double rim = 0; // the pixels do not lie along the ring
-        for (const double radius : {45.5, 46.0, 46.5, 47.0, 47.5})
-            rim = std::max(rim, contrast(overlay.colorAt(180, radius), track));
-        QCOMPARE_GE(rim, 3);
-    }
-
-    void background()
-    {
-        Window window;
-        Overlay overlay(window.panel);
-        overlay.show();
-        const auto corner = [&] {
-            return window.panel->grab().toImage().pixelColor(1, 1);
-        };
-        QPixmap red(1, 1);
-        red.fill(Qt::red);
-        for (const auto& [image, color] : {std::pair(QPixmap(), dimmedWhite),
-                                           {red, QColor(243, 8, 8)},
-                                           {QPixmap(), dimmedWhite}}) {
-            overlay.setBackgroundImage(image);
-            overlay.step(2);
-            QCOMPARE(corner(), color);
-        }
-    }
-
     void delay()
     {
         Window window;
-        Overlay overlay(window.panel);
-        const auto hasRing = [&overlay] {
-            return overlay.colorAt(180) == track;
+        BusyIndicator overlay(window.panel);
+        const auto hasRing = [&] {
+            const QImage shown = window.panel->grab().toImage();
+            return shown.pixel(shown.rect().center() - QPoint(40, 0)) == qRgb(50, 50, 50);
         };
         overlay.setDelay(300ms);
         QElapsedTimer time;
@@ -152,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(hasRing());
         overlay.setFinished();
         QVERIFY(overlay.isHidden());
-        QCOMPARE(overlay.colorAt(180), QColor(Qt::white));
+        QVERIFY(!hasRing());
     }
 
     void parents()
