@@ -69,6 +69,12 @@ void Scenes::images(Sheet& sheet)
             widget.setImage(fit == Fit::Shrink ? photo().copy(0, 0, 40, 30) : photo());
         });
     }
+    image(u"shrunk, mirrored"_s, [](PImageWidget& widget) {
+        widget.setFit(Fit::Shrink);
+        widget.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        widget.setImage(photo().copy(0, 0, 40, 90));
+        widget.setLayoutDirection(Qt::RightToLeft);
+    });
     image(u"empty"_s, {});
     image(u"failed"_s, [](PImageWidget& widget) {
         widget.setSource(QUrl(u"qrc:/CorvelGui/common/none.png"_s));
@@ -184,11 +190,12 @@ void Scenes::report(Sheet& sheet)
          .rows = 4,
          .row = [](qsizetype row) {
              return QList<TextCursor::Cell>{
-                 {.picture = row % 2 ? QImage() : photo()},
+                 {.picture = row == 1 ? QImage() : photo()},
                  {.text = u"Gate %1"_s.arg(row)},
                  {.text = u"Somebody came in, looked about for a while and went away"_s}};
          }});
     report.insertPicture(photo(), u"The gate"_s);
+    report.insertPicture(photo().scaled(800, 1600), u"The gate, higher than the page"_s);
     for (int page = 0; page < report.pageCount(); ++page) {
         const QImage image = report.pageImage(page, 75);
         sheet.paint(u"page %1"_s.arg(page), image.size(),

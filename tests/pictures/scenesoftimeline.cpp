@@ -152,8 +152,9 @@ void Scenes::rulerZooms(Sheet& sheet)
             ruler.setView(change - 5 * hour, change + 5 * hour);
             ruler.setIndicatorPosition(quint64(change - 30 * minute));
         });
-    showRuler(
-        sheet, u"scale 1.5"_s, [](Ruler&) {}, 1.5);
+    for (const double scale : {1.25, 1.5, 3.0})
+        showRuler(
+            sheet, u"scale %1"_s.arg(scale), [](Ruler&) {}, scale);
 }
 
 void Scenes::rulerRanges(Sheet& sheet)
@@ -200,6 +201,21 @@ void Scenes::rulerRanges(Sheet& sheet)
         ruler.setPreviewIndicatorPosition(quint64(middle + hour));
         ruler.onPreviewVisible(true, true);
     });
+    showRuler(sheet, u"out of view"_s, [](Ruler& ruler) {
+        ruler.setPreviewEnabled(true);
+        ruler.displaySearchTimeRange(true);
+        ruler.setSearchTimeRange(at(middle - 20 * minute), at(middle + hour), false);
+        ruler.setView(middle + 3 * hour, middle + 6 * hour);
+        ruler.setPreviewIndicatorPosition(quint64(middle));
+        ruler.onPreviewVisible(true, false);
+    });
+    showRuler(sheet, u"no indicator, and no preview any more"_s, [](Ruler& ruler) {
+        ruler.setPreviewEnabled(true);
+        ruler.setPreviewIndicatorPosition(quint64(middle + hour));
+        ruler.onPreviewVisible(true, false);
+        ruler.setPreviewEnabled(false);
+        ruler.setIndicatorPosition(0);
+    });
     showRuler(sheet, u"end of the period"_s, [](Ruler& ruler) {
         ruler.changeLevel(4, 0.5);
         ruler.onTimelineOffsetChanged(1.0);
@@ -216,6 +232,15 @@ void Scenes::rulerStates(Sheet& sheet)
 {
     showRuler(sheet, u"theme"_s, [](Ruler& ruler) { ruler.setOrvaneGuiTheme(true); });
     showRuler(sheet, u"no theme"_s, [](Ruler& ruler) { ruler.setOrvaneGuiTheme(false); });
+    showRuler(sheet, u"theme of before"_s, [](Ruler& ruler) {
+        ruler.setOrvaneGuiTheme(true);
+        ruler.setOrvaneGuiTheme(false);
+    });
+    showRuler(sheet, u"theme over own colours, not playing"_s, [](Ruler& ruler) {
+        ruler.setPlayMode(false);
+        ruler.setBodyColor(QColor(40, 60, 120));
+        ruler.setOrvaneGuiTheme(true);
+    });
     showRuler(sheet, u"inactive"_s, [](Ruler& ruler) { ruler.setActive(false, false); });
     showRuler(sheet, u"blocked"_s, [](Ruler& ruler) { ruler.setActive(true, true); });
     showRuler(sheet, u"not playing"_s, [](Ruler& ruler) { ruler.setPlayMode(false); });
@@ -231,6 +256,8 @@ void Scenes::rulerStates(Sheet& sheet)
     });
     showRuler(sheet, u"loading"_s, [](Ruler& ruler) {
         ruler.setLoading(u"Gate"_s, {middle + 20 * minute, middle + 90 * minute}, true);
+        ruler.grab();
+        ruler.setLoading(u"Gate"_s, {middle + 45 * minute, middle + 55 * minute}, false);
     });
     showRuler(sheet, u"dragged indicator"_s, [](Ruler& ruler) {
         ruler.setIndicatorDragEnabled(true);
@@ -255,7 +282,18 @@ void Scenes::markers(Sheet& sheet)
         ruler.setMarkerDetails(true);
         ruler.onAddMarkers(someMarkers());
     };
-    showRuler(sheet, u"markers"_s, add);
+    showRuler(sheet, u"markers"_s, [&](Ruler& ruler) {
+        addWithDetails(ruler);
+        ruler.setMarkerDetails(false);
+    });
+    showRuler(sheet, u"markers without tracks"_s, [&](Ruler& ruler) {
+        ruler.setTrackDescriptions({});
+        add(ruler);
+    });
+    showRuler(sheet, u"icons without room"_s, [&](Ruler& ruler) {
+        add(ruler);
+        ruler.setIconSize({17, 400});
+    });
     showRuler(sheet, u"details"_s, addWithDetails);
     showRuler(sheet, u"details, at scale 2"_s, addWithDetails, 2);
     showRuler(sheet, u"larger icons"_s, [&](Ruler& ruler) {
@@ -270,6 +308,14 @@ void Scenes::markers(Sheet& sheet)
         addWithDetails(ruler);
         for (auto* button : ruler.findChildren<QAbstractButton*>())
             hover(*button);
+    });
+    showRuler(sheet, u"pressed"_s, [&](Ruler& ruler) {
+        ruler.setOrvaneGuiTheme(true);
+        add(ruler);
+        for (auto* button : ruler.findChildren<QAbstractButton*>()) {
+            hover(*button);
+            QTest::mousePress(button, Qt::LeftButton);
+        }
     });
     showRuler(sheet, u"hidden"_s, [&](Ruler& ruler) {
         addWithDetails(ruler);
@@ -313,7 +359,25 @@ void Scenes::lanes(Sheet& sheet)
             },
             scale);
     };
-    show(u"timeline"_s, [](ZoomTimeline&) {});
+    const auto setRanges = [](ZoomTimeline& timeline, bool on) {
+        Ruler& ruler = *timeline.ruler();
+        ruler.setRangeSelection(on ? Ruler::RangeSelection::Drag : Ruler::RangeSelection::Off);
+        ruler.setSelectedRange(on ? TimeSpan{middle + 20 * minute, middle + 80 * minute}
+                                  : TimeSpan());
+        ruler.setResultTimeRange(on ? at(middle + 30 * minute) : QDateTime(), at(middle + hour),
+                                 true, false, false, false);
+        ruler.setPreviewIndicatorPosition(quint64(middle - 30 * minute));
+        ruler.onPreviewVisible(on, false);
+        if (on)
+            timeline.setSearchTimeRange(at(middle - hour), at(middle + 3 * hour), false);
+        else
+            timeline.clearSearchTimeRange();
+    };
+    show(u"timeline"_s, [](ZoomTimeline& timeline) {
+        timeline.setActivityVisible(true);
+        timeline.grab();
+        timeline.setActivityVisible(false);
+    });
     show(u"light theme"_s, [](ZoomTimeline& timeline) { timeline.setOrvaneGuiTheme(false); });
     const auto lanes = [](ZoomTimeline& timeline) {
         timeline.setLanesVisible(true);
@@ -332,10 +396,15 @@ void Scenes::lanes(Sheet& sheet)
     show(u"lanes with ranges"_s, [&](ZoomTimeline& timeline) {
         lanes(timeline);
         timeline.setFontSize(11);
-        timeline.ruler()->setRangeSelection(Ruler::RangeSelection::Drag);
-        timeline.ruler()->setSelectedRange({middle + 20 * minute, middle + 80 * minute});
-        timeline.setSearchTimeRange(at(middle - hour), at(middle + 3 * hour), false);
-        timeline.showSearchTimeRange();
+        setRanges(timeline, true);
+        // They are elsewhere in a shorter period.
+        timeline.setTimeLimits(quint64(middle - 4 * day), quint64(middle + 3 * day));
+    });
+    show(u"no ranges any more"_s, [&](ZoomTimeline& timeline) {
+        lanes(timeline);
+        setRanges(timeline, true);
+        timeline.grab();
+        setRanges(timeline, false);
     });
     show(u"inactive"_s, [&](ZoomTimeline& timeline) {
         lanes(timeline);
@@ -387,6 +456,13 @@ void Scenes::overview(Sheet& sheet)
     show(u"no theme"_s, [](TimelineScroll& strip) { strip.setOrvaneGuiTheme(false); });
     show(u"theme"_s, [](TimelineScroll& strip) { strip.setOrvaneGuiTheme(true); });
     show(u"under the mouse"_s, [](TimelineScroll& strip) { strip.setHover(true); });
+    for (const double x : {0.4, 0.8})
+        show(u"mouse at %1"_s.arg(x), [x](TimelineScroll& strip) {
+            enterMouse(strip, {int(x * strip.width()), strip.height() / 2});
+        });
+    show(u"pressed"_s, [](TimelineScroll& strip) {
+        QTest::mousePress(&strip, Qt::LeftButton, {}, {int(0.4 * strip.width()), 7});
+    });
     show(u"focus"_s, [](TimelineScroll& strip) { focus(strip); });
     show(u"search"_s, [](TimelineScroll& strip) {
         strip.setSearchTimeRange(0.3, 0.6);
