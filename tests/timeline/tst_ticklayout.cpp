@@ -74,6 +74,26 @@ class TestTickLayout : public WarningFreeTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void minorTicksBeforeTheFirstMajorOne()
+    {
+        // Level 7: days of 71 pixels in 2 divisions of 35; midnight comes at x = 10 + 1000 / 14 *
+        // fraction. Level 0: 2 minutes of 100 pixels in 8 divisions of 12; the major tick stands at
+        // x = 95.
+        const std::tuple<int, qint64, QList<double>> cases[] = {
+            {7, day / 2, {45.714 - 35}},         // past the major tick before
+            {7, 22 * hour, {}},                  // none left of the margin
+            {0, 18 * second, {83, 71, 59, 47}}}; // four at most
+        for (const auto& [level, start, expected] : cases) {
+            const TickLayout layout = layoutOf(scaleOf(30 * day, level, monday + start));
+            for (qsizetype i = 0; i < expected.size(); ++i) {
+                const Tick& tick = layout.ticks.at(i);
+                QVERIFY2(qAbs(tick.x - expected[i]) < 0.01, qPrintable(QString::number(tick.x)));
+                QCOMPARE(tick.top, double(headerHeight));
+            }
+            QVERIFY(layout.ticks.at(expected.size()).major);
+        }
+    }
+
     void lastLabelReachesFurtherThanLines()
     {
         // Ticks 100 pixels apart from x = 18. The last would stand right of the rectangle.
