@@ -1,11 +1,13 @@
 #include "menuplacement.h"
 #include "testsupport.h"
 
-#include <CorvelGui/FancyLineEdit>
+#include <CorvelGui/FilterLineEdit>
 #include <CorvelGui/IconButton>
 
+#include <QDialog>
 #include <QMenu>
 #include <QPropertyAnimation>
+#include <QShortcut>
 
 using namespace CorvelGui;
 
@@ -52,17 +54,12 @@ private Q_SLOTS:
             IconButton* button = buttonOf(edit, FancyLineEdit::Right);
             QCOMPARE(edit.textMargins(), margins);
             QCOMPARE(button->geometry(), place);
-
-            button->setIconOpacity(0.0F); // counts for auto-hide only
-            const auto isRed = [&edit](QPoint at) {
-                return edit.grab().toImage().pixelColor(at) == QColor(Qt::red);
-            };
-            const bool drawn = !pixmap.isEmpty() && !place.isEmpty();
-            QCOMPARE(isRed(place.topLeft()) && isRed(place.bottomRight()), drawn);
-            edit.setButtonIcon(FancyLineEdit::Right, QIcon(redPixmap({64, 64})));
-            QCOMPARE(isRed(place.center()), !place.isEmpty());
-            button->setAutoHide(true);
-            QVERIFY(!isRed(place.center()));
+            button->setIconOpacity(0.0F);
+            for (const bool hides : {true, false}) {
+                button->setAutoHide(hides);
+                QCOMPARE(edit.grab().toImage().pixelColor(place.center()) == QColor(Qt::red),
+                         !hides && !pixmap.isEmpty() && !place.isEmpty());
+            }
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(button);
             QCOMPARE(accessible->role(), QAccessible::Button);
             QCOMPARE(accessible->text(QAccessible::Name), u"More"_s);
@@ -206,6 +203,64 @@ private Q_SLOTS:
                          screen + place);
             }
         }
+    }
+
+    void filterInADialog()
+    {
+        QDialog dialog;
+        auto* layout = new QVBoxLayout(&dialog);
+        auto* filter = new FilterLineEdit;
+        auto* button = new QPushButton(u"Close"_s);
+        layout->addWidget(filter);
+        layout->addWidget(button);
+        const auto open = [&dialog](QWidget* focus) {
+            dialog.show();
+            dialog.activateWindow();
+            focus->setFocus();
+            return QTest::qWaitForWindowActive(&dialog) && focus->hasFocus();
+        };
+        QVERIFY(open(filter));
+        QSignalSpy filtered(filter, &FilterLineEdit::filterChanged);
+
+        QTest::keyClick(filter, Qt::Key_A);
+        QTest::keyClick(filter, Qt::Key_B);
+        {
+            const QSignalBlocker unseen(filter);
+            filter->clear();
+        }
+        filter->setText(u"ab"_s);
+        QTest::mouseClick(buttonOf(*filter, FancyLineEdit::Right), Qt::LeftButton);
+        QCOMPARE(filtered, (QList<QVariantList>{{u"a"_s}, {u"ab"_s}, {QString()}}));
+        QVERIFY(filter->hasFocus());
+
+        // Escape clears before it means anything to the window.
+        auto* shortcut = new QShortcut(Qt::Key_Escape, &dialog);
+        QSignalSpy taken(shortcut, &QShortcut::activated);
+        filter->setText(u"north"_s);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        QVERIFY(filter->text().isEmpty());
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(taken.count(), 0);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        QCOMPARE(taken.count(), 1);
+        delete shortcut;
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+
+        // Neither for a field without focus nor against its will.
+        filter->setText(u"north"_s);
+        QVERIFY(open(button));
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        filter->setClearOnEscape(false);
+        QVERIFY(open(filter));
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(filter->text(), u"north"_s);
+        filter->setPlaceholderText(u"Find"_s);
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(filter, &change);
+        QCOMPARE(filter->placeholderText(), u"Find"_s);
     }
 };
 

@@ -168,6 +168,15 @@ void Scenes::smallInputs(Sheet& sheet)
         error->setError(u"The camera “Hall” does not answer. Check its address."_s);
         sheet.show(u"error"_s, error, {width, 0});
     }
+    auto* mirrored = new PErrorLabel;
+    mirrored->setError(u"No answer"_s);
+    sheet.show<PErrorLabel>(u"mirrored, larger error"_s, mirrored, {150, 0},
+                            [](PErrorLabel& label) {
+                                label.setLayoutDirection(Qt::RightToLeft);
+                                QFont font = label.font();
+                                font.setPointSize(14);
+                                label.setFont(font);
+                            });
     auto* bigError = new PErrorLabel;
     bigError->setError(u"No answer"_s);
     sheet.show(u"error at scale 2"_s, bigError, {100, 0}, {}, 2);
@@ -188,6 +197,7 @@ void Scenes::smallInputs(Sheet& sheet)
     }
     auto* bar = new ToolBarWithLabel(u"Cameras"_s, nullptr);
     bar->addLabel(u"Cameras"_s, QColor(60, 144, 224));
+    bar->addLabel(u"Roof"_s, QColor(222, 120, 20, 10));
     bar->addAction(PIconHelper::GetPlusIcon_32x32(true), u"Add"_s);
-    sheet.show(u"tool bar"_s, bar);
+    sheet.show(u"tool bar"_s, bar, {300, 0});
 }

@@ -81,6 +81,14 @@ void Scenes::icons(Sheet& sheet)
     for (const auto& [name, icon, onPlayer] : icons)
         sheet.paint(QString::fromLatin1(name), {185, 52},
                     [&](QPainter& painter) { paintIcon(painter, icon, onPlayer); });
+    for (const char* name : {"zoomout", "new", "save", "open", "fit", "binoculars", "rightarrow",
+                             "zoomin", "leftarrow", "saveas", "copy", "onetoone", "paste"}) {
+        const QIcon icon(u":/CorvelGui/common/%1.png"_s.arg(QLatin1StringView(name)));
+        for (const int scale : {1, 2})
+            sheet.paint(
+                QString::fromLatin1(name), {32, 32},
+                [&](QPainter& painter) { icon.paint(&painter, QRect(0, 0, 32, 32)); }, scale);
+    }
     sheet.paint(
         u"fractional scale"_s, {30, 18},
         [&](QPainter& painter) {
