@@ -1,25 +1,17 @@
-#include "colormetrics.h"
 #include "testsupport.h"
 
 #include <CorvelGui/PCsvDialog>
-#include <CorvelGui/PMainWindow>
 #include <CorvelGui/PTreeWidget>
 #include <CorvelGui/PTreeWidgetItem>
 #include <Hueloft/POrvGuiTheme>
 
 #include <QAction>
 #include <QMenu>
-#include <QStyledItemDelegate>
 
 using namespace CorvelGui;
 using Hueloft::POrvGuiTheme;
 
 namespace {
-
-struct Delegate : QStyledItemDelegate
-{
-    using QStyledItemDelegate::initStyleOption;
-};
 
 class ToolTipItem : public PTreeWidgetItem
 {
@@ -304,11 +296,6 @@ private Q_SLOTS:
         QVERIFY(tree.columnWidth(1) < 170);
         for (const int column : {-1, 3})
             tree.resizeColumnToContentsWithOffset(column, 20);
-        tree.setFontForHeaderBold();
-        tree.setHeaderTextAlignmentCenter();
-        QVERIFY(tree.header()->font().bold());
-        QCOMPARE(tree.header()->defaultAlignment(), Qt::AlignCenter);
-        tree.resizeAllColumnToContentsWithOffset(0);
         const int fitted = tree.columnWidth(0);
         tree.setColumnHidden(1, true);
         tree.resizeAllColumnToContentsWithOffset(20);
@@ -385,26 +372,6 @@ private Q_SLOTS:
                 QCOMPARE(item.font(1).bold(), bold);
             }
         }
-        // Shown in a shade that the look makes readable.
-        for (const bool dark : {true, false}) {
-            PMainWindow().createDarkFusionStyle(dark);
-            PTreeWidget tree;
-            tree.setColumnCount(2);
-            tree.addTopLevelItem(new Item);
-            tree.ensurePolished();
-            for (const auto& mark : marks) {
-                (static_cast<Item*>(tree.topLevelItem(0))->*mark.first)(0, true);
-                QStyleOptionViewItem option;
-                option.palette = tree.palette();
-                (static_cast<QStyledItemDelegate*>(tree.itemDelegate())
-                     ->*&Delegate::initStyleOption)(&option, tree.model()->index(0, 0));
-                const QColor shown = option.palette.color(QPalette::Text);
-                QCOMPARE_GE(contrast(shown, tree.palette().color(QPalette::Base)), 4.5);
-                const int turned = qAbs(shown.hslHue() - mark.second.hslHue());
-                QVERIFY(std::min(turned, 360 - turned) < 20); // and still the same colour
-            }
-        }
-        qApp->setStyleSheet(QString());
         item.setStandardColor(1);
         QCOMPARE(item.foreground(1).color(), QApplication::palette().color(QPalette::Text));
         QVERIFY(item.font(1).bold() && !item.font(0).bold());
