@@ -1,16 +1,18 @@
+#include "systemfacts.h"
 #include "testsupport.h"
 #include "times.h"
 
+#include <Corvel/SystemInformation>
 #include <Corvel/TimeZoneHelper>
 
-using Corvel::TimeZoneHelper;
+using namespace Corvel;
 
-class TestTimeZoneHelper : public WarningFreeTest
+class TestSystem : public WarningFreeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void names()
+    void zoneNames()
     {
         const std::pair<QString, QString> rows[] = {
             {u" Asia/Tokyo\n"_s, u"Asia/Tokyo"_s},
@@ -62,7 +64,28 @@ private Q_SLOTS:
             QCOMPARE(TimeZoneHelper::fromMSecsSinceEpoch(pass, QTimeZone()).toMSecsSinceEpoch(),
                      pass);
     }
+
+    void factsAreRead()
+    {
+        const QByteArray text = "MemTotal:  16318480 kB\nmodel name\t: A: b\nMemTotal: 1 kB\nx=y=z";
+        QCOMPARE(valueOf("MemTotal", text), "16318480 kB");
+        QCOMPARE(valueOf("model name", text), "A: b");
+        QCOMPARE(valueOf("x", text, '='), "y=z");
+        QCOMPARE(valueOf("Mem", text), QByteArray());
+        QCOMPARE(bytesOf("16318480 kB"), qint64(16'318'480) * 1024);
+        for (const char* size :
+             {"", "1", "1 MB", "-1 kB", "x kB", "1 kB kB", "9999999999999999 kB"})
+            QCOMPARE(bytesOf(size), -1);
+    }
+
+    void theMachineIsKnown()
+    {
+        const SystemInformation system = SystemInformation::current();
+        QVERIFY(system.memory > 64 * 1024 * 1024);
+        QVERIFY(system.availableMemory > 0 && system.availableMemory < system.memory);
+        QVERIFY(QTimeZone(system.timeZone.toUtf8()).isValid());
+    }
 };
 
-QTEST_GUILESS_MAIN(TestTimeZoneHelper)
-#include "tst_timezonehelper.moc"
+QTEST_GUILESS_MAIN(TestSystem)
+#include "tst_system.moc"
