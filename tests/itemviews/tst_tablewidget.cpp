@@ -181,6 +181,7 @@ private Q_SLOTS:
         QCOMPARE(table.columnWidth(0), 0);
         table.setFontForHeaderBold();
         table.setHeaderTextAlignmentCenter();
+        QVERIFY(table.horizontalHeader()->font().bold());
         QCOMPARE(table.horizontalHeader()->defaultAlignment(), Qt::AlignCenter);
     }
 

@@ -296,6 +296,9 @@ private Q_SLOTS:
         QVERIFY(tree.columnWidth(1) < 170);
         for (const int column : {-1, 3})
             tree.resizeColumnToContentsWithOffset(column, 20);
+        tree.setFontForHeaderBold();
+        QVERIFY(tree.header()->font().bold());
+        tree.resizeAllColumnToContentsWithOffset(0);
         const int fitted = tree.columnWidth(0);
         tree.setColumnHidden(1, true);
         tree.resizeAllColumnToContentsWithOffset(20);

@@ -170,16 +170,18 @@ void Scenes::smallInputs(Sheet& sheet)
     }
     auto* mirrored = new PErrorLabel;
     mirrored->setError(u"No answer"_s);
-    sheet.show<PErrorLabel>(u"mirrored, larger error"_s, mirrored, {150, 0},
-                            [](PErrorLabel& label) {
-                                label.setLayoutDirection(Qt::RightToLeft);
-                                QFont font = label.font();
-                                font.setPointSize(14);
-                                label.setFont(font);
-                            });
+    sheet.show<PErrorLabel>(u"mirrored error"_s, mirrored, {150, 0},
+                            [](PErrorLabel& label) { label.setLayoutDirection(Qt::RightToLeft); });
     auto* bigError = new PErrorLabel;
     bigError->setError(u"No answer"_s);
-    sheet.show(u"error at scale 2"_s, bigError, {100, 0}, {}, 2);
+    sheet.show<PErrorLabel>(
+        u"larger error at scale 2"_s, bigError, {100, 0},
+        [](PErrorLabel& label) {
+            QFont font = label.font();
+            font.setPointSize(14);
+            label.setFont(font);
+        },
+        2);
     sheet.show(u"clickable"_s, new PClickableLabel(u"Show the error"_s));
     sheet.show<PClickableLabel>(u"clickable, focus"_s, new PClickableLabel(u"Show the error"_s), {},
                                 [](PClickableLabel& label) { focus(label); });
