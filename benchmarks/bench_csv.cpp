@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writing lists of five columns as comma-separated values, every other row selected: each row is a
 // range of the selection of its own.
 

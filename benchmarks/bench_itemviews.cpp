@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What users do with trees and tables of more and more rows: filter, select, copy, sort, export,
 // expand, and remove. The time per row should not depend on the number of rows; sorting takes
 // n log n.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A step of a drag of a timeline with 300 lanes of 10 000 recordings each and a million events,
 // compared with that of a bare ruler.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What more and more markers cost on a ruler of 1920 pixels: steps of a drag from the mouse event
 // to the painted frame, hovering, markers that come and go one by one, and memory. A ratio compares
 // the processor time with that of the benchmark's first row.

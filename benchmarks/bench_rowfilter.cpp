@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a filter and an order of a long list cost the window: the whole time, and the longest time
 // for which the event loop handles nothing else.
 

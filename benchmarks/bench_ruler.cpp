@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Repainting a ruler of 1920 pixels at every zoom level, with recordings in view.
 
 #include <CorvelGui/Ruler>

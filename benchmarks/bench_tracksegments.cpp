@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Building the segments that are seen in a view of 1920 pixels out of more and more recorded spans.
 
 #include "timescale.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a picture of a clip costs: one after the other, back, at random, and for several cameras at
 // once.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How long the client's window keeps an event waiting while it shows cameras.
 
 #include "movingclip.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The same drag on a plotting widget, for comparison.
 
 #include "measure.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # One INTERFACE target for every compiler setting of this tree. It is never installed: clients choose their own.
 add_library(corvelgui_settings INTERFACE)
 target_compile_features(corvelgui_settings INTERFACE cxx_std_20)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The programs decode with FFmpeg; the libraries do not. CORVELGUI_FFMPEG_WINDOWS names the folder of one for Windows, with
 # relocatable pkg-config files.
 find_package(PkgConfig REQUIRED)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 set(CORVELGUI_HOST_BUILD "$ENV{CORVELGUI_HOST_BUILD}" CACHE PATH
     "Build tree for this machine whose clips a build for another system takes")
 

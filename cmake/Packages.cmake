@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What CPack makes of a build for Windows: the review client and all it needs, as a ZIP and as an installer.
 set(CPACK_PACKAGE_NAME corvelgui)
 set(CPACK_PACKAGE_VENDOR "The CorvelGui authors")

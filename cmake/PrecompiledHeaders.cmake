@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 set(CORVELGUI_PRECOMPILE_IN "" CACHE STRING
     "Folders of this tree in which the headers of Qt are precompiled: faster, but missing includes are not noticed")
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The one list of what clients may include, as <Package/Name>. The header of Name is its lower-case file.
 set(CORVEL_PUBLIC_HEADERS
     CheckAppUpdate

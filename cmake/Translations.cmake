@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Only the tools are needed, those of the machine that builds, so that a cross-build takes the same ones.
 get_filename_component(qt_prefix "${Qt6_DIR}/../../.." ABSOLUTE)
 foreach(tool IN ITEMS lrelease lupdate)

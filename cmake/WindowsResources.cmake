@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 set(CORVELGUI_WINDOWS_DIR "${CMAKE_CURRENT_LIST_DIR}/../packaging/windows")
 
 # corvelgui_windows_resources(<target> <description>)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What a program needs beside itself on a Windows machine that has neither Qt nor the compiler: the DLLs of both and of
 # FFmpeg, and Qt's plugins. They are copied beside the programs of the build tree, and belong to what the review client installs.
 set(runtime)

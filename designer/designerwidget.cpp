@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "designerwidget.h"
 
 #include <QWidget>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pictograms.h"
 
 #include <Hueloft/VectorIconEngine>

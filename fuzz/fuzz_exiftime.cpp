@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When a JPEG file from anybody says that it was taken.
 
 #include "fuzzing.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Feeds of news: whatever comes, each entry can be told from the others, has no more than there is
 // room for, and leads nowhere but to the web. libFuzzer's limits find what grows or takes long.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rules for typed file names: what they accept can be written to a drive and read back by them.
 
 #include "fuzzing.h"

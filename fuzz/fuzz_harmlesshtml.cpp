@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reduction of change logs: what is left has only allowed elements, well nested, and reducing
 // it again changes nothing. libFuzzer's time limit finds what is quadratic.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pictures of strangers: what is read keeps within the limits, and the rest is refused with words.
 
 #include "fuzzing.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // File names that are made of texts of strangers, and texts that are cut for want of room.
 
 #include "fuzzing.h"

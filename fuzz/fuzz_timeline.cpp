@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random operations on a ruler or a zoom timeline, and what a client does to them.
 
 #include "fuzzing.h"

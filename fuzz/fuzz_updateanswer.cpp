@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The answer to an update query: it is refused with a reason, or everything a client relies on is
 // there.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rules for server addresses: host and port of an accepted one make an accepted one again, and
 // Qt reads the same out of it.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The version file of a release channel: it is refused, or names a file and a version that is read
 // the same way again.
 

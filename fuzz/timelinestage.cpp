@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timelinestage.h"
 
 #include "fuzzing.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the user does to a timeline.
 
 #include "timelineplay.h"

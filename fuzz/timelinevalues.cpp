@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timelinevalues.h"
 
 #include <QPixmap>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "busyindicatorpage.h"
 
 #include <CorvelGui/BusyIndicator>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "colourspage.h"
 
 #include <Hueloft/POrvGuiTheme>

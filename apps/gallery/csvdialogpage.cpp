@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "csvdialogpage.h"
 
 #include <CorvelGui/PCsvDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "datespage.h"
 
 #include <CorvelGui/PDateEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "datetimeviewpage.h"
 
 #include <CorvelGui/TarvoDateTimeView>

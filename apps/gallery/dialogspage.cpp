@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogspage.h"
 
 #include <CorvelGui/PAskRefreshDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fancylineeditspage.h"
 
 #include <CorvelGui/FilterLineEdit>

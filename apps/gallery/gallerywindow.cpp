@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gallerywindow.h"
 
 #include "inspector/inspector.h"

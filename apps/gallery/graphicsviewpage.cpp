@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "graphicsviewpage.h"
 
 #include <CorvelGui/ZoomGraphicsView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "helperspage.h"
 
 #include <CorvelGui/StringHelper>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iconspage.h"
 
 #include <Hueloft/PIconHelper16x16>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "imagespage.h"
 
 #include <CorvelGui/ImageHelper>

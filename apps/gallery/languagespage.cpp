@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "languagespage.h"
 
 #include <CorvelGui/PLanguage>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lineeditspage.h"
 
 #include <CorvelGui/CheckDirLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "longlistpage.h"
 
 #include <CorvelGui/FilterLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lookspage.h"
 
 #include <CorvelGui/PTableWidget>

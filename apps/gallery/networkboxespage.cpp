@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "networkboxespage.h"
 
 #include <Corvel/NetworkInterfaceData>

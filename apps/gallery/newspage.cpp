@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "newspage.h"
 
 #include <CorvelGui/AboutInfo7>

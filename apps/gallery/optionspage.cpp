@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "optionspage.h"
 
 #include <CorvelGui/ISettingsPage>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overviewpage.h"
 
 #include <CorvelGui/TimelineScroll>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "playbarpage.h"
 
 #include <CorvelGui/PPlaybar>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printingpage.h"
 
 #include <CorvelGui/TextCursor>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "progresspage.h"
 
 #include <CorvelGui/PFractionalProgressBar>

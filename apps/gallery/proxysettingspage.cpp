@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "proxysettingspage.h"
 
 #include <CorvelGui/ProxySettingsWidget>

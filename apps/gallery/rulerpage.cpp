@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulerpage.h"
 
 #include <CorvelGui/Ruler>

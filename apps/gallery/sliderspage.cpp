@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "sliderspage.h"
 
 #include <CorvelGui/PSlider>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "smallinputspage.h"
 
 #include <CorvelGui/PClickableLabel>

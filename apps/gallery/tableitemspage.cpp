@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tableitemspage.h"
 
 #include <CorvelGui/PDeviceItem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tablepage.h"
 
 #include <CorvelGui/FilterLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tabwidgetpage.h"
 
 #include <CorvelGui/PTabWidget>

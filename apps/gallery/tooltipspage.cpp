@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tooltipspage.h"
 
 #include <CorvelGui/ToolTipHelper>

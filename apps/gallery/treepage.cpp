@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "treepage.h"
 
 #include <CorvelGui/FilterLineEdit>

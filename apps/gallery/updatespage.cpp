@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "updatespage.h"
 
 #include <CorvelGui/AppUpdater>

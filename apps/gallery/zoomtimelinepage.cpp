@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zoomtimelinepage.h"
 
 #include <CorvelGui/Ruler>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clipwriter.h"
 
 #include "video/ffmpeg.h"

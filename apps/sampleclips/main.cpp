@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes the clips of the review client's sample into a folder.
 
 #include "clipwriter.h"

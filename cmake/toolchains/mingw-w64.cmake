@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Cross-builds for 64-bit Windows with MinGW-w64 in its variant with posix threads, as Debian packages it.
 # CORVELGUI_QT_WINDOWS names the folder of a Qt built by the same compiler; Qt's tools are those of this machine.
 set(CMAKE_SYSTEM_NAME Windows)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checkappupdate.h"
 
 #include "proxynetworkaccessmanager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "limitedreply.h"
 
 #include "webaddress.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "networkinterfacedata.h"
 
 namespace Corvel {

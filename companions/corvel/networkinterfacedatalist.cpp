@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "networkinterfacedatalist.h"
 
 namespace Corvel {

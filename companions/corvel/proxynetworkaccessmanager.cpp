@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "proxynetworkaccessmanager.h"
 
 #include "limitedreply.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "proxyusersettings.h"
 
 #include "urlchecker.h"

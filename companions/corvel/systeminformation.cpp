@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "systeminformation.h"
 
 #include "host.h"

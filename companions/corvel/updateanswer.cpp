@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "updateanswer.h"
 
 #include "webaddress.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "urlchecker.h"
 
 #include <QHostAddress>

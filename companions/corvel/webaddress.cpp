@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "webaddress.h"
 
 using namespace Qt::StringLiterals;

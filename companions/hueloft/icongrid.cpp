@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "icongrid.h"
 
 #include <QPainterPathStroker>

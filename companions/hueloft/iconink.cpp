@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iconink.h"
 
 #include "porvguitheme.h"

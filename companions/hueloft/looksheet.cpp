@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "looksheet.h"
 
 #include "porvguitheme.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "piconhelper.h"
 
 #include "iconshapes.h"

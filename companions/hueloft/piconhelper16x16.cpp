@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "piconhelper16x16.h"
 
 #include "iconshapes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pmessagebox.h"
 
 #include "iconshapes.h"

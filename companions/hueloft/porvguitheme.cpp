@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "porvguitheme.h"
 
 #include "looksheet.h"

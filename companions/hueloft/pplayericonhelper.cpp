@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pplayericonhelper.h"
 
 #include "iconshapes.h"

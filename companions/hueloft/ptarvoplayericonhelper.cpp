@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptarvoplayericonhelper.h"
 
 #include "iconshapes.h"

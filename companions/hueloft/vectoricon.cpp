@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "vectoricon.h"
 
 #include "vectoriconengine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Filter a list of devices, select some rows, and export them as CSV.
 #include <CorvelGui/FilterLineEdit>
 #include <CorvelGui/PCsvDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialogs of the library: a table that is exported as CSV, a range of addresses, a password,
 // and a question at the start.
 #include <CorvelGui/PAskRefreshDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Entries that judge what is typed: "Save" waits for all of them. A range of addresses has a
 // dialog.
 #include <CorvelGui/CheckDirLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A form that was drawn in Designer: where recordings are kept, and for how long.
 #include "ui_archive.h"
 

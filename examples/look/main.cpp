@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dark and the light look, icons and colours that follow it, and message boxes in it.
 #include <CorvelGui/PMainWindow>
 #include <CorvelGui/ToolBarWithLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An options dialog with a page for the look, and one for the language of the library's texts.
 #include <CorvelGui/ISettingsPage>
 #include <CorvelGui/OptionsDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A plan with cameras: the wheel zooms, dragging the background pans, cameras can be moved.
 // "Another view" opens the same part of the plan again.
 #include <CorvelGui/ZoomGraphicsView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A player without pictures: the playbar moves a moment through a day, the read-out shows it, and a
 // click on the read-out jumps.
 #include <CorvelGui/PMainWindow>

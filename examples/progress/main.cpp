@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A search that takes a while: its progress in tenths of a per cent and on the taskbar button, and
 // a ring over the list that has nothing to show yet.
 #include <CorvelGui/BusyIndicator>

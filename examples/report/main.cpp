@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A report with a table that goes over several pages: looked at, printed, and saved as PDF.
 #include <CorvelGui/TextCursor>
 

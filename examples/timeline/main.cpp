@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Two cameras' recordings of a week with the events in them; a click or the arrow keys choose a
 // moment.
 #include <CorvelGui/Ruler>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Looks for a newer release at a server, offers it, and downloads its installer. "./dev
 // run-update-server" starts a server to try it with.
 #include <CorvelGui/PCheckVersionUpdate>

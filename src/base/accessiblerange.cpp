@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "accessiblerange.h"
 
 #include <QAccessibleWidget>

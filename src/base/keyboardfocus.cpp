@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "keyboardfocus.h"
 
 #include "devicegrid.h"

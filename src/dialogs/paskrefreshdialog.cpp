@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paskrefreshdialog.h"
 
 #include "ui_paskrefreshdialog.h"

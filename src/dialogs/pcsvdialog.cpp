@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pcsvdialog.h"
 
 #include "base/logging.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "piprangedialog.h"
 
 #include "ui_piprangedialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ppasswordinputdialog.h"
 
 #include "base/whilealive.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "iusersettings.h"
 
 IUserSettings::~IUserSettings() = default;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pbasedialog.h"
 
 namespace CorvelGui {

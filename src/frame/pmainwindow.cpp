@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pmainwindow.h"
 
 #include <Hueloft/POrvGuiTheme>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "stringhelper.h"
 
 #include <QFontMetrics>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolbarwithlabel.h"
 
 #include <QLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolshellhelper.h"
 
 #include "desktopshell.h"

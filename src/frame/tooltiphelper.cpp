@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tooltiphelper.h"
 
 #include <QByteArray>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "accessibleimage.h"
 
 #include "pimagewidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "imagefromrequestdescriptor.h"
 
 #include "pictureworks.h"

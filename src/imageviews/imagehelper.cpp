@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "imagehelper.h"
 
 #include "frame/stringhelper.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pictureplace.h"
 
 namespace CorvelGui {

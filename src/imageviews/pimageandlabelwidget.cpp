@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pimageandlabelwidget.h"
 
 #include "frame/stringhelper.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pimagewidget.h"
 
 #include "accessibleimage.h"

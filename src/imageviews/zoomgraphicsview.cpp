@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zoomgraphicsview.h"
 
 #include "base/whilealive.h"

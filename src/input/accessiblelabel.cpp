@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "accessiblelabel.h"
 
 #include "pclickablelabel.h"

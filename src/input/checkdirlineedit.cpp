@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checkdirlineedit.h"
 
 #include "typedfile.h"

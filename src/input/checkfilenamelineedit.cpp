@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checkfilenamelineedit.h"
 
 #include "typedfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "colorchoice.h"
 
 #include <Hueloft/VectorIconEngine>

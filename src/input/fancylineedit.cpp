@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fancylineedit.h"
 
 #include "base/whilealive.h"

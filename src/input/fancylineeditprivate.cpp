@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fancylineeditprivate.h"
 
 #include "menuplacement.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "filenamerules.h"
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "filenamevalidatinglineedit.h"
 
 #include "filenamerules.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "filterlineedit.h"
 
 #include <Hueloft/PIconHelper16x16>

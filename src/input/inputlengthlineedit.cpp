@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputlengthlineedit.h"
 
 namespace CorvelGui {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "menuplacement.h"
 
 #include <QMenu>

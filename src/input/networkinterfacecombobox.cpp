@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "networkinterfacecombobox.h"
 
 #include <Corvel/Host>

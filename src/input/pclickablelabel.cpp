@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pclickablelabel.h"
 
 #include "accessiblelabel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pcolorbutton.h"
 
 #include "base/whilealive.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pcolorcombobox.h"
 
 #include "colorchoice.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "perrorlabel.h"
 
 #include "accessiblelabel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pfilechecklineedit.h"
 
 #include "typedfile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pfilterbutton.h"
 
 #include <Hueloft/VectorIconEngine>

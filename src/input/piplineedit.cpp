@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "piplineedit.h"
 
 #include "wrongentrysheet.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "plastactiontoolbutton.h"
 
 #include <QAction>

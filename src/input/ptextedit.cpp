@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptextedit.h"
 
 #include "base/whilealive.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "subnetmaskcombobox.h"
 
 #include <Corvel/SubNetMask>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "urllineedit.h"
 
 #include <Corvel/UrlChecker>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "validatebaselineedit.h"
 
 #include "wrongentrysheet.h"

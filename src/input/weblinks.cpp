@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "weblinks.h"
 
 #include <Corvel/UrlChecker>

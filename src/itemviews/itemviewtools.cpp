@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itemviewtools.h"
 
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pdeviceitem.h"
 
 namespace CorvelGui {

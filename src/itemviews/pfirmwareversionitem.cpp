@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pfirmwareversionitem.h"
 
 namespace CorvelGui {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pheadercheckmenu.h"
 
 #include "frame/stringhelper.h"

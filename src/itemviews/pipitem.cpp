@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pipitem.h"
 
 #include <QHostAddress>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "plineeditdelegate.h"
 
 #include "input/wrongentrysheet.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "plistactions.h"
 
 #include "dialogs/pcsvdialog.h"

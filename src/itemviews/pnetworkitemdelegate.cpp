@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pnetworkitemdelegate.h"
 
 #include "input/piplineedit.h"

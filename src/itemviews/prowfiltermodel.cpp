@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "prowfiltermodel.h"
 
 #include "frame/stringhelper.h"

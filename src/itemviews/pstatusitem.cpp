@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pstatusitem.h"
 
 #include <CorvelGui/ToolTipHelper>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptablewidget.h"
 
 #include "base/whilealive.h"

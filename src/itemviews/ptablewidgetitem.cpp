@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptablewidgetitem.h"
 
 #include <CorvelGui/ToolTipHelper>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptabwidget.h"
 
 #include "base/whilealive.h"

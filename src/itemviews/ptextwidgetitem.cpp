@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptextwidgetitem.h"
 
 #include "frame/stringhelper.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptreewidget.h"
 
 #include "itemviewtools.h"

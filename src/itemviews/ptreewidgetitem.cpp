@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ptreewidgetitem.h"
 
 #include <Hueloft/POrvGuiTheme>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rowdelegate.h"
 
 #include "base/readablecolor.h"

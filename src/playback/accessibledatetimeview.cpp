@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "accessibledatetimeview.h"
 
 #include "tarvodatetimeview.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "datecalendar.h"
 
 #include <Hueloft/POrvGuiTheme>

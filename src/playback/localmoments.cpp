@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "localmoments.h"
 
 #include <QLocale>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "momententry.h"
 
 #include "localmoments.h"

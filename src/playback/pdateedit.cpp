@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pdateedit.h"
 
 #include "datecalendar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pdatetimeselectiondialog.h"
 
 #include "base/controlemissions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pinputdatetimewithrange.h"
 
 #include "base/controlemissions.h"

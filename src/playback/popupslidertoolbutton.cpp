@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "popupslidertoolbutton.h"
 
 #include "base/controlemissions.h"

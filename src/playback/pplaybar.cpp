@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pplaybar.h"
 
 #include "base/controlemissions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pslider.h"
 
 #include "base/accessiblerange.h"

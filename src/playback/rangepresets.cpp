@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rangepresets.h"
 
 #include "localmoments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rangeslider.h"
 
 #include "base/wheelturns.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rangesliderhandle.h"
 
 #include <Hueloft/POrvGuiTheme>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tarvodatetimeview.h"
 
 #include "accessibledatetimeview.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tarvotoolbutton.h"
 
 #include <QCursor>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "videoslider.h"
 
 #include "base/accessiblerange.h"

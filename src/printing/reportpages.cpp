@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reportpages.h"
 
 #include "reportdocument.h"

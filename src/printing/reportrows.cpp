@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reportrows.h"
 
 #include "reportdocument.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "textcursor.h"
 
 #include "base/wholefile.h"

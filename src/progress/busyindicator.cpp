@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "busyindicator.h"
 
 #include "base/whilealive.h"

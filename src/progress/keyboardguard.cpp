@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "keyboardguard.h"
 
 #include "busyindicator.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pfractionalprogressbar.h"
 
 using namespace Qt::StringLiterals;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "taskbarprogress.h"
 
 #include "base/logging.h"

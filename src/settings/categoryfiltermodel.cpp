@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "categoryfiltermodel.h"
 
 #include "categorymodel.h"

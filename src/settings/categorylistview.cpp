@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "categorylistview.h"
 
 #include <QScrollBar>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "categorylistviewdelegate.h"
 
 #include "base/readablecolor.h"

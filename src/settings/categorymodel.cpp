@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "categorymodel.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "isettingspage.h"
 
 #include "settingsmanager.h"

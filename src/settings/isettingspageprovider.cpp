@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "isettingspageprovider.h"
 
 #include "settingsmanager.h"

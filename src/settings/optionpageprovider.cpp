@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "optionpageprovider.h"
 
 #include "isettingspage.h"

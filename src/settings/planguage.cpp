@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "planguage.h"
 
 #include "base/logging.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "planguagedialog.h"
 
 #include "base/logging.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "proxysettingswidget.h"
 
 #include "base/whilealive.h"

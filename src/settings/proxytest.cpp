@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "proxytest.h"
 
 #include <Corvel/RequestLimits>

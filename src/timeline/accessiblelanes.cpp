@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "accessiblelanes.h"
 
 #include "timelinelanes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "activitypicture.h"
 
 #include "rulerpainter.h"

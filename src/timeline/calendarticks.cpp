@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "calendarticks.h"
 
 #include "durations.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clockchanges.h"
 
 #include <Corvel/TimeZoneHelper>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "edgescroll.h"
 
 #include "ruler_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lanepainter.h"
 
 #include "base/devicegrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "markerbadge.h"
 
 #include "severitycolors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "markerbars.h"
 
 #include "base/devicegrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "markerlist.h"
 
 #include "severitycolors.h"

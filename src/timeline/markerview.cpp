@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "markerview.h"
 
 #include "timescale.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rangehandle.h"
 
 #include "base/keyboardfocus.h"

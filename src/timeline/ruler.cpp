@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "activityhistogram.h"
 #include "ruler_p.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulerarrows.h"
 
 #include "timescale.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What clients ask of a place of the ruler, and how the user asks for a menu there.
 
 #include "rulercontext.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the ruler shows of its markers on request: durations, severities, and what a merged symbol
 // stands for.
 

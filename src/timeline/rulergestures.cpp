@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulergestures.h"
 
 #include "ruler_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulerhover.h"
 
 #include "base/whilealive.h"

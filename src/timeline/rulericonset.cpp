@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulericonset.h"
 
 #include <Hueloft/POrvGuiTheme>

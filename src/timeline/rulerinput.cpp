@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the ruler hears of mouse, wheel and keys. Gestures and hover preview do the rest.
 
 #include "ruler_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the keys of a ruler do.
 
 #include "ruler_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the ruler looks: colours, sizes, recorded tracks, painting, and where its children stand.
 
 #include "ruler_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulermarker.h"
 
 namespace CorvelGui {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulermarkerbutton.h"
 
 #include "frame/stringhelper.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What symbols show and do beyond standing for markers: counts, severities, durations, lists.
 
 #include "markerbars.h"

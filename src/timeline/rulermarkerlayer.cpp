@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulermarkerlayer.h"
 
 #include "rulermarkerbutton.h"

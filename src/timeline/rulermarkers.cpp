@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulermarkers.h"
 
 #include "frame/stringhelper.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulerpainter.h"
 
 #include "base/devicegrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What clients set of the ruler, read again.
 
 #include "ruler_p.h"

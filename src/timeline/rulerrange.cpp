@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulerrange.h"
 
 #include "frame/stringhelper.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The range that is selected on the ruler, as clients ask for it.
 
 #include "ruler_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What clients ask of the ruler's view, and how it follows the indicator.
 
 #include "ruler_p.h"

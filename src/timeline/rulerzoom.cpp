@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the ruler zooms: to a level or to any length of the view, and back.
 
 #include "ruler_p.h"

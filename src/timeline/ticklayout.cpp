@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ticklayout.h"
 
 #include "calendarticks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timelinelanes.h"
 
 #include "accessiblelanes.h"

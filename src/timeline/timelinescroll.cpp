@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/devicegrid.h"
 #include "base/whilealive.h"
 #include "timelinescroll_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The strip while it shows the activity: a box whose edges can be moved, on the scale of a ruler.
 
 #include "base/devicegrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timescale.h"
 
 #include "calendarticks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tracklanes.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tracksegments.h"
 
 #include "timescale.h"

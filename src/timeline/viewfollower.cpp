@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewfollower.h"
 
 #include "timescale.h"

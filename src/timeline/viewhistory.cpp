@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewhistory.h"
 
 using namespace std::chrono_literals;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewrest.h"
 
 #include "ruler_p.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zoomer.h"
 
 #include "base/controlemissions.h"

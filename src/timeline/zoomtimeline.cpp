@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zoomtimeline.h"
 
 #include "base/whilealive.h"

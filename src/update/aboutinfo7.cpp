@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "aboutinfo7.h"
 
 #include "harmlessbrowser.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "appupdater.h"
 
 #include "appupdaterdialog.h"

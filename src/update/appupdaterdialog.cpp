@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "appupdaterdialog.h"
 
 #include "ui_appupdaterdialog.h"

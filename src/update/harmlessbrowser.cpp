@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "harmlessbrowser.h"
 
 #include "harmlesshtml.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "harmlesshtml.h"
 
 #include "weblink.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "info3rdlicences.h"
 
 #include "licencetext.h"

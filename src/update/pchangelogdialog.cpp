@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pchangelogdialog.h"
 
 #include "harmlessbrowser.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pcheckversionupdate.h"
 
 #include "base/logging.h"

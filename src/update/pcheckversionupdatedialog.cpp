@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pcheckversionupdatedialog.h"
 
 #include "pchangelogdialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "psysteminfowidget.h"
 
 #include <CorvelGui/StringHelper>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rssfeeddialog.h"
 
 #include "base/whilealive.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "versionfile.h"
 
 #include <QHash>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/readablecolor.h"
 #include "colormetrics.h"
 #include "testsupport.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "colormetrics.h"
 #include "testsupport.h"
 

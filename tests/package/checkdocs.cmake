@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What the documents quote and link to is there: a block of code that names a file, as in "```cpp examples/look/main.cpp",
 # stands in that file but for its indentation, every example stands in some document, and links within the tree lead
 # somewhere.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Included by each project() of what the package test builds.
 set(quit_when_painted "${CMAKE_CURRENT_LIST_DIR}/quitwhenpainted.cpp")
 cmake_language(DEFER CALL let_programs_quit)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Part of each program that the package test builds: ends it once its first window is painted.
 #include <QApplication>
 #include <QImage>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Follows README with this build: installs it, moves the installation elsewhere, then builds and starts the review
 # client, README's own program and each of the examples from there.
 function(run)

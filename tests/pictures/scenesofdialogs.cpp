@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "memorypasswordstore.h"
 #include "scenes.h"
 #include "sheet.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "momententry.h"
 #include "rangepresets.h"
 #include "testsupport.h"

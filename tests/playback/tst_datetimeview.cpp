@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "jumptotimepointdialog.h"
 #include "localmoments.h"
 #include "testsupport.h"

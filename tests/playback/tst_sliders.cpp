@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rangevalues.h"
 #include "seekgate.h"
 #include "slidertip.h"

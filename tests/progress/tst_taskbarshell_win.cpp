@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "taskbarbackend.h"
 #include "testsupport.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes the clips of the tests, in the forms that cameras record in, into a folder.
 
 #include "numberedclip.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "footage/footage.h"
 #include "lists/eventtable.h"
 #include "look/zonecombo.h"

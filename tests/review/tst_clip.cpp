@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "numberedclip.h"
 #include "video/clip.h"
 

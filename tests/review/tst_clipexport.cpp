@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "data/eventwriter.h"
 #include "data/reviewloader.h"
 #include "export/clipexport.h"

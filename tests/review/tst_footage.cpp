@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "footage/exiftime.h"
 #include "footage/footageindex.h"
 #include "footage/loadjob.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "data/csvreader.h"
 #include "data/eventwriter.h"
 #include "data/instant.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "data/reviewloader.h"
 #include "export/clipdialog.h"
 #include "export/eventreport.h"

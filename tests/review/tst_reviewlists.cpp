@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/deviceaddress.h"
 #include "lists/devicepane.h"
 #include "lists/devicetree.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "look/languages.h"
 #include "memorypasswordstore.h"
 #include "options/settingsstore.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "data/trackhistory.h"
 #include "lists/deviceitem.h"
 #include "numberedclip.h"

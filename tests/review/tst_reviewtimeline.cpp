@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/deviceitem.h"
 #include "lists/eventtexts.h"
 #include "look/eventicons.h"

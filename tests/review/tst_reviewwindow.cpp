@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/deviceitem.h"
 #include "samplewindow.h"
 #include "testsupport.h"

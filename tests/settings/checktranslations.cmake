@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Fails if the sources have texts that the translation lacks, or the other way round, or if one is not translated.
 file(COPY_FILE "${FILE}" "${COPY}")
 execute_process(COMMAND ${COMMAND} "${COPY}" COMMAND_ERROR_IS_FATAL ANY)

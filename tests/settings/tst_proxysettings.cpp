@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "memorypasswordstore.h"
 #include "scriptedserver.h"
 #include "testsupport.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "scriptedserver.h"
 
 using LocalHttp::Answer;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "visibletexts.h"
 
 #include <QAbstractItemView>

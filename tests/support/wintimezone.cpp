@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <cstdlib>
 
 // The tests run with TZ=Europe/Brussels. Wine takes the zone of the machine from it, but the C

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "activityhistogram.h"
 #include "loggedruler.h"
 #include "overviewbox.h"

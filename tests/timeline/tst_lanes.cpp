@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lanelayout.h"
 #include "loggedruler.h"
 #include "testsupport.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "loggedruler.h"
 #include "markerbadge.h"
 #include "markerbars.h"

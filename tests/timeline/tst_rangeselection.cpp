@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lengthlabel.h"
 #include "rangehandle.h"
 #include "rulerscript.h"

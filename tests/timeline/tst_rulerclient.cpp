@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a client needs to load what is looked at, and to answer a right click.
 
 #include "loggedruler.h"

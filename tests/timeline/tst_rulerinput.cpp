@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hoverpreview.h"
 #include "rulerscript.h"
 

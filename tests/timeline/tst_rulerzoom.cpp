@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rulerscript.h"
 #include "testsupport.h"
 #include "viewhistory.h"

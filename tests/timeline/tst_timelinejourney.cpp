@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One user's way over the whole timeline, as its window hears of mouse and keys.
 
 #include "indicator.h"

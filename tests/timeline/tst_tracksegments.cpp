@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "testscale.h"
 #include "testsupport.h"
 #include "timespans.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "loggedruler.h"
 
 #include <CorvelGui/Indicator>

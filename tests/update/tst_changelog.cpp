@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "harmlesshtml.h"
 #include "testsupport.h"
 #include "useranswers.h"

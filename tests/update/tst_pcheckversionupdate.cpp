@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "updatebench.h"
 
 #include <CorvelGui/PChangeLogDialog>

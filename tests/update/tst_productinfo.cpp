@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "licencetext.h"
 #include "testsupport.h"
 #include "useranswers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "installerpath.h"
 #include "testsupport.h"
 #include "versionfile.h"

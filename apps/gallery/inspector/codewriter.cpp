@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "codewriter.h"
 
 #include "knownwidgets.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "knownwidgets.h"
 
 #include "widgets.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propertydelegate.h"
 
 #include "propertymodel.h"

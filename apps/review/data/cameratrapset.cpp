@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cameratrapset.h"
 
 #include "eventkind.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "csvreader.h"
 
 #include <QByteArrayView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "csvtable.h"
 
 #include "csvreader.h"

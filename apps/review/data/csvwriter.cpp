@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "csvwriter.h"
 
 #include <QDateTime>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventkind.h"
 
 using namespace Qt::StringLiterals;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "filewriter.h"
 
 #include <QSaveFile>

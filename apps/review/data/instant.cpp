@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "instant.h"
 
 #include <QDate>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "jsonlines.h"
 
 #include "textfile.h"

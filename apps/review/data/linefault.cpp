@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "linefault.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lineparser.h"
 
 #include "instant.h"

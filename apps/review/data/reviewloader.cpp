@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reviewloader.h"
 
 #include "cameratrapset.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "sampledata.h"
 
 #include "sampleclips.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clipdialog.h"
 
 #include "data/eventwriter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clipexport.h"
 
 #include "clipfolder.h"

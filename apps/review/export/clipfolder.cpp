@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clipfolder.h"
 
 #include "data/filewriter.h"

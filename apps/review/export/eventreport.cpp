@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventreport.h"
 
 #include "video/camerapicture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exportdialog.h"
 
 #include "folderchoice.h"

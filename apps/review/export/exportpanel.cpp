@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exportpanel.h"
 
 #include "clipdialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "folderchoice.h"
 
 #include <CorvelGui/CheckDirLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pictureexport.h"
 
 #include "filenames.h"

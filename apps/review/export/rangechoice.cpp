@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rangechoice.h"
 
 #include "video/hoverpicture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exiftime.h"
 
 #include <QByteArrayView>

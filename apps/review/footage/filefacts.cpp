@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "filefacts.h"
 
 #include "data/videofile.h"

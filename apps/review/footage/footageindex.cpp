@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "footageindex.h"
 
 #include "data/filewriter.h"

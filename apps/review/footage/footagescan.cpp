@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "footagescan.h"
 
 #include <QDateTime>

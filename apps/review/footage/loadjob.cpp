@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "loadjob.h"
 
 #include "data/leavethread.h"

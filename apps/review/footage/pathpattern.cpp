@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "pathpattern.h"
 
 #include "timeinpath.h"

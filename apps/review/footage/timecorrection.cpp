@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timecorrection.h"
 
 #include <Corvel/TimeZoneHelper>

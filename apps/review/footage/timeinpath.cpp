@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timeinpath.h"
 
 #include <utility>

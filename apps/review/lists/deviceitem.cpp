@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "deviceitem.h"
 
 #include "deviceaddress.h"

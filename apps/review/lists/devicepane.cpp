@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "devicepane.h"
 
 #include "deviceaddress.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "devicetree.h"
 
 #include "look/listlook.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "durationfilter.h"
 
 #include <CorvelGui/RangeSlider>

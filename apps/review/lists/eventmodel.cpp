@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventmodel.h"
 
 #include "look/eventicons.h"

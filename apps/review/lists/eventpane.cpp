@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventpane.h"
 
 #include "data/eventwriter.h"

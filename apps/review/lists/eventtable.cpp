@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventtable.h"
 
 #include "durationfilter.h"

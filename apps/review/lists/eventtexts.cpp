@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventtexts.h"
 
 #include <CorvelGui/StringHelper>

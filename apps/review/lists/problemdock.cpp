@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "problemdock.h"
 
 #include "look/roomydelegate.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "elidedlabel.h"
 
 #include <QHelpEvent>

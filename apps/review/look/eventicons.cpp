@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventicons.h"
 
 #include <Hueloft/POrvGuiTheme>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flowlayout.h"
 
 #include <QStyle>

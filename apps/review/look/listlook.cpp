@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listlook.h"
 
 #include "roomydelegate.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "statesign.h"
 
 #include <Hueloft/VectorIconEngine>

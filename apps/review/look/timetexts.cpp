@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timetexts.h"
 
 #include <Corvel/TimeZoneHelper>

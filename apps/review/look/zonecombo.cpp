@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "zonecombo.h"
 
 #include <Corvel/TimeZoneHelper>

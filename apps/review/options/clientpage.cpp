@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clientpage.h"
 
 #include "settingsstore.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "keyboardpage.h"
 
 #include "playback/speedmenu.h"

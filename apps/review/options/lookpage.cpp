@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lookpage.h"
 
 #include "look/languages.h"

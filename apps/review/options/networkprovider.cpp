@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "networkprovider.h"
 
 #include "proxypage.h"

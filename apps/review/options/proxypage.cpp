@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "proxypage.h"
 
 #include "settingsstore.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "proxypassword.h"
 
 #include "settingsstore.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reviewsettings.h"
 
 #include "look/languages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settingsstore.h"
 
 #include <CorvelGui/IUserSettings>

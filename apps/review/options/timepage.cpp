@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timepage.h"
 
 #include "look/zonecombo.h"

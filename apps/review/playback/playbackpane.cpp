@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "playbackpane.h"
 
 #include "cameraview.h"

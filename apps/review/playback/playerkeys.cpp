@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "playerkeys.h"
 
 #include <CorvelGui/TarvoDateTimeView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recordingbar.h"
 
 #include "look/elidedlabel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "shortcuts.h"
 
 using CorvelGui::PPlaybar;

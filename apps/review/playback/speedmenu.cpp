@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "speedmenu.h"
 
 #include "player.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transportbar.h"
 
 #include "look/elidedlabel.h"

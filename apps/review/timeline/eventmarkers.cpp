@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "eventmarkers.h"
 
 #include "data/eventkind.h"

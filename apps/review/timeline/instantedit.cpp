@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "instantedit.h"
 
 #include "look/typedtime.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "previewcard.h"
 
 #include "look/eventicons.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rangepanel.h"
 
 #include "instantedit.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timelinemenu.h"
 
 #include "session/clock.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timelinepane.h"
 
 #include "session/clock.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timelinepreview.h"
 
 #include <CorvelGui/Ruler>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "timelinetoolbar.h"
 
 #include "followmenu.h"

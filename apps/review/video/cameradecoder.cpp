@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cameradecoder.h"
 
 #include "data/leavethread.h"

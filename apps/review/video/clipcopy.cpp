@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clipcopy.h"
 
 #include "packetsource.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exifwriter.h"
 
 #include <QDateTime>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "frameconverter.h"
 
 #include "container.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hoverpicture.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mp4file.h"
 
 #include "container.h"

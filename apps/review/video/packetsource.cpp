@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "packetsource.h"
 
 #include "clip.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "picturefile.h"
 
 #include "camerapicture.h"

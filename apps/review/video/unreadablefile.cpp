@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "unreadablefile.h"
 
 #include "ffmpeg.h"

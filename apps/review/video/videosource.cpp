@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "videosource.h"
 
 #include "unreadablefile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cameratimesdialog.h"
 
 #include "look/roomydelegate.h"

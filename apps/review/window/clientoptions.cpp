@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "clientoptions.h"
 
 #include "look/languages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "loadpanel.h"
 
 #include "footage/loadjob.h"

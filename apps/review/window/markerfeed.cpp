@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "markerfeed.h"
 
 #include "timeline/eventmarkers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recordingwatch.h"
 
 #include "reviewopener.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reviewmenubar.h"
 
 #include "lists/devicepane.h"

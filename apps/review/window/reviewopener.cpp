@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reviewopener.h"
 
 #include "data/letgo.h"

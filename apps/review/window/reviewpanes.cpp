@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reviewpanes.h"
 
 #include "data/letgo.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reviewstatusbar.h"
 
 #include "data/reviewdata.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reviewwindow.h"
 
 #include "cameratimesdialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "updatemenu.h"
 
 #include <CorvelGui/AppUpdater>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "misbehaviour.h"
 
 using namespace Qt::StringLiterals;
