@@ -14,18 +14,10 @@
 #include <CorvelGui/Ruler>
 
 #include <QAction>
-#include <QDialogButtonBox>
-#include <QDir>
 #include <QImage>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTreeWidget>
 
-using namespace Qt::StringLiterals;
 using namespace Review;
 using CorvelGui::Ruler;
 

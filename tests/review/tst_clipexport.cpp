@@ -9,12 +9,8 @@
 #include "video/videosource.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QLockFile>
-#include <QTemporaryDir>
-#include <QTest>
 
-using namespace Qt::StringLiterals;
 using namespace Review;
 using NumberedClip::numberOf;
 

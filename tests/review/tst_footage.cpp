@@ -6,16 +6,9 @@
 #include "numberedclip.h"
 #include "testsupport.h"
 
-#include <QDir>
-#include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <algorithm>
 
 using namespace Review;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {

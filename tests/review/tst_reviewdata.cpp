@@ -12,12 +12,7 @@
 
 #include <QHash>
 #include <QStringConverter>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include <utility>
-
-using namespace Qt::StringLiterals;
 using namespace Review;
 using CorvelGui::TimeSpan;
 using CorvelGui::TrackDescription;

@@ -14,7 +14,6 @@
 #include <CorvelGui/RulerMarkerButton>
 #include <CorvelGui/TimelineScroll>
 
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QStatusBar>

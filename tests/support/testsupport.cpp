@@ -5,9 +5,6 @@
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 
 QStringList unreachedByTab(const QWidget& window)
 {

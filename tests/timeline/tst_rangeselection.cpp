@@ -4,10 +4,7 @@
 #include "rulerscript.h"
 #include "testsupport.h"
 
-#include <QTimer>
-
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -10,11 +10,8 @@
 #include <CorvelGui/ZoomTimeline>
 
 #include <QContextMenuEvent>
-#include <QPointer>
-#include <QSignalSpy>
 
 using namespace CorvelGui;
-using namespace Qt::StringLiterals;
 
 namespace {
 

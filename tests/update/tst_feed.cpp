@@ -7,7 +7,6 @@
 #include <CorvelGui/RSSFeedDialog>
 
 #include <QElapsedTimer>
-#include <QSettings>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
