@@ -14,7 +14,7 @@ namespace CorvelGui {
 namespace {
 
 constexpr qreal textPoints = 9;
-constexpr qreal pixelsPerInch = 96;
+constexpr qreal logicalPixelsPerInch = 96;
 
 /// Photographs take a tenth as JPEG of what they take as PNG. What is transparent needs PNG.
 QByteArray compressed(const QImage& picture)
@@ -58,7 +58,8 @@ ReportDocument::ReportDocument(QObject* parent) : QTextDocument(parent)
 
 QTextImageFormat ReportDocument::addPicture(const QImage& picture, const QSizeF& room)
 {
-    const QSizeF meant = QSizeF(picture.deviceIndependentSize()) * dotsPerInch / pixelsPerInch;
+    const QSizeF meant =
+        QSizeF(picture.deviceIndependentSize()) * dotsPerInch / logicalPixelsPerInch;
     const bool fits = meant.width() <= room.width() && meant.height() <= room.height();
     const QSizeF size = fits ? meant : meant.scaled(room, Qt::KeepAspectRatio);
     // No more pixels than there are dots.
