@@ -130,6 +130,17 @@ private Q_SLOTS:
         QTRY_VERIFY(!alive);
     }
 
+    void theNextImageOfTheSameSizeShows()
+    {
+        PImageWidget widget;
+        QImage image(20, 20, QImage::Format_RGB32);
+        for (const QColor color : {Qt::red, Qt::blue}) {
+            image.fill(color);
+            widget.setImage(image);
+            QCOMPARE(widget.grab().toImage().pixelColor(widget.rect().center()), color);
+        }
+    }
+
     void labelsNameTheirPictures()
     {
         PImageAndLabelWidget widget;

@@ -66,6 +66,15 @@ class TestPCheckVersionUpdate : public WarningFreeTest
 private Q_SLOTS:
     void initTestCase() { QCoreApplication::setApplicationName(title); }
 
+    void titleOfTheCallerStays()
+    {
+        PCheckVersionUpdateDialog dialog({}, {});
+        dialog.setWindowTitle(u"Mine"_s);
+        QEvent change(QEvent::LanguageChange);
+        QApplication::sendEvent(&dialog, &change);
+        QCOMPARE(dialog.windowTitle(), u"Mine"_s);
+    }
+
     void checks()
     {
         const QByteArray in = "/in/version.txt";
