@@ -22,7 +22,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT PImageWidget : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)
+    Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged DESIGNABLE false)
     Q_PROPERTY(Fit fit READ fit WRITE setFit NOTIFY fitChanged)
     Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment NOTIFY alignmentChanged)
     Q_PROPERTY(qreal aspectRatio READ aspectRatio WRITE setAspectRatio NOTIFY aspectRatioChanged)
@@ -38,6 +38,7 @@ public:
         Stretch, ///< all of the picture in all of the room, whatever that does to its shape
     };
     Q_ENUM(Fit)
+    using enum Fit; // what is made of forms leaves out its name
 
     enum class State {
         Empty,   ///< nothing to show

@@ -16,7 +16,7 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT IconButton : public QAbstractButton
 {
     Q_OBJECT
-    Q_PROPERTY(float iconOpacity READ iconOpacity WRITE setIconOpacity)
+    Q_PROPERTY(float iconOpacity READ iconOpacity WRITE setIconOpacity DESIGNABLE false)
     Q_PROPERTY(bool autoHide READ hasAutoHide WRITE setAutoHide)
     Q_PROPERTY(QPixmap pixmap READ pixmap WRITE setPixmap)
 

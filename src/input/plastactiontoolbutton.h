@@ -20,7 +20,8 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT PLastActionToolButton : public QToolButton, public IUserSettings
 {
     Q_OBJECT
-    Q_PROPERTY(QAction* lastAction READ lastAction WRITE setLastAction NOTIFY lastActionChanged)
+    Q_PROPERTY(QAction* lastAction READ lastAction WRITE setLastAction NOTIFY lastActionChanged
+                   DESIGNABLE false)
 
 public:
     /// With an empty menu of its own, which menu() returns for the client to fill.

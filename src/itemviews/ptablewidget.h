@@ -67,7 +67,8 @@ public:
     /// Fits a column to its contents and widens it by @p offset pixels; a negative one narrows it.
     /// Hidden columns stay as they are.
     void resizeColumnToContentsWithOffset(int column, int offset);
-    /// The same for all columns but the last, which keeps stretching.
+    /// The same for all columns but the last, which is meant to stretch: see
+    /// QHeaderView::setStretchLastSection().
     void resizeAllColumnToContentsWithOffset(int offset);
 
     /// Shows the rows in which a cell contains @p text, and hides the others. The text must be in

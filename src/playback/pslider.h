@@ -22,7 +22,7 @@ class CORVELGUI_EXPORT PSlider : public QSlider
     Q_OBJECT
     Q_PROPERTY(bool valueTip READ hasValueTip WRITE setValueTip NOTIFY valueTipChanged)
     Q_PROPERTY(CorvelGui::PSlider::TickTexts tickTexts READ tickTexts WRITE setTickTexts NOTIFY
-                   tickTextsChanged)
+                   tickTextsChanged DESIGNABLE false)
 
 public:
     /// Texts by their values.

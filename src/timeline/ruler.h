@@ -56,7 +56,7 @@ class CORVELGUI_EXPORT Ruler : public QWidget
     Q_PROPERTY(RangeSelection rangeSelection READ rangeSelection WRITE setRangeSelection NOTIFY
                    rangeSelectionChanged)
     Q_PROPERTY(CorvelGui::TimeSpan selectedRange READ selectedRange WRITE setSelectedRange NOTIFY
-                   selectedRangeChanged)
+                   selectedRangeChanged DESIGNABLE false)
     Q_PROPERTY(QString timeZone READ timeZone WRITE setTimeZone)
     Q_PROPERTY(quint64 indicatorMSecs READ exactIndicatorMSecs WRITE setIndicatorPosition NOTIFY
                    indicatorPositionChanged DESIGNABLE false)
@@ -87,6 +87,7 @@ public:
         Smooth ///< at every step, while the indicator is in the first or last quarter of the view
     };
     Q_ENUM(FollowMode)
+    using enum FollowMode; // what is made of forms leaves out an enumeration's name
 
     /// What a click on the symbol of merged markers does.
     enum class MergedClick {
@@ -95,14 +96,16 @@ public:
         Zoom  ///< shows a view in which they fall apart, or the list where there is none
     };
     Q_ENUM(MergedClick)
+    using enum MergedClick;
 
     /// How the user selects a range.
     enum class RangeSelection {
-        Off,       ///< not at all
-        ShiftDrag, ///< by a drag with Shift
-        Drag       ///< by a drag; one with Shift moves the view
+        NoSelection, ///< not at all
+        ShiftDrag,   ///< by a drag with Shift
+        Drag         ///< by a drag; one with Shift moves the view
     };
     Q_ENUM(RangeSelection)
+    using enum RangeSelection;
 
     explicit Ruler(QWidget* parent = nullptr);
     ~Ruler() override;

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QIcon>
 #include <QList>
+#include <QObject>
 #include <QString>
 #include <QUuid>
 
@@ -34,8 +35,11 @@ public:
 };
 
 /// A labelled instant on the ruler, such as an event or a bookmark.
-struct RulerMarker
+struct CORVELGUI_EXPORT RulerMarker
 {
+    Q_GADGET
+
+public:
     /// The kind of markers whose icon comes from their provider. All others have the ruler's own
     /// icon.
     static constexpr int providedIconKind = 3;
@@ -43,6 +47,7 @@ struct RulerMarker
     /// How bad it is, from harmless to worst. It has a colour where the timeline shows severities:
     /// in the strip while its activity is visible, and on the ruler with its markerDetails.
     enum class Severity : quint8 { None, Information, Warning, Alarm };
+    Q_ENUM(Severity)
     static constexpr std::size_t severityCount = 4;
 
     QUuid identifier = {};
@@ -62,16 +67,17 @@ struct RulerMarker
     bool operator==(const RulerMarker&) const = default;
 };
 
-/// What to do with the markers of a ruler. Codes beyond those listed do nothing.
-struct RulerMarkerOperation
+/// What to do with the markers of a ruler.
+struct CORVELGUI_EXPORT RulerMarkerOperation
 {
-    static constexpr int show = 1;
-    static constexpr int hide = 2;
-    static constexpr int clear = 3;
-    static constexpr int add = 4;
-    static constexpr int remove = 5;
+    Q_GADGET
+
+public:
+    enum Code : int { show = 1, hide = 2, clear = 3, add = 4, remove = 5 };
+    Q_ENUM(Code)
 
     QList<RulerMarker> markers = {};
+    /// A Code; numbers beyond those do nothing.
     int code = 0;
 };
 

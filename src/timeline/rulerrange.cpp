@@ -125,7 +125,8 @@ TimeSpan RulerRange::shownRange() const
 
 void RulerRange::layOut()
 {
-    const bool usable = m_mode != Ruler::RangeSelection::Off && d.active && d.scale.hasView();
+    const bool usable =
+        m_mode != Ruler::RangeSelection::NoSelection && d.active && d.scale.hasView();
     const TimeSpan range = shownRange();
     for (RangeHandle* handle : m_handles) {
         const double x =
@@ -168,7 +169,8 @@ void RulerRange::showLength()
 bool RulerRange::isSelecting(Qt::KeyboardModifiers held) const
 {
     const bool withShift = m_mode == Ruler::RangeSelection::ShiftDrag;
-    return m_mode != Ruler::RangeSelection::Off && held.testFlag(Qt::ShiftModifier) == withShift;
+    return m_mode != Ruler::RangeSelection::NoSelection &&
+           held.testFlag(Qt::ShiftModifier) == withShift;
 }
 
 void RulerRange::takeNew(qint64 pressed, int x, Qt::KeyboardModifiers held)
@@ -319,7 +321,7 @@ std::optional<qint64> RulerRange::timeForKeys() const
 
 bool RulerRange::pressKey(const QKeyEvent* event)
 {
-    if (m_mode == Ruler::RangeSelection::Off)
+    if (m_mode == Ruler::RangeSelection::NoSelection)
         return false;
     if (event->key() == Qt::Key_Escape)
         return m_drag && (cancel(), true);

@@ -94,7 +94,7 @@ private:
 
     Ruler* const m_ruler;
     Ruler::Private& d;
-    Ruler::RangeSelection m_mode = Ruler::RangeSelection::Off;
+    Ruler::RangeSelection m_mode = Ruler::RangeSelection::NoSelection;
     TimeSpan m_range;
     std::optional<Drag> m_drag;
     bool m_told = false;             ///< the begin of a change, and not yet its end

@@ -12,6 +12,7 @@
 #include <CorvelGui/Info3rdLicences>
 #include <CorvelGui/PCheckVersionUpdate>
 #include <CorvelGui/PColorComboBox>
+#include <CorvelGui/PCsvDialog>
 #include <CorvelGui/PDateEdit>
 #include <CorvelGui/PDateTimeSelectionDialog>
 #include <CorvelGui/PFilterButton>
@@ -79,6 +80,7 @@ const QList<std::function<Made()>> preparedClasses{
     },
     [] { return madeAnd<PColorComboBox>([](auto& box) { box.addThemeColors(); }); },
     [] { return madeAnd<PDateEdit>([](auto& edit) { edit.setEmptyAllowed(true); }); },
+    made<PCsvDialog>,
     made<PDateTimeSelectionDialog>,
     [] {
         return madeAnd<PFilterButton>([](auto& button) { button.setFilters({{u"other"_s, {}}}); });
@@ -148,8 +150,8 @@ const QHash<QString, QStringList> actions{
       u"fancylineedit setSpecialCompleter"_s}},
     {u"for one time, or answered otherwise"_s,
      {u"busyindicator setDelay"_s, u"piprangedialog setMask"_s, u"pchangelogdialog setHtml"_s,
-      u"ruler setSelectedRangeBegin"_s, u"ruler setSelectedRangeEnd"_s,
-      u"zoomtimeline setZoomerEnabled"_s}},
+      u"zoomgraphicsview setVisibleRect"_s, u"ruler setSelectedRangeBegin"_s,
+      u"ruler setSelectedRangeEnd"_s, u"zoomtimeline setZoomerEnabled"_s}},
     {u"the ruler's"_s,
      {u"rulermarkerbutton setMerge"_s, u"rulermarkerbutton setBadge"_s,
       u"rulermarkerbutton setHovered"_s, u"rulermarkerbutton setAlternativeHover"_s,

@@ -136,7 +136,7 @@ inline QString play(LoggedRuler* ruler, const QString& script)
              }),
         verb(u"select"_s,
              [](R& r, W w) {
-                 r.setRangeSelection(w[1] == u"off"     ? R::RangeSelection::Off
+                 r.setRangeSelection(w[1] == u"off"     ? R::RangeSelection::NoSelection
                                      : w[1] == u"shift" ? R::RangeSelection::ShiftDrag
                                                         : R::RangeSelection::Drag);
              }),

@@ -75,11 +75,7 @@ void TestRangeSelection::handlesForAssistiveTechnology()
     QCOMPARE(ruler.takeLog().join(u' '), u"started range 1200 - 1800 ended"_s);
 
     // No further than the other end, and into view.
-    const struct
-    {
-        int handle;
-        QString key, log;
-    } keys[] = {
+    const std::tuple<int, QString, QString> keys[] = {
         {0, u"Right"_s, u"started range 1260 - 1800 ended"_s},
         {0, u"Shift+Left"_s, u"started range 960 - 1800 ended"_s},
         {0, u"End"_s, u"started range 1799 - 1800 ended"_s},

@@ -56,12 +56,7 @@ void TestRulerClient::viewsSettle()
     LoggedRuler ruler;
     QSignalSpy settled(&ruler, &Ruler::viewSettled);
     using Spans = QList<TimeSpan>;
-    const struct
-    {
-        std::function<void()> change;
-        TimeSpan view;
-        Spans added;
-    } steps[] = {
+    const std::tuple<std::function<void()>, TimeSpan, Spans> steps[] = {
         // To begin with, then only the last of several views.
         {[] {}, minutes(0, 60), {minutes(0, 60)}},
         {[&] {
@@ -124,16 +119,11 @@ void TestRulerClient::contexts()
         return int(ruler.xAt(minutes(minutesAfter, 0).begin));
     };
     const int markerY = ruler.findChild<RulerMarkerButton*>()->geometry().center().y();
-    const struct
-    {
-        int x, y;
-        int markers;
-        int ranges;
-    } cases[] = {{columnOf(0), 5, 0, 1},
-                 {columnOf(10) + 1, 5, 0, 3},
-                 {columnOf(10) + 1, markerY, 1, 3},
-                 {columnOf(20) + 1, markerY, 0, 4},
-                 {columnOf(30) + 1, markerY, 2, 0}};
+    const int cases[][4] = {{columnOf(0), 5, 0, 1},
+                            {columnOf(10) + 1, 5, 0, 3},
+                            {columnOf(10) + 1, markerY, 1, 3},
+                            {columnOf(20) + 1, markerY, 0, 4},
+                            {columnOf(30) + 1, markerY, 2, 0}};
     for (const auto& [x, y, markers, ranges] : cases) {
         const RulerContext context = ruler.contextAt({x, y});
         QVERIFY(context.time.has_value());

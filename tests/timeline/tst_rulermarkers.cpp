@@ -4,7 +4,6 @@
 
 #include <CorvelGui/RulerMarkerButton>
 
-#include <QAccessible>
 #include <QTextDocument>
 
 using namespace CorvelGui;
