@@ -76,11 +76,16 @@ void GalleryWindow::showPage(int index)
     m_list->setCurrentRow(index);
 }
 
+QWidget* GalleryWindow::currentPage() const
+{
+    return static_cast<QScrollArea*>(m_stack->currentWidget())->widget();
+}
+
 void GalleryWindow::growToPage()
 {
-    const auto* scroll = static_cast<QScrollArea*>(m_stack->currentWidget());
-    const QWidget* page = scroll->widget();
-    const QSize missing = page->minimumSizeHint().expandedTo(page->minimumSize()) - scroll->size();
+    const QWidget* page = currentPage();
+    const QSize missing =
+        page->minimumSizeHint().expandedTo(page->minimumSize()) - m_stack->currentWidget()->size();
     resize(size() + missing.expandedTo(QSize(0, 0)));
 }
 
@@ -98,8 +103,7 @@ bool GalleryWindow::inspect(const QString& className)
 {
     showInspector();
     for (const QWidget* widget : m_inspector->widgets()) {
-        const QString name = QString::fromLatin1(knownWidget(*widget)->meta->className());
-        if (name.section(QLatin1StringView("::"), -1) == className) {
+        if (knownWidget(*widget)->name() == className) {
             m_inspector->inspect(widget);
             return true;
         }
@@ -109,8 +113,7 @@ bool GalleryWindow::inspect(const QString& className)
 
 void GalleryWindow::showPageInInspector()
 {
-    const auto* scroll = static_cast<QScrollArea*>(m_stack->currentWidget());
-    m_inspector->setPage(scroll->widget());
+    m_inspector->setPage(currentPage());
 }
 
 void GalleryWindow::setDark(bool dark)

@@ -36,6 +36,7 @@ Q_SIGNALS:
     void lookChanged(bool dark);
 
 private:
+    QWidget* currentPage() const;
     void showPageInInspector();
 
     QListWidget* m_list;

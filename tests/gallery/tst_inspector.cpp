@@ -77,7 +77,7 @@ private Q_SLOTS:
     {
         for (const KnownWidget& known : knownWidgets()) {
             const std::unique_ptr<QWidget> widget(known.create(nullptr));
-            const QString code = codeOf(*widget);
+            const QString code = CodeWriter(*widget).code();
             QVERIFY2(code.endsWith(u";\n"_s), qPrintable(code)); // nothing to set in a new one
         }
     }
@@ -98,12 +98,11 @@ private Q_SLOTS:
         layout->addWidget(slider);
         inspector->setPage(page);
         QCOMPARE(inspector->inspected(), label);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
         auto* code = inspector->findChild<QPlainTextEdit*>();
         QVERIFY(code->toPlainText().contains(
             u"label->setError(QStringLiteral(u\"No \\\"host\\\"\"));"_s));
-
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
         auto* pick = inspector->findChild<QToolButton*>();
         QTest::mouseClick(pick, Qt::LeftButton);
         QTest::mouseClick(slider, Qt::LeftButton, {}, {2, 2});

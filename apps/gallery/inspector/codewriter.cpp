@@ -154,33 +154,34 @@ QString statementOf(const QString& variable, const QMetaProperty& property, cons
                             : u"%1->%2(%3);"_s.arg(variable, setter, literal);
 }
 
-QString codeOf(const QWidget& widget)
+CodeWriter::CodeWriter(const QWidget& widget)
+    : m_widget(widget), m_new(knownWidget(widget)->create(nullptr))
+{}
+
+CodeWriter::~CodeWriter() = default;
+
+QString CodeWriter::code() const
 {
-    const KnownWidget* known = knownWidget(widget);
-    if (!known)
-        return {};
+    const KnownWidget& known = *knownWidget(m_widget);
     static const QRegularExpression qtType(
         u"\\bQ(Color|Size|Url|DateTime|Date|StringList|TimeZone)\\b(?=[({:])"_s);
-    const QString className = QString::fromLatin1(known->meta->className());
-    const QString shortName = className.section(u"::"_s, -1);
-    const QString variable = variableOf(shortName);
-
-    const std::unique_ptr<const QWidget> fresh(known->create(nullptr));
-    QStringList includes{u"#include <CorvelGui/%1>"_s.arg(shortName)};
+    const QString variable = variableOf(known.name());
+    QStringList includes{u"#include <CorvelGui/%1>"_s.arg(known.name())};
     QStringList lines;
-    for (const QMetaProperty& property : inspectedProperties(*known->meta)) {
-        const QVariant value = property.read(&widget);
-        if (isSame(value, property.read(fresh.get())))
+    for (const QMetaProperty& property : inspectedProperties(*known.meta)) {
+        const QVariant value = property.read(&m_widget);
+        if (isSame(value, property.read(m_new.get())))
             continue;
         lines.append(statementOf(variable, property, value));
         for (auto type = qtType.globalMatch(lines.last()); type.hasNext();)
             includes.append(u"#include <%1>"_s.arg(type.next().captured()));
     }
     includes.removeDuplicates();
-    const QString arguments =
-        known->arguments.isEmpty() ? QString() : u'(' + known->arguments + u')';
+    const QString arguments = known.arguments.isEmpty() ? QString() : u'(' + known.arguments + u')';
     return includes.join(u'\n') + u"\n\n"_s +
-           u"auto* %1 = new %2%3;\n"_s.arg(variable, className, arguments) + lines.join(u'\n');
+           u"auto* %1 = new %2%3;\n"_s.arg(variable, QLatin1StringView(known.meta->className()),
+                                           arguments) +
+           lines.join(u'\n');
 }
 
 } // namespace Gallery

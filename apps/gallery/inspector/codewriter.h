@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <memory>
+
 struct QMetaObject;
 class QMetaProperty;
 class QVariant;
@@ -19,8 +21,20 @@ QString literalOf(const QMetaProperty& property, const QVariant& value);
 /// What sets a property of a variable; a comment where the value cannot be written.
 QString statementOf(const QString& variable, const QMetaProperty& property, const QVariant& value);
 
-/// The C++ that makes such a widget, of one of the libraries' classes: what differs from a new one
-/// is set.
-QString codeOf(const QWidget& widget);
+/// Writes the C++ that makes a widget such as one of the libraries' classes is.
+class CodeWriter
+{
+public:
+    /// @p widget is of a known class, and lives for as long as code() is called.
+    explicit CodeWriter(const QWidget& widget);
+    ~CodeWriter();
+
+    /// Sets what differs from a new one.
+    QString code() const;
+
+private:
+    const QWidget& m_widget;
+    const std::unique_ptr<const QWidget> m_new;
+};
 
 } // namespace Gallery

@@ -32,8 +32,7 @@ namespace {
 QString captionOf(const QWidget& widget)
 {
     constexpr int longest = 32;
-    const QString className =
-        QString::fromLatin1(knownWidget(widget)->meta->className()).section(u"::"_s, -1);
+    const QString className = knownWidget(widget)->name();
     for (const QString& text : {widget.accessibleName(), widget.property("text").toString(),
                                 widget.property("placeholderText").toString()}) {
         const QString line = text.section(u'\n', 0, 0).simplified();
@@ -105,6 +104,8 @@ Inspector::Inspector(QWidget* parent)
     layout->addWidget(parts, 1);
 }
 
+Inspector::~Inspector() = default;
+
 void Inspector::setPage(QWidget* page)
 {
     m_pick->setChecked(false);
@@ -121,6 +122,12 @@ QList<QWidget*> Inspector::widgets() const
             alive.append(widget);
     }
     return alive;
+}
+
+void Inspector::showEvent(QShowEvent* event)
+{
+    writeCode();
+    QWidget::showEvent(event);
 }
 
 // Not all that a page does is told by signals.
@@ -157,6 +164,7 @@ void Inspector::inspect(const QWidget* widget)
 void Inspector::showCurrent()
 {
     m_inspected = m_widgets.value(m_choice->currentIndex());
+    m_writer = m_inspected ? std::make_unique<CodeWriter>(*m_inspected) : nullptr;
     m_model->setObject(m_inspected);
 }
 
@@ -200,7 +208,11 @@ void Inspector::pickAt(const QPoint& globalPosition)
 
 void Inspector::writeCode()
 {
-    m_code->setPlainText(m_inspected ? codeOf(*m_inspected) : QString());
+    if (!isVisible())
+        return;
+    // A widget that is being deleted has no properties any more, but may still be pointed to.
+    const bool hasWidget = m_model->rowCount() > 0;
+    m_code->setPlainText(hasWidget ? m_writer->code() : QString());
 }
 
 void Inspector::copyCode()

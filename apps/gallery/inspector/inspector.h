@@ -5,12 +5,15 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <memory>
+
 class QComboBox;
 class QPlainTextEdit;
 class QToolButton;
 
 namespace Gallery {
 
+class CodeWriter;
 class PropertyModel;
 
 /// Shows a widget of a page: its properties, to play with, and the code that makes it.
@@ -20,6 +23,7 @@ class Inspector : public QWidget
 
 public:
     explicit Inspector(QWidget* parent = nullptr);
+    ~Inspector() override;
 
     /// Lists the libraries' widgets on @p page, and shows the first of them.
     void setPage(QWidget* page);
@@ -30,6 +34,7 @@ public:
     void inspect(const QWidget* widget);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -43,6 +48,7 @@ private:
 
     QPointer<QWidget> m_page;
     QPointer<QWidget> m_inspected;
+    std::unique_ptr<CodeWriter> m_writer;
     QList<QPointer<QWidget>> m_widgets;
     PropertyModel* m_model;
     QComboBox* m_choice;

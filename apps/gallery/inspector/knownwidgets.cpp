@@ -61,6 +61,11 @@ QList<KnownWidget> allKnownWidgets()
 
 } // namespace
 
+QString KnownWidget::name() const
+{
+    return QString::fromLatin1(meta->className()).section(u"::"_s, -1);
+}
+
 const QList<KnownWidget>& knownWidgets()
 {
     static const QList<KnownWidget> known = allKnownWidgets();

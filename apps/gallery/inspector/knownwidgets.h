@@ -18,6 +18,9 @@ struct KnownWidget
     std::function<QWidget*(QWidget* parent)> create;
     /// What its constructor wants, as code.
     QString arguments = {};
+
+    /// Without the namespace.
+    QString name() const;
 };
 
 const QList<KnownWidget>& knownWidgets();
