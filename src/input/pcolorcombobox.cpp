@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pcolorcombobox.h"
 
+#include "base/entrywidth.h"
 #include "colorchoice.h"
 
 #include <Hueloft/POrvGuiTheme>
@@ -39,6 +40,7 @@ const ThemeColor themeColors[] = {
 
 PColorComboBox::PColorComboBox(QWidget* parent) : QComboBox(parent)
 {
+    keepRoomForEntries(*this);
     connect(this, &QComboBox::currentIndexChanged, this, &PColorComboBox::takeIndex);
     connect(this, &QComboBox::activated, this, &PColorComboBox::takeActivated);
 }

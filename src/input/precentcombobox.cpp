@@ -25,12 +25,8 @@ PRecentComboBox::PRecentComboBox(QWidget* parent) : QComboBox(parent)
     setInsertPolicy(NoInsert);
     setMaxCount(rememberedAtFirst);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    // Texts that begin alike must not be completed to one that the user did not mean.
-    completer()->setCompletionMode(QCompleter::PopupCompletion);
-    completer()->setFilterMode(Qt::MatchContains);
     view()->installEventFilter(this);
-    lineEdit()->installEventFilter(this);
-    connect(lineEdit(), &QLineEdit::returnPressed, this, &PRecentComboBox::rememberText);
+    adoptField();
     connect(this, &QComboBox::activated, this, &PRecentComboBox::rememberText,
             Qt::QueuedConnection);
     retranslate();
@@ -86,6 +82,27 @@ void PRecentComboBox::rememberText()
     texts.removeAll(text);
     texts.prepend(text);
     setRecentTexts(texts);
+}
+
+bool PRecentComboBox::event(QEvent* event)
+{
+    // A field that was set is there once it is about to be shown, and nothing is typed before.
+    if (event->type() == QEvent::ChildPolished &&
+        static_cast<QChildEvent*>(event)->child() == lineEdit())
+        adoptField();
+    return QComboBox::event(event);
+}
+
+void PRecentComboBox::adoptField()
+{
+    lineEdit()->installEventFilter(this);
+    connect(lineEdit(), &QLineEdit::returnPressed, this, &PRecentComboBox::rememberText,
+            Qt::UniqueConnection);
+    // Texts that begin alike must not be completed to one that the user did not mean.
+    if (QCompleter* texts = completer()) {
+        texts->setCompletionMode(QCompleter::PopupCompletion);
+        texts->setFilterMode(Qt::MatchContains);
+    }
 }
 
 bool PRecentComboBox::eventFilter(QObject* watched, QEvent* event)

@@ -14,6 +14,8 @@ namespace CorvelGui {
 /// is accepted, calls rememberText(). In the open list Delete forgets an entry, and the field's
 /// context menu forgets all.
 ///
+/// Another field may stand in it by setLineEdit(), such as one that judges.
+///
 /// maxCount() is how many are remembered, 10 at first. The entries belong to the class. A receiver
 /// that wants to remove the box calls deleteLater(): QComboBox still works on itself after its own
 /// signals.
@@ -51,10 +53,12 @@ Q_SIGNALS:
     void recentTextsChanged(const QStringList& texts);
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    void adoptField();
     void forgetHighlighted();
     void showFieldMenu(QPoint position);
     void retranslate();

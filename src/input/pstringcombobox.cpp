@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "pstringcombobox.h"
 
+#include "base/entrywidth.h"
+
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -9,6 +11,7 @@ namespace CorvelGui {
 
 PStringComboBox::PStringComboBox(QWidget* parent) : QComboBox(parent)
 {
+    keepRoomForEntries(*this);
     connect(this, &QComboBox::currentIndexChanged, this, &PStringComboBox::takeIndex);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "momententry.h"
 
+#include "base/entrywidth.h"
 #include "localmoments.h"
 #include "pdateedit.h"
 
@@ -51,6 +52,7 @@ MomentEntry::MomentEntry(const Controls& controls, QObject* parent)
         edit->installEventFilter(this);
         connect(edit, &QDateTimeEdit::dateTimeChanged, this, &MomentEntry::findMoments);
     }
+    keepRoomForEntries(*controls.occurrence);
     connect(controls.occurrence, &QComboBox::activated, this, &MomentEntry::edited);
 }
 

@@ -23,6 +23,7 @@ struct PDateEdit::Private
     bool isEmpty = false;
     bool wasEmpty = false; ///< when the calendar opened, and no date has been chosen since
     QDate reported;
+    QString usualFormat; ///< that of the locale
     QTimeZone todayZone;
 };
 
@@ -33,7 +34,7 @@ PDateEdit::PDateEdit(QWidget* parent) : QDateEdit(parent), d(std::make_unique<Pr
     setDate(QDate::currentDate());
     d->reported = date();
     d->calendar = new DateCalendar(this);
-    setDisplayFormat(shortDateFormat());
+    takeUsualFormat();
     setCalendarPopup(true);
     setCalendarWidget(d->calendar);
     connect(this, &QDateEdit::dateChanged, this, [this] { setEmpty(false); });
@@ -130,6 +131,21 @@ QSize PDateEdit::minimumSizeHint() const
 {
     const QScopedValueRollback filled(d->isEmpty, false);
     return QDateEdit::minimumSizeHint();
+}
+
+void PDateEdit::changeEvent(QEvent* event)
+{
+    QDateEdit::changeEvent(event);
+    const bool isLanguage =
+        event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange;
+    if (isLanguage && displayFormat() == d->usualFormat)
+        takeUsualFormat();
+}
+
+void PDateEdit::takeUsualFormat()
+{
+    d->usualFormat = shortDateFormat();
+    setDisplayFormat(d->usualFormat);
 }
 
 void PDateEdit::keyPressEvent(QKeyEvent* event)

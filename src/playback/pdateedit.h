@@ -12,7 +12,8 @@
 namespace CorvelGui {
 
 /// A QDateEdit that shows today at first, writes all digits of the year, and has a calendar with a
-/// button for today. It opens by Alt and Down as well.
+/// button for today. It opens by Alt and Down as well. Unless a client sets a display format, it
+/// follows the default locale at every change of the language.
 ///
 /// If it is allowed to be empty it shows dashes then. Ctrl with Delete or Backspace empties it, as
 /// does one of these keys when all is selected, and a button of the calendar. Whatever changes an
@@ -64,6 +65,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
     QValidator::State validate(QString& input, int& position) const override;
     QDateTime dateTimeFromText(const QString& text) const override;
     QString textFromDateTime(const QDateTime& dateTime) const override;
@@ -79,6 +81,7 @@ private:
     void beginWithToday();
     void report();
     void openCalendar();
+    void takeUsualFormat();
 
     const std::unique_ptr<Private> d;
 };

@@ -2,6 +2,7 @@
 #include "pinputdatetimewithrange.h"
 
 #include "base/controlemissions.h"
+#include "base/entrywidth.h"
 #include "base/whilealive.h"
 #include "localmoments.h"
 #include "momententry.h"
@@ -75,6 +76,7 @@ PInputDateTimeWithRange::PInputDateTimeWithRange(QWidget* parent)
     d->layout->setColumnStretch(3, 1);
     d->presetLabel = new QLabel(this);
     d->presets = new QComboBox(this);
+    keepRoomForEntries(*d->presets);
     d->presetLabel->setBuddy(d->presets);
     d->zoneName = new QLabel(this);
     d->zoneName->setTextFormat(Qt::PlainText);

@@ -75,6 +75,17 @@ QStringList filesOfLibrary(const QString& key)
     return firstOf({u":/CorvelGui/translations"_s}, u"corvelgui_%1.qm"_s.arg(key));
 }
 
+/// A window keeps the locale of the time when it was made until it is asked to take another one.
+void adoptLocale()
+{
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->testAttribute(Qt::WA_SetLocale))
+            window->unsetLocale();
+    }
+}
+
 } // namespace
 
 TranslatorList PLanguage::m_translatorList;
@@ -94,6 +105,7 @@ void PLanguage::useLanguage(QWidget* parent, const QString& key, const QStringLi
     QStringList files = ofKeyOrLanguage(filesOfQt) + ofKeyOrLanguage(filesOfLibrary);
     for (const QString& directory : directories)
         files += ofKeyOrLanguage([&](const QString& name) { return filesIn(directory, name); });
+    adoptLocale();
     install(parent, key, files);
 }
 

@@ -31,7 +31,7 @@ public:
     /// files of that language in each of @p directories, the last one before the others. Texts that
     /// nobody translates stay as they are in the sources, which is English here. QLocale(), by
     /// which dates and numbers are written, stays: a program that wants it to follow sets it
-    /// before.
+    /// before, and windows that have no locale of their own take it here.
     ///
     /// A key with a country takes the files of the language where there are none of the country.
     /// What the last call of this function or of SetLanguage() installed goes, and files that

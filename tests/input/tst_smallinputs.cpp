@@ -146,7 +146,10 @@ private Q_SLOTS:
         box.setEntries({});
         QCOMPARE(changed.mid(2), (QList<QVariantList>{{u"c"_s}, {QString()}}));
         const QList<PStringComboBox::Entry> unnamed{{u""_s, u"All"_s}};
+        box.show();
+        const int width = box.sizeHint().width();
         box.setEntries(unnamed); // an empty key is not the lack of one
+        QVERIFY(box.sizeHint().width() != width);
         QCOMPARE(changed.count(), 5);
         QCOMPARE(box.entries(), unnamed);
     }
@@ -197,6 +200,10 @@ private Q_SLOTS:
         QCOMPARE(box.lineEdit()->cursorPosition(), 1);
         QCOMPARE(edited.count(), 0);
 
+        box.setLineEdit(new QLineEdit);
+        box.setEditText(u"four"_s);
+        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        QCOMPARE(entriesOf(box), u"four one"_s);
         for (const bool hasTexts : {true, false}) {
             QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, {});
             QCoreApplication::sendEvent(box.lineEdit(), &asked);

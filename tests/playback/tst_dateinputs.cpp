@@ -72,10 +72,7 @@ private Q_SLOTS:
             {key(Qt::Key_Tab), dashes, 1},
             {key(Qt::Key_Up), shown, 2},
             {[&] { edit.selectAll(), key(Qt::Key_Backspace)(); }, dashes, 3},
-            {[&] {
-                 turnWheel(&edit, {8, 8}, {0, -120});
-             },
-             shown, 4},
+            {[&] { turnWheel(&edit, QPointF(8, 8), QPoint(0, -120)); }, shown, 4},
             {[&] { edit.setChosenDate({}); }, dashes, 5},
             {[&] { edit.setDate(today); }, dashes, 5}, // is its date already
             {[&] { edit.setChosenDate(today); }, shown, 6},

@@ -313,23 +313,19 @@ private Q_SLOTS:
 
     void deletionInSignals()
     {
-        QVERIFY(isDeletedBy<Shown<PSlider>>(
-            [](auto& slider) {
-                press(slider, {200, 8});
-            },
-            &QSlider::valueChanged));
-        QVERIFY(isDeletedBy<Shown<PSlider>>(
+        static constexpr QPoint place(200, 8);
+        const std::function<void(Shown<PSlider>&)> acts[] = {
+            [](auto& slider) { press(slider, place); },
             [](auto& slider) {
                 slider.setTracking(false);
-                press(slider, {200, 8});
-                release(slider, {200, 8});
+                press(slider, place);
+                release(slider, place);
             },
-            &QSlider::valueChanged));
-        QVERIFY(isDeletedBy<Shown<PSlider>>(
             [](auto& slider) {
-                turnWheel(&slider, {8, 8}, {0, 360});
-            },
-            &QSlider::valueChanged));
+                turnWheel(&slider, place, QPoint(0, 360));
+            }};
+        for (const auto& act : acts)
+            QVERIFY(isDeletedBy(act, &QSlider::valueChanged));
         const auto pressVideo = [](auto& slider) {
             slider.setDuration(1000);
             press(slider, {90, 8});
@@ -343,9 +339,7 @@ private Q_SLOTS:
         QVERIFY(isDeletedBy<Shown<RangeSlider>>([](auto& slider) { slider.setLimits(500, 600); },
                                                 &RangeSlider::limitsChanged));
         QVERIFY(isDeletedBy<Shown<PopupSliderToolButton>>(
-            [](auto& button) {
-                turnWheel(&button, {8, 8}, {0, 120});
-            },
+            [](auto& button) { turnWheel(&button, place, QPoint(0, 120)); },
             &PopupSliderToolButton::valueChanged));
         QVERIFY(isDeletedBy<Shown<PopupSliderToolButton>>(
             [](auto& button) {

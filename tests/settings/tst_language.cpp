@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "testsupport.h"
 
+#include <CorvelGui/PInputDateTimeWithRange>
 #include <CorvelGui/PLanguage>
 #include <CorvelGui/PLanguageDialog>
 #include <CorvelGui/TranslatorList>
+
+#include <QDateEdit>
 
 using namespace CorvelGui;
 
@@ -66,8 +69,22 @@ private Q_SLOTS:
              {u"Farbe"_s, u"Optionen"_s, u"Abbrechen"_s, u"und 1 weiterer"_s}},
             {u"en"_s, {other}, untranslated + QStringList{u"Cancel"_s, u"and 1 more"_s}},
         };
+        const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+        PInputDateTimeWithRange range;
+        range.show();
+        const QDateTime march(QDate(2026, 3, 1), QTime());
+        range.setRange(march, march);
+        const auto presets = [](const QWidget& of) {
+            return QWidgetItem(of.findChild<QComboBox*>()).minimumSize();
+        };
         for (const auto& [key, folders, expected] : rows) {
+            QLocale::setDefault(QLocale(key));
             PLanguage::useLanguage(nullptr, key, folders);
+            const bool isEnglish = key == u"en";
+            QTRY_COMPARE(range.findChild<QDateEdit*>()->text(),
+                         isEnglish ? u"3/1/2026"_s : u"01.03.2026"_s);
+            QCOMPARE(range.locale(), QLocale());
+            QTRY_COMPARE(presets(range), presets(PInputDateTimeWithRange()));
             QCOMPARE(texts() +
                          QStringList({QCoreApplication::translate("QPlatformTheme", "Cancel"),
                                       QCoreApplication::translate("CorvelGui::MarkerList",
