@@ -7,6 +7,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace CorvelGui {
@@ -32,6 +33,9 @@ struct Level
     size_t nextRange = 0;
 };
 
+/// The number of a column, and a text in it.
+using NumberedText = std::pair<int, QString>;
+
 class CsvBody
 {
 public:
@@ -46,11 +50,12 @@ public:
 
     void writeColumnNames()
     {
+        std::vector<NumberedText> names;
         for (int column = 0; column < m_columns; ++column) {
             if (isWritten(column))
-                writeText(column, m_list.headerData(column, Qt::Horizontal).toString());
+                names.emplace_back(column, m_list.headerData(column, Qt::Horizontal).toString());
         }
-        m_out << '\n';
+        writeLine(names);
     }
 
     void writeRows()
@@ -83,30 +88,54 @@ private:
         return column < m_format.columns.size() && m_format.columns.testBit(column);
     }
 
-    void writeText(int column, const QString& text)
+    void writeLine(const std::vector<NumberedText>& values)
     {
-        m_out << m_format.quote << text << m_format.quote;
-        if (column < m_format.columnCount - 1)
-            m_out << m_format.delimiter;
+        for (size_t i = 0; i < values.size(); ++i) {
+            const auto& [column, text] = values[i];
+            const bool isDelimited =
+                m_format.wellFormed ? i + 1 < values.size() : column < m_format.columnCount - 1;
+            m_out << m_format.quote << inQuotes(text) << m_format.quote;
+            if (isDelimited)
+                m_out << m_format.delimiter;
+        }
+        m_out << '\n';
+    }
+
+    QString inQuotes(QString text) const
+    {
+        if (m_format.wellFormed)
+            text.replace(m_format.quote, QString(2, m_format.quote));
+        return text;
+    }
+
+    bool isSelected(const Level& level, int column) const
+    {
+        if (level.selectedTo[size_t(column)] < level.row)
+            return false;
+        // The selection may span cells that cannot be selected; they are not.
+        constexpr Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+        const QModelIndex cell = m_list.index(level.row, column, level.parent);
+        return (cell.flags() & selectable) == selectable;
     }
 
     void writeRow(Level& level)
     {
         beginRanges(level);
+        std::vector<NumberedText> texts;
         bool anything = false;
         for (int column = 0; column < m_columns; ++column) {
-            if (!isWritten(column) || level.selectedTo[size_t(column)] < level.row)
+            if (!isWritten(column))
                 continue;
-            const QModelIndex cell = m_list.index(level.row, column, level.parent);
-            // The selection may span cells that cannot be selected; they are not.
-            constexpr Qt::ItemFlags selectable = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-            if ((cell.flags() & selectable) != selectable)
-                continue;
-            writeText(column, cell.data().toString());
-            anything = true;
+            const bool isIncluded = isSelected(level, column);
+            if (isIncluded)
+                texts.emplace_back(column,
+                                   m_list.index(level.row, column, level.parent).data().toString());
+            else if (m_format.wellFormed)
+                texts.emplace_back(column, QString());
+            anything |= isIncluded;
         }
         if (anything)
-            m_out << '\n';
+            writeLine(texts);
     }
 
     static void beginRanges(Level& level)

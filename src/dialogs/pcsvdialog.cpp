@@ -34,6 +34,7 @@ struct PCsvDialog::Private
     QItemSelection rows; ///< of that model
     QPointer<QTableWidget> table;
     QPointer<QTreeWidget> tree;
+    bool wellFormed = false;
 };
 
 PCsvDialog::PCsvDialog(QWidget* parent) : PBaseDialog(parent), d(std::make_unique<Private>())
@@ -88,6 +89,36 @@ void PCsvDialog::InitWithRows(QAbstractItemModel* model, const QItemSelection& r
         listColumns();
 }
 
+QString PCsvDialog::fileName() const
+{
+    return d->ui.lineEditExportToFile->text();
+}
+
+void PCsvDialog::setFileName(const QString& fileName)
+{
+    d->ui.lineEditExportToFile->setText(fileName);
+}
+
+bool PCsvDialog::isWellFormed() const
+{
+    return d->wellFormed;
+}
+
+void PCsvDialog::setWellFormed(bool on)
+{
+    d->wellFormed = on;
+}
+
+bool PCsvDialog::opensFile() const
+{
+    return d->ui.checkBoxOpenExcel->isChecked();
+}
+
+void PCsvDialog::setOpensFile(bool on)
+{
+    d->ui.checkBoxOpenExcel->setChecked(on);
+}
+
 QChar PCsvDialog::GetDelimiter() const
 {
     return d->ui.comboBoxDelimiter->currentData().toChar();
@@ -129,18 +160,18 @@ void PCsvDialog::retranslate()
 
 void PCsvDialog::slotAccept()
 {
-    const QString fileName = d->ui.lineEditExportToFile->text();
-    const QString failure = writeWholeFile(fileName, csv(), QIODevice::Text);
+    const QString path = fileName();
+    const QString failure = writeWholeFile(path, csv(), QIODevice::Text);
     if (!failure.isEmpty()) {
         PMessageBox::Warning(this, QCoreApplication::applicationName(),
-                             tr("Cannot write file %1:\n%2.").arg(fileName, failure),
-                             QMessageBox::Ok, QMessageBox::Ok);
+                             tr("Cannot write file %1:\n%2.").arg(path, failure), QMessageBox::Ok,
+                             QMessageBox::Ok);
         return;
     }
     // The shell may handle other events meanwhile.
     const auto open = [&] {
-        if (d->ui.checkBoxOpenExcel->isChecked() && !openFile(fileName))
-            qCWarning(dialogsLog, "No program opens %s", qUtf8Printable(fileName));
+        if (opensFile() && !openFile(path))
+            qCWarning(dialogsLog, "No program opens %s", qUtf8Printable(path));
     };
     whileAlive(this, open, [this] { accept(); });
 }
@@ -222,8 +253,8 @@ QByteArray PCsvDialog::csv() const
     QBitArray columns(d->ui.listWidgetColumns->count());
     for (int column = 0; column < columns.size(); ++column)
         columns.setBit(column, isChecked(column));
-    const CsvFormat format{GetDelimiter(), GetTextQuote(), AddColumnsAtTop(), columns,
-                           GetCheckedColumnCount()};
+    const CsvFormat format{GetDelimiter(), GetTextQuote(),          AddColumnsAtTop(),
+                           columns,        GetCheckedColumnCount(), d->wellFormed};
     QTextStream stream(&body);
     writeCsv(stream, *model(), d->model ? d->rows : list()->selectionModel()->selection(), format);
     return body;

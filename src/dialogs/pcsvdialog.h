@@ -26,6 +26,9 @@ namespace CorvelGui {
 class CORVELGUI_EXPORT PCsvDialog : public PBaseDialog
 {
     Q_OBJECT
+    Q_PROPERTY(QString fileName READ fileName WRITE setFileName)
+    Q_PROPERTY(bool wellFormed READ isWellFormed WRITE setWellFormed)
+    Q_PROPERTY(bool opensFile READ opensFile WRITE setOpensFile)
 
 public:
     /// Exports from @p parent if it is a table or a tree widget.
@@ -40,6 +43,21 @@ public:
     /// Exports the given rows of @p model, and offers its columns. They go before a table and a
     /// tree, and what is selected does not matter.
     void InitWithRows(QAbstractItemModel* model, const QItemSelection& rows);
+
+    /// What the field for the file says, for a client to propose one; empty at first.
+    QString fileName() const;
+    void setFileName(const QString& fileName);
+
+    /// Whether every program reads the file alike: quotes inside a text are doubled, and a line has
+    /// a value for each chosen column, empty for a cell that is not selected. Off at first: then
+    /// texts are written as they are, what is not selected is left out, and where a column is left
+    /// out that stands before chosen ones, delimiters are missing at the ends of the lines.
+    bool isWellFormed() const;
+    void setWellFormed(bool on);
+
+    /// Whether the file is opened at once, as the user says; on at first.
+    bool opensFile() const;
+    void setOpensFile(bool on);
 
     /// The chosen delimiter: a tab, a semicolon or a comma.
     QChar GetDelimiter() const;

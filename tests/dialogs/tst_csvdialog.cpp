@@ -116,6 +116,14 @@ private Q_SLOTS:
                     ->setCheckState(Qt::Unchecked);
             QCOMPARE(exported(dialog), text);
         }
+        PCsvDialog wellFormed(&tree);
+        wellFormed.setWellFormed(true);
+        part<QListWidget>(wellFormed, u"listWidgetColumns"_s)
+            ->item(0)
+            ->setCheckState(Qt::Unchecked);
+        tree.selectionModel()->select(tree.model()->index(0, 1),
+                                      QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(exported(wellFormed), u"\"B\";\"C\"\n\"b\"\"1\";\"\"\n"_s);
     }
 
     /// What is written agrees, cell for cell, with what the table says is selected.
@@ -187,7 +195,8 @@ private Q_SLOTS:
         hasProgram = false;
         QTest::ignoreMessage(QtWarningMsg, qPrintable(u"No program opens "_s + m_file));
         QCOMPARE(exported(dialog), u"\n"_s);
-        part<QCheckBox>(dialog, u"checkBoxOpenExcel"_s)->setChecked(false);
+        QVERIFY(dialog.opensFile());
+        dialog.setOpensFile(false);
         opened.clear();
         QCOMPARE(exported(dialog), u"\n"_s);
         QCOMPARE(opened, QStringList());
@@ -256,7 +265,7 @@ private:
     QString exported(PCsvDialog& dialog)
     {
         const QSignalSpy accepted(&dialog, &QDialog::accepted);
-        field(dialog)->setText(m_file);
+        dialog.setFileName(m_file);
         ok(dialog)->click();
         const QByteArray bytes = accepted.size() == 1 ? readFile(m_file) : "(not accepted)";
         const QByteArray lineEnd = isWindows() ? "\r\n" : "\n";
