@@ -21,6 +21,7 @@ struct ISettingsPage::Private
     QString categoryIcon;
     bool keywordsReady = false;
     QStringList keywords;
+    QPointer<QWidget> refused; ///< what is entered in it cannot be applied
 };
 
 ISettingsPage::ISettingsPage(QObject* parent) : QObject(parent), d(std::make_unique<Private>()) {}
@@ -93,6 +94,22 @@ bool ISettingsPage::matches(const QString& text) const
     return std::ranges::any_of(d->keywords, [&text](const QString& keyword) {
         return keyword.contains(text, Qt::CaseInsensitive);
     });
+}
+
+bool ISettingsPage::isAcceptable() const
+{
+    return !m_widget || d->refused != m_widget;
+}
+
+void ISettingsPage::setAcceptable(bool acceptable)
+{
+    d->refused = acceptable ? nullptr : m_widget.data();
+}
+
+void ISettingsPage::forgetTexts()
+{
+    d->keywords.clear();
+    d->keywordsReady = false;
 }
 
 void ISettingsPage::collectKeywords() const

@@ -30,6 +30,7 @@ class CORVELGUI_EXPORT ISettingsPage : public QObject
     Q_PROPERTY(QString category READ category)
     Q_PROPERTY(QString displayCategory READ displayCategory)
     Q_PROPERTY(QIcon categoryIcon READ categoryIcon)
+    Q_PROPERTY(bool acceptable READ isAcceptable)
 
 public:
     explicit ISettingsPage(QObject* parent = nullptr);
@@ -38,8 +39,8 @@ public:
     /// Builds the page's widget. A dialog calls it at most once, when the page's category is first
     /// shown or searched, and owns the widget from then on: the widget dies with the dialog.
     virtual QWidget* createWidget(QWidget* parent) = 0;
-    /// Writes the edited values to wherever they are kept. Called on Apply and on OK, and only if
-    /// the user has seen the page.
+    /// Writes the edited values to wherever they are kept. Called on OK, and only if the user has
+    /// seen the page.
     virtual void apply() = 0;
     /// The dialog closes, on OK after everything was applied, or on Cancel. Pages of providers are
     /// not told, nor is anyone when the dialog is closed with Escape or by its title bar.
@@ -62,6 +63,9 @@ public:
     /// widget.
     bool matches(const QString& text) const;
 
+    /// What setAcceptable() said of the present widget; true without one.
+    bool isAcceptable() const;
+
 protected:
     void setId(const QString& id);
     void setDisplayName(const QString& displayName);
@@ -69,6 +73,14 @@ protected:
     void setDisplayCategory(const QString& displayCategory);
     /// @p path is the path of a picture, in the file system or among the resources.
     void setCategoryIcon(const QString& path);
+
+    /// Says whether what is entered can be applied. On OK a dialog shows the first page seen that
+    /// cannot be, and stays open, with nothing applied. It holds for m_widget as it is now: a new
+    /// widget counts as acceptable.
+    void setAcceptable(bool acceptable);
+    /// Lets matches() collect the texts anew, such as when createWidget() has made them in another
+    /// language.
+    void forgetTexts();
 
     /// To be set by createWidget(); not owned. Guarded, since the widget dies with the dialog.
     QPointer<QWidget> m_widget;

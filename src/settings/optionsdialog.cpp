@@ -359,9 +359,21 @@ void OptionsDialog::done(int result)
     QDialog::done(result);
 }
 
+// Whether a page that the user has seen cannot be applied, which then is the one that is shown.
+bool OptionsDialog::showsRefusedPage()
+{
+    for (const QPointer<ISettingsPage>& page : std::as_const(d->visitedPages)) {
+        if (page && !page->isAcceptable()) {
+            showPage(page->category(), page->id());
+            return true;
+        }
+    }
+    return false;
+}
+
 void OptionsDialog::slotAccept()
 {
-    if (d->finished)
+    if (d->finished || showsRefusedPage())
         return;
     d->finished = true;
     disconnectTabWidgets();
@@ -383,6 +395,8 @@ void OptionsDialog::slotReject()
 
 void OptionsDialog::slotApply()
 {
+    if (showsRefusedPage())
+        return;
     *d->applied = true;
     applyVisitedPages();
 }

@@ -22,8 +22,9 @@ class ISettingsPageProvider;
 ///
 /// Tabs stand in the order of the ids of their pages, pages of providers behind the others. A page
 /// is built when its category is first shown, or when the user searches. It is applied on OK only
-/// if the user has seen it; accept() and done() by themselves apply nothing. The dialog deletes the
-/// providers that it found, and the widgets of the pages; pages themselves only go with their
+/// if the user has seen it, and not while a page says that its entries are not acceptable: the
+/// dialog shows that page then. accept() and done() by themselves apply nothing. The dialog deletes
+/// the providers that it found, and the widgets of the pages; pages themselves only go with their
 /// providers.
 class CORVELGUI_EXPORT OptionsDialog : public QDialog, public IUserSettings
 {
@@ -80,6 +81,7 @@ private:
     void visit(const Category& category, int tab);
     void chooseFirstCategory();
     void waitForEnd();
+    bool showsRefusedPage();
     void applyVisitedPages();
     void finishPages();
     void tellPages(QList<QPointer<ISettingsPage>> pages, void (ISettingsPage::*what)());

@@ -50,6 +50,8 @@ public:
     }
     void finish() override { calls << u"finish "_s + id(); }
 
+    using ISettingsPage::forgetTexts;
+    using ISettingsPage::setAcceptable;
     using ISettingsPage::setCategoryIcon;
     using ISettingsPage::setDisplayCategory;
     using ISettingsPage::setDisplayName;
@@ -199,6 +201,24 @@ private Q_SLOTS:
             QVERIFY(!provided);
             cleanup();
         }
+    }
+
+    void refusedPagesAreShown()
+    {
+        Page* page = add(u"a"_s, u"a1"_s);
+        add(u"b"_s, u"b1"_s);
+        whenShown<OptionsDialog>(this, [&](OptionsDialog& shown) {
+            const Parts parts(shown);
+            page->setAcceptable(false);
+            parts.list->setCurrentIndex(parts.list->model()->index(1, 0));
+            calls.clear();
+            ok(shown);
+            QVERIFY(shown.isVisible() && calls.isEmpty());
+            QCOMPARE(parts.caption(), u"Category a"_s);
+            page->setAcceptable(true);
+            ok(shown);
+        });
+        QVERIFY(open()->execDialog());
     }
 
     void furtherCallersWait()
@@ -464,8 +484,10 @@ private Q_SLOTS:
 
         widget->findChild<QLabel*>()->setText(u"Gateway"_s);
         QVERIFY(!page.matches(u"gateway"_s));
+        page.forgetTexts();
+        QVERIFY(page.matches(u"gateway"_s));
         widget.reset();
-        QVERIFY(page.matches(u"proxy"_s));
+        QVERIFY(page.matches(u"gateway"_s));
     }
 
     void whatIsDeletedLeavesTheLists()

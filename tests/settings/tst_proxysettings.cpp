@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "labelledfield.h"
 #include "memorypasswordstore.h"
 #include "scriptedserver.h"
 #include "testsupport.h"
@@ -11,16 +12,6 @@ using Corvel::ProxyUserSettings;
 using Mode = Corvel::ProxyUserSettings::Mode;
 
 namespace {
-
-template <typename Field>
-Field& field(const QWidget& widget, const QString& label)
-{
-    for (const QLabel* candidate : widget.findChildren<QLabel*>()) {
-        if (candidate->text().remove(u'&') == label)
-            return *qobject_cast<Field*>(candidate->buddy());
-    }
-    qFatal("No label: %s", qPrintable(label));
-}
 
 QStringList errorsOf(const QWidget& widget)
 {
@@ -67,16 +58,8 @@ private Q_SLOTS:
 
     void entriesAreJudged()
     {
-        struct Row
-        {
-            Mode mode;
-            QString host;
-            int port;
-            QString excluded;
-            QString error; // what it begins with
-        };
         const QString notHost = u"This is not the name or address of a host."_s;
-        const Row rows[] = {
+        const std::tuple<Mode, QString, quint16, QString, QString> rows[] = {
             {Mode::System, u"?"_s, 0, u"?"_s, {}},
             {Mode::None, {}, 0, {}, {}},
             {Mode::Http, u" proxy "_s, 1, u"a.example; *.b.example,10.0.0.0/8 <local>"_s, {}},
@@ -90,7 +73,7 @@ private Q_SLOTS:
         for (const auto& [mode, host, port, excluded, error] : rows) {
             ProxySettingsWidget widget;
             widget.setSettings(
-                {.mode = mode, .host = host, .port = quint16(port), .excludedHosts = {excluded}});
+                {.mode = mode, .host = host, .port = port, .excludedHosts = {excluded}});
             QCOMPARE(errorsOf(widget).join(u'\n'), error);
             QCOMPARE(widget.isValid(), error.isEmpty());
             // By mode: all, what a proxy of the system may ask for, and none.
@@ -109,17 +92,12 @@ private Q_SLOTS:
 
     void addressesAreTakenApart()
     {
-        struct Row
-        {
-            QString typed;
-            QString host;
-            int port;
-        };
-        const Row rows[] = {{u"http://me@proxy.example:3128/"_s, u"proxy.example"_s, 3128},
-                            {u"proxy.example:1"_s, u"proxy.example"_s, 1},
-                            {u"[fd00::1]:81"_s, u"fd00::1"_s, 81},
-                            {u"https://proxy.example"_s, u"proxy.example"_s, 8080},
-                            {u"a b:1"_s, u"a b:1"_s, 8080}};
+        const std::tuple<QString, QString, int> rows[] = {
+            {u"http://me@proxy.example:3128/"_s, u"proxy.example"_s, 3128},
+            {u"proxy.example:1"_s, u"proxy.example"_s, 1},
+            {u"[fd00::1]:81"_s, u"fd00::1"_s, 81},
+            {u"https://proxy.example"_s, u"proxy.example"_s, 8080},
+            {u"a b:1"_s, u"a b:1"_s, 8080}};
         for (const auto& [typed, host, port] : rows) {
             ProxySettingsWidget widget;
             field<QComboBox>(widget, u"Connection:"_s).setCurrentText(u"SOCKS5 proxy"_s);
