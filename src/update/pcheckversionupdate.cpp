@@ -58,6 +58,7 @@ struct PCheckVersionUpdate::Private
     QString readmeText{};
     QNetworkReply* reply = nullptr;
     QByteArray received{};
+    QString failure{}; ///< why the last request brought nothing, for the user
 
     std::unique_ptr<FileDownloader> installer{}; ///< of one download
 
@@ -161,7 +162,7 @@ void PCheckVersionUpdate::begin(bool wantsChangeLog)
     d->internalChannel = false;
     d->offered = {};
     d->readmeText.clear();
-    requestVersionFile(Channel::Internal);
+    requestVersionFile(d->intranetBase.isEmpty() ? Channel::Public : Channel::Internal);
 }
 
 void PCheckVersionUpdate::fetch(const QString& url, const Answered& answered)
@@ -178,10 +179,12 @@ void PCheckVersionUpdate::fetch(const QString& url, const Answered& answered)
             return;
         d->reply = nullptr;
         reply->deleteLater();
-        if (reply->error() != QNetworkReply::NoError)
-            qCDebug(updateLog) << reply->errorString();
+        const bool arrived = reply->error() == QNetworkReply::NoError;
+        d->failure = arrived ? QString() : reply->errorString();
+        if (!arrived)
+            qCDebug(updateLog) << d->failure;
         tellBusyLater();
-        answered(reply->error() == QNetworkReply::NoError);
+        answered(arrived);
     };
     connect(reply, &QNetworkReply::finished, this, finish, Qt::QueuedConnection);
     tellBusyLater();
@@ -211,7 +214,8 @@ void PCheckVersionUpdate::takeVersionFile(Channel channel, bool arrived)
     const std::optional<VersionFile> file = VersionFile::parse(d->received);
     if (!file) {
         qCDebug(updateLog) << "Cannot parse version file " << versionFileName;
-        giveUp(tr("Internal error!\nCannot parse version information."));
+        d->failure = tr("Internal error!\nCannot parse version information.");
+        giveUp(d->failure);
         return;
     }
     d->offered = *file;
@@ -222,9 +226,12 @@ void PCheckVersionUpdate::takeVersionFile(Channel channel, bool arrived)
 
 void PCheckVersionUpdate::giveUp(const QString& text)
 {
-    if (d->wantsChangeLog)
+    if (d->wantsChangeLog) {
         checkChangeLog();
-    else if (!text.isEmpty())
+        return;
+    }
+    tellEndLater(Outcome::Failed, d->failure);
+    if (!text.isEmpty())
         PMessageBox::Critical(nullptr, tr("Update check failed"), text);
 }
 
@@ -235,12 +242,16 @@ void PCheckVersionUpdate::takeReadMeFile(const QString& url, bool arrived)
         checkChangeLog();
     else if (arrived)
         compareVersions();
+    else
+        tellEndLater(Outcome::Failed, d->failure);
 }
 
 void PCheckVersionUpdate::compareVersions()
 {
     const auto current = ReleaseVersion::parse(d->currentVersion).value_or(ReleaseVersion());
-    if (current < d->offered.version) {
+    const bool isNewer = current < d->offered.version;
+    tellEndLater(isNewer ? Outcome::NewerRelease : Outcome::UpToDate);
+    if (isNewer) {
         qCDebug(updateLog) << "New version found!";
         offer(current);
     } else if (d->showResult) {
@@ -332,6 +343,14 @@ void PCheckVersionUpdate::tellSaved(const QString& path)
 void PCheckVersionUpdate::tellBusyLater()
 {
     CorvelGui::tellBusyLater(this, &d->toldBusy);
+}
+
+void PCheckVersionUpdate::tellEndLater(Outcome outcome, const QString& error)
+{
+    const auto tell = [this, outcome, error] {
+        Q_EMIT checkEnded(outcome, error);
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 QString PCheckVersionUpdate::base() const

@@ -34,6 +34,14 @@ class CORVELGUI_EXPORT PCheckVersionUpdate : public QObject
     Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
 
 public:
+    /// How a check ended.
+    enum class Outcome {
+        UpToDate,     ///< there is no newer release
+        NewerRelease, ///< the user is asked
+        Failed        ///< nobody knows
+    };
+    Q_ENUM(Outcome)
+
     /// File names are appended to the base URLs without a separator, so these end with a slash. An
     /// empty @p intranetBase leaves the internal release channel out. @p currentVersion is up to
     /// four numbers with dots between. With @p showRevision versions are shown with all four of
@@ -78,6 +86,11 @@ Q_SIGNALS:
     /// false at first; before any dialog that waits for the user.
     void busyChanged(bool busy);
 
+    /// Emitted from the event loop at the end of each check that was not abandoned, after
+    /// busyChanged() and whether the user is told or not. @p error says for the user why it
+    /// failed, and is empty otherwise. fetchChangeLog() is no check.
+    void checkEnded(CorvelGui::PCheckVersionUpdate::Outcome outcome, const QString& error);
+
 private:
     enum class Channel { Internal, Public };
     using Answered = std::function<void(bool arrived)>;
@@ -94,6 +107,7 @@ private:
     void tellDownloadFailure(const QString& text);
     void tellSaved(const QString& path);
     void tellBusyLater();
+    void tellEndLater(Outcome outcome, const QString& error = {});
     QString base() const;
     QWidget* parentWidget() const;
 

@@ -51,13 +51,7 @@ private Q_SLOTS:
 
     void excludedHosts()
     {
-        struct Row
-        {
-            QString entry;
-            QStringList direct;
-            QStringList proxied;
-        };
-        const Row rows[] = {
+        const std::tuple<QString, QStringList, QStringList> rows[] = {
             {u"Files.example"_s, {u"files.EXAMPLE"_s, u"files.example."_s}, {u"a.files.example"_s}},
             {u"*.example"_s, {u"a.b.example"_s}, {u"example"_s, u"anexample"_s}},
             {u".bücher.example"_s, {u"a.xn--bcher-kva.example"_s}, {u"bücher.example"_s}},

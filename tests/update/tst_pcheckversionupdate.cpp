@@ -83,28 +83,39 @@ private Q_SLOTS:
         const auto version = [](const QByteArray& number) {
             return "version=" + number + keys;
         };
+        const QByteArray lacksNotes = "version=3\nupdatefile=a\nreadmefile=gone.html";
+        const QByteArray bothAndNotes = both + " /out/notes.html";
+        using Outcome = PCheckVersionUpdate::Outcome;
+        using enum Outcome;
+        using Row = std::tuple<QByteArray, QByteArray, bool, QByteArray, Outcome, QStringList>;
         // The version files of both channels come first.
-        const std::tuple<QByteArray, QByteArray, bool, QByteArray, QStringList> rows[] = {
-            {versionFile, versionFile, false, inAndNotes, {offer()}},
-            {{}, versionFile, false, both + " /out/notes.html", {offer(u"2.1.0"_s, {})}},
-            {{}, {}, false, both, {}},
-            {"never", "cut", true, both, {unreachable}},
-            {"hello", versionFile, false, in, {unreadable}},
-            {version("2.0.9.1"), {}, false, inAndNotes, {}},
-            {version("2.0.8.9"), {}, true, inAndNotes, {upToDate}},
-            {version("2.0.9.2"), {}, true, inAndNotes, {offer(u"2.0.9"_s)}},
-            {"version=3\nupdatefile=a\nreadmefile=gone.html", {}, true, in + " /in/gone.html", {}}};
-        for (const auto& [internal, external, showResult, requests, said] : rows) {
+        const Row rows[] = {
+            {versionFile, versionFile, false, inAndNotes, NewerRelease, {offer()}},
+            {{}, versionFile, false, bothAndNotes, NewerRelease, {offer(u"2.1.0"_s, {})}},
+            {{}, {}, false, both, Failed, {}},
+            {"never", "cut", true, both, Failed, {unreachable}},
+            {"hello", versionFile, false, in, Failed, {unreadable}},
+            {version("2.0.9.1"), {}, false, inAndNotes, UpToDate, {}},
+            {version("2.0.8.9"), {}, true, inAndNotes, UpToDate, {upToDate}},
+            {version("2.0.9.2"), {}, true, inAndNotes, NewerRelease, {offer(u"2.0.9"_s)}},
+            {lacksNotes, {}, true, in + " /in/gone.html", Failed, {}}};
+        for (const auto& [internal, external, showResult, requests, outcome, said] : rows) {
             Bench bench;
             bench.user.wantsDownload = false;
             bench.script("/in/", internal);
             bench.script("/out/", external);
             const QSignalSpy busy(bench.updater, &PCheckVersionUpdate::busyChanged);
+            const QSignalSpy ended(bench.updater, &PCheckVersionUpdate::checkEnded);
+            connect(bench.updater, &PCheckVersionUpdate::checkEnded, this,
+                    [&busy] { QCOMPARE(busy.size(), 2); });
             bench.updater->checkVersion(showResult);
             QVERIFY(bench.updater->isBusy());
             QTRY_COMPARE(bench.server.targets().join(' '), requests);
             bench.settle(said);
             QCOMPARE(busy, (QList<QVariantList>{{true}, {false}}));
+            QTRY_COMPARE(ended.size(), 1);
+            QCOMPARE(ended[0][0].value<Outcome>(), outcome);
+            QCOMPARE(ended[0][1].toString().isEmpty(), outcome != Failed);
             QCOMPARE(bench.server.targets().join(' '), requests);
             QCOMPARE(bench.updater->hasInternalReleaseChannelConnection(),
                      requests.startsWith(in + " /in/"));
