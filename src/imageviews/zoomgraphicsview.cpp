@@ -40,9 +40,9 @@ QWheelEvent forViewport(const QWheelEvent& event, QPointF frame)
 
 struct ZoomGraphicsView::Private
 {
-    const QRectF firstRect; // empty for the whole scene
-    QRectF visibleRect{};   // in scene coordinates
-    QPoint lastPosition{};  // of the mouse while panning
+    QRectF firstRect;      // empty for the whole scene
+    QRectF visibleRect{};  // in scene coordinates
+    QPoint lastPosition{}; // of the mouse while panning
     bool panning = false;
     bool adjusting = false; // a scroll bar that comes or goes then is no resize
     bool settling = false;  // started, but never painted since
@@ -63,6 +63,13 @@ ZoomGraphicsView::~ZoomGraphicsView() = default;
 QRectF ZoomGraphicsView::visibleRect() const
 {
     return QRectF(mapToScene(0, 0), mapToScene(viewport()->width(), viewport()->height()));
+}
+
+void ZoomGraphicsView::setVisibleRect(const QRectF& rect)
+{
+    d->firstRect = rect; // of a view that is not shown yet
+    showFirstRect();
+    Q_EMIT viewPortChanged();
 }
 
 bool ZoomGraphicsView::event(QEvent* event)

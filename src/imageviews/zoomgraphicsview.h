@@ -31,10 +31,15 @@ public:
     /// only in part, the rectangle reaches beyond the scene.
     QRectF visibleRect() const;
 
+public Q_SLOTS:
+    /// Shows @p rect, in scene coordinates, in the middle and as large as there is room; the whole
+    /// scene if it is empty, such as after another picture has come into it.
+    void setVisibleRect(const QRectF& rect);
+
 Q_SIGNALS:
-    /// Emitted after each zoom (also one that changes nothing, because the scene fits), each step
-    /// of panning or of scrolling by keys and each resize, and when the view is shown with a scene
-    /// that fits. Not emitted for the rectangle that the view starts with.
+    /// Emitted after setVisibleRect(), each zoom (also one that changes nothing, because the scene
+    /// fits), each step of panning or of scrolling by keys and each resize, and when the view is
+    /// shown with a scene that fits. Not emitted for the rectangle that the view starts with.
     void viewPortChanged();
 
 protected:

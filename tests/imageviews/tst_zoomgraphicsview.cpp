@@ -176,6 +176,13 @@ private Q_SLOTS:
         late.resize(500, 400);
         late.show();
         QVERIFY(isNear(late.visibleRect(), first));
+        scene.setSceneRect(0, 0, 4000, 3000); // another picture
+        late.setVisibleRect({});
+        QVERIFY(late.visibleRect().contains(scene.sceneRect()));
+        const qsizetype told = changes.size();
+        late.setVisibleRect(first);
+        QVERIFY(isNear(late.visibleRect(), first));
+        QCOMPARE(changes.size(), told + 1);
     }
 
     void resizing()
