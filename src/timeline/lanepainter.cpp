@@ -24,6 +24,12 @@ constexpr double footHeight = 2.0;
 constexpr double accentWidth = 3.0;
 constexpr double textPadding = 8.0;
 
+/// A lane without the line that parts it from the next one, which is equally thick below each.
+QRectF bodyOf(const QRectF& lane, const DeviceGrid& grid)
+{
+    return grid.aligned(lane).adjusted(0, 0, 0, -grid.lineWidth(1));
+}
+
 } // namespace
 
 void LanePainter::drawLane(QPainter& painter, const QRectF& lane,
@@ -32,7 +38,7 @@ void LanePainter::drawLane(QPainter& painter, const QRectF& lane,
     const DeviceGrid grid(painter);
     const double left = rulerLeft + std::round(TimeScale::halfMargin());
     const double right = rulerLeft + std::round(scale.sightEnd());
-    const QRectF body = lane.adjusted(0, 0, 0, -1);
+    const QRectF body = bodyOf(lane, grid);
     const auto part = [&](double x1, double x2) {
         return grid.aligned({QPointF(x1, body.top()), QPointF(x2, body.bottom())});
     };
@@ -54,7 +60,7 @@ void LanePainter::drawLane(QPainter& painter, const QRectF& lane,
     const QColor foot = POrvGuiTheme::colorYellow.darker(200);
     forEach(spans.recorded, [&](const QRectF& stretch) {
         painter.fillRect(stretch, POrvGuiTheme::colorTuna);
-        painter.fillRect(grid.aligned(stretch.adjusted(0, stretch.height() - footHeight, 0, 0)),
+        painter.fillRect(stretch.adjusted(0, stretch.height() - grid.lineWidth(footHeight), 0, 0),
                          foot);
     });
 
@@ -72,7 +78,8 @@ void LanePainter::drawName(QPainter& painter, const QRectF& lane, const QString&
                            bool current) const
 {
     const DeviceGrid grid(painter);
-    const QRectF plate = grid.aligned({lane.left(), lane.top(), namesWidth, lane.height() - 1});
+    const QRectF body = bodyOf(lane, grid);
+    const QRectF plate(body.left(), body.top(), grid.edge(namesWidth), body.height());
     painter.fillRect(plate, current ? POrvGuiTheme::colorElephant.darker(130)
                                     : POrvGuiTheme::colorPanther);
     if (current)
@@ -92,11 +99,13 @@ void LanePainter::drawName(QPainter& painter, const QRectF& lane, const QString&
 void LanePainter::drawFrame(QPainter& painter, const QRectF& lane) const
 {
     const DeviceGrid grid(painter);
-    const QRectF body(QPointF(rulerLeft, lane.top()), QPointF(lane.right(), lane.bottom() - 1));
-    painter.fillRect(grid.aligned({body.left(), body.top(), body.width(), 1}),
-                     POrvGuiTheme::colorBlue);
-    painter.fillRect(grid.aligned({body.left(), body.bottom() - 1, body.width(), 1}),
-                     POrvGuiTheme::colorBlue);
+    QRectF line = bodyOf(lane, grid);
+    const double bottom = line.bottom();
+    line.setLeft(grid.edge(rulerLeft));
+    line.setHeight(grid.lineWidth(1));
+    painter.fillRect(line, POrvGuiTheme::colorBlue);
+    line.moveBottom(bottom);
+    painter.fillRect(line, POrvGuiTheme::colorBlue);
 }
 
 void LanePainter::drawRanges(QPainter& painter, double height, const RulerRanges& ranges,

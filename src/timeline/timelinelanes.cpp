@@ -245,9 +245,14 @@ int TimelineLanes::fontSize() const
 
 int TimelineLanes::namesWidth() const
 {
-    const int bar = laneCount() > d->maximumLanes ? d->scrollBar->sizeHint().width() : 0;
+    const int bar = d->layout().maximumOffset() > 0 ? d->scrollBar->sizeHint().width() : 0;
     const int most = std::clamp(width() / 3, narrowestNames, widestNames);
     return std::clamp(d->widestName + namePadding, narrowestNames, most) + bar;
+}
+
+QSize TimelineLanes::sizeHint() const
+{
+    return {namesWidth(), maximumHeight()};
 }
 
 void TimelineLanes::followTracks()
@@ -260,7 +265,12 @@ void TimelineLanes::updateGeometryOfLanes()
 {
     d->laneHeight = fontMetrics().height() + lanePadding;
     d->widestName = widestName(*this);
-    setFixedHeight(std::max(std::min(laneCount(), d->maximumLanes), 1) * d->laneHeight);
+    const int wanted = std::clamp(laneCount(), 1, d->maximumLanes) * d->laneHeight;
+    setMinimumHeight(d->laneHeight);
+    if (maximumHeight() != wanted) {
+        setMaximumHeight(wanted);
+        resize(width(), wanted); // until whoever lays this out has less room
+    }
     updateScrollBar();
     showCurrentLane();
     update();
@@ -329,10 +339,12 @@ void TimelineLanes::paintEvent(QPaintEvent* event)
     d->focus->draw(painter);
 }
 
-void TimelineLanes::resizeEvent(QResizeEvent*)
+void TimelineLanes::resizeEvent(QResizeEvent* event)
 {
     updateScrollBar();
     // Later, because whoever lays this out may be just about it.
+    if (event->size().height() < event->oldSize().height())
+        QMetaObject::invokeMethod(this, &TimelineLanes::showCurrentLane, Qt::QueuedConnection);
     if (std::exchange(d->namesWidth, namesWidth()) != namesWidth())
         QMetaObject::invokeMethod(this, &TimelineLanes::lanesChanged, Qt::QueuedConnection);
 }

@@ -56,8 +56,8 @@ public:
     /// The lane of the current track; -1 without one.
     int currentLane() const;
 
-    /// So many lanes are in view at most; the others are reached by scrolling. 8 by default, at
-    /// least 1.
+    /// So many lanes are in view at most, and fewer, down to one, where there is no room for them;
+    /// the others are reached by scrolling. 8 by default, at least 1.
     int maximumLanes() const;
     void setMaximumLanes(int count);
 
@@ -68,6 +68,8 @@ public:
 
     /// The width that the names want left of the ruler's columns: up to a third of this widget's.
     int namesWidth() const;
+
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// Emitted when another track became the current one, by the user or by setCurrentTrack().

@@ -245,7 +245,7 @@ void TimelineScroll::paintEvent(QPaintEvent* event)
     const QColor boxColor = held ? d->dragColor : d->hovered() ? d->hoverColor : d->boxColor;
     if (d->activityVisible) {
         const QRectF area(d->overview().left(), 1, d->overview().length(), height() - 2);
-        d->activity.paint(painter, area);
+        d->activity.paint(painter, grid.aligned(area));
         d->drawBoxOverActivity(painter, boxColor);
     } else {
         const ViewAreaBox box = d->box();

@@ -51,20 +51,19 @@ void TimelineScroll::Private::drawBoxOverActivity(QPainter& painter, const QColo
 {
     const DeviceGrid grid(painter);
     const OverviewBox shown(overview(), view());
-    const QRectF rect(QPointF(shown.left(), 1), QPointF(shown.right(), q->height() - 1));
+    const QRectF rect =
+        grid.aligned(QRectF(QPointF(shown.left(), 1), QPointF(shown.right(), q->height() - 1)));
     QColor inside = color;
     inside.setAlpha(hold == Hold::None ? 70 : 110);
-    painter.fillRect(grid.aligned(rect), inside);
+    painter.fillRect(rect, inside);
 
-    constexpr double edgeWidth = 2.0;
+    const double line = grid.lineWidth(1);
+    const double side = grid.lineWidth(2);
     const QColor frame = color.lighter(150);
-    const auto fill = [&](const QRectF& part) {
-        painter.fillRect(grid.aligned(part), frame);
-    };
-    fill({rect.left(), rect.top(), rect.width(), 1});
-    fill({rect.left(), rect.bottom() - 1, rect.width(), 1});
-    fill({rect.left(), rect.top(), edgeWidth, rect.height()});
-    fill({rect.right() - edgeWidth, rect.top(), edgeWidth, rect.height()});
+    painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), line), frame);
+    painter.fillRect(QRectF(rect.left(), rect.bottom() - line, rect.width(), line), frame);
+    painter.fillRect(QRectF(rect.left(), rect.top(), side, rect.height()), frame);
+    painter.fillRect(QRectF(rect.right() - side, rect.top(), side, rect.height()), frame);
 }
 
 void TimelineScroll::gripBox(double x)

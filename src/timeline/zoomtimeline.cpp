@@ -7,15 +7,20 @@
 #include "timelinescroll.h"
 #include "zoomer.h"
 
+#include <Hueloft/POrvGuiTheme>
+
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QMetaMethod>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <utility>
+
+using Hueloft::POrvGuiTheme;
 
 namespace CorvelGui {
 
@@ -35,6 +40,8 @@ ZoomTimeline::ZoomTimeline(QWidget* parent)
     m_ruler->installEventFilter(this);
     m_scroll->installEventFilter(this);
     m_scroll->setActivitySource([this](int columns) { return m_ruler->activity(columns); });
+    // Time runs from left to right in every language.
+    setLayoutDirection(Qt::LeftToRight);
     auto* layout = new QGridLayout(this);
     layout->setVerticalSpacing(2);
     layout->setContentsMargins(2, 2, 2, 2);
@@ -369,6 +376,15 @@ bool ZoomTimeline::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return false;
+}
+
+void ZoomTimeline::paintEvent(QPaintEvent*)
+{
+    // The gaps in a column of dark parts are dark, whatever surrounds it.
+    QRect column = m_ruler->geometry();
+    column.setBottom(m_scroll->geometry().top() - 1);
+    if (m_lanesVisible || isActivityVisible())
+        QPainter(this).fillRect(column, POrvGuiTheme::colorBlack);
 }
 
 // What stands at one time stands in one column of all parts, as soon as more of them than the ruler

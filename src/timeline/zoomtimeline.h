@@ -150,6 +150,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void connectNotify(const QMetaMethod& signal) override;
 
 private:

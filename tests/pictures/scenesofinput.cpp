@@ -69,24 +69,18 @@ void Scenes::lineEdits(Sheet& sheet)
         field->setText(text);
         sheet.show(u"length"_s, field, fieldSize);
     }
-    sheet.show<NotEmptyLineEdit>(u"focused"_s, new NotEmptyLineEdit, fieldSize,
-                                 [](NotEmptyLineEdit& field) { focus(field); });
-    auto* off = new NotEmptyLineEdit;
-    off->setEnabled(false);
-    sheet.show(u"disabled"_s, off, fieldSize);
+    sheet.show(u"focused"_s, new NotEmptyLineEdit, fieldSize, focus);
+    sheet.show(u"disabled"_s, new NotEmptyLineEdit, fieldSize, disable);
     auto* unchecked = new NotEmptyLineEdit;
     unchecked->setValidationActive(false);
     sheet.show(u"switched off"_s, unchecked, fieldSize);
 
     sheet.show(u"filter"_s, filterField({}), fieldSize);
     sheet.show(u"filter with text"_s, filterField(u"entrance"_s), fieldSize);
-    sheet.show<FilterLineEdit>(
-        u"mirrored filter"_s, filterField(u"entrance"_s), fieldSize,
-        [](FilterLineEdit& field) { field.setLayoutDirection(Qt::RightToLeft); });
-    sheet.show<FilterLineEdit>(u"disabled filter"_s, filterField(u"entrance"_s), fieldSize,
-                               [](FilterLineEdit& field) { field.setEnabled(false); });
+    sheet.show(u"mirrored filter"_s, filterField(u"entrance"_s), fieldSize, mirror);
+    sheet.show(u"disabled filter"_s, filterField(u"entrance"_s), fieldSize, disable);
     sheet.show(u"high filter"_s, filterField(u"entrance"_s), {150, 36});
-    sheet.show(u"filter at scale 2"_s, filterField(u"in"_s), {75, 0}, {}, 2);
+    sheet.showAt(2, u"filter at scale 2"_s, filterField(u"in"_s), {75, 0});
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         auto* edit = new FancyLineEdit;
         edit->setLayoutDirection(direction);
@@ -100,7 +94,7 @@ void Scenes::lineEdits(Sheet& sheet)
         edit->setButtonVisible(FancyLineEdit::Right, true);
         edit->setButtonFocusPolicy(FancyLineEdit::Left, Qt::TabFocus);
         edit->setButtonMenu(FancyLineEdit::Left, new QMenu(edit));
-        sheet.show<FancyLineEdit>(u"buttons"_s, edit, fieldSize, [](FancyLineEdit& shown) {
+        sheet.show(u"buttons"_s, edit, fieldSize, [](FancyLineEdit& shown) {
             focus(*shown.findChildren<QAbstractButton*>().constFirst());
         });
     }
@@ -117,9 +111,8 @@ void Scenes::smallInputs(Sheet& sheet)
     own->setOtherColors(true);
     own->setCurrentColor(QColor(120, 80, 40, 128));
     sheet.show(u"other colour"_s, own);
-    auto* list = new PColorComboBox;
-    list->addThemeColors();
-    sheet.show<PColorComboBox>(u"closed list"_s, list, {}, [&](PColorComboBox& box) {
+    sheet.show(u"closed list"_s, new PColorComboBox, {}, [&](PColorComboBox& box) {
+        box.addThemeColors();
         box.showPopup();
         sheet.grab(u"list of colours"_s, *box.view());
         box.hidePopup();
@@ -139,9 +132,7 @@ void Scenes::smallInputs(Sheet& sheet)
         button->setColor(color);
         sheet.show(u"colour button"_s, button);
     }
-    auto* off = new PColorButton;
-    off->setEnabled(false);
-    sheet.show(u"disabled colour button"_s, off);
+    sheet.show(u"disabled colour button"_s, new PColorButton, {}, disable);
 
     for (const QStringList& checked : {QStringList(), QStringList{u"motion"_s, u"door"_s}}) {
         for (const bool isEnabled : {true, false}) {
@@ -156,7 +147,7 @@ void Scenes::smallInputs(Sheet& sheet)
     large->setFilters({{u"motion"_s, u"Motion"_s}});
     large->setCheckedFilters({u"motion"_s});
     large->setIconSize({32, 32});
-    sheet.show(u"filters, at scale 2"_s, large, {}, {}, 2);
+    sheet.showAt(2, u"filters, at scale 2"_s, large, {});
 
     auto* last = new PLastActionToolButton;
     last->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -164,33 +155,26 @@ void Scenes::smallInputs(Sheet& sheet)
     last->menu()->addAction(PIconHelper::GetOpenIcon_32x32(true), u"&Open…"_s);
     sheet.show(u"last action"_s, last);
 
-    for (const int width : {300, 150}) {
-        auto* error = new PErrorLabel;
-        error->setError(u"The camera “Hall” does not answer. Check its address."_s);
-        sheet.show(u"error"_s, error, {width, 0});
-    }
-    auto* mirrored = new PErrorLabel;
-    mirrored->setError(u"No answer"_s);
-    sheet.show<PErrorLabel>(u"mirrored error"_s, mirrored, {150, 0},
-                            [](PErrorLabel& label) { label.setLayoutDirection(Qt::RightToLeft); });
-    auto* bigError = new PErrorLabel;
-    bigError->setError(u"No answer"_s);
-    sheet.show<PErrorLabel>(
-        u"larger error at scale 2"_s, bigError, {100, 0},
-        [](PErrorLabel& label) {
-            QFont font = label.font();
-            font.setPointSize(14);
-            label.setFont(font);
-        },
-        2);
-    sheet.show(u"clickable"_s, new PClickableLabel(u"Show the error"_s));
-    sheet.show<PClickableLabel>(u"clickable, focus"_s, new PClickableLabel(u"Show the error"_s), {},
-                                [](PClickableLabel& label) { focus(label); });
-    sheet.show<PClickableLabel>(u"clickable, under the mouse"_s,
-                                new PClickableLabel(u"Show the error"_s), {},
-                                [](PClickableLabel& label) { hover(label); });
-    sheet.show<PClickableLabel>(u"clickable, disabled"_s, new PClickableLabel(u"Show the error"_s),
-                                {}, [](PClickableLabel& label) { label.setEnabled(false); });
+    const auto error = [](const QString& shown) {
+        auto* label = new PErrorLabel;
+        label->setError(shown);
+        return label;
+    };
+    for (const int width : {300, 150})
+        sheet.show(u"error"_s, error(u"The camera “Hall” does not answer. Check its address."_s),
+                   {width, 0});
+    sheet.show(u"mirrored error"_s, error(u"No answer"_s), {150, 0}, mirror);
+    sheet.showAt(2, u"larger error at scale 2"_s, error(u"No answer"_s), {100, 0},
+                 [](QWidget& label) {
+                     QFont font = label.font();
+                     font.setPointSize(14);
+                     label.setFont(font);
+                 });
+    const QString text = u"Show the error"_s;
+    sheet.show(u"clickable"_s, new PClickableLabel(text));
+    sheet.show(u"clickable, focus"_s, new PClickableLabel(text), {}, focus);
+    sheet.show(u"clickable, under the mouse"_s, new PClickableLabel(text), {}, hover);
+    sheet.show(u"clickable, disabled"_s, new PClickableLabel(text), {}, disable);
 
     for (const int most : {140, 24}) {
         auto* note = new PTextEdit;

@@ -89,8 +89,7 @@ void Scenes::lists(Sheet& sheet)
 {
     PTableWidget* table = devices();
     table->resizeAllColumnToContentsWithOffset(5);
-    sheet.show<PTableWidget>(u"table"_s, table, {470, 110},
-                             [](PTableWidget& shown) { shown.selectRow(1); });
+    sheet.show(u"table"_s, table, {470, 110}, [](PTableWidget& shown) { shown.selectRow(1); });
     PTableWidget* last = devices();
     for (int column = 0; column < 5; ++column)
         last->setColumnHidden(column, true);
@@ -101,7 +100,7 @@ void Scenes::lists(Sheet& sheet)
     auto* numbers = new PLineEditDelegate(edited);
     numbers->setValidator(new QIntValidator(1, 65535, numbers));
     edited->setItemDelegateForColumn(2, numbers);
-    sheet.show<PTableWidget>(u"edited cells"_s, edited, {320, 110}, [](PTableWidget& shown) {
+    sheet.show(u"edited cells"_s, edited, {320, 110}, [](PTableWidget& shown) {
         for (const int column : {1, 2}) {
             shown.openPersistentEditor(shown.item(1, column));
             auto* editor = shown.viewport()->findChildren<QLineEdit*>().constLast();
@@ -111,18 +110,17 @@ void Scenes::lists(Sheet& sheet)
     });
     PTableWidget* filtered = devices();
     auto* columns = new PHeaderCheckMenu(filtered->horizontalHeader());
-    sheet.show<PTableWidget>(u"filtered"_s, filtered, {200, 110}, [](PTableWidget& shown) {
+    sheet.show(u"filtered"_s, filtered, {200, 110}, [](PTableWidget& shown) {
         shown.setColumnHidden(1, true);
         shown.FilterTable(u"camera 1"_s);
     });
     Q_UNUSED(columns)
     sheet.show(u"tree"_s, sites(), {230, 140});
-    sheet.show<PTreeWidget>(u"tree with a centred header"_s, sites(), {230, 140},
-                            [](PTreeWidget& tree) {
-                                tree.setHeaderTextAlignmentCenter();
-                                tree.setFontForHeaderBold();
-                                tree.ScrollToItemAndSelect(tree.topLevelItem(0)->child(2), true);
-                            });
+    sheet.show(u"tree with a centred header"_s, sites(), {230, 140}, [](PTreeWidget& tree) {
+        tree.setHeaderTextAlignmentCenter();
+        tree.setFontForHeaderBold();
+        tree.ScrollToItemAndSelect(tree.topLevelItem(0)->child(2), true);
+    });
     auto* owner = new QTableWidget(1, 3);
     owner->setHorizontalHeaderLabels({u"Device"_s, u"Address"_s, u"Port"_s});
     owner->setColumnHidden(1, true);
@@ -135,21 +133,20 @@ void Scenes::lists(Sheet& sheet)
 
 void Scenes::tabs(Sheet& sheet)
 {
-    const auto show = [&sheet](const QString& name, const std::function<void(PTabWidget&)>& act,
-                               bool isClosable = true,
-                               Qt::LayoutDirection direction = Qt::LeftToRight) {
+    const auto show = [&sheet](const QString& name, bool isClosable, Qt::LayoutDirection direction,
+                               const auto&... acts) {
         auto* tabs = new PTabWidget;
         tabs->setTabsClosable(isClosable);
         tabs->setLayoutDirection(direction);
         for (const QString& title : {u"Overview"_s, u"R&&D entrance"_s, u"Roof"_s})
             tabs->addTab(new QWidget, title);
         tabs->setCurrentIndex(1);
-        sheet.show<PTabWidget>(name, tabs, {470, 60}, act);
+        sheet.show(name, tabs, {470, 60}, acts...);
     };
-    show(u"tabs"_s, {});
-    show(u"focus"_s, [](PTabWidget& tabs) { focus(*tabs.tabBar()); });
-    show(u"renamed"_s, [](PTabWidget& tabs) { tabs.editTabName(1); });
-    show(
-        u"fixed"_s, [](PTabWidget& tabs) { tabs.setTabEnabled(0, false); }, false);
-    show(u"mirrored"_s, {}, true, Qt::RightToLeft);
+    show(u"tabs"_s, true, Qt::LeftToRight);
+    show(u"focus"_s, true, Qt::LeftToRight, [](PTabWidget& tabs) { focus(*tabs.tabBar()); });
+    show(u"renamed"_s, true, Qt::LeftToRight, [](PTabWidget& tabs) { tabs.editTabName(1); });
+    show(u"fixed"_s, false, Qt::LeftToRight,
+         [](PTabWidget& tabs) { tabs.setTabEnabled(0, false); });
+    show(u"mirrored"_s, true, Qt::RightToLeft);
 }

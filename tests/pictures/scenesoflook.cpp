@@ -39,13 +39,6 @@ void paintIcon(QPainter& painter, const QIcon& icon, bool onPlayer)
     }
 }
 
-template <typename Widget>
-Widget* disabled(Widget* widget)
-{
-    widget->setEnabled(false);
-    return widget;
-}
-
 } // namespace
 
 void Scenes::icons(Sheet& sheet)
@@ -125,58 +118,47 @@ void Scenes::colours(Sheet& sheet)
 void Scenes::controls(Sheet& sheet)
 {
     const QString text = u"Gate"_s;
-    sheet.show(u"button"_s, new QPushButton(text));
-    sheet.show<QPushButton>(u"default button"_s, new QPushButton(text), {},
-                            [](QPushButton& button) { button.setDefault(true); });
-    sheet.show<QPushButton>(u"checked button"_s, new QPushButton(text), {},
-                            [](QPushButton& button) {
-                                button.setCheckable(true);
-                                button.setChecked(true);
-                            });
-    sheet.show<QPushButton>(u"pressed button"_s, new QPushButton(text), {},
-                            [](QPushButton& button) { button.setDown(true); });
-    sheet.show<QPushButton>(u"focused button"_s, new QPushButton(text), {},
-                            [](QPushButton& button) { focus(button); });
-    sheet.show<QPushButton>(u"button under the mouse"_s, new QPushButton(text), {},
-                            [](QPushButton& button) { hover(button); });
-    sheet.show(u"disabled button"_s, disabled(new QPushButton(text)));
+    const auto button = [&](const QString& name, const auto&... acts) {
+        sheet.show(name, new QPushButton(text), {}, acts...);
+    };
+    button(u"button"_s);
+    button(u"default button"_s, [](QPushButton& shown) { shown.setDefault(true); });
+    button(u"checked button"_s, [](QPushButton& shown) {
+        shown.setCheckable(true);
+        shown.setChecked(true);
+    });
+    button(u"pressed button"_s, [](QPushButton& shown) { shown.setDown(true); });
+    button(u"focused button"_s, focus);
+    button(u"button under the mouse"_s, hover);
+    button(u"disabled button"_s, disable);
     for (const bool isEnabled : {true, false}) {
+        const auto show = [&](const QString& name, auto* widget, QSize size = {}) {
+            widget->setEnabled(isEnabled);
+            sheet.show(name, widget, size);
+        };
         for (const Qt::CheckState state : {Qt::Unchecked, Qt::PartiallyChecked, Qt::Checked}) {
             auto* box = new QCheckBox(text);
             box->setCheckState(state);
-            box->setEnabled(isEnabled);
-            sheet.show(u"check box"_s, box);
+            show(u"check box"_s, box);
         }
         for (const bool isOn : {false, true}) {
             auto* choice = new QRadioButton(text);
             choice->setChecked(isOn);
-            choice->setEnabled(isEnabled);
-            sheet.show(u"radio button"_s, choice);
+            show(u"radio button"_s, choice);
         }
-        auto* edit = new QLineEdit(text);
-        edit->setEnabled(isEnabled);
-        sheet.show(u"line edit"_s, edit, {80, 0});
-        auto* number = new QSpinBox;
-        number->setEnabled(isEnabled);
-        sheet.show(u"spin box"_s, number);
+        show(u"line edit"_s, new QLineEdit(text), {80, 0});
+        show(u"spin box"_s, new QSpinBox);
         auto* choice = new QComboBox;
         choice->addItem(text);
-        choice->setEnabled(isEnabled);
-        sheet.show(u"combo box"_s, choice);
+        show(u"combo box"_s, choice);
         auto* slider = new QSlider(Qt::Horizontal);
         slider->setTickPosition(QSlider::TicksBelow);
         slider->setValue(40);
-        slider->setEnabled(isEnabled);
-        sheet.show(u"slider"_s, slider, {80, 0});
-        auto* bar = new QScrollBar(Qt::Horizontal);
-        bar->setEnabled(isEnabled);
-        sheet.show(u"scroll bar"_s, bar, {80, 0});
+        show(u"slider"_s, slider, {80, 0});
+        show(u"scroll bar"_s, new QScrollBar(Qt::Horizontal), {80, 0});
     }
-    sheet.show<QLineEdit>(u"focused line edit"_s, new QLineEdit(text), {80, 0},
-                          [](QLineEdit& edit) {
-                              focus(edit);
-                              edit.selectAll();
-                          });
+    sheet.show(u"focused line edit"_s, new QLineEdit(text), {80, 0}, focus,
+               [](QLineEdit& edit) { edit.selectAll(); });
     auto* empty = new QLineEdit;
     empty->setPlaceholderText(u"Search"_s);
     sheet.show(u"empty line edit"_s, empty, {80, 0});
@@ -188,10 +170,8 @@ void Scenes::controls(Sheet& sheet)
     auto* group = new QGroupBox(text);
     (new QVBoxLayout(group))->addWidget(new QLabel(u"<a href='x'>Link</a>"_s));
     sheet.show(u"group box"_s, group, {80, 0});
-    auto* edit = new QTimeEdit(QTime(9, 30));
-    sheet.show(u"time"_s, edit);
-    auto* notes = new QPlainTextEdit(u"One\nTwo\nThree\nFour\nFive\nSix"_s);
-    sheet.show(u"text"_s, notes, {90, 60});
+    sheet.show(u"time"_s, new QTimeEdit(QTime(9, 30)));
+    sheet.show(u"text"_s, new QPlainTextEdit(u"One\nTwo\nThree\nFour\nFive\nSix"_s), {90, 60});
     auto* tree = new QTreeWidget;
     tree->setHeaderLabel(u"Site"_s);
     tree->setAlternatingRowColors(true);
@@ -213,21 +193,21 @@ void Scenes::controls(Sheet& sheet)
     menu->addAction(u"Not now"_s)->setEnabled(false);
     menu->addAction(u"Checked"_s)->setCheckable(true);
     menu->actions().constLast()->setChecked(true);
-    sheet.show<QMenu>(u"menu"_s, menu, {},
-                      [](QMenu& shown) { shown.setActiveAction(shown.actions().constFirst()); });
+    sheet.show(u"menu"_s, menu, {},
+               [](QMenu& shown) { shown.setActiveAction(shown.actions().constFirst()); });
     auto* player = new QFrame;
     player->setProperty("tarvo", true);
     auto* row = new QHBoxLayout(player);
     for (int i = 0; i < 4; ++i) {
-        auto* button = new QToolButton;
-        button->setProperty("TarvoPlayback", true);
-        button->setIcon(PTarvoPlayerIconHelper::GetPlay_32x32());
-        button->setCheckable(true);
-        button->setChecked(i == 1);
-        button->setEnabled(i != 2);
+        auto* play = new QToolButton;
+        play->setProperty("TarvoPlayback", true);
+        play->setIcon(PTarvoPlayerIconHelper::GetPlay_32x32());
+        play->setCheckable(true);
+        play->setChecked(i == 1);
+        play->setEnabled(i != 2);
         if (i == 3)
-            hover(*button);
-        row->addWidget(button);
+            hover(*play);
+        row->addWidget(play);
     }
     row->addWidget(new QLabel(text));
     sheet.show(u"player"_s, player);

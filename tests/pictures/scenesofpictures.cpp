@@ -51,12 +51,11 @@ struct Overlay : BusyIndicator
 void Scenes::images(Sheet& sheet)
 {
     using Fit = PImageWidget::Fit;
-    const auto image = [&sheet](const QString& name,
-                                const std::function<void(PImageWidget&)>& act) {
+    const auto image = [&sheet](const QString& name, const auto&... acts) {
         auto* widget = new PImageWidget;
         widget->setAutoFillBackground(true);
         widget->setBackgroundRole(QPalette::Base);
-        sheet.show<PImageWidget>(name, widget, {84, 64}, act);
+        sheet.show(name, widget, {84, 64}, acts...);
     };
     const std::tuple<const char*, Fit, Qt::Alignment> fits[] = {
         {"contain", Fit::Contain, Qt::AlignCenter}, {"bottom", Fit::Contain, Qt::AlignBottom},
@@ -70,13 +69,12 @@ void Scenes::images(Sheet& sheet)
             widget.setImage(fit == Fit::Shrink ? photo().copy(0, 0, 40, 30) : photo());
         });
     }
-    image(u"shrunk, mirrored"_s, [](PImageWidget& widget) {
+    image(u"shrunk, mirrored"_s, mirror, [](PImageWidget& widget) {
         widget.setFit(Fit::Shrink);
         widget.setAlignment(Qt::AlignLeft | Qt::AlignTop);
         widget.setImage(photo().copy(0, 0, 40, 90));
-        widget.setLayoutDirection(Qt::RightToLeft);
     });
-    image(u"empty"_s, {});
+    image(u"empty"_s);
     image(u"failed"_s, [](PImageWidget& widget) {
         widget.setSource(QUrl(u"qrc:/CorvelGui/common/none.png"_s));
         QTRY_COMPARE(widget.state(), PImageWidget::State::Failed);
@@ -88,10 +86,7 @@ void Scenes::images(Sheet& sheet)
         widget.setSource(QUrl(u"qrc:/CorvelGui/common/open.png"_s));
         QTRY_COMPARE(widget.state(), PImageWidget::State::Ready);
     });
-    image(u"disabled"_s, [](PImageWidget& widget) {
-        widget.setImage(photo());
-        widget.setEnabled(false);
-    });
+    image(u"disabled"_s, disable, [](PImageWidget& widget) { widget.setImage(photo()); });
 
     for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
         for (const QString& text : {u"Main gate"_s, u"Yard behind the workshop, camera 10"_s}) {
@@ -123,42 +118,33 @@ void Scenes::images(Sheet& sheet)
         view->setFrameShape(rect.isNull() ? QFrame::NoFrame : QFrame::Box);
         sheet.show(u"zoomed"_s, view, {130, 100});
     }
-    auto* focused = new ZoomGraphicsView(&scene, {});
-    sheet.show<ZoomGraphicsView>(u"zoomed, focus"_s, focused, {130, 100},
-                                 [](ZoomGraphicsView& view) {
-                                     focus(view);
-                                     QTest::keyClick(&view, Qt::Key_Plus);
-                                 });
+    sheet.show(u"zoomed, focus"_s, new ZoomGraphicsView(&scene, {}), {130, 100}, focus,
+               [](ZoomGraphicsView& view) { QTest::keyClick(&view, Qt::Key_Plus); });
 }
 
 void Scenes::progress(Sheet& sheet)
 {
-    const auto busy = [&sheet](
-                          const QString& name, int steps, QSize size, double scale = 1,
-                          std::chrono::milliseconds delay = 0ms,
-                          const std::function<void(Overlay&)>& act = [](Overlay&) {}) {
+    const auto busy = [&sheet](const QString& name, int steps, double scale = 1,
+                               std::chrono::milliseconds delay = 0ms, const auto&... acts) {
         auto* panel = new QWidget;
         (new QVBoxLayout(panel))->addWidget(new QLabel(u"Gate camera, north"_s));
-        sheet.show<QWidget>(
-            name, panel, size,
-            [&](QWidget& shown) {
-                auto* overlay = new Overlay(&shown);
-                overlay->setDelay(delay);
-                overlay->show();
-                overlay->step(steps);
-                act(*overlay);
-            },
-            scale);
+        sheet.showAt(scale, name, panel, {110, 110}, [&](QWidget& shown) {
+            auto* overlay = new Overlay(&shown);
+            overlay->setDelay(delay);
+            overlay->show();
+            overlay->step(steps);
+            (acts(*overlay), ...);
+        });
     };
-    constexpr QSize size(110, 110);
     for (const int steps : {0, 3, 7, 25, 41})
-        busy(u"busy, step %1"_s.arg(steps), steps, size);
-    busy(u"within its delay"_s, 5, size, 1, 1h);
-    busy(u"at scale 2"_s, 10, size, 2);
-    busy(u"on a picture"_s, 5, size, 1, 0ms,
-         [](Overlay& overlay) { overlay.setBackgroundImage(QPixmap::fromImage(photo())); });
-    busy(u"off a picture"_s, 5, size, 1, 0ms, [](Overlay& overlay) {
+        busy(u"busy, step %1"_s.arg(steps), steps);
+    busy(u"within its delay"_s, 5, 1, 1h);
+    busy(u"at scale 2"_s, 10, 2);
+    const auto setPicture = [](Overlay& overlay) {
         overlay.setBackgroundImage(QPixmap::fromImage(photo()));
+    };
+    busy(u"on a picture"_s, 5, 1, 0ms, setPicture);
+    busy(u"off a picture"_s, 5, 1, 0ms, setPicture, [](Overlay& overlay) {
         overlay.step(1);
         overlay.setBackgroundImage({});
         overlay.step(1);

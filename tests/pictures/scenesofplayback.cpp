@@ -69,12 +69,11 @@ void showTip(Sheet& sheet, const QString& name, QWidget& slider, QPoint position
 void Scenes::playbar(Sheet& sheet)
 {
     const auto show = [&sheet](const QString& name, PPlaybar::PlaybackState state,
-                               PPlaybar::PlaybackSpeed speed,
-                               const std::function<void(PPlaybar&)>& act = {}, double scale = 1) {
+                               PPlaybar::PlaybackSpeed speed, const auto&... acts) {
         auto* bar = new PPlaybar;
         bar->setPlaybackState(state);
         bar->setPlaybackSpeed(speed);
-        sheet.show<PPlaybar>(name, bar, {}, act, scale);
+        sheet.show(name, bar, {}, acts...);
     };
     show(u"paused"_s, PPlaybar::Pause, PPlaybar::SpeedZero);
     show(u"playing"_s, PPlaybar::Play, PPlaybar::Speed1);
@@ -86,8 +85,7 @@ void Scenes::playbar(Sheet& sheet)
          [](PPlaybar& bar) { bar.setLiveMode(true, true); });
     show(u"no reverse"_s, PPlaybar::Pause, PPlaybar::SpeedZero,
          [](PPlaybar& bar) { bar.setLiveMode(false, false); });
-    show(u"disabled"_s, PPlaybar::Play, PPlaybar::Speed1,
-         [](PPlaybar& bar) { bar.setEnabled(false); });
+    show(u"disabled"_s, PPlaybar::Play, PPlaybar::Speed1, disable);
     show(u"no speed"_s, PPlaybar::Play, PPlaybar::Speed1,
          [](PPlaybar& bar) { bar.setSpeedVisible(false); });
     show(u"under the mouse, and with the focus"_s, PPlaybar::Play, PPlaybar::Speed1,
@@ -104,34 +102,26 @@ void Scenes::playbar(Sheet& sheet)
 void Scenes::sliders(Sheet& sheet)
 {
     const QSize size(220, 0);
-    sheet.show<PSlider>(u"slider"_s, plainSlider(Qt::Horizontal), size, [&](PSlider& slider) {
+    sheet.show(u"slider"_s, plainSlider(Qt::Horizontal), size, [&](PSlider& slider) {
         slider.setValueText([](int value) { return u"%1 %"_s.arg(value); });
         showTip(sheet, u"tip"_s, slider, {60, slider.height() / 3});
     });
-    sheet.show<PSlider>(u"slider with focus"_s, plainSlider(Qt::Horizontal), size,
-                        [](PSlider& slider) { focus(slider); });
-    sheet.show<PSlider>(u"mirrored slider"_s, plainSlider(Qt::Horizontal), size,
-                        [](PSlider& slider) { slider.setLayoutDirection(Qt::RightToLeft); });
-    sheet.show<PSlider>(u"disabled slider"_s, plainSlider(Qt::Horizontal), size,
-                        [](PSlider& slider) { slider.setEnabled(false); });
+    sheet.show(u"slider with focus"_s, plainSlider(Qt::Horizontal), size, focus);
+    sheet.show(u"mirrored slider"_s, plainSlider(Qt::Horizontal), size, mirror);
+    sheet.show(u"disabled slider"_s, plainSlider(Qt::Horizontal), size, disable);
     sheet.show(u"upright slider"_s, plainSlider(Qt::Vertical), {0, 110});
-    sheet.show<PSlider>(u"upright slider, inverted"_s, plainSlider(Qt::Vertical), {0, 110},
-                        [](PSlider& slider) { slider.setInvertedAppearance(true); });
+    sheet.show(u"upright slider, inverted"_s, plainSlider(Qt::Vertical), {0, 110},
+               [](PSlider& slider) { slider.setInvertedAppearance(true); });
 
     sheet.show(u"video"_s, videoSlider(), size);
-    sheet.show(u"video at scale 2"_s, videoSlider(), {110, 0}, {}, 2);
-    sheet.show<VideoSlider>(u"video with focus"_s, videoSlider(), size,
-                            [](VideoSlider& slider) { focus(slider); });
-    sheet.show<VideoSlider>(u"disabled video"_s, videoSlider(), size,
-                            [](VideoSlider& slider) { slider.setEnabled(false); });
-    sheet.show<VideoSlider>(u"mirrored video"_s, videoSlider(), size, [](VideoSlider& slider) {
-        slider.setLayoutDirection(Qt::RightToLeft);
-    });
-    sheet.show<VideoSlider>(u"dragged video"_s, videoSlider(), size, [&](VideoSlider& slider) {
+    sheet.showAt(2, u"video at scale 2"_s, videoSlider(), {110, 0});
+    sheet.show(u"video with focus"_s, videoSlider(), size, focus);
+    sheet.show(u"disabled video"_s, videoSlider(), size, disable);
+    sheet.show(u"mirrored video"_s, videoSlider(), size, mirror);
+    sheet.show(u"dragged video"_s, videoSlider(), size, [&](VideoSlider& slider) {
         showTip(sheet, u"tip of a video"_s, slider, {134, slider.height() / 2});
     });
-    sheet.show<VideoSlider>(u"hovered video"_s, videoSlider(), size, [&](VideoSlider& slider) {
-        hover(slider);
+    sheet.show(u"hovered video"_s, videoSlider(), size, hover, [](VideoSlider& slider) {
         moveMouse(slider, {120, slider.height() / 2.0});
         QPixmap picture(80, 45);
         picture.fill(QColor(40, 60, 80));
@@ -142,22 +132,17 @@ void Scenes::sliders(Sheet& sheet)
     sheet.show(u"range"_s, rangeSlider(), size);
     sheet.show(u"whole range"_s, rangeSlider(0, 24), size);
     sheet.show(u"empty range"_s, rangeSlider(12, 12), size);
-    sheet.show(u"range at scale 2"_s, rangeSlider(), {110, 0}, {}, 2);
-    sheet.show<RangeSlider>(u"mirrored range"_s, rangeSlider(3, 9), size, [](RangeSlider& slider) {
-        slider.setLayoutDirection(Qt::RightToLeft);
-    });
-    sheet.show<RangeSlider>(u"disabled range"_s, rangeSlider(), size,
-                            [](RangeSlider& slider) { slider.setEnabled(false); });
+    sheet.showAt(2, u"range at scale 2"_s, rangeSlider(), {110, 0});
+    sheet.show(u"mirrored range"_s, rangeSlider(3, 9), size, mirror);
+    sheet.show(u"disabled range"_s, rangeSlider(), size, disable);
     for (const bool isLast : {false, true})
-        sheet.show<RangeSlider>(u"range with focus"_s, rangeSlider(), size,
-                                [isLast](RangeSlider& slider) {
-                                    QList<QWidget*> handles = slider.findChildren<QWidget*>();
-                                    handles.removeIf([](const QWidget* child) {
-                                        return child->focusPolicy() == Qt::NoFocus;
-                                    });
-                                    focus(*(isLast ? handles.last() : handles.first()));
-                                });
-    sheet.show<RangeSlider>(u"dragged range"_s, rangeSlider(), size, [&](RangeSlider& slider) {
+        sheet.show(u"range with focus"_s, rangeSlider(), size, [isLast](RangeSlider& slider) {
+            QList<QWidget*> handles = slider.findChildren<QWidget*>();
+            handles.removeIf(
+                [](const QWidget* child) { return child->focusPolicy() == Qt::NoFocus; });
+            focus(*(isLast ? handles.last() : handles.first()));
+        });
+    sheet.show(u"dragged range"_s, rangeSlider(), size, [&](RangeSlider& slider) {
         showTip(sheet, u"tip of a range"_s, slider, {110, slider.height() / 2});
     });
 
@@ -167,53 +152,51 @@ void Scenes::sliders(Sheet& sheet)
         button->setValue(50);
         button->setOrientation(orientation);
         button->setText(u"Volume"_s);
-        sheet.show<PopupSliderToolButton>(u"button with a slider"_s, button, {},
-                                          [&](PopupSliderToolButton& shown) {
-                                              shown.menu()->popup({});
-                                              sheet.grab(u"its slider"_s, *shown.menu());
-                                              shown.menu()->close();
-                                          });
+        sheet.show(u"button with a slider"_s, button, {}, [&](PopupSliderToolButton& shown) {
+            shown.menu()->popup({});
+            sheet.grab(u"its slider"_s, *shown.menu());
+            shown.menu()->close();
+        });
     }
 }
 
 void Scenes::dates(Sheet& sheet)
 {
-    const auto view = [&sheet](const QString& name,
-                               const std::function<void(TarvoDateTimeView&)>& act,
-                               const QString& moment = u"2026-08-18T10:15:30.250Z"_s) {
+    const auto view = [&sheet](const QString& name, const QString& moment, const auto&... acts) {
         auto* shown = new TarvoDateTimeView;
         shown->setDeviceName(u"Gate <north>"_s);
         shown->updateDateTime(QDateTime::fromString(moment, Qt::ISODateWithMs)
                                   .toTimeZone(QTimeZone("Europe/Brussels")));
-        sheet.show<TarvoDateTimeView>(name, shown, {}, act);
+        sheet.show(name, shown, {}, acts...);
     };
-    view(u"playing"_s, {});
-    view(u"not playing"_s, [](TarvoDateTimeView& shown) { shown.setPlayMode(false); });
-    view(u"hour that comes twice"_s, {}, u"2026-10-25T00:30:00Z"_s);
-    view(u"no milliseconds"_s, [](TarvoDateTimeView& shown) { shown.setShowMilliseconds(false); });
-    view(u"disabled"_s, [](TarvoDateTimeView& shown) { shown.setEnabled(false); });
-    view(u"focus"_s, [](TarvoDateTimeView& shown) { focus(shown); });
-    view(u"under the mouse"_s, [](TarvoDateTimeView& shown) { hover(shown); });
-    sheet.show<TarvoDateTimeView>(
-        u"nothing"_s, new TarvoDateTimeView, {},
-        [](TarvoDateTimeView& shown) { QTRY_VERIFY(shown.minimumWidth() > 0); });
+    using View = TarvoDateTimeView;
+    const QString august = u"2026-08-18T10:15:30.250Z"_s;
+    view(u"playing"_s, august);
+    view(u"not playing"_s, august, [](View& shown) { shown.setPlayMode(false); });
+    view(u"hour that comes twice"_s, u"2026-10-25T00:30:00Z"_s);
+    view(u"no milliseconds"_s, august, [](View& shown) { shown.setShowMilliseconds(false); });
+    view(u"disabled"_s, august, disable);
+    view(u"focus"_s, august, focus);
+    view(u"under the mouse"_s, august, hover);
+    sheet.show(u"nothing"_s, new View, {},
+               [](View& shown) { QTRY_VERIFY(shown.minimumWidth() > 0); });
 
     auto* jump = new JumpToTimepointDialog;
     jump->setDeviceName(u"Gate"_s);
     jump->setMoment(inNewYork(u"2026-08-18T12:30:00Z"_s));
     sheet.show(u"jump"_s, jump);
 
-    const auto date = [&sheet](const QString& name, const std::function<void(PDateEdit&)>& act) {
+    const auto date = [&sheet](const QString& name, const auto&... acts) {
         auto* edit = new PDateEdit;
         edit->setChosenDate(QDate(2026, 8, 18));
-        sheet.show<PDateEdit>(name, edit, {}, act);
+        sheet.show(name, edit, {}, acts...);
     };
-    date(u"date"_s, {});
+    date(u"date"_s);
     date(u"no date"_s, [](PDateEdit& edit) {
         edit.setEmptyAllowed(true);
         edit.setChosenDate({});
     });
-    date(u"disabled date"_s, [](PDateEdit& edit) { edit.setEnabled(false); });
+    date(u"disabled date"_s, disable);
 
     auto* limited = new PDateTimeSelectionDialog;
     limited->setWindowFlags(Qt::Widget);

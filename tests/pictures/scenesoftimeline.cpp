@@ -46,17 +46,17 @@ void fill(Ruler& ruler)
     ruler.setView(middle - hour, middle + 2 * hour);
 }
 
-/// A ruler of three hours, changed by @p change.
-void showRuler(Sheet& sheet, const QString& name, const std::function<void(Ruler&)>& change,
-               double scale = 1)
+/// A ruler of three hours, changed by @p changes.
+template <typename... Changes>
+void showRulerAt(double scale, Sheet& sheet, const QString& name, const Changes&... changes)
 {
-    sheet.show<Ruler>(
-        name, new Ruler, scale == 1 ? rulerSize : rulerSize / scale,
-        [&](Ruler& ruler) {
-            fill(ruler);
-            change(ruler);
-        },
-        scale);
+    sheet.showAt(scale, name, new Ruler, rulerSize / scale, fill, changes...);
+}
+
+template <typename... Changes>
+void showRuler(Sheet& sheet, const QString& name, const Changes&... changes)
+{
+    showRulerAt(1, sheet, name, changes...);
 }
 
 struct Icons : IRulerMarkerIconProvider
@@ -154,8 +154,7 @@ void Scenes::rulerZooms(Sheet& sheet)
             ruler.setIndicatorPosition(quint64(change - 30 * minute));
         });
     for (const double scale : {1.25, 1.5, 3.0})
-        showRuler(
-            sheet, u"scale %1"_s.arg(scale), [](Ruler&) {}, scale);
+        showRulerAt(scale, sheet, u"scale %1"_s.arg(scale));
 }
 
 void Scenes::rulerRanges(Sheet& sheet)
@@ -175,33 +174,23 @@ void Scenes::rulerRanges(Sheet& sheet)
         ruler.setSelectedRange({middle + 20 * minute, middle + 80 * minute});
     };
     showRuler(sheet, u"selected"_s, select);
-    showRuler(sheet, u"selected, at scale 1.5"_s, select, 1.5);
-    showRuler(sheet, u"selected, disabled"_s, [&](Ruler& ruler) {
-        select(ruler);
-        ruler.setEnabled(false);
-    });
-    showRuler(sheet, u"selected, a handle with the focus"_s, [&](Ruler& ruler) {
-        select(ruler);
+    showRulerAt(1.5, sheet, u"selected, at scale 1.5"_s, select);
+    showRuler(sheet, u"selected, disabled"_s, select, disable);
+    showRuler(sheet, u"selected, a handle with the focus"_s, select, [](Ruler& ruler) {
         for (auto* child : ruler.findChildren<QWidget*>())
             if (QByteArray(child->metaObject()->className()).endsWith("RangeHandle"))
                 return focus(*child);
     });
-    showRuler(sheet, u"being selected"_s, [&](Ruler& ruler) {
-        select(ruler);
+    showRuler(sheet, u"being selected"_s, select, [](Ruler& ruler) {
         drag(ruler, {60, ruler.height() - 20}, {210, ruler.height() - 20});
     });
-    showRuler(sheet, u"preview"_s, [](Ruler& ruler) {
-        ruler.setPlayMode(false);
-        ruler.setPreviewEnabled(true);
-        ruler.setPreviewIndicatorPosition(quint64(middle + hour));
-        ruler.onPreviewVisible(true, false);
-    });
-    showRuler(sheet, u"pending preview"_s, [](Ruler& ruler) {
-        ruler.setPlayMode(false);
-        ruler.setPreviewEnabled(true);
-        ruler.setPreviewIndicatorPosition(quint64(middle + hour));
-        ruler.onPreviewVisible(true, true);
-    });
+    for (const bool isPending : {false, true})
+        showRuler(sheet, isPending ? u"pending preview"_s : u"preview"_s, [=](Ruler& ruler) {
+            ruler.setPlayMode(false);
+            ruler.setPreviewEnabled(true);
+            ruler.setPreviewIndicatorPosition(quint64(middle + hour));
+            ruler.onPreviewVisible(true, isPending);
+        });
     showRuler(sheet, u"out of view"_s, [](Ruler& ruler) {
         ruler.setPreviewEnabled(true);
         ruler.displaySearchTimeRange(true);
@@ -217,36 +206,36 @@ void Scenes::rulerRanges(Sheet& sheet)
         ruler.setPreviewEnabled(false);
         ruler.setIndicatorPosition(0);
     });
-    showRuler(sheet, u"end of the period"_s, [](Ruler& ruler) {
-        ruler.changeLevel(4, 0.5);
-        ruler.onTimelineOffsetChanged(1.0);
-        ruler.setIndicatorPosition(quint64(monday + period - hour));
-    });
-    showRuler(sheet, u"begin of the period"_s, [](Ruler& ruler) {
-        ruler.changeLevel(4, 0.5);
-        ruler.onTimelineOffsetChanged(0.0);
-        ruler.setIndicatorPosition(quint64(monday));
-    });
+    for (const bool isEnd : {true, false})
+        showRuler(sheet, isEnd ? u"end of the period"_s : u"begin"_s, [isEnd](Ruler& ruler) {
+            ruler.changeLevel(4, 0.5);
+            ruler.onTimelineOffsetChanged(isEnd);
+            ruler.setIndicatorPosition(quint64(isEnd ? monday + period - hour : monday));
+        });
 }
 
 void Scenes::rulerStates(Sheet& sheet)
 {
-    showRuler(sheet, u"theme"_s, [](Ruler& ruler) { ruler.setOrvaneGuiTheme(true); });
-    showRuler(sheet, u"no theme"_s, [](Ruler& ruler) { ruler.setOrvaneGuiTheme(false); });
-    showRuler(sheet, u"theme of before"_s, [](Ruler& ruler) {
+    const auto setTheme = [](Ruler& ruler) {
         ruler.setOrvaneGuiTheme(true);
+    };
+    const auto unsetTheme = [](Ruler& ruler) {
         ruler.setOrvaneGuiTheme(false);
-    });
-    showRuler(sheet, u"theme over own colours, not playing"_s, [](Ruler& ruler) {
+    };
+    const auto pause = [](Ruler& ruler) {
         ruler.setPlayMode(false);
-        ruler.setBodyColor(QColor(40, 60, 120));
-        ruler.setOrvaneGuiTheme(true);
-    });
+    };
+    showRuler(sheet, u"theme"_s, setTheme);
+    showRuler(sheet, u"no theme"_s, unsetTheme);
+    showRuler(sheet, u"theme of before"_s, setTheme, unsetTheme);
+    showRuler(
+        sheet, u"theme over own colours, not playing"_s, pause,
+        [](Ruler& ruler) { ruler.setBodyColor(QColor(40, 60, 120)); }, setTheme);
     showRuler(sheet, u"inactive"_s, [](Ruler& ruler) { ruler.setActive(false, false); });
     showRuler(sheet, u"blocked"_s, [](Ruler& ruler) { ruler.setActive(true, true); });
-    showRuler(sheet, u"not playing"_s, [](Ruler& ruler) { ruler.setPlayMode(false); });
+    showRuler(sheet, u"not playing"_s, pause);
     showRuler(sheet, u"result mode"_s, [](Ruler& ruler) { ruler.setResultMode(true); });
-    showRuler(sheet, u"focus"_s, [](Ruler& ruler) { focus(ruler); });
+    showRuler(sheet, u"focus"_s, focus);
     showRuler(sheet, u"own colours"_s, [](Ruler& ruler) {
         ruler.setHeaderColor(QColor(90, 40, 40));
         ruler.setBodyColor(QColor(40, 60, 120));
@@ -283,47 +272,33 @@ void Scenes::markers(Sheet& sheet)
         ruler.setMarkerDetails(true);
         ruler.onAddMarkers(someMarkers());
     };
-    showRuler(sheet, u"markers"_s, [&](Ruler& ruler) {
-        addWithDetails(ruler);
-        ruler.setMarkerDetails(false);
-    });
-    showRuler(sheet, u"markers without tracks"_s, [&](Ruler& ruler) {
-        ruler.setTrackDescriptions({});
-        add(ruler);
-    });
-    showRuler(sheet, u"icons without room"_s, [&](Ruler& ruler) {
-        add(ruler);
+    showRuler(sheet, u"markers"_s, addWithDetails,
+              [](Ruler& ruler) { ruler.setMarkerDetails(false); });
+    showRuler(
+        sheet, u"markers without tracks"_s, [](Ruler& ruler) { ruler.setTrackDescriptions({}); },
+        add);
+    showRuler(sheet, u"icons without room"_s, add, [](Ruler& ruler) {
         ruler.setIconSize({17, 400});
     });
     showRuler(sheet, u"details"_s, addWithDetails);
-    showRuler(sheet, u"details, at scale 2"_s, addWithDetails, 2);
-    showRuler(sheet, u"larger icons"_s, [&](Ruler& ruler) {
-        addWithDetails(ruler);
+    showRulerAt(2, sheet, u"details, at scale 2"_s, addWithDetails);
+    showRuler(sheet, u"larger icons"_s, addWithDetails, [](Ruler& ruler) {
         ruler.setIconSize({32, 32});
     });
-    showRuler(sheet, u"inactive"_s, [&](Ruler& ruler) {
-        addWithDetails(ruler);
-        ruler.setActive(false, false);
-    });
-    showRuler(sheet, u"under the mouse"_s, [&](Ruler& ruler) {
-        addWithDetails(ruler);
+    showRuler(sheet, u"inactive"_s, addWithDetails,
+              [](Ruler& ruler) { ruler.setActive(false, false); });
+    const auto hoverAll = [](Ruler& ruler) {
         for (auto* button : ruler.findChildren<QAbstractButton*>())
             hover(*button);
-    });
-    showRuler(sheet, u"pressed"_s, [&](Ruler& ruler) {
+    };
+    showRuler(sheet, u"under the mouse"_s, addWithDetails, hoverAll);
+    showRuler(sheet, u"pressed"_s, add, hoverAll, [](Ruler& ruler) {
         ruler.setOrvaneGuiTheme(true);
-        add(ruler);
-        for (auto* button : ruler.findChildren<QAbstractButton*>()) {
-            hover(*button);
+        for (auto* button : ruler.findChildren<QAbstractButton*>())
             QTest::mousePress(button, Qt::LeftButton);
-        }
     });
-    showRuler(sheet, u"hidden"_s, [&](Ruler& ruler) {
-        addWithDetails(ruler);
-        ruler.onHideMarkers();
-    });
-    showRuler(sheet, u"with a list"_s, [&](Ruler& ruler) {
-        addWithDetails(ruler);
+    showRuler(sheet, u"hidden"_s, addWithDetails, [](Ruler& ruler) { ruler.onHideMarkers(); });
+    showRuler(sheet, u"with a list"_s, addWithDetails, [&](Ruler& ruler) {
         ruler.setMergedClick(Ruler::MergedClick::List);
         ruler.setIndicatorPosition(quint64(middle + hour));
         QTest::keyClick(&ruler, Qt::Key_Return);
@@ -341,28 +316,28 @@ void Scenes::markers(Sheet& sheet)
 
 void Scenes::lanes(Sheet& sheet)
 {
-    const auto show = [&sheet](const QString& name, const std::function<void(ZoomTimeline&)>& act,
-                               double scale = 1) {
-        sheet.show<ZoomTimeline>(
-            name, new ZoomTimeline, {952, 0},
-            [&](ZoomTimeline& timeline) {
-                fill(*timeline.ruler());
-                timeline.setTimeZone(u"UTC"_s);
-                timeline.setTimeLimits(quint64(monday), quint64(monday + period));
-                timeline.setIndicatorPosition(quint64(middle));
-                timeline.setActive(true, false);
-                timeline.ruler()->setTrackDescriptions(
-                    {track(u"Gate"_s, 47 * minute), track(u"Yard, north"_s, 20 * minute),
-                     track(u"Loading dock with the long name"_s, 31 * minute, middle),
-                     track(u"Roof"_s, hour)});
-                timeline.ruler()->setView(middle - hour, middle + 2 * hour);
-                act(timeline);
-            },
-            scale);
+    const auto showAt = [&sheet](double scale, const QString& name, const auto&... acts) {
+        const auto begin = [](ZoomTimeline& timeline) {
+            fill(*timeline.ruler());
+            timeline.setTimeZone(u"UTC"_s);
+            timeline.setTimeLimits(quint64(monday), quint64(monday + period));
+            timeline.setIndicatorPosition(quint64(middle));
+            timeline.setActive(true, false);
+            timeline.ruler()->setTrackDescriptions(
+                {track(u"Gate"_s, 47 * minute), track(u"Yard, north"_s, 20 * minute),
+                 track(u"Loading dock with the long name"_s, 31 * minute, middle),
+                 track(u"Roof"_s, hour)});
+            timeline.ruler()->setView(middle - hour, middle + 2 * hour);
+        };
+        sheet.showAt(scale, name, new ZoomTimeline, {952, 0}, begin, acts...);
+    };
+    const auto show = [&](const QString& name, const auto&... acts) {
+        showAt(1, name, acts...);
     };
     const auto setRanges = [](ZoomTimeline& timeline, bool on) {
         Ruler& ruler = *timeline.ruler();
-        ruler.setRangeSelection(on ? Ruler::RangeSelection::Drag : Ruler::RangeSelection::Off);
+        ruler.setRangeSelection(on ? Ruler::RangeSelection::Drag
+                                   : Ruler::RangeSelection::NoSelection);
         ruler.setSelectedRange(on ? TimeSpan{middle + 20 * minute, middle + 80 * minute}
                                   : TimeSpan());
         ruler.setResultTimeRange(on ? at(middle + 30 * minute) : QDateTime(), at(middle + hour),
@@ -388,52 +363,45 @@ void Scenes::lanes(Sheet& sheet)
         timeline.ruler()->setLoading(u"Gate"_s, {middle + 20 * minute, middle + hour}, true);
     };
     show(u"lanes"_s, lanes);
-    show(u"lanes, at scale 1.5"_s, lanes, 1.5);
-    show(u"lanes with focus"_s, [&](ZoomTimeline& timeline) {
-        lanes(timeline);
+    const auto mirrorAll = [](ZoomTimeline& timeline) {
+        mirror(*timeline.window());
+    };
+    showAt(1.5, u"lanes, mirrored, at scale 1.5"_s, mirrorAll, lanes);
+    show(u"lanes with focus"_s, lanes, [](ZoomTimeline& timeline) {
         timeline.lanes()->setMaximumLanes(3);
         focus(*timeline.lanes());
     });
-    show(u"lanes with ranges"_s, [&](ZoomTimeline& timeline) {
-        lanes(timeline);
+    show(u"lanes with ranges"_s, lanes, [&](ZoomTimeline& timeline) {
         timeline.setFontSize(11);
         setRanges(timeline, true);
         // They are elsewhere in a shorter period.
         timeline.setTimeLimits(quint64(middle - 4 * day), quint64(middle + 3 * day));
     });
-    show(u"no ranges any more"_s, [&](ZoomTimeline& timeline) {
-        lanes(timeline);
+    show(u"no ranges any more"_s, lanes, [&](ZoomTimeline& timeline) {
         setRanges(timeline, true);
         timeline.grab();
         setRanges(timeline, false);
     });
-    show(u"inactive"_s, [&](ZoomTimeline& timeline) {
-        lanes(timeline);
-        timeline.setActive(false, false);
-    });
-    show(u"disabled"_s, [&](ZoomTimeline& timeline) {
-        lanes(timeline);
-        timeline.setEnabled(false);
-    });
+    show(u"inactive"_s, lanes, [](ZoomTimeline& timeline) { timeline.setActive(false, false); });
+    show(u"disabled"_s, lanes, disable);
 }
 
 void Scenes::overview(Sheet& sheet)
 {
-    const auto show = [&sheet](const QString& name,
-                               const std::function<void(TimelineScroll&)>& change, int height = 0,
-                               double scale = 1) {
-        sheet.show<TimelineScroll>(
-            name, new TimelineScroll, {220, height},
-            [&](TimelineScroll& strip) {
-                strip.setActive(true);
-                strip.setViewArea(0.2);
-                strip.onIndicatorPositionChanged(0, 0.45);
-                strip.onCenterPositionChanged(0.4);
-                change(strip);
-            },
-            scale);
+    using Strip = TimelineScroll;
+    const auto showAt = [&sheet](double scale, const QString& name, const auto&... acts) {
+        const auto begin = [](Strip& strip) {
+            strip.setActive(true);
+            strip.setViewArea(0.2);
+            strip.onIndicatorPositionChanged(0, 0.45);
+            strip.onCenterPositionChanged(0.4);
+        };
+        sheet.showAt(scale, name, new Strip, {220, 0}, begin, acts...);
     };
-    const auto activity = [](TimelineScroll& strip) {
+    const auto show = [&](const QString& name, const auto&... acts) {
+        showAt(1, name, acts...);
+    };
+    const auto activity = [](Strip& strip) {
         strip.setActivitySource([](int columns) {
             TimelineActivity made;
             using Recording = TimelineActivity::Recording;
@@ -449,56 +417,46 @@ void Scenes::overview(Sheet& sheet)
         });
         strip.setActivityVisible(true);
     };
-    show(u"strip"_s, [](TimelineScroll&) {});
-    show(u"small view"_s, [](TimelineScroll& strip) { strip.setViewArea(0.001); });
-    show(u"all in view"_s, [](TimelineScroll& strip) { strip.setViewArea(1); });
-    show(u"at the end"_s, [](TimelineScroll& strip) { strip.onCenterPositionChanged(1); });
-    show(u"inactive"_s, [](TimelineScroll& strip) { strip.setActive(false); });
-    show(u"no theme"_s, [](TimelineScroll& strip) { strip.setOrvaneGuiTheme(false); });
-    show(u"theme"_s, [](TimelineScroll& strip) { strip.setOrvaneGuiTheme(true); });
-    show(u"under the mouse"_s, [](TimelineScroll& strip) { strip.setHover(true); });
+    const auto deactivate = [](Strip& strip) {
+        strip.setActive(false);
+    };
+    const auto hoverStrip = [](Strip& strip) {
+        strip.setHover(true);
+    };
+    const auto search = [](Strip& strip) {
+        strip.setSearchTimeRange(0.3, 0.6);
+        strip.displaySearchTimeRange(true);
+    };
+    const auto select = [](Strip& strip) {
+        strip.setSelectedRange(0.5, 0.7);
+    };
+    show(u"strip"_s);
+    show(u"small view"_s, [](Strip& strip) { strip.setViewArea(0.001); });
+    show(u"all in view"_s, [](Strip& strip) { strip.setViewArea(1); });
+    show(u"at the end"_s, [](Strip& strip) { strip.onCenterPositionChanged(1); });
+    show(u"inactive"_s, deactivate);
+    show(u"no theme"_s, [](Strip& strip) { strip.setOrvaneGuiTheme(false); });
+    show(u"theme"_s, [](Strip& strip) { strip.setOrvaneGuiTheme(true); });
+    show(u"under the mouse"_s, hoverStrip);
     for (const double x : {0.4, 0.8})
-        show(u"mouse at %1"_s.arg(x), [x](TimelineScroll& strip) {
+        show(u"mouse at %1"_s.arg(x), [x](Strip& strip) {
             enterMouse(strip, {int(x * strip.width()), strip.height() / 2});
         });
-    show(u"pressed"_s, [](TimelineScroll& strip) {
+    show(u"pressed"_s, [](Strip& strip) {
         QTest::mousePress(&strip, Qt::LeftButton, {}, {int(0.4 * strip.width()), 7});
     });
-    show(u"focus"_s, [](TimelineScroll& strip) { focus(strip); });
-    show(u"search"_s, [](TimelineScroll& strip) {
-        strip.setSearchTimeRange(0.3, 0.6);
-        strip.displaySearchTimeRange(true);
-    });
-    show(u"selected"_s, [](TimelineScroll& strip) { strip.setSelectedRange(0.5, 0.7); });
-    show(u"result"_s, [](TimelineScroll& strip) {
-        strip.setResultMode(true);
-        strip.setSearchTimeRange(0.3, 0.6);
-        strip.displaySearchTimeRange(true);
-    });
+    show(u"focus"_s, focus);
+    show(u"search"_s, search);
+    show(u"selected"_s, select);
+    show(u"result"_s, search, [](Strip& strip) { strip.setResultMode(true); });
     show(u"activity"_s, activity);
-    show(u"activity, ranges"_s, [&](TimelineScroll& strip) {
-        activity(strip);
-        strip.setSearchTimeRange(0.3, 0.6);
-        strip.displaySearchTimeRange(true);
-        strip.setSelectedRange(0.5, 0.7);
-    });
-    show(u"activity, focus"_s, [&](TimelineScroll& strip) {
-        activity(strip);
-        strip.setViewArea(0.01);
-        focus(strip);
-    });
-    show(u"activity, under the mouse"_s, [&](TimelineScroll& strip) {
-        activity(strip);
-        strip.setHover(true);
-    });
-    show(u"activity, inactive"_s, [&](TimelineScroll& strip) {
-        activity(strip);
-        strip.setActive(false);
-    });
-    show(u"activity, dragged"_s, [&](TimelineScroll& strip) {
-        activity(strip);
+    show(u"activity, ranges"_s, activity, search, select);
+    show(u"activity, focus"_s, activity, focus, [](Strip& strip) { strip.setViewArea(0.01); });
+    show(u"activity, under the mouse"_s, activity, hoverStrip);
+    show(u"activity, inactive"_s, activity, deactivate);
+    show(u"activity, dragged"_s, activity, [](Strip& strip) {
         drag(strip, {int(0.4 * strip.width()), strip.height() / 2},
              {int(0.6 * strip.width()), strip.height() / 2});
     });
-    show(u"activity, at scale 2"_s, activity, 0, 2);
+    showAt(2, u"activity, at scale 2"_s, activity);
 }

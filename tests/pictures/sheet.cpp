@@ -76,8 +76,7 @@ void Sheet::showInWindow(const QString& name, QWidget& widget, QSize size,
     QCoreApplication::processEvents();
     if (!window.isActiveWindow() && !QTest::qWaitForWindowActive(&window))
         qFatal("The window of a picture did not become active.");
-    if (act)
-        act();
+    act();
     grab(name, window, scale);
 }
 
@@ -123,4 +122,14 @@ void hover(QWidget& widget)
 void focus(QWidget& widget)
 {
     widget.setFocus(Qt::TabFocusReason);
+}
+
+void disable(QWidget& widget)
+{
+    widget.setEnabled(false);
+}
+
+void mirror(QWidget& widget)
+{
+    widget.setLayoutDirection(Qt::RightToLeft);
 }

@@ -32,13 +32,17 @@ public:
                double scale = 1);
 
     /// A tile of a new widget, which this deletes: in an active window, where it has @p size or,
-    /// for lengths of 0, that of its hint. @p act brings it into its state there.
-    template <typename Widget>
-    void show(const QString& name, Widget* widget, QSize size = {},
-              const std::function<void(Widget&)>& act = {}, double scale = 1)
+    /// for lengths of 0, that of its hint. @p acts bring it into its state there.
+    template <typename Widget, typename... Acts>
+    void show(const QString& name, Widget* widget, QSize size = {}, const Acts&... acts)
     {
-        showInWindow(name, *widget, size, act ? [&] { act(*widget); } : std::function<void()>(),
-                     scale);
+        showAt(1, name, widget, size, acts...);
+    }
+    template <typename Widget, typename... Acts>
+    void showAt(double scale, const QString& name, Widget* widget, QSize size, const Acts&... acts)
+    {
+        showInWindow(
+            name, *widget, size, [&] { (acts(*widget), ...); }, scale);
     }
 
     /// A tile of a window as it stands.
@@ -62,3 +66,5 @@ void hover(QWidget& widget);
 
 /// Focus as if it came from the keyboard.
 void focus(QWidget& widget);
+void disable(QWidget& widget);
+void mirror(QWidget& widget);

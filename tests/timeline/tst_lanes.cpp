@@ -178,6 +178,13 @@ private Q_SLOTS:
         timeline.lanes()->setMaximumLanes(10);
         QCOMPARE(timeline.scrolled(), 0);
         QVERIFY(!timeline.lanes()->findChild<QScrollBar*>()->isVisible());
+
+        // Where there is no room, the current one stays.
+        timeline.setCurrentTrack(timeline.lanes()->laneTrack(5));
+        timeline.resize(timeline.minimumSizeHint());
+        QTRY_COMPARE(timeline.lanes()->height(), lane);
+        QTRY_COMPARE(timeline.scrolled(), 5 * lane);
+        QVERIFY(timeline.lanes()->findChild<QScrollBar*>()->isVisible());
     }
 
     void assistiveTechnologySeesAList()
