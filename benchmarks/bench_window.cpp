@@ -24,6 +24,7 @@
 #include <atomic>
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <thread>
 
 using namespace Review;
@@ -98,6 +99,15 @@ void runFor(std::chrono::milliseconds time)
     loop.exec();
 }
 
+std::unique_ptr<ReviewWindow> shownWindow()
+{
+    auto window = std::make_unique<ReviewWindow>(QStringLiteral("UTC"), true);
+    window->resize(1600, 1000);
+    window->show();
+    runFor(1s);
+    return window;
+}
+
 void sendMouse(QEvent::Type type, QWidget* target, const QPoint& place, Qt::MouseButton held)
 {
     const Qt::MouseButton button = type == QEvent::MouseButtonPress ? held : Qt::NoButton;
@@ -122,17 +132,15 @@ void eventLatency(benchmark::State& state)
 {
     const bool large = state.range(1) == 1080;
     const MovingClip clip(large ? QSize(1920, 1080) : QSize(640, 360), 400);
-    ReviewWindow window(QStringLiteral("UTC"), true);
-    window.setReview(recordings(clip.path(), cameraCount, 100, 0));
-    window.resize(1600, 1000);
-    window.show();
-    auto* pane = window.findChild<PlaybackPane*>();
+    const std::unique_ptr<ReviewWindow> window = shownWindow();
+    window->setReview(recordings(clip.path(), cameraCount, 100, 0));
+    auto* pane = window->findChild<PlaybackPane*>();
     pane->setShownCameras(cameraCount);
-    auto* ruler = window.findChild<CorvelGui::Ruler*>();
+    auto* ruler = window->findChild<CorvelGui::Ruler*>();
     ruler->setView(begin, begin + 20 * clipLength);
     runFor(2s);
     if (state.range(0) != Rests && state.range(0) != Scrubs)
-        window.play();
+        window->play();
     QWidget* dragged = nullptr;
     if (state.range(0) == Scrubs) {
         dragged = ruler->childAt(int(ruler->xAt(qint64(ruler->getIndicatorMSecs()))), 8);
@@ -160,13 +168,10 @@ void manyRecordings(benchmark::State& state)
     const MovingClip clip(QSize(640, 360), 400);
     const int cameras = int(state.range(0));
     const ReviewData review = recordings(clip.path(), cameras, 200'000 / cameras, 1'000);
-    ReviewWindow window(QStringLiteral("UTC"), true);
-    window.resize(1600, 1000);
-    window.show();
-    runFor(1s);
+    const std::unique_ptr<ReviewWindow> window = shownWindow();
     for (auto _ : state) {
         Waits waits;
-        window.setReview(review);
+        window->setReview(review);
         runFor(2s);
         state.counters["longest_ms"] = waits.stop().back();
     }
@@ -197,20 +202,17 @@ void manyFiles(benchmark::State& state)
     ReviewFiles files;
     files.footage = {folder.path()};
     files.footageFolder = folder.path();
-    ReviewWindow window(QStringLiteral("UTC"), true);
-    window.resize(1600, 1000);
-    window.show();
-    runFor(1s);
+    const std::unique_ptr<ReviewWindow> window = shownWindow();
     for (auto _ : state) {
         Waits waits;
         for (int time = 0; time < 2; ++time) {
             QEventLoop loop;
-            QObject::connect(&window, &ReviewWindow::loaded, &loop, &QEventLoop::quit);
-            window.load(files);
+            QObject::connect(window.get(), &ReviewWindow::loaded, &loop, &QEventLoop::quit);
+            window->load(files);
             loop.exec();
             do
                 runFor(1s);
-            while (window.isBusy());
+            while (window->isBusy());
         }
         state.counters["longest_ms"] = waits.stop().back();
     }

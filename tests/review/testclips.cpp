@@ -11,16 +11,10 @@ int main(int argc, char* argv[])
         std::fputs("usage: corvel-test-clips FOLDER\n", stderr);
         return 2;
     }
-    const struct
-    {
-        const char* name;
-        const char* encoder;
-        int bFrames;
-        int quantizer;
-    } clips[] = {{"h264.avi", "libx264", 2, 0}, {"h264.mp4", "libx264", 2, 0},
-                 {"h264.ts", "libx264", 2, 0},  {"hevc.mkv", "libx265", 3, 0},
-                 {"mjpeg.avi", "mjpeg", 0, 4},  {"mjpeg.mp4", "mjpeg", 0, 4},
-                 {"mpeg4.mp4", "mpeg4", 0, 4}};
+    const std::tuple<const char*, const char*, int, int> clips[] = {
+        {"h264.avi", "libx264", 2, 0}, {"h264.mp4", "libx264", 2, 0}, {"h264.ts", "libx264", 2, 0},
+        {"hevc.mkv", "libx265", 3, 0}, {"mjpeg.avi", "mjpeg", 0, 4},  {"mjpeg.mp4", "mjpeg", 0, 4},
+        {"mpeg4.mp4", "mpeg4", 0, 4}};
     for (const auto& [name, encoder, bFrames, quantizer] : clips) {
         const QString path = QString::fromLocal8Bit(argv[1]) + u'/' + QLatin1StringView(name);
         const QString fault =

@@ -15,6 +15,7 @@
 #include <CorvelGui/PIpRangeDialog>
 #include <CorvelGui/RangeSlider>
 
+#include <QScrollBar>
 #include <QStatusBar>
 
 using namespace Review;
@@ -131,6 +132,19 @@ private Q_SLOTS:
                              !sample.events()->isColumnHidden(EventTexts::Severity));
         };
         QCOMPARE(areShown(), std::pair(true, true));
+        // The keyboard is seen.
+        sample.events()->setFocus();
+        const QPoint cell = sample.events()->visualRect(sample.events()->currentIndex()).topLeft();
+        const QColor frame = sample.events()->palette().color(QPalette::HighlightedText);
+        QWidget* cells = sample.events()->viewport();
+        QTRY_COMPARE(cells->grab().toImage().pixelColor(cell + QPoint(1, 1)), frame);
+        // Going to an event leaves the columns in view.
+        sample.window.resize(600, 400);
+        QScrollBar* columns = sample.events()->horizontalScrollBar();
+        QTRY_VERIFY(columns->maximum() > 0);
+        columns->setValue(columns->maximum());
+        sample.events()->goTo(1);
+        QCOMPARE(columns->value(), columns->maximum());
         ReviewData other = review();
         other.events = {{monday, {}, {}, {}, 0, Severity::Warning}};
         sample.window.setReview(other);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "labelledfield.h"
 #include "look/languages.h"
 #include "memorypasswordstore.h"
 #include "options/settingsstore.h"
@@ -11,6 +12,8 @@
 
 #include <QKeySequenceEdit>
 #include <QListView>
+#include <QMenu>
+#include <QSet>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
@@ -46,15 +49,19 @@ struct Client
     ClientOptions options;
 };
 
-/// The field that the label belongs to.
-template <typename Field>
-Field& field(const OptionsDialog& dialog, const QString& label)
+/// The menus in which a letter stands for several entries.
+QStringList ambiguousMenus(const QWidget& window)
 {
-    for (const QLabel* candidate : dialog.findChildren<QLabel*>()) {
-        if (candidate->text().remove(u'&') == label && candidate->buddy())
-            return *qobject_cast<Field*>(candidate->buddy());
+    QStringList menus;
+    for (const QMenu* menu : window.findChildren<QMenu*>()) {
+        QList<QKeySequence> keys;
+        for (const QAction* action : menu->actions())
+            keys.append(QKeySequence::mnemonic(action->text()));
+        keys.removeAll(QKeySequence());
+        if (keys.size() != QSet<QKeySequence>(keys.begin(), keys.end()).size())
+            menus.append(menu->title());
     }
-    qFatal("No label: %s", qPrintable(label));
+    return menus;
 }
 
 void visit(const QString& category, const QString& page)
@@ -329,7 +336,7 @@ private Q_SLOTS:
         client.speak(u"en"_s);
         const SourceTexts sources(
             {QStringLiteral(REVIEW_TRANSLATION), QStringLiteral(LIBRARY_TRANSLATION)});
-        QStringList english, german, again;
+        QStringList english, german, again, ambiguous;
         int found = 0;
         whenShown<OptionsDialog>(this, [&](OptionsDialog& dialog) {
             // Searching builds all pages.
@@ -341,8 +348,10 @@ private Q_SLOTS:
             english = visibleTexts();
             client.speak(u"de"_s);
             german = visibleTexts();
+            ambiguous += ambiguousMenus(client.window);
             client.speak(u"en"_s);
             again = visibleTexts();
+            ambiguous += ambiguousMenus(client.window);
             client.speak(u"de"_s);
             search->setText(u"kennwort"_s);
             found = dialog.findChild<QListView*>()->model()->rowCount();
@@ -353,6 +362,7 @@ private Q_SLOTS:
         QStringList left = sources.foundIn(german);
         left.removeDuplicates();
         QCOMPARE(left.join(u'\n'), QString());
+        QCOMPARE(ambiguous.join(u'\n'), QString());
         // Not blind: it sees what it looks for.
         QVERIFY(sources.foundIn(english).size() > 150);
         QCOMPARE(again.join(u'\n'), english.join(u'\n'));

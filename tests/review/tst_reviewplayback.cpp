@@ -19,6 +19,8 @@
 #include <CorvelGui/TarvoDateTimeView>
 #include <CorvelGui/VideoSlider>
 
+#include <QStatusBar>
+
 using Review::PlayerClock;
 using namespace Review;
 using CorvelGui::PPlaybar;
@@ -213,12 +215,15 @@ private Q_SLOTS:
         QTest::keyClick(sample.ruler(), Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
         QTRY_COMPARE(bar->playbackState(), PPlaybar::FastForward);
         const QSignalSpy loaded(&sample.window, &ReviewWindow::loaded);
+        QVERIFY(!sample.window.findChild<CameraView*>()->viewport()->acceptDrops()); // the window
+        sample.window.statusBar()->showMessage(u"Of what was loaded before"_s);
         sample.window.load({});
         const QPointer busy = sample.window.findChild<CorvelGui::BusyIndicator*>();
         QVERIFY(busy && busy->isVisible());
         QCOMPARE(busy->geometry(), sample.window.centralWidget()->rect());
         QTRY_COMPARE(loaded.size(), 1);
         QTRY_VERIFY(!busy);
+        QCOMPARE(sample.window.statusBar()->currentMessage(), QString());
         QCOMPARE(bar->playbackState(), PPlaybar::Pause);
         QVERIFY(sample.showsTime(u"02 Mar 00:33:08"_s));
         QCOMPARE(sample.window.windowTitle(), u"Sample – Recording review"_s);

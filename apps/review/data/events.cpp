@@ -2,6 +2,7 @@
 #include "events.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 
 namespace Review {
@@ -85,6 +86,8 @@ void Events::append(const Event& event, QByteArrayView text)
                       .kind = quint32(m_kinds.numberOf(event.kind)),
                       .lasts = lasts,
                       .severity = event.severity ? quint32(*event.severity) : noSeverity});
+    m_serial = 0;
+    m_begunBy = 0;
     m_end = std::max(m_end, event.time + event.duration);
     m_haveDurations |= lasts;
     m_haveSeverities |= event.severity.has_value();
@@ -125,6 +128,9 @@ void Events::sort()
     m_records.squeeze();
     m_texts.squeeze();
     m_knownTexts = {};
+    static std::atomic<quint64> serials = 0;
+    m_serial = ++serials;
+    m_begunBy = 0;
 }
 
 bool Events::operator==(const Events& other) const
@@ -138,23 +144,35 @@ bool Events::operator==(const Events& other) const
     return true;
 }
 
-bool Events::startsWith(const Events& other) const
+void Events::compareWith(const Events& before)
 {
-    const auto beginsLike = [](const QStringList& texts, const QStringList& before) {
-        return texts.size() >= before.size() &&
-               std::ranges::equal(texts.first(before.size()), before);
+    if (!startsWith(before))
+        return;
+    if (size() == before.size())
+        *this = before;
+    else
+        m_begunBy = before.m_serial;
+}
+
+bool Events::continues(const Events& before) const
+{
+    return before.m_serial != 0 && (m_serial == before.m_serial || m_begunBy == before.m_serial);
+}
+
+bool Events::startsWith(const Events& before) const
+{
+    const auto beginLike = [](const QStringList& texts, const QStringList& first) {
+        return texts.size() >= first.size() && std::ranges::equal(texts.first(first.size()), first);
     };
-    if (m_records.constData() == other.m_records.constData() && size() == other.size())
-        return true;
-    if (size() < other.size() || !beginsLike(kinds(), other.kinds()) ||
-        !beginsLike(tracks(), other.tracks()))
+    if (size() < before.size() || !beginLike(kinds(), before.kinds()) ||
+        !beginLike(tracks(), before.tracks()))
         return false;
-    for (qsizetype index = 0; index < other.size(); ++index) {
+    for (qsizetype index = 0; index < before.size(); ++index) {
         const Record& record = m_records[index];
-        const Record& before = other.m_records[index];
-        if (record.time != before.time || record.track != before.track ||
-            record.kind != before.kind || record.severity != before.severity ||
-            durationAt(index) != other.durationAt(index) || utf8At(index) != other.utf8At(index))
+        const Record& known = before.m_records[index];
+        if (record.time != known.time || record.track != known.track || record.kind != known.kind ||
+            record.severity != known.severity || durationAt(index) != before.durationAt(index) ||
+            utf8At(index) != before.utf8At(index))
             return false;
     }
     return true;

@@ -83,8 +83,12 @@ public:
     void sort();
 
     bool operator==(const Events& other) const;
-    /// Whether those of @p other come first, with the same numbers, also of kinds and tracks.
-    bool startsWith(const Events& other) const;
+    /// Lets continues() know whether those of @p before come first, with the same numbers, also of
+    /// kinds and tracks. What is all the same is shared from then on. Compares all of them: nothing
+    /// for the thread of the window.
+    void compareWith(const Events& before);
+    /// Whether these are @p before, or are known to begin with them. Answers at once.
+    bool continues(const Events& before) const;
 
 private:
     struct Record
@@ -97,6 +101,7 @@ private:
         quint32 severity : 3; ///< or noSeverity
     };
 
+    bool startsWith(const Events& before) const;
     qint64 keep(QByteArrayView text);
     qint64 keep(qint64 duration, QByteArrayView text);
     void appendText(QByteArrayView text);
@@ -104,6 +109,10 @@ private:
     static constexpr quint32 noSeverity = severityWords.size();
 
     QList<Record> m_records;
+    /// Of these events among all that were ever sorted; 0 until then.
+    quint64 m_serial = 0;
+    /// That of those with which they begin, or 0.
+    quint64 m_begunBy = 0;
     qint64 m_end = 0;
     bool m_haveDurations = false;
     bool m_haveSeverities = false;

@@ -1,29 +1,34 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "csvwriter.h"
-#include "reviewdata.h"
+#include "events.h"
+
+#include <QTimeZone>
 
 namespace Review {
 
-/// Writes events as CSV that ReviewLoader reads: the same events come out of it, to the
-/// millisecond, also those of an hour that the clock shows twice.
+/// Writes some of many events as CSV that ReviewLoader reads: the same events come out of it, to
+/// the millisecond, also those of an hour that the clock shows twice. Copies share the events.
 class EventWriter
 {
 public:
     /// Times are those of the zone's clock, with their offset from UTC. @p separator is a comma, a
     /// semicolon or a tab.
-    explicit EventWriter(const QTimeZone& zone, char separator = ',');
+    explicit EventWriter(const Events& events = {}, const QTimeZone& zone = QTimeZone::utc(),
+                         char separator = ',');
 
-    void add(const Event& event);
-    const QByteArray& text() const { return m_csv.text(); }
-    /// How many events it holds.
-    qsizetype count() const { return m_count; }
+    /// Adds the event of that number.
+    void add(qsizetype event) { m_chosen.append(event); }
+    /// Takes some seconds for a million of them.
+    QByteArray text() const;
+    /// How many events it writes.
+    qsizetype count() const { return m_chosen.size(); }
 
 private:
-    const QTimeZone m_zone;
-    CsvWriter m_csv;
-    qsizetype m_count = 0;
+    Events m_events;
+    QTimeZone m_zone;
+    char m_separator;
+    QList<qsizetype> m_chosen;
 };
 
 } // namespace Review

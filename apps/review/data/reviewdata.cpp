@@ -63,4 +63,24 @@ void ReviewData::sort()
         std::ranges::stable_sort(ofTrack, {}, &VideoFile::begin);
 }
 
+void ReviewData::shareWith(const ReviewData& before)
+{
+    const auto share = [](auto& list, const auto& known) {
+        if (list == known)
+            list = known;
+    };
+    QHash<QString, const TrackDescription*> tracksBefore;
+    for (const TrackDescription& track : before.tracks)
+        tracksBefore.insert(track.identifier, &track);
+    for (TrackDescription& track : tracks) {
+        if (const TrackDescription* known = tracksBefore.value(track.identifier)) {
+            share(track.recorded, known->recorded);
+            share(track.loading, known->loading);
+        }
+    }
+    for (auto ofTrack = files.begin(); ofTrack != files.end(); ++ofTrack)
+        share(*ofTrack, before.files.value(ofTrack.key()));
+    events.compareWith(before.events);
+}
+
 } // namespace Review

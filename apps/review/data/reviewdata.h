@@ -35,6 +35,9 @@ struct ReviewData
     qsizetype recordingCount() const;
     /// Brings recordings and files into the order of time, which saves the window the work.
     void sort();
+    /// Takes from @p before what is the same there, once sorted: the window compares only whether
+    /// it is shared. See Events::compareWith().
+    void shareWith(const ReviewData& before);
 };
 
 } // namespace Review

@@ -63,6 +63,7 @@ public:
     const JobProgress& progress() const { return m_progress; }
 
     const ReviewData& data() const { return m_data; }
+    ProblemList& problems() { return m_problems; }
     const ProblemList& problems() const { return m_problems; }
 
 private:

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "clipdialog.h"
 
-#include "data/eventwriter.h"
+#include "data/csvwriter.h"
 #include "folderchoice.h"
 #include "look/roomydelegate.h"
 #include "rangechoice.h"
 
 #include <CorvelGui/StringHelper>
 
+#include <QBitArray>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QSet>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -91,15 +91,17 @@ ClipPlan ClipDialog::planWithoutEvents() const
 ClipPlan ClipDialog::plan(const Events& events) const
 {
     ClipPlan plan = planWithoutEvents();
-    QSet<QString> wanted{QString()};
-    for (const Camera& camera : std::as_const(plan.cameras))
-        wanted.insert(camera.identifier);
-    EventWriter writer(m_choices.first().times.zone(), CsvWriter::userSeparator());
+    QBitArray wanted(events.tracks().size());
+    for (qsizetype track = 0; track < wanted.size(); ++track) {
+        const QString& identifier = events.tracks()[track];
+        wanted.setBit(track, identifier.isEmpty() || std::ranges::count(plan.cameras, identifier,
+                                                                        &Camera::identifier) > 0);
+    }
+    plan.events = EventWriter(events, m_choices.first().times.zone(), CsvWriter::userSeparator());
     for (qsizetype i = events.firstFrom(plan.range.begin);
          i < events.size() && events.timeAt(i) < plan.range.end; ++i)
-        if (wanted.contains(events.tracks()[events.trackAt(i)]))
-            writer.add(events[i]);
-    plan.events = writer.text();
+        if (wanted.testBit(events.trackAt(i)))
+            plan.events.add(i);
     return plan;
 }
 
@@ -111,9 +113,11 @@ void ClipDialog::checkPlan()
         m_message->setText(tr("No camera is chosen."));
     else if (length == 0)
         m_message->setText(tr("No files show this range."));
+    else if (const QString fault = m_folder->fault(); !fault.isEmpty())
+        m_message->setText(fault);
     else
         m_message->setText(tr("Recorded time: %1").arg(StringHelper::duration(length)));
-    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(length > 0 && m_folder->exists());
+    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(length > 0 && m_folder->fault().isEmpty());
 }
 
 } // namespace Review

@@ -76,7 +76,7 @@ void ClipExport::Work::run()
             ClipExport::tr("Nothing of this range can be exported.") + u'\n' + leftOut.join(u'\n');
         return;
     }
-    error = target.finish(m_plan.events, progress);
+    error = target.finish(m_plan.events.text(), progress);
     if (!isEnded())
         folder = target.path();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "data/eventwriter.h"
 #include "exportjob.h"
 #include "video/camera.h"
 
@@ -19,7 +20,7 @@ struct ClipPlan
     CorvelGui::TimeSpan range = {};
     QList<Camera> cameras = {};
     /// Those of the range, as CSV.
-    QByteArray events = {};
+    EventWriter events = EventWriter();
     /// In which a folder is made for the export.
     QString folder = {};
 

@@ -108,10 +108,12 @@ void ExportDialog::checkPlan()
     else if (tooMany)
         m_message->setText(tr("%1 pictures are too many: the most at once is %2.")
                                .arg(number, QLocale().toString(mostPictures)));
+    else if (const QString fault = m_folder->fault(); !fault.isEmpty())
+        m_message->setText(fault);
     else
         m_message->setText(tr("Pictures: %1").arg(number));
     m_buttons->button(QDialogButtonBox::Ok)
-        ->setEnabled(count > 0 && !tooMany && m_folder->exists());
+        ->setEnabled(count > 0 && !tooMany && m_folder->fault().isEmpty());
 }
 
 } // namespace Review

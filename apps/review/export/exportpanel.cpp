@@ -19,11 +19,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFutureWatcher>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QPointer>
+#include <QPromise>
 #include <QStandardPaths>
+#include <QThreadPool>
 #include <QToolButton>
 #include <QWindow>
 
@@ -53,6 +56,13 @@ QWidget* createRow(const QList<QWidget*>& widgets)
     return row;
 }
 
+/// Not every user has the folder of that name.
+QString userFolder(QStandardPaths::StandardLocation location)
+{
+    const QString folder = QStandardPaths::writableLocation(location);
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
+}
+
 } // namespace
 
 ExportPanel::ExportPanel(QWidget* parent)
@@ -65,9 +75,9 @@ ExportPanel::ExportPanel(QWidget* parent)
     , m_open(new QToolButton)
     , m_close(new QToolButton)
     , m_report(createRow({m_outcome, m_open, m_close}))
-    , m_pictureFolder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
-    , m_clipFolder(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation))
-    , m_eventFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+    , m_pictureFolder(userFolder(QStandardPaths::PicturesLocation))
+    , m_clipFolder(userFolder(QStandardPaths::MoviesLocation))
+    , m_eventFolder(userFolder(QStandardPaths::DocumentsLocation))
 {
     constexpr int progressWidth = 180;
     m_progress->setFixedWidth(progressWidth);
@@ -167,8 +177,7 @@ void ExportPanel::tellUnwritten(const QString& title, const QString& path, const
 
 void ExportPanel::askForEvents(const EventWriter& events)
 {
-    const QByteArray text = events.text();
-    const qsizetype count = events.count();
+    const EventWriter chosen = events;
     const QPointer<ExportPanel> alive(this);
     const QString path = QFileDialog::getSaveFileName(window(), tr("Export events"),
                                                       QDir(m_eventFolder).filePath(u"events.csv"_s),
@@ -176,11 +185,27 @@ void ExportPanel::askForEvents(const EventWriter& events)
     if (!alive || path.isEmpty())
         return;
     m_eventFolder = QFileInfo(path).absolutePath();
-    if (const QString error = writeFile(text, path); !error.isEmpty()) {
-        tellUnwritten(tr("Export events"), path, error);
-        return;
-    }
-    report(path, [count] { return tr("Events exported: %1").arg(QLocale().toString(count)); });
+    report({}, [] { return tr("Exporting events"); });
+    // The program waits for it before it ends; only then nobody is told.
+    const auto written = std::make_shared<QPromise<QString>>();
+    auto* watcher = new QFutureWatcher<QString>(this);
+    connect(watcher, &QFutureWatcherBase::finished, this,
+            [this, watcher, path, count = chosen.count()] {
+                watcher->deleteLater();
+                const QString error = watcher->result();
+                if (error.isEmpty())
+                    return report(path, [count] {
+                        return tr("Events exported: %1").arg(QLocale().toString(count));
+                    });
+                m_report->hide();
+                tellUnwritten(tr("Export events"), path, error);
+            });
+    watcher->setFuture(written->future());
+    written->start();
+    QThreadPool::globalInstance()->start([written, chosen, path] {
+        written->addResult(writeFile(chosen.text(), path));
+        written->finish();
+    });
 }
 
 void ExportPanel::askForReport(const ReportPlan& plan)

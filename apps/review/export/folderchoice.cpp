@@ -40,9 +40,9 @@ void FolderChoice::setFolder(const QString& folder)
     m_edit->setText(QDir::toNativeSeparators(folder));
 }
 
-bool FolderChoice::exists() const
+QString FolderChoice::fault() const
 {
-    return QFileInfo(folder()).isDir();
+    return QFileInfo(folder()).isDir() ? QString() : tr("There is no such folder.");
 }
 
 void FolderChoice::choose()

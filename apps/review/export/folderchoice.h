@@ -20,8 +20,8 @@ public:
 
     QString folder() const;
     void setFolder(const QString& folder);
-    /// Whether there is such a folder.
-    bool exists() const;
+    /// Why nothing can be put there; empty if there is such a folder.
+    QString fault() const;
 
 Q_SIGNALS:
     void changed();

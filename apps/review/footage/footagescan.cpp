@@ -59,8 +59,12 @@ bool isGrowing(const FileFacts& facts, qint64 begin, qint64 changed)
 } // namespace
 
 FootageScan::FootageScan(PathPattern pattern, FootageIndex& index, JobProgress& progress,
-                         const ReadingOrder& order)
-    : m_pattern(std::move(pattern)), m_index(index), m_progress(progress), m_order(order)
+                         ProblemList& problems, const ReadingOrder& order)
+    : m_pattern(std::move(pattern))
+    , m_index(index)
+    , m_progress(progress)
+    , m_problems(problems)
+    , m_order(order)
 {}
 
 void FootageScan::scan(const QStringList& paths, Footage& footage)
@@ -83,15 +87,29 @@ QList<FootageScan::Found> FootageScan::list(const QStringList& paths) const
             continue;
         }
         const QDir folder(root.absoluteFilePath());
-        QDirIterator files(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+        checkFolder(root);
+        QDirIterator files(folder.path(), QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot,
+                           QDirIterator::Subdirectories);
         while (files.hasNext() && !m_progress.isCancelled()) {
             files.next();
-            if (FileFacts::isFootage(files.fileName()))
+            if (files.fileInfo().isDir())
+                checkFolder(files.fileInfo());
+            else if (FileFacts::isFootage(files.fileName()))
                 all.append({files.fileInfo(),
                             folder.dirName() + u'/' + folder.relativeFilePath(files.filePath())});
         }
     }
     return all;
+}
+
+void FootageScan::checkFolder(const QFileInfo& folder) const
+{
+    if (!folder.isReadable() || !folder.isExecutable())
+        m_problems.add(
+            {folder.filePath(),
+             0,
+             {"Review::FootageScan",
+              QT_TRANSLATE_NOOP("Review::FootageScan", "the folder may not be looked into")}});
 }
 
 qsizetype FootageScan::read(QList<Found>& all, const Footage& footage)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "data/jobprogress.h"
+#include "data/problemlist.h"
 #include "footage.h"
 #include "footageindex.h"
 #include "pathpattern.h"
@@ -31,12 +32,13 @@ class FootageScan
 {
 public:
     FootageScan(PathPattern pattern, FootageIndex& index, JobProgress& progress,
-                const ReadingOrder& order = {});
+                ProblemList& problems, const ReadingOrder& order = {});
 
     /// Looks through folders, with all below them, and single files. Each folder in one that is
     /// named here is a camera; files beside them, and folders that are called like a date, belong
     /// to a camera that is called like the one above. A cancelled progress ends it early.
     /// What was found goes into @p footage; of what was not read, as much as the paths tell.
+    /// Folders that may not be looked into are problems.
     void scan(const QStringList& paths, Footage& footage);
 
 private:
@@ -49,6 +51,7 @@ private:
     };
 
     QList<Found> list(const QStringList& paths) const;
+    void checkFolder(const QFileInfo& folder) const;
     /// Returns how many are left.
     qsizetype read(QList<Found>& all, const Footage& footage);
     /// In what order files are read.
@@ -58,6 +61,7 @@ private:
     const PathPattern m_pattern;
     FootageIndex& m_index;
     JobProgress& m_progress;
+    ProblemList& m_problems;
     const ReadingOrder m_order;
 };
 

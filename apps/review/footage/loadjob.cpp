@@ -46,7 +46,6 @@ public:
     LoadedFiles loaded;
     const bool isRead;
     ReviewLoader loader = {};
-    ReviewData data = {};
     QString error = {};
     bool hasNewLists = false;
     bool hasNews = false;
@@ -64,18 +63,25 @@ private:
 void LoadJob::Work::run()
 {
     if (loaded.named.isEmpty()) {
-        data = SampleData::make();
+        loaded.data = SampleData::make();
         return;
     }
     if (!isRead)
         read();
     if (!error.isEmpty() || loader.progress().isCancelled())
         return;
+    ReviewData& data = loaded.data;
     data = loaded.footage.addTo(loaded.listed, ofCameras);
     data.sort();
-    if (data.tracks.isEmpty() && data.events.isEmpty() && !loaded.files.footage.isEmpty())
-        error = LoadJob::tr("There are neither recordings nor events in %1.")
-                    .arg(QDir::toNativeSeparators(loaded.files.footage.first()));
+    data.shareWith(known.data);
+    if (!data.tracks.isEmpty() || !data.events.isEmpty() || loaded.files.footage.isEmpty())
+        return;
+    error = LoadJob::tr("There are neither recordings nor events in %1.")
+                .arg(QDir::toNativeSeparators(loaded.files.footage.first()));
+    if (loader.problems().count() > 0) {
+        const Problem& problem = loader.problems().listed().first();
+        error += u"\n%1: %2"_s.arg(QDir::toNativeSeparators(problem.file), problem.text.text());
+    }
 }
 
 void LoadJob::Work::readLists()
@@ -109,7 +115,8 @@ void LoadJob::Work::read()
     ofCameras = ofFolders.folders.value(files.footageFolder);
     if (!files.footage.isEmpty()) {
         FootageIndex index = known.index ? *known.index : FootageIndex(FootageIndex::userFile());
-        FootageScan scan(PathPattern(files.pattern), index, loader.progress(), order);
+        FootageScan scan(PathPattern(files.pattern), index, loader.progress(), loader.problems(),
+                         order);
         scan.scan(files.footage, loaded.footage);
         index.save();
         loaded.index = index;
@@ -178,7 +185,7 @@ int LoadJob::percent() const
 
 const ReviewData& LoadJob::data() const
 {
-    return m_work->data;
+    return m_work->loaded.data;
 }
 
 const LoadedFiles& LoadJob::read() const

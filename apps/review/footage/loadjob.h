@@ -14,7 +14,7 @@
 
 namespace Review {
 
-/// What was read, before recordings that were found in folders are put to their times.
+/// What was read, also before recordings that were found in folders are put to their times.
 struct LoadedFiles
 {
     /// What the user named.
@@ -26,6 +26,8 @@ struct LoadedFiles
     QList<std::pair<QDateTime, qint64>> lists = {};
     Footage footage = {};
     std::optional<FootageIndex> index = {};
+    /// All of it, each recording at its time.
+    ReviewData data = {};
 };
 
 /// Loads files, and finds those in folders, on a thread of its own, so that the window stays alive.

@@ -26,7 +26,6 @@ DeviceTree::DeviceTree(const Clock& clock, Selection& selection, QWidget* parent
 {
     setColumnCount(DeviceItem::ColumnCount);
     ListLook::apply(this, header());
-    setAllColumnsShowFocus(true);
     setIndentation(18);
     for (PTreeWidgetItem* group : {m_cameras, m_added}) {
         addTopLevelItem(group);

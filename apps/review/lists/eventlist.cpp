@@ -38,7 +38,7 @@ bool EventList::continues(const EventList& other) const
         if (isHidden(*this, track) != isHidden(other, track))
             return false;
     }
-    return m_events.startsWith(other.m_events);
+    return m_events.continues(other.m_events);
 }
 
 QList<qsizetype> EventList::eventsIn(const TimeSpan& span) const

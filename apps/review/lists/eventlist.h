@@ -28,7 +28,8 @@ public:
     bool setHiddenTracks(const QSet<QString>& identifiers);
     bool showsAll() const { return m_hidden.count(true) == 0; }
     bool isShown(qsizetype event) const { return !m_hidden.testBit(m_events.trackAt(event)); }
-    /// Whether the events of @p other come first, and the same ones of them are left out.
+    /// Whether the events of @p other are known to come first, and the same ones of them are left
+    /// out.
     bool continues(const EventList& other) const;
     /// Those that are not left out and happened within @p span.
     QList<qsizetype> eventsIn(const CorvelGui::TimeSpan& span) const;

@@ -20,8 +20,12 @@ bool EventModel::addEvents(const EventList& events, const TimeTexts& times)
 {
     const qsizetype before = m_events.size();
     const qsizetype now = events.events().size();
-    if (before == 0 || now == before || !events.events().startsWith(m_events))
+    if (before == 0 || !events.events().continues(m_events))
         return false;
+    if (now == before) {
+        renewTexts(events, times);
+        return true;
+    }
     beginInsertRows({}, int(before), int(now) - 1);
     take(events, times);
     endInsertRows();

@@ -17,8 +17,8 @@ public:
     explicit EventModel(QObject* parent = nullptr);
 
     void setEvents(const EventList& events, const TimeTexts& times);
-    /// The same where there are more events behind those before; these stay. Otherwise it does
-    /// nothing, and returns false.
+    /// The same where the events are known to begin with those before; these stay. Otherwise it
+    /// does nothing, and returns false.
     bool addEvents(const EventList& events, const TimeTexts& times);
     /// The same events say something else now: the clock or the language is another.
     void renewTexts(const EventList& events, const TimeTexts& times);

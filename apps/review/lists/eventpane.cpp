@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "eventpane.h"
 
+#include "data/csvwriter.h"
 #include "data/eventwriter.h"
 #include "durationfilter.h"
 #include "eventtable.h"
@@ -73,9 +74,9 @@ void EventPane::showRows()
 
 void EventPane::exportEvents()
 {
-    EventWriter writer(m_clock.times().zone(), CsvWriter::userSeparator());
+    EventWriter writer(m_list.events(), m_clock.times().zone(), CsvWriter::userSeparator());
     for (const qsizetype event : m_table->chosenEvents())
-        writer.add(m_list.events()[event]);
+        writer.add(event);
     Q_EMIT exportWanted(writer);
 }
 

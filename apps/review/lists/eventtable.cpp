@@ -9,6 +9,7 @@
 #include <CorvelGui/PRowFilterModel>
 
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
@@ -31,6 +32,8 @@ EventTable::EventTable(QWidget* parent)
 
     setSelectionBehavior(SelectRows);
     ListLook::apply(this, horizontalHeader());
+    // One of its own: otherwise each look at the header asks all selected rows.
+    horizontalHeader()->setSelectionModel(new QItemSelectionModel(m_rows, horizontalHeader()));
     horizontalHeader()->setSectionResizeMode(EventTexts::Text, QHeaderView::Stretch);
     horizontalHeader()->setMinimumSectionSize(90);
     horizontalHeader()->setSortIndicator(EventTexts::Time, Qt::AscendingOrder);
@@ -107,7 +110,7 @@ qsizetype EventTable::eventOf(const QModelIndex& index) const
 void EventTable::goTo(qsizetype event)
 {
     if (currentIndex().isValid() && eventOf(currentIndex()) == event)
-        return scrollTo(currentIndex(), PositionAtCenter);
+        return showRow(currentIndex());
     setCurrentIndex({});
     m_current = event;
     restoreCurrent();
@@ -120,8 +123,16 @@ void EventTable::restoreCurrent()
     const QModelIndex cell = m_rows->mapFromSource(m_events->index(int(m_current), 0));
     if (!cell.isValid())
         return;
+    showRow(cell);
+}
+
+void EventTable::showRow(const QModelIndex& cell)
+{
+    // Whoever looks at some columns goes on with these.
+    const int left = horizontalScrollBar()->value();
     setCurrentIndex(cell);
     scrollTo(cell, PositionAtCenter);
+    horizontalScrollBar()->setValue(left);
 }
 
 void EventTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)

@@ -47,6 +47,7 @@ private:
     void showOptional(int column, bool needed);
     void fitColumns();
     void restoreCurrent();
+    void showRow(const QModelIndex& cell);
 
     CorvelGui::PRowFilterModel* m_rows;
     EventModel* m_events;

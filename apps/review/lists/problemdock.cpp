@@ -37,8 +37,8 @@ void ProblemDock::setProblems(const ProblemList& problems)
 
 void ProblemDock::retranslate()
 {
-    setWindowTitle(tr("Lines left out: %1").arg(QLocale().toString(m_problems.count())));
-    m_list->setAccessibleName(tr("Lines left out"));
+    setWindowTitle(tr("Left out: %1").arg(QLocale().toString(m_problems.count())));
+    m_list->setAccessibleName(tr("Left out"));
     // Qt names it once only, in the language of that moment.
     if (auto* close = findChild<QWidget*>(u"qt_dockwidget_closebutton"_s))
         close->setAccessibleName(tr("Close"));

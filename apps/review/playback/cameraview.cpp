@@ -22,6 +22,7 @@ CameraView::CameraView(QWidget* parent)
     m_item->setTransformationMode(Qt::SmoothTransformation);
     setFrameShape(QFrame::NoFrame);
     setMinimumSize(smallest);
+    viewport()->setAcceptDrops(false); // what is dropped is for the window
     // The texts stay where they are while the picture moves.
     setViewportUpdateMode(FullViewportUpdate);
     m_patience.setSingleShot(true);

@@ -42,6 +42,8 @@ RecordingBar::RecordingBar(const Clock& clock, Selection& selection, QWidget* pa
     m_slider->setPositionText([this](qint64 position) {
         return m_recording.isEmpty() ? QString() : timeText(m_recording.begin + position);
     });
+    // Time runs from left to right in every language.
+    setLayoutDirection(Qt::LeftToRight);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 2, 8, 2);
     layout->addWidget(m_begin);

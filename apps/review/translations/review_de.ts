@@ -833,9 +833,17 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <source>Report saved</source>
         <translation>Bericht gespeichert</translation>
     </message>
+    <message>
+        <source>Exporting events</source>
+        <translation>Ereignisse werden exportiert</translation>
+    </message>
 </context>
 <context>
     <name>Review::FolderChoice</name>
+    <message>
+        <source>There is no such folder.</source>
+        <translation>Diesen Ordner gibt es nicht.</translation>
+    </message>
     <message>
         <source>Folder</source>
         <translation>Ordner</translation>
@@ -866,6 +874,13 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>&amp;Smoothly</source>
         <translation>&amp;Fließend</translation>
+    </message>
+</context>
+<context>
+    <name>Review::FootageScan</name>
+    <message>
+        <source>the folder may not be looked into</source>
+        <translation>in den Ordner darf nicht gesehen werden</translation>
     </message>
 </context>
 <context>
@@ -1148,12 +1163,12 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
 <context>
     <name>Review::ProblemDock</name>
     <message>
-        <source>Lines left out: %1</source>
-        <translation>Ausgelassene Zeilen: %1</translation>
+        <source>Left out: %1</source>
+        <translation>Ausgelassen: %1</translation>
     </message>
     <message>
-        <source>Lines left out</source>
-        <translation>Ausgelassene Zeilen</translation>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -1342,7 +1357,7 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     </message>
     <message>
         <source>Export &amp;pictures…</source>
-        <translation>&amp;Bilder exportieren …</translation>
+        <translation>Bilder &amp;exportieren …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>

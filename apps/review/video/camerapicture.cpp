@@ -90,6 +90,8 @@ int CameraPicture::paintNameAndTime(QPainter& painter, const QRect& area) const
 
 void CameraPicture::paintTexts(QPainter& painter, const QRect& area) const
 {
+    // As in the file of the picture.
+    painter.setLayoutDirection(Qt::LeftToRight);
     painter.setFont(textFont(painter.font(), area.height()));
     const int line = paintNameAndTime(painter, area);
     if (message.isEmpty())

@@ -55,6 +55,8 @@ void ReviewOpener::start(std::unique_ptr<LoadJob> job)
     busy->setDelay(quickLoad);
     busy->show();
     auto* panel = new LoadPanel(*m_job);
+    // A status bar that gets a widget shows what its message hides, too.
+    m_window->statusBar()->clearMessage();
     m_window->statusBar()->addPermanentWidget(panel);
     connect(m_job.get(), &LoadJob::loaded, busy, [busy, panel] {
         busy->hide();

@@ -295,6 +295,22 @@ void ReviewPanes::showEvent(QShowEvent* event)
     m_tables->restoreState(std::exchange(m_widths, {}));
 }
 
+bool ReviewPanes::event(QEvent* event)
+{
+    const bool handled = Translated::event(event);
+    const bool isNewRoom =
+        event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+    if (isNewRoom && isVisible())
+        keepRoom();
+    return handled;
+}
+
+// The transport takes more rows where it is narrow, which windows do not ask for.
+void ReviewPanes::keepRoom()
+{
+    setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+}
+
 // The markers say what kinds of events are called.
 void ReviewPanes::retranslate()
 {

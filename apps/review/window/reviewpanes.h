@@ -75,9 +75,11 @@ Q_SIGNALS:
 protected:
     void retranslate() final;
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void createLayout();
+    void keepRoom();
     void setPeriod(const CorvelGui::TimeSpan& period);
     void connectLists();
     void connectTimeline();

@@ -31,6 +31,8 @@ ReviewStatusBar::ReviewStatusBar(Clock& clock, QWidget* parent)
 
     connect(m_zone, &ZoneCombo::zoneChanged, this, &ReviewStatusBar::chooseZone);
     connect(m_zone, &ZoneCombo::zoneRefused, this, &ReviewStatusBar::refuseZone);
+    // A message does not make room for what appears beside it.
+    connect(m_export, &ExportPanel::exportingChanged, this, &QStatusBar::clearMessage);
     connect(&clock, &Clock::changed, this, [this] {
         m_zone->setZone(m_clock.zoneName());
         clearMessage();
