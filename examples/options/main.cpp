@@ -15,7 +15,7 @@
 
 using namespace CorvelGui;
 
-/// A page with one choice, which takes effect on OK or Apply.
+/// A page with one choice, which takes effect on OK.
 class ChoicePage : public ISettingsPage
 {
 public:

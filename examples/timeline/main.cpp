@@ -67,7 +67,8 @@ int main(int argc, char** argv)
     timeline->setTimeLimits(weekBegin, weekEnd);
     timeline->setIndicatorPosition(weekBegin + 3 * day + 10 * hour);
     tell(ruler->getIndicatorMSecs());
-    ruler->changeLevel(4, 0.5); // one day, in the middle of the week
+    ruler->changeLevel(4, 0.5);    // one day, in the middle of the week
+    ruler->setCalendarTicks(true); // labels have room
     ruler->onAddMarkers({event(weekBegin + 3 * day + 8 * hour, "Gate opened"),
                          event(weekBegin + 3 * day + 9 * hour, "Motion in the car park"),
                          event(weekBegin + 3 * day + 17 * hour, "Gate closed")});
