@@ -50,7 +50,7 @@ MomentEntry::MomentEntry(const Controls& controls, QObject* parent)
     for (QDateTimeEdit* edit :
          std::initializer_list<QDateTimeEdit*>{controls.date, controls.time}) {
         edit->installEventFilter(this);
-        connect(edit, &QDateTimeEdit::dateTimeChanged, this, &MomentEntry::findMoments);
+        connect(edit, &QDateTimeEdit::dateTimeChanged, this, &MomentEntry::takeEntry);
     }
     keepRoomForEntries(*controls.occurrence);
     connect(controls.occurrence, &QComboBox::activated, this, &MomentEntry::edited);
@@ -58,13 +58,16 @@ MomentEntry::MomentEntry(const Controls& controls, QObject* parent)
 
 void MomentEntry::setMoment(const QDateTime& moment)
 {
-    const QScopedValueRollback setting(m_isSetting, true);
+    {
+        // Between the two, they show a moment that nobody means.
+        const QScopedValueRollback setting(m_isSetting, true);
+        m_controls.date->setTodayZone(moment.timeZone());
+        // The edits count in UTC, where every date and time exists.
+        m_controls.date->setDate(moment.date());
+        m_controls.time->setTime(moment.time());
+    }
     m_zone = moment;
     m_moments.clear();
-    m_controls.date->setTodayZone(moment.timeZone());
-    // The edits count in UTC, where every date and time exists.
-    m_controls.date->setDate(moment.date());
-    m_controls.time->setTime(moment.time());
     findMoments();
 }
 
@@ -79,7 +82,6 @@ QDateTime MomentEntry::moment() const
 
 void MomentEntry::setLimits(const MomentLimits& limits)
 {
-    const QScopedValueRollback setting(m_isSetting, true);
     m_limits = limits;
     findMoments();
 }
@@ -114,6 +116,14 @@ bool MomentEntry::eventFilter(QObject* watched, QEvent* event)
                              *static_cast<QKeyEvent*>(event));
 }
 
+void MomentEntry::takeEntry()
+{
+    if (m_isSetting)
+        return;
+    findMoments();
+    Q_EMIT edited();
+}
+
 void MomentEntry::findMoments()
 {
     const bool chosenBefore = m_moments.size() == 2;
@@ -122,8 +132,6 @@ void MomentEntry::findMoments()
                                     : int(m_moments.size() == 2 && m_moments.at(1) == m_zone);
     explain();
     m_controls.occurrence->setCurrentIndex(chosen);
-    if (!m_isSetting)
-        Q_EMIT edited();
 }
 
 bool MomentEntry::isWithinLimits() const

@@ -65,6 +65,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void takeEntry();
     void findMoments();
     bool isWithinLimits() const;
     QString explanation() const;

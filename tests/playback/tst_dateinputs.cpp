@@ -148,6 +148,7 @@ private Q_SLOTS:
     {
         Shown<PDateTimeSelectionDialog> dialog;
         dialog.setDateFormat(u"yyyy-MM-dd"_s);
+        dialog.setDateTime(second.addDays(1)); // from whatever time it is now
         dialog.setDateTime(second);
         QCOMPARE(dialog.dateTime().offsetFromUtc(), 3600);
         QVERIFY(noteIn(dialog).contains(u"twice"_s));
