@@ -6,6 +6,7 @@
 #include <CorvelGui/PPasswordInputDialog>
 
 #include <QDateTime>
+#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPointer>
@@ -20,60 +21,39 @@ namespace Gallery {
 
 namespace {
 
-/// Runs the dialog and deletes it. The parent may be gone before.
-template <typename Dialog>
-QString resultOf(Dialog* created, QString (*describe)(const Dialog& dialog, bool accepted))
-{
-    const QPointer<Dialog> dialog(created);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
-        return {};
-    const QString result = describe(*dialog, accepted);
-    delete dialog;
-    return result;
-}
-
-QString askIpRange(QWidget* parent)
-{
-    return resultOf<PIpRangeDialog>(new PIpRangeDialog(parent), [](const PIpRangeDialog& dialog,
-                                                                   bool accepted) {
-        return accepted ? u"%1 /%2"_s.arg(dialog.getIp()).arg(dialog.getMask()) : u"Cancelled"_s;
-    });
-}
-
-QString askPassword(QWidget* parent)
-{
-    return resultOf<PPasswordInputDialog>(new PPasswordInputDialog(u"corvel"_s, parent),
-                                          [](const PPasswordInputDialog& dialog, bool accepted) {
-                                              if (!accepted)
-                                                  return u"Cancelled"_s;
-                                              return dialog.useEncryptPasswordNextTime()
-                                                         ? u"Right, to be remembered"_s
-                                                         : u"Right"_s;
-                                          });
-}
-
-QString askRefresh(QWidget* parent)
-{
-    const QDateTime lastUpdate(QDate(2024, 3, 30), QTime(7, 15));
-    return resultOf<PAskRefreshDialog>(new PAskRefreshDialog(parent, lastUpdate, true),
-                                       [](const PAskRefreshDialog& dialog, bool accepted) {
-                                           return (accepted ? u"Refresh"_s : u"No refresh"_s) +
-                                                  (dialog.ShowNextTime() ? u", ask again"_s
-                                                                         : u", do not ask again"_s);
-                                       });
-}
+/// What came of a dialog that was accepted or not.
+using Description = QString (*)(const QDialog& dialog, bool accepted);
 
 struct Entry
 {
     QString title;
-    QString (*open)(QWidget* parent); ///< shows the dialog and says what came of it
+    QDialog* (*create)(QWidget* parent);
+    Description describe;
 };
 
 const Entry entries[] = {
-    {u"IP range"_s, askIpRange},
-    {u"Password (\"corvel\")"_s, askPassword},
-    {u"Ask for refresh"_s, askRefresh},
+    {u"IP range"_s, [](QWidget* parent) -> QDialog* { return new PIpRangeDialog(parent); },
+     [](const QDialog& dialog, bool accepted) {
+         const auto& range = static_cast<const PIpRangeDialog&>(dialog);
+         return accepted ? u"%1 /%2"_s.arg(range.getIp()).arg(range.getMask()) : u"Cancelled"_s;
+     }},
+    {u"Password (\"corvel\")"_s,
+     [](QWidget* parent) -> QDialog* { return new PPasswordInputDialog(u"corvel"_s, parent); },
+     [](const QDialog& dialog, bool accepted) {
+         const auto& password = static_cast<const PPasswordInputDialog&>(dialog);
+         if (!accepted)
+             return u"Cancelled"_s;
+         return password.useEncryptPasswordNextTime() ? u"Right, to be remembered"_s : u"Right"_s;
+     }},
+    {u"Ask for refresh"_s,
+     [](QWidget* parent) -> QDialog* {
+         return new PAskRefreshDialog(parent, QDateTime(QDate(2024, 3, 30), QTime(7, 15)), true);
+     },
+     [](const QDialog& dialog, bool accepted) {
+         const bool again = static_cast<const PAskRefreshDialog&>(dialog).ShowNextTime();
+         return (accepted ? u"Refresh"_s : u"No refresh"_s) +
+                (again ? u", ask again"_s : u", do not ask again"_s);
+     }},
 };
 
 } // namespace
@@ -81,22 +61,34 @@ const Entry entries[] = {
 DialogsPage::DialogsPage(QWidget* parent) : QWidget(parent)
 {
     auto* grid = new QGridLayout(this);
-    grid->setHorizontalSpacing(16);
+    grid->setSpacing(16);
     int row = 0;
     for (const Entry& entry : entries) {
         auto* button = new QPushButton(entry.title);
-        auto* result = new QLabel(tr("Not opened yet"));
+        auto* result = new QLabel(tr("Not answered yet"));
         result->setTextFormat(Qt::PlainText);
-        connect(button, &QPushButton::clicked, result, [this, &entry, shown = QPointer(result)] {
-            const QString text = entry.open(this);
-            if (shown)
-                shown->setText(text);
+        connect(button, &QPushButton::clicked, result, [this, &entry, result] {
+            const QPointer shown(result);
+            const QPointer dialog(entry.create(this));
+            const bool accepted = dialog->exec() == QDialog::Accepted;
+            if (shown && dialog)
+                result->setText(entry.describe(*dialog, accepted));
+            delete dialog;
         });
-        grid->addWidget(button, row, 0);
-        grid->addWidget(result, row, 1);
+
+        QDialog* part = entry.create(this);
+        part->setWindowFlags(Qt::Widget);
+        // Its buttons must not take it off the page.
+        connect(part, &QDialog::finished, result, [part, result, &entry](int code) {
+            result->setText(entry.describe(*part, code == QDialog::Accepted));
+            part->show();
+        });
+        grid->addWidget(button, row, 0, Qt::AlignTop);
+        grid->addWidget(part, row, 1, Qt::AlignTop);
+        grid->addWidget(result, row, 2, Qt::AlignTop);
         ++row;
     }
-    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
     grid->setRowStretch(row, 1);
 }
 

@@ -5,7 +5,8 @@
 
 namespace Gallery {
 
-/// A button for each dialog, with what came of it the last time.
+/// Each dialog as a part of the page, with a button that opens it as a window, and what came of it
+/// the last time.
 class DialogsPage : public QWidget
 {
     Q_OBJECT

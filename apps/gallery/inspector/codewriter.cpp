@@ -155,20 +155,19 @@ QString statementOf(const QString& variable, const QMetaProperty& property, cons
 }
 
 CodeWriter::CodeWriter(const QWidget& widget)
-    : m_widget(widget), m_new(knownWidget(widget)->create(nullptr))
+    : m_widget(widget), m_known(*knownWidget(widget)), m_new(m_known.create(nullptr))
 {}
 
 CodeWriter::~CodeWriter() = default;
 
 QString CodeWriter::code() const
 {
-    const KnownWidget& known = *knownWidget(m_widget);
     static const QRegularExpression qtType(
         u"\\bQ(Color|Size|Url|DateTime|Date|StringList|TimeZone)\\b(?=[({:])"_s);
-    const QString variable = variableOf(known.name());
-    QStringList includes{u"#include <CorvelGui/%1>"_s.arg(known.name())};
+    const QString variable = variableOf(m_known.name());
+    QStringList includes{u"#include <CorvelGui/%1>"_s.arg(m_known.name())};
     QStringList lines;
-    for (const QMetaProperty& property : inspectedProperties(*known.meta)) {
+    for (const QMetaProperty& property : inspectedProperties(*m_known.meta)) {
         const QVariant value = property.read(&m_widget);
         if (isSame(value, property.read(m_new.get())))
             continue;
@@ -177,9 +176,10 @@ QString CodeWriter::code() const
             includes.append(u"#include <%1>"_s.arg(type.next().captured()));
     }
     includes.removeDuplicates();
-    const QString arguments = known.arguments.isEmpty() ? QString() : u'(' + known.arguments + u')';
+    const QString arguments =
+        m_known.arguments.isEmpty() ? QString() : u'(' + m_known.arguments + u')';
     return includes.join(u'\n') + u"\n\n"_s +
-           u"auto* %1 = new %2%3;\n"_s.arg(variable, QLatin1StringView(known.meta->className()),
+           u"auto* %1 = new %2%3;\n"_s.arg(variable, QLatin1StringView(m_known.meta->className()),
                                            arguments) +
            lines.join(u'\n');
 }

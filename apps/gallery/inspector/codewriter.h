@@ -12,6 +12,8 @@ class QWidget;
 
 namespace Gallery {
 
+struct KnownWidget;
+
 /// The function that sets a property; empty where only setProperty() is known to.
 QString setterOf(const QMetaProperty& property);
 
@@ -34,6 +36,7 @@ public:
 
 private:
     const QWidget& m_widget;
+    const KnownWidget& m_known;
     const std::unique_ptr<const QWidget> m_new;
 };
 

@@ -4,9 +4,19 @@
 #include "widgets.h"
 
 #include <CorvelGui/AboutInfo7>
+#include <CorvelGui/AppUpdaterDialog>
 #include <CorvelGui/BusyIndicator>
 #include <CorvelGui/Indicator>
 #include <CorvelGui/Info3rdLicences>
+#include <CorvelGui/PAskRefreshDialog>
+#include <CorvelGui/PChangeLogDialog>
+#include <CorvelGui/PCheckVersionUpdateDialog>
+#include <CorvelGui/PCsvDialog>
+#include <CorvelGui/PDateTimeSelectionDialog>
+#include <CorvelGui/PIpRangeDialog>
+#include <CorvelGui/PLanguageDialog>
+#include <CorvelGui/PPasswordInputDialog>
+#include <CorvelGui/RSSFeedDialog>
 #include <CorvelGui/Ruler>
 #include <CorvelGui/TimelineLanes>
 #include <CorvelGui/ToolBarWithLabel>
@@ -37,6 +47,39 @@ QWidget* createdLanes(QWidget* parent)
     return lanes;
 }
 
+QWidget* createdDateTimeDialog(QWidget* parent)
+{
+    auto* dialog = new PDateTimeSelectionDialog(parent);
+    dialog->setDateTime(QDateTime::fromSecsSinceEpoch(0)); // the moment is never the same again
+    return dialog;
+}
+
+QList<KnownWidget> knownDialogs()
+{
+    return {
+        {&AppUpdaterDialog::staticMetaObject,
+         [](QWidget* parent) { return new AppUpdaterDialog({}, {}, {}, {}, {}, parent); },
+         u"productName, installedVersion, newVersion, notesAddress, releaseDate, parent"_s},
+        {&PAskRefreshDialog::staticMetaObject,
+         [](QWidget* parent) { return new PAskRefreshDialog(parent, {}, true); },
+         u"parent, lastUpdate, true"_s},
+        {&PChangeLogDialog::staticMetaObject, created<PChangeLogDialog>, u"parent"_s},
+        {&PCheckVersionUpdateDialog::staticMetaObject,
+         [](QWidget* parent) { return new PCheckVersionUpdateDialog({}, {}, parent); },
+         u"message, changeLog, parent"_s},
+        {&PCsvDialog::staticMetaObject, created<PCsvDialog>, u"list"_s},
+        {&PDateTimeSelectionDialog::staticMetaObject, createdDateTimeDialog, u"parent"_s},
+        {&PIpRangeDialog::staticMetaObject, created<PIpRangeDialog>, u"parent"_s},
+        {&PLanguageDialog::staticMetaObject,
+         [](QWidget* parent) { return new PLanguageDialog(parent, {}, {}, {}, false); },
+         u"parent, prefix, folder, language, true"_s},
+        {&PPasswordInputDialog::staticMetaObject,
+         [](QWidget* parent) { return new PPasswordInputDialog({}, parent); },
+         u"expectedPassword, parent"_s},
+        {&RSSFeedDialog::staticMetaObject, created<RSSFeedDialog>, u"parent"_s},
+    };
+}
+
 /// Those that stand in no form, and then all that do.
 QList<KnownWidget> allKnownWidgets()
 {
@@ -54,6 +97,7 @@ QList<KnownWidget> allKnownWidgets()
          u"scene, QVariant()"_s},
         {&Zoomer::staticMetaObject, [](QWidget* parent) { return new Zoomer(8, parent); }, u"8"_s},
     };
+    all.append(knownDialogs());
     for (const FormWidget& widget : formWidgets())
         all.append({widget.meta, widget.create});
     return all;
