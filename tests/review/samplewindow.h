@@ -30,12 +30,13 @@ struct SampleWindow
             qFatal("The window does not appear");
     }
 
-    /// The first child of the type that shows the text.
+    /// The first child of the type that shows the text, whatever letter of it is underlined.
     template <typename Child>
     Child* withText(const QString& text) const
     {
         const auto children = window.findChildren<Child*>();
-        const auto found = std::ranges::find(children, text, &Child::text);
+        const auto found = std::ranges::find(
+            children, text, [](const Child* child) { return child->text().remove(u'&'); });
         if (found == children.end())
             qFatal("Nothing shows: %s", qPrintable(text));
         return *found;

@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(exportPictures(sample, aDay, false), 14);
         QCOMPARE(status->currentMessage(), QString());
         QVERIFY(sample.withText<QProgressBar>(u"0.0%"_s)->isVisible());
-        QVERIFY(!sample.action(u"Export &pictures…"_s)->isEnabled());
+        QVERIFY(!sample.action(u"Export pictures…"_s)->isEnabled());
         QTRY_VERIFY(sample.says(u"Pictures exported: 14"_s));
         QCOMPARE(files().size(), 14);
         QVERIFY(files().contains(u"Main_gate_2026-03-04T000000Z.png"_s));
@@ -126,7 +126,7 @@ private Q_SLOTS:
                  QStringList{u"Question: Export pictures: Files that exist already: 14 of "
                              "14. Replace them?"_s});
         QCOMPARE(first.size(), 0);
-        QVERIFY(sample.action(u"Export &pictures…"_s)->isEnabled());
+        QVERIFY(sample.action(u"Export pictures…"_s)->isEnabled());
     }
 
     void picturesAreSaved()
@@ -139,7 +139,7 @@ private Q_SLOTS:
         const CameraPicture picture = *pane->picture();
         for (const QString& name : {u"a.jpg"_s, u"b.png"_s}) {
             user.savePath = folder.filePath(name);
-            sample.action(u"&Save picture…"_s)->trigger();
+            sample.action(u"Save picture…"_s)->trigger();
             const QImage saved(user.savePath);
             QCOMPARE(saved.width(), picture.image.width());
             QCOMPARE(saved.height() > picture.image.height(), name == u"b.png"_s);
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(taken->offset, std::optional(-12'600));
         QCOMPARE(taken->clock.toMSecsSinceEpoch() + 12'600 * second, picture.instant);
 
-        sample.action(u"&Copy picture"_s)->trigger();
+        sample.action(u"Copy picture"_s)->trigger();
         QCOMPARE(QGuiApplication::clipboard()->image(), picture.withCaption());
     }
 
@@ -186,7 +186,7 @@ private Q_SLOTS:
             QCOMPARE(range->range(), recorded);
             QTest::mouseClick(ok, Qt::LeftButton);
         });
-        sample.action(u"Export &recordings…"_s)->trigger();
+        sample.action(u"Export recordings…"_s)->trigger();
         QTRY_VERIFY(sample.says(u"Recordings exported, in files: 2"_s));
         ReviewLoader loader;
         const QString made = QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot)[0];
@@ -316,7 +316,7 @@ private:
             }
             QTest::mouseClick(ok, Qt::LeftButton);
         });
-        sample.action(u"Export &pictures…"_s)->trigger();
+        sample.action(u"Export pictures…"_s)->trigger();
         return count;
     }
 

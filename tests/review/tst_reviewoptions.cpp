@@ -49,19 +49,22 @@ struct Client
     ClientOptions options;
 };
 
-/// The menus in which a letter stands for several entries.
-QStringList ambiguousMenus(const QWidget& window)
+/// The entries of menus that no letter stands for, or one that stands for another one as well;
+/// without the choice of a speed.
+QStringList entriesWithoutLetters(const ReviewWindow& window)
 {
-    QStringList menus;
-    for (const QMenu* menu : window.findChildren<QMenu*>()) {
-        QList<QKeySequence> keys;
-        for (const QAction* action : menu->actions())
-            keys.append(QKeySequence::mnemonic(action->text()));
-        keys.removeAll(QKeySequence());
-        if (keys.size() != QSet<QKeySequence>(keys.begin(), keys.end()).size())
-            menus.append(menu->title());
+    QStringList entries;
+    for (const QMenu* menu : window.menuBar()->findChildren<QMenu*>()) {
+        QSet<QKeySequence> keys;
+        for (const QAction* action : menu->actions()) {
+            const QKeySequence key = QKeySequence::mnemonic(action->text());
+            if (!action->text().isEmpty() && !action->text().startsWith(u'×') &&
+                (key.isEmpty() || keys.contains(key)))
+                entries.append(action->text());
+            keys.insert(key);
+        }
     }
-    return menus;
+    return entries;
 }
 
 void visit(const QString& category, const QString& page)
@@ -234,9 +237,9 @@ private Q_SLOTS:
                               u"Number and severity of events"_s,
                               u"Zoom freely"_s,
                               u"Drag to select a range"_s,
-                              u"&Smoothly"_s};
+                              u"Smoothly"_s};
         for (QAction* action : client.window.findChildren<QAction*>()) {
-            if (set.contains(action->text()))
+            if (set.contains(action->text().remove(u'&')))
                 action->trigger();
         }
         auto* zone = client.window.statusBar()->findChild<QComboBox*>();
@@ -348,10 +351,10 @@ private Q_SLOTS:
             english = visibleTexts();
             client.speak(u"de"_s);
             german = visibleTexts();
-            ambiguous += ambiguousMenus(client.window);
+            ambiguous += entriesWithoutLetters(client.window);
             client.speak(u"en"_s);
             again = visibleTexts();
-            ambiguous += ambiguousMenus(client.window);
+            ambiguous += entriesWithoutLetters(client.window);
             client.speak(u"de"_s);
             search->setText(u"kennwort"_s);
             found = dialog.findChild<QListView*>()->model()->rowCount();

@@ -137,10 +137,10 @@ void DevicePane::retranslate()
 {
     m_filter->setAccessibleName(tr("Filter cameras"));
     m_tree->setAccessibleName(tr("Cameras"));
-    m_addRange->setText(tr("Add camera range…"));
-    m_remove->setText(tr("Remove added cameras"));
-    m_expand->setText(tr("Expand all"));
-    m_collapse->setText(tr("Collapse all"));
+    m_addRange->setText(tr("&Add camera range…"));
+    m_remove->setText(tr("&Remove added cameras"));
+    m_expand->setText(tr("&Expand all"));
+    m_collapse->setText(tr("&Collapse all"));
 }
 
 } // namespace Review

@@ -120,8 +120,8 @@ void EventPane::retranslate()
 {
     m_filter->setAccessibleName(tr("Filter events"));
     m_table->setAccessibleName(tr("Events"));
-    m_export->setText(tr("Export events…"));
-    m_reportAction->setText(tr("Report of events…"));
+    m_export->setText(tr("Export &events…"));
+    m_reportAction->setText(tr("Report of e&vents…"));
     m_reportAction->setStatusTip(
         tr("Print the events in the table, or several selected ones, or save them as PDF"));
     m_export->setStatusTip(

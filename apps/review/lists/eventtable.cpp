@@ -9,6 +9,7 @@
 #include <CorvelGui/PRowFilterModel>
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -133,6 +134,18 @@ void EventTable::showRow(const QModelIndex& cell)
     setCurrentIndex(cell);
     scrollTo(cell, PositionAtCenter);
     horizontalScrollBar()->setValue(left);
+}
+
+void EventTable::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (m_rows->rowCount() > 0 || m_rows->isBusy())
+        return;
+    const bool isFiltered = m_events->rowCount() > 0;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                     isFiltered ? tr("No matching events") : tr("No events"));
 }
 
 void EventTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)

@@ -41,6 +41,8 @@ public:
     QList<qsizetype> chosenEvents() const;
 
 protected:
+    /// Says so where there is no event.
+    void paintEvent(QPaintEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

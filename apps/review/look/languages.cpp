@@ -3,10 +3,9 @@
 
 #include <CorvelGui/PLanguage>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
-#include <QWidget>
 
 using CorvelGui::PLanguage;
 using namespace Qt::StringLiterals;
@@ -62,9 +61,6 @@ void Languages::use(QWidget* parent, const QString& key)
 {
     QLocale::setDefault(localeFor(key));
     PLanguage::useLanguage(parent, key, {folder()});
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows)
-        window->unsetLocale();
 }
 
 } // namespace Review

@@ -89,25 +89,25 @@ QList<QAction*> TimelineToolBar::viewActions() const
 void TimelineToolBar::retranslate()
 {
     setWindowTitle(tr("Timeline"));
-    m_zoomIn->setText(tr("Zoom in"));
-    m_zoomOut->setText(tr("Zoom out"));
-    m_wholePeriod->setText(tr("Whole period"));
-    m_previous->setText(tr("Previous view"));
-    m_next->setText(tr("Next view"));
-    m_freeZoom->setText(tr("Zoom freely"));
-    m_earlier->setText(tr("Earlier"));
-    m_later->setText(tr("Later"));
-    m_moment->setText(tr("Current time"));
+    m_zoomIn->setText(tr("Zoom &in"));
+    m_zoomOut->setText(tr("Zoom &out"));
+    m_wholePeriod->setText(tr("&Whole period"));
+    m_previous->setText(tr("&Previous view"));
+    m_next->setText(tr("Ne&xt view"));
+    m_freeZoom->setText(tr("&Zoom freely"));
+    m_earlier->setText(tr("&Earlier"));
+    m_later->setText(tr("&Later"));
+    m_moment->setText(tr("&Current time"));
     m_moment->setToolTip(tr("Brings the time that is shown back into the view of the timeline"));
-    m_newest->setText(tr("Newest recording"));
-    m_showMarkers->setText(tr("Events"));
+    m_newest->setText(tr("&Newest recording"));
+    m_showMarkers->setText(tr("E&vents"));
     m_showMarkers->setToolTip(tr("Shows the events on the timeline"));
-    m_showRanges->setText(tr("Ranges"));
+    m_showRanges->setText(tr("&Ranges"));
     m_showRanges->setToolTip(tr("Sets a search range and a result range"));
-    m_dragSelects->setText(tr("Drag to select a range"));
-    m_showActivity->setText(tr("Activity in the overview"));
-    m_showLanes->setText(tr("Cameras on the timeline"));
-    m_showEventDetails->setText(tr("Number and severity of events"));
+    m_dragSelects->setText(tr("&Drag to select a range"));
+    m_showActivity->setText(tr("&Activity in the overview"));
+    m_showLanes->setText(tr("Cameras on the &timeline"));
+    m_showEventDetails->setText(tr("N&umber and severity of events"));
 }
 
 void TimelineToolBar::showState()

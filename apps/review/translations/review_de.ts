@@ -510,20 +510,20 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Kameras</translation>
     </message>
     <message>
-        <source>Add camera range…</source>
-        <translation>Kamerabereich hinzufügen …</translation>
+        <source>&amp;Add camera range…</source>
+        <translation>Kamerabereich &amp;hinzufügen …</translation>
     </message>
     <message>
-        <source>Remove added cameras</source>
-        <translation>Hinzugefügte Kameras entfernen</translation>
+        <source>&amp;Remove added cameras</source>
+        <translation>Hinzugefügte Kameras &amp;entfernen</translation>
     </message>
     <message>
-        <source>Expand all</source>
-        <translation>Alle aufklappen</translation>
+        <source>&amp;Expand all</source>
+        <translation>Alle &amp;aufklappen</translation>
     </message>
     <message>
-        <source>Collapse all</source>
-        <translation>Alle zuklappen</translation>
+        <source>&amp;Collapse all</source>
+        <translation>Alle &amp;zuklappen</translation>
     </message>
 </context>
 <context>
@@ -661,16 +661,16 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Ereignisse filtern</translation>
     </message>
     <message>
-        <source>Export events…</source>
-        <translation>Ereignisse exportieren …</translation>
+        <source>Export &amp;events…</source>
+        <translation>Ere&amp;ignisse exportieren …</translation>
     </message>
     <message>
         <source>Write the events in the table, or several selected ones, to a file</source>
         <translation>Schreibt die Ereignisse der Tabelle oder mehrere ausgewählte in eine Datei</translation>
     </message>
     <message>
-        <source>Report of events…</source>
-        <translation>Bericht über Ereignisse …</translation>
+        <source>Report of e&amp;vents…</source>
+        <translation>Be&amp;richt über Ereignisse …</translation>
     </message>
     <message>
         <source>Print the events in the table, or several selected ones, or save them as PDF</source>
@@ -702,6 +702,17 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
     <message>
         <source>Picture</source>
         <translation>Bild</translation>
+    </message>
+</context>
+<context>
+    <name>Review::EventTable</name>
+    <message>
+        <source>No matching events</source>
+        <translation>Keine passenden Ereignisse</translation>
+    </message>
+    <message>
+        <source>No events</source>
+        <translation>Keine Ereignisse</translation>
     </message>
 </context>
 <context>
@@ -1448,8 +1459,8 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Aufzeichnungen sichten</translation>
     </message>
     <message>
-        <source>Dark look</source>
-        <translation>Dunkles Aussehen</translation>
+        <source>Dar&amp;k look</source>
+        <translation>&amp;Dunkles Aussehen</translation>
     </message>
     <message>
         <source>Sample</source>
@@ -1667,80 +1678,80 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>Zeitleiste</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Vergrößern</translation>
+        <source>Zoom &amp;in</source>
+        <translation>&amp;Vergrößern</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Verkleinern</translation>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
-        <source>Whole period</source>
-        <translation>Gesamter Zeitraum</translation>
+        <source>&amp;Whole period</source>
+        <translation>Gesamter &amp;Zeitraum</translation>
     </message>
     <message>
-        <source>Previous view</source>
-        <translation>Vorherige Ansicht</translation>
+        <source>&amp;Previous view</source>
+        <translation>Vorherige &amp;Ansicht</translation>
     </message>
     <message>
-        <source>Next view</source>
-        <translation>Nächste Ansicht</translation>
+        <source>Ne&amp;xt view</source>
+        <translation>Nä&amp;chste Ansicht</translation>
     </message>
     <message>
-        <source>Zoom freely</source>
-        <translation>Stufenlos zoomen</translation>
+        <source>&amp;Zoom freely</source>
+        <translation>&amp;Stufenlos zoomen</translation>
     </message>
     <message>
-        <source>Earlier</source>
-        <translation>Früher</translation>
+        <source>&amp;Earlier</source>
+        <translation>&amp;Früher</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>Später</translation>
+        <source>&amp;Later</source>
+        <translation>S&amp;päter</translation>
     </message>
     <message>
-        <source>Events</source>
-        <translation>Ereignisse</translation>
+        <source>E&amp;vents</source>
+        <translation>&amp;Ereignisse</translation>
     </message>
     <message>
         <source>Shows the events on the timeline</source>
         <translation>Zeigt die Ereignisse auf der Zeitleiste</translation>
     </message>
     <message>
-        <source>Ranges</source>
-        <translation>Bereiche</translation>
+        <source>&amp;Ranges</source>
+        <translation>&amp;Bereiche</translation>
     </message>
     <message>
         <source>Sets a search range and a result range</source>
         <translation>Legt einen Suchbereich und einen Ergebnisbereich fest</translation>
     </message>
     <message>
-        <source>Cameras on the timeline</source>
-        <translation>Kameras auf der Zeitleiste</translation>
+        <source>Cameras on the &amp;timeline</source>
+        <translation>Kameras auf der Zeit&amp;leiste</translation>
     </message>
     <message>
-        <source>Number and severity of events</source>
-        <translation>Anzahl und Schwere der Ereignisse</translation>
+        <source>N&amp;umber and severity of events</source>
+        <translation>Anzahl &amp;und Schwere der Ereignisse</translation>
     </message>
     <message>
-        <source>Activity in the overview</source>
-        <translation>Geschehen in der Übersicht</translation>
+        <source>&amp;Activity in the overview</source>
+        <translation>&amp;Geschehen in der Übersicht</translation>
     </message>
     <message>
-        <source>Current time</source>
-        <translation>Aktuelle Zeit</translation>
+        <source>&amp;Current time</source>
+        <translation>Ak&amp;tuelle Zeit</translation>
     </message>
     <message>
         <source>Brings the time that is shown back into the view of the timeline</source>
         <translation>Holt die gezeigte Zeit in den Ausschnitt der Zeitleiste zurück</translation>
     </message>
     <message>
-        <source>Drag to select a range</source>
-        <translation>Durch Ziehen einen Bereich wählen</translation>
+        <source>&amp;Drag to select a range</source>
+        <translation>Durch Ziehen einen Bereich &amp;wählen</translation>
     </message>
     <message>
-        <source>Newest recording</source>
-        <translation>Neueste Aufzeichnung</translation>
+        <source>&amp;Newest recording</source>
+        <translation>&amp;Neueste Aufzeichnung</translation>
     </message>
 </context>
 <context>
@@ -1796,16 +1807,16 @@ Dateien sind CSV mit einer Kopfzeile; Zeiten sind ISO 8601 mit Z oder einem Abst
         <translation>A&amp;ktualisierung</translation>
     </message>
     <message>
-        <source>Check version file</source>
-        <translation>Versionsdatei prüfen</translation>
+        <source>&amp;Check version file</source>
+        <translation>&amp;Versionsdatei prüfen</translation>
     </message>
     <message>
-        <source>Show change log</source>
-        <translation>Änderungen anzeigen</translation>
+        <source>&amp;Show change log</source>
+        <translation>Änder&amp;ungen anzeigen</translation>
     </message>
     <message>
-        <source>Ask update server</source>
-        <translation>Update-Server fragen</translation>
+        <source>&amp;Ask update server</source>
+        <translation>Update-&amp;Server fragen</translation>
     </message>
     <message>
         <source>Waiting for the update server</source>

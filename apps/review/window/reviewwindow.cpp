@@ -276,7 +276,7 @@ void ReviewWindow::connectParts()
 void ReviewWindow::retranslate()
 {
     showTitle();
-    m_darkLook->setText(tr("Dark look"));
+    m_darkLook->setText(tr("Dar&k look"));
     // Its names and texts are those of the language; a file keeps its own.
     if (m_showsSample)
         m_panes->setTexts(SampleData::make());

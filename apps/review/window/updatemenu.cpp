@@ -69,9 +69,9 @@ void UpdateMenu::setServers(const UpdateServers& servers)
 void UpdateMenu::retranslate()
 {
     setTitle(tr("&Updates"));
-    m_checkVersionFile->setText(tr("Check version file"));
-    m_showChangeLog->setText(tr("Show change log"));
-    m_askServer->setText(tr("Ask update server"));
+    m_checkVersionFile->setText(tr("&Check version file"));
+    m_showChangeLog->setText(tr("&Show change log"));
+    m_askServer->setText(tr("&Ask update server"));
     m_label->setText(tr("Waiting for the update server"));
     m_progress->setAccessibleName(m_label->text());
 }
