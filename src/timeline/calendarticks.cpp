@@ -155,7 +155,7 @@ public:
         const std::optional<Step> minor = minorStep(major);
         if (minor.value_or(major).unit <= Unit::Day) {
             m_stretches = stretches(m_view.from, m_to, m_clock);
-            m_scale.changes = m_clock.between(m_view.from, m_to);
+            m_scale.changes = m_clock.reaching(m_view.from, m_to);
         }
         const std::vector<qint64> majorTicks = instants(major);
         addTicks(majorTicks, minor);

@@ -47,7 +47,8 @@ struct CalendarScale
 {
     std::vector<CalendarTick> ticks;
     std::vector<CalendarLabel> labels;
-    std::vector<ClockChange> changes; ///< clock changes in view, unless ticks are further apart
+    /// Clock changes in view, or of which repeated times are, unless ticks are further apart.
+    std::vector<ClockChange> changes;
 };
 
 struct CalendarStyle

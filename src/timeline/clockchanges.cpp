@@ -15,7 +15,10 @@ namespace CorvelGui {
 
 namespace {
 
-constexpr qint64 stride = 7 * 86'400'000LL; // milliseconds
+constexpr qint64 day = 86'400'000; // milliseconds
+constexpr qint64 stride = 7 * day;
+/// No clock is put back further.
+constexpr qint64 reach = 2 * day;
 
 } // namespace
 
@@ -44,12 +47,23 @@ std::vector<ClockChange> ClockChanges::between(qint64 from, qint64 to) const
     return {first, std::lower_bound(first, m_known.end(), to, before)};
 }
 
+std::vector<ClockChange> ClockChanges::reaching(qint64 from, qint64 to) const
+{
+    if (from >= to)
+        return {};
+    std::vector<ClockChange> changes = between(from - reach, to + reach);
+    std::erase_if(changes, [&](const ClockChange& change) {
+        const qint64 repeated = change.repeats() ? change.length() : 0;
+        return change.instant + std::max<qint64>(repeated, 1) <= from ||
+               to <= change.instant - repeated;
+    });
+    return changes;
+}
+
 QString ClockChanges::whichOfTwo(qint64 instant) const
 {
-    constexpr qint64 reach = 2 * 86'400'000LL;
-    for (const ClockChange& change : between(instant - reach, instant + reach)) {
-        if (!change.repeats() || instant < change.instant - change.length() ||
-            instant >= change.instant + change.length())
+    for (const ClockChange& change : reaching(instant, instant + 1)) {
+        if (!change.repeats())
             continue;
         const qint64 offset = instant < change.instant ? change.before : change.after;
         const qint64 minutes = std::abs(offset) / 60'000;

@@ -38,6 +38,8 @@ public:
     qint64 offsetAt(qint64 instant) const;
     /// The changes in [from, to), in order.
     std::vector<ClockChange> between(qint64 from, qint64 to) const;
+    /// These, and those whose repeated times reach into it.
+    std::vector<ClockChange> reaching(qint64 from, qint64 to) const;
     /// What tells a time that the wall clock shows twice from the other: its distance from UTC,
     /// with a space before it, as in " +02". Empty for times that come once.
     QString whichOfTwo(qint64 instant) const;

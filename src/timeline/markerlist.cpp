@@ -63,6 +63,8 @@ MarkerList::MarkerList(const QList<RulerMarker>& markers, qsizetype total,
     }
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
+    // A list never wants to be as low as two rows.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(m_list);
     m_list->setCurrentRow(0);
     m_list->installEventFilter(this);

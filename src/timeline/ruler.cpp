@@ -409,8 +409,7 @@ void Ruler::setUpAccessibility()
                           if (!d->indicatorTime.isValid())
                               return tr("No position");
                           const qint64 time = qint64(d->exactIndicator);
-                          const QString text = QLocale().toString(d->scale.inZone(time));
-                          return d->showsCalendar() ? text + d->clock.whichOfTwo(time) : text;
+                          return QLocale().toString(d->scale.inZone(time)) + d->whichOfTwo(time);
                       },
                   .move =
                       [this](double msecs) {

@@ -91,6 +91,11 @@ struct Ruler::Private
 
     bool takesInput() const { return active && !blocked; }
     bool showsCalendar() const { return calendarTicks || continuousZoom; }
+    /// As ClockChanges::whichOfTwo(), where clock changes are told.
+    QString whichOfTwo(qint64 instant) const
+    {
+        return showsCalendar() ? clock.whichOfTwo(instant) : QString();
+    }
     RulerRanges shownRanges() const;
     /// The column that keys act on, in a ruler of a width: that of the focused handle of the
     /// range, of the indicator, or the middle.

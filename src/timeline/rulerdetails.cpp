@@ -78,7 +78,8 @@ void Ruler::openMerged(const MarkerSymbol& symbol)
     auto* list = new MarkerList(
         markers, total,
         [this](qint64 msecs) {
-            return d->scale.inZone(msecs).toString(d->dateFormat + u" hh:mm:ss"_s);
+            return d->scale.inZone(msecs).toString(d->dateFormat + u" hh:mm:ss"_s) +
+                   d->whichOfTwo(msecs);
         },
         this);
     connect(list, &MarkerList::chosen, this, &Ruler::jumpToTime);

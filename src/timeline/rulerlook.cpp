@@ -241,15 +241,12 @@ void Ruler::showIndicatorTime(quint64 msecs)
     // Where the view shows more than a day, a time alone says little.
     const bool needsDate = qint64(d->scale.millisecondsPerLevel()) > msecsPerDay;
     QString format = needsDate ? d->dateFormat + u" hh:mm:ss"_s : u"hh:mm:ss"_s;
-    QString whichOfTwo;
-    if (d->showsCalendar()) {
-        // Close up, a pixel is less than a tenth of a second.
-        constexpr double pixelsPerMillisecond = 0.01;
-        if (d->scale.lengthPerMillisecond() > pixelsPerMillisecond)
-            format += u".zzz"_s;
-        whichOfTwo = d->clock.whichOfTwo(TimeScale::instant(msecs));
-    }
-    d->indicator->setText(d->scale.inZone(TimeScale::instant(msecs)).toString(format) + whichOfTwo);
+    // Close up, a pixel is less than a tenth of a second.
+    constexpr double pixelsPerMillisecond = 0.01;
+    if (d->showsCalendar() && d->scale.lengthPerMillisecond() > pixelsPerMillisecond)
+        format += u".zzz"_s;
+    const qint64 instant = TimeScale::instant(msecs);
+    d->indicator->setText(d->scale.inZone(instant).toString(format) + d->whichOfTwo(instant));
 }
 
 } // namespace CorvelGui

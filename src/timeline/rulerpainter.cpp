@@ -269,9 +269,12 @@ void RulerPainter::drawScaleRuler(QPainter& painter, const RulerScene& scene, co
         painter.fillRect(grid.aligned(line), tick.major ? majorColor : minorColor);
     }
     // Over the tick that stands there.
-    for (const ClockMark& mark : layout.clockMarks)
-        painter.fillRect(grid.aligned(QRectF(mark.x - 1, mark.top, 2, rect.bottom() - mark.top)),
-                         colors.clockChange);
+    for (const ClockMark& mark : layout.clockMarks) {
+        if (mark.x >= rect.left() && mark.x < rect.right())
+            painter.fillRect(
+                grid.aligned(QRectF(mark.x - 1, mark.top, 2, rect.bottom() - mark.top)),
+                colors.clockChange);
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(textColor);
     const double ascent = QFontMetricsF(painter.font()).ascent();

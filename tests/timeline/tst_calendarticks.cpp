@@ -138,6 +138,24 @@ private Q_SLOTS:
         }
     }
 
+    // Its hour is tinted wherever a part of it is in view.
+    void changesBesideTheView()
+    {
+        const std::tuple<const char*, const char*, size_t> views[] = {
+            {"2026-10-24T22:00:00Z", "2026-10-25T00:00:00Z", 0},
+            {"2026-10-24T22:00:00Z", "2026-10-25T00:00:01Z", 1},
+            {"2026-10-25T01:59:59Z", "2026-10-25T05:00:00Z", 1},
+            {"2026-10-25T02:00:00Z", "2026-10-25T05:00:00Z", 0},
+            {"2026-03-29T01:00:01Z", "2026-03-29T03:00:00Z", 0},
+            {"2026-03-28T23:00:00Z", "2026-03-29T01:00:00Z", 0}};
+        for (const auto& [from, to, count] : views) {
+            const double msecsPerPixel = double(msecs(to) - msecs(from)) / 1'000;
+            const CalendarScale scale =
+                layOut(QTimeZone("Europe/Brussels"), {msecs(from), msecsPerPixel, 0, 1'000});
+            QVERIFY2(scale.changes.size() == count, from);
+        }
+    }
+
     // Against a plain reckoning with Qt's calendar and zones, over every kind of view.
     void labelsOfRandomViews()
     {

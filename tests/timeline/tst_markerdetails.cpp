@@ -159,6 +159,28 @@ private Q_SLOTS:
         QTRY_VERIFY(ruler.list());
     }
 
+    void hoursThatComeTwiceInTheList()
+    {
+        DetailedRuler ruler;
+        ruler.setTimeZone(u"Europe/Brussels"_s);
+        const QDateTime change({2026, 10, 25}, {1, 0}, Qt::UTC);
+        const qint64 instant = change.toMSecsSinceEpoch();
+        ruler.setTimeLimits(quint64(instant - 60 * day), quint64(instant + 60 * day));
+        ruler.setView(instant - 50 * day, instant + 50 * day);
+        ruler.onAddMarkers({{.time = change.addSecs(-1'800)}, {.time = change.addSecs(1'800)}});
+        ruler.setMergedClick(Ruler::MergedClick::List);
+        for (const bool tells : {false, true}) {
+            ruler.setCalendarTicks(tells);
+            ruler.click();
+            QCOMPARE(ruler.list()->item(0)->text().endsWith(u"02:30:00 +02"), tells);
+            QCOMPARE(ruler.list()->item(1)->text().endsWith(u"02:30:00 +01"), tells);
+            const QRect last = ruler.list()->visualItemRect(ruler.list()->item(1));
+            QVERIFY(ruler.list()->height() - last.bottom() < last.height());
+            QTest::keyClick(ruler.list(), Qt::Key_Escape);
+            QTRY_VERIFY(!ruler.list());
+        }
+    }
+
     void deletionInSignals()
     {
         for (const auto action : {Ruler::MergedClick::List, Ruler::MergedClick::Zoom}) {
