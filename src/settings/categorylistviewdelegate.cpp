@@ -3,6 +3,7 @@
 
 #include "base/readablecolor.h"
 
+#include <QPainter>
 #include <QWidget>
 
 namespace CorvelGui {
@@ -12,6 +13,20 @@ QSize CategoryListViewDelegate::sizeHint(const QStyleOptionViewItem& option,
 {
     constexpr int minimumHeight = 32;
     return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, minimumHeight));
+}
+
+void CategoryListViewDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                     const QModelIndex& index) const
+{
+    QStyleOptionViewItem withoutFrame = option;
+    withoutFrame.state.setFlag(QStyle::State_HasFocus, false);
+    QStyledItemDelegate::paint(painter, withoutFrame, index);
+    if (!option.state.testFlag(QStyle::State_HasFocus))
+        return;
+    painter->save();
+    painter->setPen(option.palette.color(QPalette::Highlight));
+    painter->drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->restore();
 }
 
 void CategoryListViewDelegate::initStyleOption(QStyleOptionViewItem* option,
