@@ -29,8 +29,9 @@ namespace CorvelGui {
 /// All texts are plain text. Paper is white and its text black, whatever the look of the program.
 ///
 /// What takes long (tables and pages) says so by progressed(), and can be cancelled in its slots.
-/// A slot may also delete the report, and nothing else may be done to it meanwhile. A report whose
-/// building was cancelled is empty. GUI thread only.
+/// It handles no events; a slot may, if they do not reach the report. A slot may also delete the
+/// report, and nothing else may be done to it meanwhile. A report whose building was cancelled is
+/// empty. GUI thread only.
 class CORVELGUI_EXPORT TextCursor : public QObject
 {
     Q_OBJECT
@@ -98,8 +99,9 @@ public:
     void insertKeyValues(const QList<std::pair<QString, QString>>& pairs);
     /// Does nothing without a column.
     Outcome insertTable(const Table& table);
-    /// As large as it was meant to be at 96 pixels per inch, but no larger than a page, the caption
-    /// below it. Does nothing for a null picture.
+    /// As large as it was meant to be at 96 pixels per inch, or that many times its
+    /// devicePixelRatio(), but no larger than a page, the caption below it. What else it says of
+    /// its resolution does not count. Does nothing for a null picture.
     void insertPicture(const QImage& picture, const QString& caption = {});
     void insertPageBreak();
     /// Removes all that was inserted.
