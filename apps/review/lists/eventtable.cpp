@@ -28,6 +28,7 @@ EventTable::EventTable(QWidget* parent)
         return m_events->texts().compare(row, other, EventTexts::Column(column));
     });
     setModel(m_rows);
+    connect(m_rows, &PRowFilterModel::busyChanged, viewport(), qOverload<>(&QWidget::update));
     connect(m_rows, &QAbstractItemModel::modelReset, this, &EventTable::restoreCurrent);
     connect(m_rows, &QAbstractItemModel::rowsInserted, this, &EventTable::restoreCurrent);
 
