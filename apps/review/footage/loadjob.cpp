@@ -12,6 +12,7 @@
 #include <chrono>
 #include <utility>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace Review {
