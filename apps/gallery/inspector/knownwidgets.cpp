@@ -23,6 +23,9 @@
 #include <CorvelGui/ZoomGraphicsView>
 #include <CorvelGui/Zoomer>
 
+#include <QDateTime>
+#include <QVersionNumber>
+
 #include <algorithm>
 
 using namespace CorvelGui;
