@@ -38,7 +38,7 @@ public:
         Stretch, ///< all of the picture in all of the room, whatever that does to its shape
     };
     Q_ENUM(Fit)
-    using enum Fit; // what is made of forms leaves out its name
+    using enum Fit; // uic of Qt 6.4 leaves out its name
 
     enum class State {
         Empty,   ///< nothing to show

@@ -87,7 +87,7 @@ public:
         Smooth ///< at every step, while the indicator is in the first or last quarter of the view
     };
     Q_ENUM(FollowMode)
-    using enum FollowMode; // what is made of forms leaves out an enumeration's name
+    using enum FollowMode; // uic of Qt 6.4 leaves out its name
 
     /// What a click on the symbol of merged markers does.
     enum class MergedClick {

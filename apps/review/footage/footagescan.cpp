@@ -75,7 +75,7 @@ void FootageScan::scan(const QStringList& paths, Footage& footage)
         add(found, footage);
 }
 
-QList<FootageScan::Found> FootageScan::list(const QStringList& paths) const
+QList<FootageScan::Found> FootageScan::list(const QStringList& paths)
 {
     QList<Found> all;
     for (const QString& path : paths) {
@@ -102,7 +102,7 @@ QList<FootageScan::Found> FootageScan::list(const QStringList& paths) const
     return all;
 }
 
-void FootageScan::checkFolder(const QFileInfo& folder) const
+void FootageScan::checkFolder(const QFileInfo& folder)
 {
     if (!folder.isReadable() || !folder.isExecutable())
         m_problems.add(

@@ -50,8 +50,8 @@ private:
         std::optional<FileFacts> facts = {};
     };
 
-    QList<Found> list(const QStringList& paths) const;
-    void checkFolder(const QFileInfo& folder) const;
+    QList<Found> list(const QStringList& paths);
+    void checkFolder(const QFileInfo& folder);
     /// Returns how many are left.
     qsizetype read(QList<Found>& all, const Footage& footage);
     /// In what order files are read.
